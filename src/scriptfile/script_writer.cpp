@@ -5,6 +5,8 @@
 #include "scriptfile/record_reader.h"
 #include "scriptfile/record_writer.h"
 
+#include <algorithm>
+
 namespace quendra {
 
 namespace {
@@ -22,8 +24,9 @@ ScriptEntry takeApart(const EntryHandle& entry) {
 }
 
 std::vector<std::uint8_t> vtRecord(const EntryHandle& entry) {
+    const ScriptEntry whole = takeApart(entry);
     RecordWriter writer({true, currentVersion}, nullptr);
-    layout::record(writer, std::as_const(takeApart(entry)), Slot::Entry);
+    layout::record(writer, whole, Slot::Entry);
     return std::move(writer).bytes();
 }
 
