@@ -1,0 +1,73 @@
+// The table of drawings, by ascending bitmap id.
+#include "app/icon_catalogue.h"
+
+#include <algorithm>
+#include <iterator>
+
+namespace quendra {
+namespace {
+
+constexpr IconRow rows[] = {
+    {102, "quendra-script-editor"},
+    {103, "lu-function"},
+    {110, "event-beep"},
+    {111, "event-clear-watch"},
+    {112, "event-comment"},
+    {113, "event-goto"},
+    {114, "event-input"},
+    {115, "event-if-input-is"},
+    {116, "event-label"},
+    {117, "event-message"},
+    {118, "event-return"},
+    {119, "event-run"},
+    {120, "event-set-cursor"},
+    {121, "event-type"},
+    {122, "event-wait"},
+    {123, "event-wait-for"},
+    {124, "event-wait-ready"},
+    {125, "event-wait-until"},
+    {126, "event-watch-for"},
+    {127, "event-express-logon"},
+    {128, "event-copy-area"},
+    {129, "event-paste-at"},
+    {300, "command-new"},
+    {301, "command-open"},
+    {302, "command-save"},
+    {303, "command-save-as"},
+    {304, "command-exit"},
+    {305, "command-cut"},
+    {306, "command-copy"},
+    {307, "command-paste"},
+    {308, "command-insert-event"},
+    {309, "command-insert-lu-function"},
+    {310, "command-insert-menu-command"},
+    {311, "command-edit-entry"},
+    {312, "command-delete-entry"},
+    {313, "command-host-mainframe"},
+    {314, "command-host-iseries"},
+    {315, "command-host-vt"},
+    {316, "command-host-uts"},
+    {317, "command-host-t27"},
+    {318, "command-host-icl"},
+    {319, "command-help"},
+    {320, "command-about"},
+    {321, "command-undo"},
+    {322, "command-redo"},
+    {323, "command-find"},
+    {324, "command-copy-as-text"},
+    {325, "command-insert-script"},
+};
+
+static_assert(std::ranges::is_sorted(rows, std::ranges::less_equal{}, &IconRow::bitmapId));
+
+}  // namespace
+
+std::span<const IconRow> iconCatalogue() { return rows; }
+
+QString iconFile(int bitmapId) {
+    const auto* row = std::ranges::lower_bound(rows, bitmapId, {}, &IconRow::bitmapId);
+    if (row == std::end(rows) || row->bitmapId != bitmapId) return {};
+    return QStringLiteral(":/icons/%1.svg").arg(QLatin1String(row->name));
+}
+
+}  // namespace quendra
