@@ -49,8 +49,10 @@ size_t qHash(const RenderKey& key, size_t seed = 0) {
 }
 
 QByteArray readDrawing(int bitmapId) {
+    const QString path = iconFile(bitmapId);
+    if (path.isEmpty()) return {};
     registerDrawings();
-    QFile file(iconFile(bitmapId));
+    QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) return {};
     return file.readAll();
 }
@@ -218,18 +220,18 @@ QIcon programIcon() {
 }
 
 QColor accentColor(const QPalette& palette) {
-    constexpr double enough = 3.5;
-    constexpr float step = 0.03F;
+    constexpr double enough = 4.5;
+    constexpr int steps = 32;
     const QColor base = palette.color(QPalette::Active, QPalette::Base);
-    const bool lighten = luminance(base) < 0.18;
     const QColor highlight = palette.color(QPalette::Active, QPalette::Highlight).toHsl();
-    float lightness = highlight.lightnessF();
+    const float start = highlight.lightnessF();
+    const float end = luminance(base) < 0.18 ? 1.0F : 0.0F;
     QColor accent = highlight;
-    while (contrast(accent, base) < enough && lightness > 0.0F && lightness < 1.0F) {
-        lightness = std::clamp(lightness + (lighten ? step : -step), 0.0F, 1.0F);
+    for (int i = 1; i <= steps && contrast(accent, base) < enough; ++i) {
+        const float lightness = start + (end - start) * static_cast<float>(i) / steps;
         accent = QColor::fromHslF(highlight.hslHueF(), highlight.hslSaturationF(), lightness);
     }
-    return accent;
+    return accent.toRgb();
 }
 
 }  // namespace quendra
