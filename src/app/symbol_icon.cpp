@@ -110,16 +110,12 @@ class SymbolIconEngine : public QIconEngine {
     QHash<RenderKey, QPixmap> rendered_;
 };
 
-// The pixmap is laid on whole device pixels: at a ratio of 1.5 every second row would otherwise lie
-// between two of them and blur.
+// Rendered for the device's own pixels: a pixmap of another ratio would be resampled and blur.
 void SymbolIconEngine::paint(QPainter* painter, const QRect& rect, QIcon::Mode mode,
                              QIcon::State state) {
     const qreal ratio = painter->device()->devicePixelRatioF();
     const QSize pixels(qRound(rect.width() * ratio), qRound(rect.height() * ratio));
-    const QTransform toDevice = painter->deviceTransform();
-    const QPointF corner = toDevice.map(QPointF(rect.topLeft()));
-    const QPointF snapped(std::round(corner.x()), std::round(corner.y()));
-    painter->drawPixmap(toDevice.inverted().map(snapped), scaledPixmap(pixels, mode, state, ratio));
+    painter->drawPixmap(rect.topLeft(), scaledPixmap(pixels, mode, state, ratio));
 }
 
 QPixmap SymbolIconEngine::scaledPixmap(const QSize& size, QIcon::Mode mode, QIcon::State,

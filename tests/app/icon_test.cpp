@@ -227,6 +227,7 @@ TEST_F(IconTest, PaintingBetweenDevicePixelsStaysCrisp) {
     canvas.fill(Qt::transparent);
     {
         QPainter painter(&canvas);
+        painter.setRenderHint(QPainter::SmoothPixmapTransform);
         icon.paint(&painter, QRect(3, 5, 16, 16));
     }
     const QImage painted =
