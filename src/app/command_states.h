@@ -29,10 +29,10 @@ struct CommandFacts {
     std::size_t selectedCount = 0;
     std::size_t clipboardCount = 0;
     EditSource editSource = EditSource::None;
-    std::string focusedLine;
-    std::optional<std::string> selectedEvent;
-    std::optional<std::string> selectedLuFunction;
-    std::optional<std::string> selectedMenuCommand;
+    std::string focusedLine = {};
+    std::optional<std::string> selectedEvent = {};
+    std::optional<std::string> selectedLuFunction = {};
+    std::optional<std::string> selectedMenuCommand = {};
 };
 [[nodiscard]] CommandFacts commandFacts(const ApplicationState& state, const EditorPane& pane);
 

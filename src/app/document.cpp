@@ -58,27 +58,28 @@ std::string entryNumbers(const std::vector<std::size_t>& entries) {
     return entries.size() > shown ? text + ", ..." : text;
 }
 
+// What there is to tell about a loaded file behind the number of its entries; empty for an ordinary
+// one.
 std::string loadNote(ApplicationState& state, const ReadResult& read,
                      const std::optional<ReplaceResult>& upgrade) {
-    std::string note;
-    const auto add = [&note](const std::string& part) {
-        note += (note.empty() ? "" : "; ") + part;
-    };
+    std::string remarks;
     if (!read.isWhole()) {
-        add(entryCountText(state.language, read.script.entryCount()) +
-            " loaded: " + describe(read.stop) + " (byte " + std::to_string(read.stopOffset) + ")");
+        remarks +=
+            " loaded: " + describe(read.stop) + " (byte " + std::to_string(read.stopOffset) + ")";
     }
     if (!read.droppedActions.empty()) {
-        add("a watched Wait_For has no timeout and no actions: left out in entry " +
-            entryNumbers(read.droppedActions));
+        remarks += "; a watched Wait_For has no timeout and no actions: left out in entry " +
+                   entryNumbers(read.droppedActions);
     }
     if (upgrade && upgrade->failure) {
-        add("the file keeps its older version until it is saved: " + upgrade->failure->message);
+        remarks +=
+            "; the file keeps its older version until it is saved: " + upgrade->failure->message;
     } else if (upgrade) {
-        add("converted from an older version, which is kept as " +
-            pathText(upgrade->backup.filename()));
+        remarks += "; converted from an older version, which is kept as " +
+                   pathText(upgrade->backup.filename());
     }
-    return note;
+    if (remarks.empty()) return {};
+    return entryCountText(state.language, read.script.entryCount()) + remarks;
 }
 
 // The document takes over what was loaded. From here on nothing can fail.

@@ -17,8 +17,6 @@ struct EditingCommands {
     std::function<void()> insertMenuCommand;
     std::function<void()> editCurrentEntry;
     std::function<void()> deleteEntries;
-    /// Moves the selected entries by one place, -1 up or 1 down (Ctrl+Up, Ctrl+Down).
-    std::function<void(int)> moveSelectedEntries;
 };
 
 }  // namespace quendra

@@ -1,5 +1,6 @@
 // The desktop editor's start.
 #include "app/appearance.h"
+#include "app/clipboard_commands.h"
 #include "app/main_window.h"
 #include "app/screenshot.h"
 #include "app/symbol_icon.h"
@@ -34,6 +35,9 @@ int main(int argc, char** argv) {
     state.menuCommands = buildMenuCommandCatalogue(state.language.textSource());
     state.cipher = HiddenTextCipher(userIdentity());
     MainWindow window(state);
+    EditingCommands editing;
+    addClipboardCommands(editing, state, window);
+    window.setEditingCommands(std::move(editing));
     window.show();
     if (!arguments.empty()) window.openAtStart(std::filesystem::absolute(arguments.front()));
     if (!picture->file.isEmpty()) return savePicture(window, *picture) ? 0 : 1;

@@ -15,7 +15,6 @@
 #include <QMenuBar>
 #include <QScreen>
 #include <QSessionManager>
-#include <QShortcut>
 #include <QStatusBar>
 #include <QToolBar>
 
@@ -55,15 +54,12 @@ MainWindow::MainWindow(ApplicationState& state, QWidget* parent)
     buildStatusBar();
     pane_ = new EditorPane(state_, this);
     setCentralWidget(pane_);
-    // Posted: the pane's own event handling ends first.
-    connect(pane_, &EditorPane::commandRequested, this, &MainWindow::runCommand,
-            Qt::QueuedConnection);
+    connect(pane_, &EditorPane::commandRequested, this, &MainWindow::runCommand);
     connect(pane_, &EditorPane::selectionChanged, this, &MainWindow::updateCommandStates);
     connect(pane_, &EditorPane::entriesMoved, this, &MainWindow::scriptChanged);
     connect(
         qGuiApp, &QGuiApplication::commitDataRequest, this, [this] { endSession(); },
         Qt::DirectConnection);
-    buildMoveKeys();
     showHostType();
     showDocument();
     placeOnScreen();
@@ -132,18 +128,6 @@ void MainWindow::buildStatusBar() {
     statusLine_->setObjectName(QStringLiteral("statusLine"));
     statusBar()->setObjectName(QStringLiteral("statusBar"));
     statusBar()->addWidget(statusLine_, 1);
-}
-
-void MainWindow::buildMoveKeys() {
-    const auto add = [this](Qt::Key key, int by) {
-        auto* shortcut = new QShortcut(QKeySequence(Qt::CTRL | key), pane_);
-        shortcut->setContext(Qt::WidgetWithChildrenShortcut);
-        connect(shortcut, &QShortcut::activated, this, [this, by] {
-            if (editing_.moveSelectedEntries) editing_.moveSelectedEntries(by);
-        });
-    };
-    add(Qt::Key_Up, -1);
-    add(Qt::Key_Down, 1);
 }
 
 void MainWindow::placeOnScreen() {

@@ -66,7 +66,6 @@ class MainWindow : public QMainWindow {
     void buildMenus();
     void buildToolBar();
     void buildStatusBar();
-    void buildMoveKeys();
     void placeOnScreen();
 
     void dispatch(int command);
