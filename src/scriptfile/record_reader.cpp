@@ -96,7 +96,7 @@ void RecordReader::noTimeout() {
 }
 
 void RecordReader::foreignAction(const SlotFields& f) {
-    if (++nesting_ > maxNesting) fail(RecordFault::NestedTooDeep, position_);
+    if (++nesting_ > maxNesting) fail(RecordFault::NestedTooDeep, position_ - 1);
     if (fault_ == RecordFault::None) {
         const auto* cipher = std::exchange(cipher_, nullptr);
         ScriptEntry whole;
@@ -130,7 +130,7 @@ void RecordScanner::noTimeout() {
 }
 
 void RecordScanner::foreignAction(const SlotFields& f) {
-    if (++nesting_ > maxNesting) fail(RecordFault::NestedTooDeep, position_);
+    if (++nesting_ > maxNesting) fail(RecordFault::NestedTooDeep, position_ - 1);
     if (fault_ == RecordFault::None) {
         ScriptEntry whole;
         whole.commandCode = f.code;

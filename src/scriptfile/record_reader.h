@@ -110,6 +110,13 @@ class RecordScanner : public RecordCursor {
   public:
     using RecordCursor::RecordCursor;
 
+    /// Goes to the record that starts at `position`, as after construction.
+    void restart(std::size_t position) {
+        position_ = position;
+        fault_ = RecordFault::None;
+        isMemoryForm_ = true;
+    }
+
     /// False once a record was met that has to be read and written anew to become memory form.
     [[nodiscard]] bool isMemoryForm() const { return isMemoryForm_; }
 
