@@ -12,21 +12,6 @@ std::uint32_t RecordCursor::takeWord() {
            std::uint32_t{taken[3]} << 24;
 }
 
-bool RecordCursor::code(CommandCode& code) {
-    const std::size_t start = position_;
-    const std::uint32_t value = commandCodeFromFile(takeByte(), format_);
-    if (fault_ == RecordFault::None &&
-        (value > 255 || !isCommandCode(static_cast<std::uint8_t>(value)))) {
-        fail(RecordFault::UnknownCode, start);
-    }
-    if (fault_ != RecordFault::None) {
-        code = CommandCode::None;
-        return false;
-    }
-    code = static_cast<CommandCode>(value);
-    return true;
-}
-
 void RecordCursor::luKey(std::uint8_t& group, std::uint8_t& number) {
     group = takeByte();
     number = luNumberFromFile(takeByte(), format_);
