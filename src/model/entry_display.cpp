@@ -40,8 +40,9 @@ std::string menuCommandLine(const ConstSlotFields& f, const DisplayNames& names)
     return line;
 }
 
-std::string typeLine(const ConstSlotFields& f) {
+std::string typeLine(const ConstSlotFields& f, const DisplayNames& names) {
     if (!isHiddenText(f)) return "Type " + quotedText(f);
+    if (names.revealHidden) return "Type " + quotedText(f) + " (H)";
     return "Type \"" + std::string(f.textLength, '*') + "\" (H)";
 }
 
@@ -93,7 +94,7 @@ std::string slotLine(const ConstSlotFields& f, const DisplayNames& names) {
         case CommandCode::WatchFor: return keyword + " " + quotedText(f);
         case CommandCode::SetCursor:
             return keyword + " " + std::to_string(f.row) + ", " + std::to_string(f.column);
-        case CommandCode::Type: return typeLine(f);
+        case CommandCode::Type: return typeLine(f, names);
         case CommandCode::Wait:
         case CommandCode::WaitReady: return keyword + " " + std::to_string(f.number);
         case CommandCode::WaitUntil: return keyword + " " + dateTimeText(f.waitUntil);
