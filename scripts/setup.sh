@@ -8,7 +8,7 @@ export CMAKE_BUILD_PARALLEL_LEVEL="${CMAKE_BUILD_PARALLEL_LEVEL:-$(nproc)}"
 # One list per purpose, so that ./run does not install what only the checks need.
 declare -A packages=(
     [build]="g++ cmake ninja-build ccache
-        qt6-base-dev libqt6svg6-dev qt6-tools-dev qt6-l10n-tools
+        qt6-base-dev qt6-svg-dev qt6-tools-dev qt6-l10n-tools
         libssl-dev libcli11-dev nlohmann-json3-dev libgtest-dev libbenchmark-dev"
     # qt6-qpa-plugins holds both xcb and offscreen, and Qt's own package only recommends it; without a font
     # offscreen windows show no text.
@@ -67,9 +67,12 @@ ensurePackages() {
     fi
     say "Installing ${#missing[@]} packages: ${missing[*]}"
     # A machine that has just started may still hold the lock for its own updates: wait instead of failing.
-    local options=(-q -o DPkg::Lock::Timeout=300 -o Acquire::Retries=3)
+    local options=(-qq -o Dpkg::Use-Pty=0 -o DPkg::Lock::Timeout=300 -o Acquire::Retries=3)
     asRoot env DEBIAN_FRONTEND=noninteractive apt-get "${options[@]}" update
     asRoot env DEBIAN_FRONTEND=noninteractive apt-get "${options[@]}" "${install[@]:1}"
+    # A name that only others provide would count as missing again at every call.
+    mapfile -t missing < <(missingPackages "${missing[@]}")
+    [[ ${#missing[@]} -eq 0 ]] || fail "apt installed nothing named ${missing[*]}"
 }
 
 # Ninja configures again by itself when a CMakeLists.txt changed. It knows nothing of the presets file, nor that the
