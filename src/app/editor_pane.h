@@ -1,0 +1,60 @@
+// The editor pane: the script list on the left, the three palettes on the right, and the gestures
+// between them.
+#pragma once
+
+#include "app/application_state.h"
+
+#include <QWidget>
+
+#include <span>
+#include <vector>
+
+namespace quendra {
+
+enum class Palette { ScriptEvents, LuFunctions, MenuCommands };
+
+class EditorPane : public QWidget {
+    Q_OBJECT
+
+  public:
+    /// `state` outlives the pane. Its catalogues are built already; the palettes are filled from
+    /// them at once.
+    explicit EditorPane(ApplicationState& state, QWidget* parent = nullptr);
+    ~EditorPane() override;
+
+    /// Shows the script anew and selects and focuses the entry at the state's currentIndex,
+    /// scrolled into view. Every change of the script ends with this.
+    void rebuildScriptList();
+    /// Shows the LU functions of the current host type.
+    void refillLuPalette();
+
+    /// Selected entries of the script list, ascending.
+    [[nodiscard]] std::vector<std::size_t> selectedEntries() const;
+    /// The focused entry of the script list, -1 for none.
+    [[nodiscard]] int focusedEntry() const;
+    /// Selects exactly these entries in one change and focuses `focused` (-1 for none), scrolled
+    /// into view.
+    void selectEntries(std::span<const std::size_t> entries, int focused);
+    /// The selected row of a palette, -1 for none.
+    [[nodiscard]] int selectedRow(Palette palette) const;
+    [[nodiscard]] QString paletteText(Palette palette, int row) const;
+    [[nodiscard]] QString entryText(int entry) const;
+    /// Gives the keyboard focus back to the list of the pane that had it last (the script list at
+    /// first).
+    void takeFocus();
+
+  Q_SIGNALS:
+    /// A gesture asks for a command of the main window (308 to 311). Emitted after the gesture's
+    /// own event has been handled, never from inside it.
+    void commandRequested(int command);
+    /// A selection or the focused entry changed in any of the four lists.
+    void selectionChanged();
+    /// A drag has moved entries; script, selection and currentIndex are as they end.
+    void entriesMoved();
+
+  private:
+    class Private;
+    Private* const d_;
+};
+
+}  // namespace quendra

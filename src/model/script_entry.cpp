@@ -1,0 +1,139 @@
+#include "model/script_entry.h"
+
+#include "platform/secret_memory.h"
+
+#include <algorithm>
+
+namespace quendra {
+
+namespace {
+
+template <class E>
+BasicSlotFields<E> fieldsOf(E& e, Slot slot) {
+    switch (slot) {
+        case Slot::Then:
+            return {e.thenCode,  e.thenTextLength, e.thenText,         e.row,
+                    e.column,    e.number,         e.commandId,        e.commandData,
+                    e.commandId, e.transferHost,   e.transferSettings, e.thenWaitUntil,
+                    e.maxLength, e.hidden,         e.prompt,           e.inputVariable,
+                    e.thenKept};
+        case Slot::Else:
+            return {e.elseCode,
+                    e.elseTextLength,
+                    e.elseText,
+                    e.elseRow,
+                    e.elseColumn,
+                    e.elseNumber,
+                    e.elseCommandId,
+                    e.elseCommandData,
+                    e.elseArea,
+                    e.elseTransferHost,
+                    e.elseTransferSettings,
+                    e.elseWaitUntil,
+                    e.elseMaxLength,
+                    e.elseHidden,
+                    e.elsePrompt,
+                    e.elseInputVariable,
+                    e.elseKept};
+        case Slot::Entry: break;
+    }
+    return {e.commandCode,      e.textLength, e.text,        e.row,       e.column,
+            e.number,           e.commandId,  e.commandData, e.commandId, e.transferHost,
+            e.transferSettings, e.waitUntil,  e.maxLength,   e.hidden,    e.prompt,
+            e.inputVariable,    e.kept};
+}
+
+template <std::size_t Size>
+std::size_t assign(std::array<char, Size>& field, std::string_view value) {
+    const std::size_t length = std::min(value.size(), Size - 1);
+    std::copy_n(value.begin(), length, field.begin());
+    std::fill(field.begin() + static_cast<std::ptrdiff_t>(length), field.end(), '\0');
+    return length;
+}
+
+template <std::size_t Size>
+void wipeField(std::array<char, Size>& field) {
+    wipeMemory(field.data(), field.size());
+}
+
+}  // namespace
+
+ScriptEntry::~ScriptEntry() {
+    wipeField(text);
+    wipeField(thenText);
+    wipeField(elseText);
+    wipeField(compareText);
+    wipeMemory(transferSettings.bytes.data(), transferSettings.bytes.size());
+    wipeMemory(elseTransferSettings.bytes.data(), elseTransferSettings.bytes.size());
+}
+
+SlotFields slotFields(ScriptEntry& entry, Slot slot) {
+    return fieldsOf(entry, slot);
+}
+ConstSlotFields slotFields(const ScriptEntry& entry, Slot slot) {
+    return fieldsOf(entry, slot);
+}
+
+std::string_view textOf(const ConstSlotFields& fields) {
+    return {fields.text.data(), fields.textLength};
+}
+
+std::string_view promptOf(const ConstSlotFields& fields) {
+    return {fields.prompt.data(), std::min<std::size_t>(fields.number, maxPromptLength)};
+}
+
+std::string_view compareTextOf(const ScriptEntry& entry) {
+    return {entry.compareText.data(), entry.compareTextLength};
+}
+
+void setText(const SlotFields& fields, std::string_view value) {
+    fields.textLength = static_cast<std::uint8_t>(assign(fields.text, value));
+    fields.kept.reset();
+}
+
+void setPrompt(const SlotFields& fields, std::string_view value) {
+    fields.number = static_cast<std::uint32_t>(assign(fields.prompt, value));
+}
+
+void setCompareText(ScriptEntry& entry, std::string_view value) {
+    entry.compareTextLength = static_cast<std::uint8_t>(assign(entry.compareText, value));
+}
+
+void setCode(const SlotFields& fields, CommandCode code) {
+    if (fields.code == code) return;
+    fields.code = code;
+    fields.kept.reset();
+}
+
+bool isHiddenText(const ConstSlotFields& fields) {
+    return fields.code == CommandCode::Type && fields.hidden != 0;
+}
+
+ScreenArea unpackArea(std::uint32_t packed) {
+    return {static_cast<std::uint8_t>(packed), static_cast<std::uint8_t>(packed >> 8),
+            static_cast<std::uint8_t>(packed >> 16), static_cast<std::uint8_t>(packed >> 24)};
+}
+
+std::uint32_t packArea(const ScreenArea& area) {
+    return std::uint32_t{area.startRow} | std::uint32_t{area.startColumn} << 8 |
+           std::uint32_t{area.endRow} << 16 | std::uint32_t{area.endColumn} << 24;
+}
+
+bool takesFileName(std::uint32_t commandId) {
+    return commandId == 202 || commandId == 204 || commandId == 219 || commandId == 254 ||
+           commandId == 257;
+}
+
+bool isFileTransfer(std::uint32_t commandId) {
+    return commandId == sendFileCommand || commandId == receiveFileCommand;
+}
+
+int bitmapIdOf(CommandCode code, std::uint32_t commandId) {
+    if (code == CommandCode::LuFunction) return luFunctionBitmapId;
+    if (code == CommandCode::MenuCommand) {
+        return commandId >= 201 && commandId <= 268 ? static_cast<int>(commandId) : 0;
+    }
+    return isScriptEvent(code) ? static_cast<int>(code) + 106 : 0;
+}
+
+}  // namespace quendra

@@ -1,0 +1,22 @@
+#include "scriptfile/entry_codec.h"
+
+#include "scriptfile/record_layout.h"
+#include "scriptfile/record_reader.h"
+
+namespace quendra {
+
+PackResult packEntry(const ScriptEntry& entry, const HiddenTextCipher& cipher) {
+    RecordWriter writer(memoryForm, &cipher);
+    layout::record(writer, entry, Slot::Entry);
+    if (writer.fault() != WriteFault::None) return {{}, writer.fault()};
+    return {storeRecord(writer.bytes()), WriteFault::None};
+}
+
+ScriptEntry unpackEntry(const EntryHandle& entry, const HiddenTextCipher& cipher) {
+    ScriptEntry unpacked;
+    RecordReader reader(entry.record(), 0, memoryForm, &cipher);
+    layout::record(reader, unpacked, Slot::Entry);
+    return unpacked;
+}
+
+}  // namespace quendra

@@ -1,0 +1,29 @@
+// Between the two forms of an entry: the stored record that a script holds, and the working form
+// with every field.
+#pragma once
+
+#include "model/entry_handle.h"
+#include "model/script_entry.h"
+#include "scriptfile/hidden_text.h"
+#include "scriptfile/record_writer.h"
+
+namespace quendra {
+
+/// A stored entry, or why it cannot be stored.
+struct PackResult {
+    EntryHandle entry;
+    WriteFault fault = WriteFault::None;
+
+    [[nodiscard]] bool ok() const { return fault == WriteFault::None; }
+};
+
+/// Stores the fields that the entry's command uses; hidden texts are enciphered here and nowhere
+/// else.
+[[nodiscard]] PackResult packEntry(const ScriptEntry& entry, const HiddenTextCipher& cipher);
+
+/// The working form of a stored entry, hidden texts deciphered; fields that its command does not
+/// use are zero. A hidden text that the key does not open is empty and has its bytes in `kept`, so
+/// that packing gives the same record again.
+[[nodiscard]] ScriptEntry unpackEntry(const EntryHandle& entry, const HiddenTextCipher& cipher);
+
+}  // namespace quendra

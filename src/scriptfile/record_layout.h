@@ -1,0 +1,140 @@
+// The layout of every record, written once: a reading cursor, a scanner and a writing sink are
+// driven by it alike.
+//
+// An Io moves one field at a time between the file and the entry. Its errors are sticky, so a
+// record is driven to its end and tested once.
+#pragma once
+
+#include "model/script_entry.h"
+#include "scriptfile/format_version.h"
+
+namespace quendra::layout {
+
+/// True for an action slot that holds a command which no action should be. Its record is carried
+/// whole, not taken apart.
+template <class E>
+bool isForeignAction(const E& entry, Slot slot, CommandCode code) {
+    if (slot == Slot::Entry || !ownsActions(code)) return false;
+    const bool watchedWaitFor = slot == Slot::Then && code == CommandCode::WaitFor &&
+                                entry.commandCode == CommandCode::WatchFor;
+    return !watchedWaitFor;
+}
+
+template <class Io, class E>
+void searchOptions(Io& io, E& entry) {
+    io.byte(entry.searchRow);
+    io.byte(entry.searchColumn);
+    io.byte(entry.exactPosition);
+    io.byte(entry.caseSensitive);
+}
+
+template <class Io, class E>
+void record(Io& io, E& entry, Slot slot);
+
+template <class Io, class E>
+void waitFor(Io& io, E& entry, Slot slot) {
+    if (!io.format().hasSearchOptions()) return;
+    searchOptions(io, entry);
+    if (slot != Slot::Entry) {
+        // Watched for by a Watch_For, it has neither timeout nor actions.
+        io.noTimeout();
+        return;
+    }
+    io.byte(entry.hasTimeout);
+    if (entry.hasTimeout == 0) return;
+    io.byte(entry.timeoutSeconds);
+    record(io, entry, Slot::Then);
+    record(io, entry, Slot::Else);
+}
+
+template <class Io, class E>
+void ifInputIs(Io& io, E& entry) {
+    const bool hasOperands = io.format().hasVariables();
+    if (hasOperands) {
+        io.byte(entry.firstOperandKind);
+        io.text(entry.compareTextLength, entry.compareText);
+        io.byte(entry.secondOperandKind);
+    }
+    record(io, entry, Slot::Then);
+    if (hasOperands) record(io, entry, Slot::Else);
+}
+
+template <class Io, class E>
+void menuCommand(Io& io, const BasicSlotFields<E>& f) {
+    io.menuCommand(f.commandId);
+    io.word(f.commandData);
+    if (takesFileName(f.commandId)) {
+        io.text(f.textLength, f.text);
+    } else if (isFileTransfer(f.commandId) && !io.format().vt) {
+        io.transferBlock(f.transferHost, f.transferSettings);
+    }
+}
+
+template <class Io, class E>
+void input(Io& io, const BasicSlotFields<E>& f) {
+    io.text(f.textLength, f.text);
+    io.prompt(f.number, f.prompt);
+    io.byte(f.maxLength);
+    io.byte(f.hidden);
+    if (io.format().hasVariables()) io.byte(f.inputVariable);
+}
+
+/// What follows the code byte in the record of a slot whose code is known.
+template <class Io, class E>
+void fieldsAfterCode(Io& io, E& entry, Slot slot) {
+    const auto f = slotFields(entry, slot);
+    switch (f.code) {
+        case CommandCode::None:
+        case CommandCode::Beep:
+        case CommandCode::ClearWatch:
+        case CommandCode::Return: break;
+        case CommandCode::LuFunction: io.luKey(f.row, f.column); break;
+        case CommandCode::MenuCommand: menuCommand(io, f); break;
+        case CommandCode::Comment:
+        case CommandCode::Goto:
+        case CommandCode::Label:
+        case CommandCode::Message:
+        case CommandCode::Run:
+        case CommandCode::ExpressLogon: io.text(f.textLength, f.text); break;
+        case CommandCode::Input: input(io, f); break;
+        case CommandCode::SetCursor:
+            io.byte(f.row);
+            io.byte(f.column);
+            break;
+        case CommandCode::Type: io.typeText(f); break;
+        case CommandCode::Wait:
+        case CommandCode::WaitReady: io.word(f.number); break;
+        case CommandCode::WaitUntil: io.dateTime(f.waitUntil); break;
+        case CommandCode::Copy:
+        case CommandCode::Paste:
+            io.word(f.area);
+            io.word(f.number);
+            break;
+        case CommandCode::IfInputIs:
+            io.text(f.textLength, f.text);
+            ifInputIs(io, entry);
+            break;
+        case CommandCode::WaitFor:
+            io.text(f.textLength, f.text);
+            waitFor(io, entry, slot);
+            break;
+        case CommandCode::WatchFor:
+            io.text(f.textLength, f.text);
+            record(io, entry, Slot::Then);
+            break;
+    }
+}
+
+/// The record of one slot: its code, what belongs to it, and the records of its actions.
+template <class Io, class E>
+void record(Io& io, E& entry, Slot slot) {
+    const auto f = slotFields(entry, slot);
+    if (!io.code(f.code)) return;
+    if (isForeignAction(entry, slot, f.code)) {
+        io.foreignAction(f);
+    } else {
+        fieldsAfterCode(io, entry, slot);
+    }
+}
+
+}  // namespace quendra::layout

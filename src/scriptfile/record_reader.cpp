@@ -1,0 +1,142 @@
+#include "scriptfile/record_reader.h"
+
+#include "scriptfile/record_layout.h"
+#include "scriptfile/record_writer.h"
+
+namespace quendra {
+
+std::uint32_t RecordCursor::takeWord() {
+    const auto taken = take(4);
+    if (taken.empty()) return 0;
+    return std::uint32_t{taken[0]} | std::uint32_t{taken[1]} << 8 | std::uint32_t{taken[2]} << 16 |
+           std::uint32_t{taken[3]} << 24;
+}
+
+bool RecordCursor::code(CommandCode& code) {
+    const std::size_t start = position_;
+    const std::uint32_t value = commandCodeFromFile(takeByte(), format_);
+    if (fault_ == RecordFault::None &&
+        (value > 255 || !isCommandCode(static_cast<std::uint8_t>(value)))) {
+        fail(RecordFault::UnknownCode, start);
+    }
+    if (fault_ != RecordFault::None) {
+        code = CommandCode::None;
+        return false;
+    }
+    code = static_cast<CommandCode>(value);
+    return true;
+}
+
+void RecordCursor::luKey(std::uint8_t& group, std::uint8_t& number) {
+    group = takeByte();
+    number = luNumberFromFile(takeByte(), format_);
+}
+
+void RecordCursor::menuCommand(std::uint32_t& commandId) {
+    commandId = menuCommandFromFile(takeWord(), format_);
+}
+
+void RecordCursor::dateTime(DateTime& value) {
+    for (std::uint16_t* field : {&value.year, &value.month, &value.dayOfWeek, &value.day,
+                                 &value.hour, &value.minute, &value.second, &value.milliseconds}) {
+        const auto taken = take(2);
+        *field =
+            taken.empty() ? std::uint16_t{0} : static_cast<std::uint16_t>(taken[0] | taken[1] << 8);
+    }
+}
+
+std::span<const std::uint8_t> RecordCursor::takePrompt() {
+    const std::size_t start = position_;
+    const std::uint32_t length = takeWord();
+    if (length > maxPromptLength) {
+        fail(RecordFault::PromptTooLong, start);
+        return {};
+    }
+    return take(length);
+}
+
+void RecordReader::text(std::uint8_t& length, TextField& field) {
+    const auto taken = takeText();
+    length = static_cast<std::uint8_t>(taken.size());
+    std::ranges::copy(taken, field.begin());
+}
+
+void RecordReader::prompt(std::uint32_t& length, PromptField& field) {
+    const auto taken = takePrompt();
+    length = static_cast<std::uint32_t>(taken.size());
+    std::ranges::copy(taken, field.begin());
+}
+
+void RecordReader::typeText(const SlotFields& f) {
+    const auto taken = takeText();
+    f.hidden = takeByte();
+    if (fault_ != RecordFault::None) return;
+    if (f.hidden != 1) {
+        setText(f, {reinterpret_cast<const char*>(taken.data()), taken.size()});
+        return;
+    }
+    const auto plain = cipher_ ? cipher_->decipher(taken) : std::nullopt;
+    setText(f, plain ? plain->text : std::string());
+    if (!plain || !plain->exact) f.kept.emplace(taken.begin(), taken.end());
+}
+
+void RecordReader::transferBlock(std::uint8_t& host, FileTransferSettings& settings) {
+    static_cast<void>(takeByte());
+    host = takeByte();
+    std::ranges::copy(take(format_.storedTransferSettings()), settings.bytes.begin());
+}
+
+void RecordReader::noTimeout() {
+    if (takeByte() == 0) return;
+    static_cast<void>(takeByte());
+    ScriptEntry passedOver;
+    layout::record(*this, passedOver, Slot::Then);
+    layout::record(*this, passedOver, Slot::Else);
+    droppedWatchedActions_ = true;
+}
+
+void RecordReader::foreignAction(const SlotFields& f) {
+    if (++nesting_ > maxNesting) fail(RecordFault::NestedTooDeep, position_);
+    if (fault_ == RecordFault::None) {
+        const auto* cipher = std::exchange(cipher_, nullptr);
+        ScriptEntry whole;
+        whole.commandCode = f.code;
+        layout::fieldsAfterCode(*this, whole, Slot::Entry);
+        cipher_ = cipher;
+        RecordWriter writer(memoryForm, nullptr);
+        layout::fieldsAfterCode(writer, std::as_const(whole), Slot::Entry);
+        f.kept = std::move(writer).bytes();
+    }
+    --nesting_;
+}
+
+void RecordScanner::menuCommand(std::uint32_t& commandId) {
+    RecordCursor::menuCommand(commandId);
+    if (format_.vt) isMemoryForm_ = false;
+}
+
+void RecordScanner::transferBlock(std::uint8_t&, FileTransferSettings&) {
+    if (takeByte() != transferBlockMark) isMemoryForm_ = false;
+    static_cast<void>(take(1 + format_.storedTransferSettings()));
+}
+
+void RecordScanner::noTimeout() {
+    if (takeByte() == 0) return;
+    static_cast<void>(takeByte());
+    ScriptEntry passedOver;
+    layout::record(*this, passedOver, Slot::Then);
+    layout::record(*this, passedOver, Slot::Else);
+    isMemoryForm_ = false;
+}
+
+void RecordScanner::foreignAction(const SlotFields& f) {
+    if (++nesting_ > maxNesting) fail(RecordFault::NestedTooDeep, position_);
+    if (fault_ == RecordFault::None) {
+        ScriptEntry whole;
+        whole.commandCode = f.code;
+        layout::fieldsAfterCode(*this, whole, Slot::Entry);
+    }
+    --nesting_;
+}
+
+}  // namespace quendra

@@ -1,0 +1,112 @@
+#include "scriptfile/script_reader.h"
+
+#include "model/script_entry.h"
+#include "scriptfile/record_layout.h"
+#include "scriptfile/record_reader.h"
+#include "scriptfile/record_writer.h"
+
+#include <algorithm>
+
+namespace quendra {
+
+namespace {
+
+ReadStop stopOf(RecordFault fault) {
+    switch (fault) {
+        case RecordFault::None: return ReadStop::None;
+        case RecordFault::EndOfFile: return ReadStop::EndInsideRecord;
+        case RecordFault::UnknownCode: return ReadStop::UnknownCode;
+        case RecordFault::PromptTooLong: return ReadStop::PromptTooLong;
+        case RecordFault::NestedTooDeep: return ReadStop::NestedTooDeep;
+    }
+    return ReadStop::EndInsideRecord;
+}
+
+// Reads the records one by one. A record that already is in memory form is stored as it stands; any
+// other is taken apart under its own version and written anew.
+class ScriptLoad {
+  public:
+    ScriptLoad(std::span<const std::uint8_t> bytes, ReadResult& result)
+        : bytes_(bytes), result_(result), format_(recordFormat(result.signature)) {}
+
+    void run() {
+        std::size_t position = signatureSize;
+        reserveRecords(std::min(maxEntries, bytes_.size()), bytes_.size());
+        while (position < bytes_.size() && result_.stop == ReadStop::None) {
+            if (result_.script.isFull()) {
+                stop(ReadStop::TooManyEntries, position);
+            } else if (format_.version == currentVersion) {
+                position = storeScanned(position);
+            } else {
+                position = storeConverted(position);
+            }
+        }
+    }
+
+  private:
+    void stop(ReadStop reason, std::size_t offset) {
+        result_.stop = reason;
+        result_.stopOffset = offset;
+    }
+
+    std::size_t storeScanned(std::size_t start) {
+        RecordScanner scanner(bytes_, start, format_);
+        layout::record(scanner, scratch_, Slot::Entry);
+        if (scanner.fault() != RecordFault::None) {
+            stop(stopOf(scanner.fault()), scanner.faultOffset());
+            return start;
+        }
+        if (!scanner.isMemoryForm()) return storeConverted(start);
+        const std::size_t end = scanner.position();
+        result_.script.entries.push_back(storeRecord(bytes_.subspan(start, end - start)));
+        return end;
+    }
+
+    std::size_t storeConverted(std::size_t start) {
+        ScriptEntry entry;
+        RecordReader reader(bytes_, start, format_, nullptr);
+        layout::record(reader, entry, Slot::Entry);
+        if (reader.fault() != RecordFault::None) {
+            stop(stopOf(reader.fault()), reader.faultOffset());
+            return start;
+        }
+        if (reader.droppedWatchedActions()) {
+            result_.droppedActions.push_back(result_.script.entryCount());
+        }
+        writer_.clear();
+        layout::record(writer_, std::as_const(entry), Slot::Entry);
+        result_.script.entries.push_back(storeRecord(writer_.bytes()));
+        return reader.position();
+    }
+
+    std::span<const std::uint8_t> bytes_;
+    ReadResult& result_;
+    RecordFormat format_;
+    ScriptEntry scratch_;
+    RecordWriter writer_{memoryForm, nullptr};
+};
+
+}  // namespace
+
+ReadResult readScript(std::span<const std::uint8_t> bytes) {
+    ReadResult result;
+    if (bytes.size() < signatureSize) {
+        result.refusal = ReadRefusal::TooShort;
+        return result;
+    }
+    const auto signature = recogniseSignature(bytes);
+    if (!signature) {
+        result.refusal = ReadRefusal::UnknownSignature;
+        return result;
+    }
+    result.signature = *signature;
+    const bool tooLong = bytes.size() > maxScriptFileSize;
+    ScriptLoad(bytes.first(tooLong ? maxScriptFileSize : bytes.size()), result).run();
+    if (tooLong && (result.stop == ReadStop::None || result.stop == ReadStop::EndInsideRecord)) {
+        result.stop = ReadStop::FileTooLong;
+        result.stopOffset = maxScriptFileSize;
+    }
+    return result;
+}
+
+}  // namespace quendra
