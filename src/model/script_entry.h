@@ -144,6 +144,27 @@ struct BasicSlotFields {
     Ref<PromptField> prompt;
     Ref<std::uint8_t> inputVariable;
     Ref<KeptBytes> kept;
+
+    /// A view to write through serves wherever one to read from is asked for.
+    operator BasicSlotFields<const E>() const requires(!std::is_const_v<E>) {
+        return {code,
+                textLength,
+                text,
+                row,
+                column,
+                number,
+                commandId,
+                commandData,
+                area,
+                transferHost,
+                transferSettings,
+                waitUntil,
+                maxLength,
+                hidden,
+                prompt,
+                inputVariable,
+                kept};
+    }
 };
 
 using SlotFields = BasicSlotFields<ScriptEntry>;
