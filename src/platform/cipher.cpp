@@ -62,7 +62,7 @@ std::optional<std::vector<std::uint8_t>> runCipher(EVP_CIPHER_CTX* context,
         wipeMemory(output.data(), output.size());
         return std::nullopt;
     }
-    output.resize(static_cast<std::size_t>(written + last));
+    output.resize(static_cast<std::size_t>(written) + static_cast<std::size_t>(last));
     return output;
 }
 
