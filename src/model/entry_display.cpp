@@ -6,7 +6,6 @@
 #include <array>
 #include <cstdio>
 #include <initializer_list>
-#include <ranges>
 
 namespace quendra {
 
@@ -187,9 +186,9 @@ ActionSummaries actionSummaries(const ScriptEntry& entry, bool isCompare,
 
 std::optional<TransferInputs> lastTransferShown(const Script& script,
                                                 const HiddenTextCipher& cipher) {
-    for (const EntryHandle& entry : script.entries | std::views::reverse) {
-        if (entry.code() != CommandCode::MenuCommand && !ownsActions(entry.code())) continue;
-        if (auto inputs = lastTransferOf(unpackEntry(entry, cipher))) return inputs;
+    for (auto entry = script.entries.rbegin(); entry != script.entries.rend(); ++entry) {
+        if (entry->code() != CommandCode::MenuCommand && !ownsActions(entry->code())) continue;
+        if (auto inputs = lastTransferOf(unpackEntry(*entry, cipher))) return inputs;
     }
     return std::nullopt;
 }
