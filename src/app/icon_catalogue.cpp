@@ -130,7 +130,9 @@ static_assert(std::ranges::is_sorted(rows, std::ranges::less_equal{}, &IconRow::
 
 }  // namespace
 
-std::span<const IconRow> iconCatalogue() { return rows; }
+std::span<const IconRow> iconCatalogue() {
+    return rows;
+}
 
 QString iconFile(int bitmapId) {
     const auto* row = std::ranges::lower_bound(rows, bitmapId, {}, &IconRow::bitmapId);

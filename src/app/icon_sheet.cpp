@@ -1,5 +1,6 @@
-// Draws the whole icon set on one sheet, for those who draw icons: every icon at 16, 24 and 48 pixels, in the light and the
-// dark palette, with its bitmap id. "icon-sheet OUT.png [FIRST LAST]" limits the sheet to a range of ids.
+// Draws the whole icon set on one sheet, for those who draw icons: every icon at 16, 24 and 48
+// pixels, in the light and the dark palette, with its bitmap id. "icon-sheet OUT.png [FIRST LAST]"
+// limits the sheet to a range of ids.
 #include "app/icon_catalogue.h"
 #include "app/symbol_icon.h"
 

@@ -15,8 +15,11 @@
 #include <algorithm>
 #include <cmath>
 
-// Must stand outside any namespace: the drawings lie in a static library, whose resources nobody else would register.
-static void registerDrawings() { Q_INIT_RESOURCE(quendra_icons); }
+// Must stand outside any namespace: the drawings lie in a static library, whose resources nobody
+// else would register.
+static void registerDrawings() {
+    Q_INIT_RESOURCE(quendra_icons);
+}
 
 namespace quendra {
 namespace {
@@ -61,8 +64,8 @@ QByteArray colourAttribute(QRgb colour) {
     return "color=\"" + QColor(colour).name(QColor::HexRgb).toLatin1() + '"';
 }
 
-// The drawings stroke with "currentColor"; elements of class "accent" inherit that stroke from the root element, so
-// they must name it again beside their own colour.
+// The drawings stroke with "currentColor"; elements of class "accent" inherit that stroke from the
+// root element, so they must name it again beside their own colour.
 QByteArray inColours(QByteArray drawing, Colours colours) {
     drawing.replace("<svg ", "<svg " + colourAttribute(colours.ink) + ' ');
     drawing.replace("class=\"accent\"",
@@ -76,8 +79,8 @@ QPixmap render(const QByteArray& drawing, QSize pixels) {
     QSvgRenderer renderer(drawing);
     QPainter painter(&pixmap);
     const int side = std::min(pixels.width(), pixels.height());
-    renderer.render(&painter, QRectF((pixels.width() - side) / 2, (pixels.height() - side) / 2,
-                                     side, side));
+    renderer.render(&painter,
+                    QRectF((pixels.width() - side) / 2, (pixels.height() - side) / 2, side, side));
     return pixmap;
 }
 
@@ -88,8 +91,7 @@ class SymbolIconEngine : public QIconEngine {
     SymbolIconEngine(QByteArray drawing, HotForm hotForm)
         : drawing_(std::move(drawing)), hotForm_(hotForm) {}
 
-    void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode,
-               QIcon::State state) override;
+    void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State state) override;
     QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
         return scaledPixmap(size, mode, state, 1.0);
     }
@@ -108,17 +110,12 @@ class SymbolIconEngine : public QIconEngine {
     QHash<RenderKey, QPixmap> rendered_;
 };
 
-// The pixmap is laid on whole device pixels: at a ratio of 1.5 every second row would otherwise lie between two of
-// them and blur.
+// Rendered for the device's own pixels: a pixmap of another ratio would be resampled and blur.
 void SymbolIconEngine::paint(QPainter* painter, const QRect& rect, QIcon::Mode mode,
                              QIcon::State state) {
     const qreal ratio = painter->device()->devicePixelRatioF();
     const QSize pixels(qRound(rect.width() * ratio), qRound(rect.height() * ratio));
-    const QTransform toDevice = painter->deviceTransform();
-    const QPointF corner = toDevice.map(QPointF(rect.topLeft()));
-    const QPointF snapped(std::round(corner.x()), std::round(corner.y()));
-    painter->drawPixmap(toDevice.inverted().map(snapped),
-                        scaledPixmap(pixels, mode, state, ratio));
+    painter->drawPixmap(rect.topLeft(), scaledPixmap(pixels, mode, state, ratio));
 }
 
 QPixmap SymbolIconEngine::scaledPixmap(const QSize& size, QIcon::Mode mode, QIcon::State,
@@ -163,7 +160,8 @@ QIcon fullColourIcon(int bitmapId) {
     return icon;
 }
 
-// Every icon handed out so far. Pixmaps must not outlive the application object, so it empties this when it ends.
+// Every icon handed out so far. Pixmaps must not outlive the application object, so it empties this
+// when it ends.
 struct IconStore {
     QHash<int, QIcon> plain;
     QHash<int, QIcon> hot;
@@ -190,9 +188,8 @@ double luminance(const QColor& colour) {
     const auto linear = [](double part) {
         return part <= 0.03928 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
     };
-    const auto [red, green, blue] =
-        std::tuple(double(colour.redF()), double(colour.greenF()), double(colour.blueF()));
-    return 0.2126 * linear(red) + 0.7152 * linear(green) + 0.0722 * linear(blue);
+    return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) +
+           0.0722 * linear(colour.blueF());
 }
 
 double contrast(const QColor& a, const QColor& b) {

@@ -1,0 +1,110 @@
+// The list operations against the plain loops that they replace, and the shared records below them.
+#include "model/script.h"
+
+#include "support/fixtures.h"
+
+#include <algorithm>
+#include <gtest/gtest.h>
+#include <numeric>
+#include <random>
+
+namespace quendra::test {
+
+namespace {
+
+EntryHandle numbered(std::size_t number) {
+    return storeRecord(joined({{16}, word(static_cast<std::uint32_t>(number))}));
+}
+
+Script numberedScript(std::size_t count) {
+    Script script;
+    for (std::size_t i = 0; i < count; ++i) {
+        script.entries.push_back(numbered(i));
+    }
+    return script;
+}
+
+std::vector<std::size_t> someIndexes(std::mt19937& random, std::size_t count) {
+    std::vector<std::size_t> indexes;
+    for (std::size_t i = 0; i < count; ++i) {
+        if (random() % 3 == 0) indexes.push_back(i);
+    }
+    return indexes;
+}
+
+}  // namespace
+
+TEST(Script, insertsUpToTheLimitAndNoFurther) {
+    Script script = numberedScript(4090);
+    const Script added = numberedScript(10);
+    EXPECT_EQ(insertEntries(script, 5, added.entries), 6u);
+    EXPECT_TRUE(script.isFull());
+    EXPECT_EQ(script.entries[5], numbered(0));
+    EXPECT_EQ(script.entries[10], numbered(5));
+    EXPECT_EQ(script.entries[11], numbered(5));
+    EXPECT_EQ(insertEntries(script, 0, added.entries), 0u);
+}
+
+TEST(Script, removesAnySelectionLikeOneByOne) {
+    std::mt19937 random(1);
+    for (std::size_t count = 0; count < 40; ++count) {
+        Script script = numberedScript(count);
+        auto expected = script.entries;
+        const auto indexes = someIndexes(random, count);
+        for (auto i = indexes.rbegin(); i != indexes.rend(); ++i) {
+            expected.erase(expected.begin() + static_cast<std::ptrdiff_t>(*i));
+        }
+        removeEntries(script, indexes);
+        EXPECT_EQ(script.entries, expected);
+    }
+}
+
+TEST(Script, movesEntriesToTheirPlacesAndKeepsTheOrderOfTheRest) {
+    std::mt19937 random(2);
+    for (std::size_t count = 1; count < 40; ++count) {
+        Script script = numberedScript(count);
+        const auto from = someIndexes(random, count);
+        std::vector<std::size_t> to(count);
+        std::iota(to.begin(), to.end(), std::size_t{0});
+        std::ranges::shuffle(to, random);
+        std::vector<EntryMove> moves;
+        for (std::size_t i = 0; i < from.size(); ++i) {
+            moves.push_back({from[i], to[i]});
+        }
+        const Script before = script;
+        moveEntries(script, moves);
+        ASSERT_EQ(script.entryCount(), count);
+        auto rest = before.entries;
+        for (auto i = from.rbegin(); i != from.rend(); ++i) {
+            rest.erase(rest.begin() + static_cast<std::ptrdiff_t>(*i));
+        }
+        std::vector<EntryHandle> others;
+        for (std::size_t i = 0; i < count; ++i) {
+            const auto move = std::ranges::find(moves, i, &EntryMove::to);
+            if (move == moves.end()) {
+                others.push_back(script.entries[i]);
+            } else {
+                EXPECT_EQ(script.entries[i], before.entries[move->from]);
+            }
+        }
+        EXPECT_EQ(others, rest);
+    }
+}
+
+TEST(EntryHandle, wipesARecordWithItsLastHandleOnly) {
+    const std::string secret = "canary-in-a-comment";
+    EntryHandle kept = numbered(1);
+    EntryHandle first = storeRecord(joined({{6}, counted(secret)}));
+    const std::uint8_t* memory = first.record().data();
+    const std::size_t size = first.record().size();
+    EntryHandle second = first;
+    first = kept;
+    EXPECT_EQ(second.record().data(), memory);
+    EXPECT_EQ(second.code(), CommandCode::Comment);
+    second = EntryHandle();
+    // The chunk is still alive through `kept`, so the memory may be looked at.
+    EXPECT_EQ(std::count(memory, memory + size, 0), static_cast<std::ptrdiff_t>(size));
+    EXPECT_EQ(kept, numbered(1));
+}
+
+}  // namespace quendra::test

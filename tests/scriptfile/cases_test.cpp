@@ -1,0 +1,57 @@
+// Script files of every host type and version against the bytes and lines that an independent
+// encoder gave for them.
+#include "scriptfile/script_reader.h"
+#include "scriptfile/script_writer.h"
+#include "support/fixtures.h"
+
+#include <algorithm>
+#include <gtest/gtest.h>
+
+namespace quendra::test {
+
+class FrozenCase : public testing::TestWithParam<Case> {};
+
+TEST_P(FrozenCase, isReadWholeAndWrittenAsExpected) {
+    const Case& frozen = GetParam();
+    const ReadResult read = readScript(frozen.file);
+    ASSERT_TRUE(read.isWhole());
+    EXPECT_EQ(read.signature, (Signature{frozen.hostType, frozen.version}));
+    EXPECT_EQ(read.script.entryCount(), frozen.entries);
+    EXPECT_EQ(writeScript(read.script, frozen.hostType), frozen.expected);
+    EXPECT_TRUE(unstorableEntries(read.script, frozen.hostType).empty());
+
+    const ReadResult again = readScript(frozen.expected);
+    ASSERT_TRUE(again.isWhole());
+    EXPECT_EQ(again.script, read.script);
+    EXPECT_EQ(writeScript(again.script, frozen.hostType), frozen.expected);
+}
+
+TEST_P(FrozenCase, showsTheExpectedLines) {
+    const Case& frozen = GetParam();
+    const ReadResult read = readScript(frozen.file);
+    const auto lines = linesOf(read.script, frozen.hostType, HiddenTextCipher(frozenIdentity()));
+    ASSERT_EQ(lines.size(), frozen.lines.size());
+    for (std::size_t row = 0; row < lines.size(); ++row) {
+        if (std::ranges::count(frozen.openRows, row) == 0) {
+            EXPECT_EQ(lines[row], frozen.lines[row]) << "row " << row;
+        }
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(, FrozenCase, testing::ValuesIn(frozenCases()), [](const auto& row) {
+    std::string name = row.param.name;
+    std::ranges::replace(name, '-', '_');
+    return name;
+});
+
+TEST(FrozenCases, coverAllFiftySignatures) {
+    std::vector<std::pair<HostType, char>> signatures;
+    for (const Case& frozen : frozenCases()) {
+        signatures.emplace_back(frozen.hostType, frozen.version);
+    }
+    std::ranges::sort(signatures);
+    const auto rest = std::ranges::unique(signatures);
+    EXPECT_EQ(rest.begin() - signatures.begin(), 50);
+}
+
+}  // namespace quendra::test

@@ -1,0 +1,170 @@
+// Damaged and hostile files: what came before the damage is loaded, and the place is named.
+#include "scriptfile/script_reader.h"
+
+#include "scriptfile/entry_codec.h"
+#include "scriptfile/script_writer.h"
+#include "support/fixtures.h"
+
+#include <gtest/gtest.h>
+
+namespace quendra::test {
+
+namespace {
+
+const Bytes mainframe = bytesOf("QDMDSCR=");
+const Bytes beep = {4};
+
+Bytes repeated(const Bytes& piece, std::size_t count) {
+    Bytes all;
+    for (std::size_t i = 0; i < count; ++i) {
+        all.insert(all.end(), piece.begin(), piece.end());
+    }
+    return all;
+}
+
+// An If_Input_Is whose then action is an If_Input_Is, and so on; the innermost does nothing.
+Bytes nestedCompares(std::size_t depth) {
+    const Bytes start = joined({{9}, counted(""), {0}, counted(""), {0}});
+    return joined({repeated(start, depth), {0}, repeated({0}, depth)});
+}
+
+struct Damage {
+    std::string name;
+    Bytes file;
+    std::size_t entries;
+    ReadStop stop;
+    std::size_t offset;
+};
+
+}  // namespace
+
+TEST(ScriptReader, refusesWhatIsNoScript) {
+    EXPECT_EQ(readScript({}).refusal, ReadRefusal::TooShort);
+    EXPECT_EQ(readScript(bytesOf("QDMDSCR")).refusal, ReadRefusal::TooShort);
+    EXPECT_EQ(readScript(bytesOf("QDMDSCR>")).refusal, ReadRefusal::UnknownSignature);
+    EXPECT_EQ(readScript(bytesOf("QDVTSCR5")).refusal, ReadRefusal::UnknownSignature);
+}
+
+TEST(ScriptReader, stopsAtTheDamageAndSaysWhere) {
+    const Bytes longPrompt = joined({{8}, counted("t"), word(1024), Bytes(1024, 'p'), {255, 0, 0}});
+    const Bytes fullPrompt = joined({{8}, counted("t"), word(1023), Bytes(1023, 'p'), {255, 0, 0}});
+    const std::vector<Damage> rows = {
+        {"inside a text", joined({mainframe, beep, {6, 5, 'a'}}), 1, ReadStop::EndInsideRecord, 11},
+        {"inside an action", joined({mainframe, beep, {20, 0, 15}}), 1, ReadStop::EndInsideRecord,
+         12},
+        {"before an action", joined({mainframe, {20, 0}}), 0, ReadStop::EndInsideRecord, 10},
+        {"code 3", joined({mainframe, beep, beep, {3}, beep}), 2, ReadStop::UnknownCode, 10},
+        {"code 24", joined({mainframe, {24}}), 0, ReadStop::UnknownCode, 8},
+        {"unknown code of an action", joined({mainframe, beep, {20, 0, 99}}), 1,
+         ReadStop::UnknownCode, 11},
+        {"a code that renumbering lifts out of range", joined({bytesOf("QDMDSCR9"), {23}}), 0,
+         ReadStop::UnknownCode, 8},
+        {"a prompt that does not fit", joined({mainframe, beep, longPrompt, beep}), 1,
+         ReadStop::PromptTooLong, 12},
+        {"a prompt that fits", joined({mainframe, beep, fullPrompt, beep}), 3, ReadStop::None, 0},
+        {"4096 entries", joined({mainframe, repeated(beep, 4096)}), 4096, ReadStop::None, 0},
+        {"one entry more", joined({mainframe, repeated(beep, 4097)}), 4096,
+         ReadStop::TooManyEntries, 8 + 4096},
+        {"more entries than 16 bits count", joined({mainframe, repeated({0}, 70'000)}), 4096,
+         ReadStop::TooManyEntries, 8 + 4096},
+        {"actions a few levels deep", joined({mainframe, nestedCompares(4), beep}), 2,
+         ReadStop::None, 0},
+        {"actions a hundred thousand levels deep",
+         joined({mainframe, beep, nestedCompares(100'000)}), 1, ReadStop::NestedTooDeep, 34},
+        {"a length of four gigabytes", joined({mainframe, {8}, counted(""), word(0xFFFFFFFF)}), 0,
+         ReadStop::PromptTooLong, 10},
+    };
+    for (const Damage& row : rows) {
+        SCOPED_TRACE(row.name);
+        const ReadResult read = readScript(row.file);
+        ASSERT_FALSE(read.refusal);
+        EXPECT_EQ(read.script.entryCount(), row.entries);
+        EXPECT_EQ(read.stop, row.stop);
+        EXPECT_EQ(read.stopOffset, row.offset);
+    }
+}
+
+TEST(ScriptReader, loadsTheWholeEntriesOfAFileCutAnywhere) {
+    for (const Case& frozen : frozenCases()) {
+        if (frozen.name != "kinds-mainframe-v2" && frozen.name != "kinds-vt-vD") continue;
+        const Script whole = readScript(frozen.file).script;
+        for (std::size_t size = signatureSize; size < frozen.file.size(); size += 7) {
+            const ReadResult cut = readScript(std::span(frozen.file).first(size));
+            ASSERT_LE(cut.script.entryCount(), whole.entryCount());
+            ASSERT_TRUE(std::equal(cut.script.entries.begin(), cut.script.entries.end(),
+                                   whole.entries.begin()));
+            ASSERT_TRUE(cut.stop == ReadStop::EndInsideRecord || cut.stop == ReadStop::None);
+        }
+    }
+}
+
+TEST(ScriptReader, readsTheFirstEntriesOfAFileLongerThanAnyScript) {
+    Bytes file = joined({mainframe, beep, {6, 5}});
+    file.resize(maxScriptFileSize + 1);
+    file[signatureSize + 2] = 1;
+    const ReadResult read = readScript(file);
+    EXPECT_EQ(read.script.entryCount(), 4096u);
+    EXPECT_EQ(read.stop, ReadStop::TooManyEntries);
+    // Records so large that the limit is met first.
+    Bytes large = mainframe;
+    const Bytes compare =
+        joined({{9}, counted(std::string(255, 'a')), {0}, counted(std::string(255, 'b')), {0}});
+    const Bytes inner = joined({{8}, counted(""), word(1023), Bytes(1023, 'p'), {0, 0, 0}});
+    while (large.size() <= maxScriptFileSize) {
+        const Bytes record = joined({compare, compare, inner, inner, compare, inner, inner});
+        large.insert(large.end(), record.begin(), record.end());
+    }
+    EXPECT_EQ(readScript(large).stop, ReadStop::FileTooLong);
+}
+
+TEST(ScriptReader, writesForeignBytesOfARecordInTheirCurrentForm) {
+    // The mark of a transfer block is 3 whatever a file had there.
+    Bytes block(935, 0);
+    block[0] = 7;
+    const Bytes file = joined({mainframe, {2}, word(236), word(5), block});
+    block[0] = 3;
+    const Bytes expected = joined({mainframe, {2}, word(236), word(5), block});
+    EXPECT_EQ(writeScript(readScript(file).script, HostType::Mainframe), expected);
+}
+
+TEST(ScriptReader, passesOverTheTimeoutOfAWatchedWaitForAndSaysSo) {
+    const Bytes options = {1, 2, 0, 1};
+    const Bytes before = joined({mainframe, beep, {20}, counted("w"), {17}, counted("i"), options});
+    const Bytes file = joined({before, {1, 30}, nestedCompares(2), {12}, {5}});
+    const ReadResult read = readScript(file);
+    ASSERT_TRUE(read.isWhole());
+    EXPECT_EQ(read.droppedActions, (std::vector<std::size_t>{1}));
+    EXPECT_EQ(writeScript(read.script, HostType::Mainframe), joined({before, {0}, {5}}));
+}
+
+TEST(ScriptWriter, knowsWhatVtCannotStore) {
+    FileTransferSettings empty;
+    ScriptEntry menu;
+    menu.commandCode = CommandCode::MenuCommand;
+    ScriptEntry wait;
+    wait.commandCode = CommandCode::WaitFor;
+    wait.hasTimeout = 1;
+    wait.elseCode = CommandCode::MenuCommand;
+    Script script;
+    const HiddenTextCipher cipher("");
+    const auto add = [&](const ScriptEntry& entry) {
+        script.entries.push_back(packEntry(entry, cipher).entry);
+    };
+    for (const std::uint32_t id : {212u, 213u, 214u, 236u}) {
+        menu.commandId = wait.elseCommandId = id;
+        add(menu);
+        add(wait);
+    }
+    wait.elseTransferSettings = defaultTransferSettings();
+    add(wait);
+    menu.transferHost = 1;
+    add(menu);
+    EXPECT_EQ(unstorableEntries(script, HostType::VT), (std::vector<std::size_t>{2, 3, 8, 9}));
+    EXPECT_TRUE(unstorableEntries(script, HostType::ICL).empty());
+    script.entries.erase(script.entries.begin() + 8, script.entries.end());
+    script.entries.erase(script.entries.begin() + 2, script.entries.begin() + 4);
+    const ReadResult back = readScript(writeScript(script, HostType::VT));
+    EXPECT_EQ(back.script, script);
+}
+
+}  // namespace quendra::test

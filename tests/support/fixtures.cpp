@@ -1,0 +1,122 @@
+#include "support/fixtures.h"
+
+#include "scriptfile/entry_codec.h"
+
+#include <fstream>
+#include <iterator>
+#include <nlohmann/json.hpp>
+#include <sstream>
+
+namespace quendra::test {
+
+namespace {
+
+// A function, since test parameters are made before the constants of this file would be.
+std::filesystem::path casesFolder() { return std::filesystem::path(QUENDRA_FIXTURES) / "cases"; }
+
+nlohmann::json manifest() {
+    std::ifstream stream(casesFolder() / "manifest.json");
+    return nlohmann::json::parse(stream);
+}
+
+std::vector<std::string> readLines(const std::filesystem::path& path) {
+    std::ifstream stream(path, std::ios::binary);
+    std::vector<std::string> lines;
+    for (std::string line; std::getline(stream, line);) {
+        lines.push_back(line);
+    }
+    return lines;
+}
+
+// The manifest writes versions as a hexadecimal digit where the file has the ASCII characters
+// behind '9'.
+char versionCharacter(const std::string& digit) {
+    return digit[0] >= 'A' ? static_cast<char>(digit[0] - 'A' + ':') : digit[0];
+}
+
+Case readCase(const nlohmann::json& row) {
+    const auto bytes = [&](const char* key) {
+        return readBytes(casesFolder() / row.at(key).get<std::string>());
+    };
+    Case result{row.at("name"),
+                hostTypeOfName(row.at("host").get<std::string>()).value(),
+                versionCharacter(row.at("version")),
+                row.at("entries"),
+                bytes("file"),
+                bytes("expected"),
+                readLines(casesFolder() / row.at("lines").get<std::string>()),
+                row.at("openRows")};
+    return result;
+}
+
+}  // namespace
+
+const std::vector<Case>& frozenCases() {
+    static const std::vector<Case> cases = [] {
+        std::vector<Case> read;
+        const nlohmann::json all = manifest();
+        for (const auto& row : all.at("cases")) {
+            read.push_back(readCase(row));
+        }
+        return read;
+    }();
+    return cases;
+}
+
+std::string frozenIdentity() {
+    return manifest().at("identity");
+}
+
+Bytes readBytes(const std::filesystem::path& path) {
+    std::ifstream stream(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(stream), {}};
+}
+
+void writeBytes(const std::filesystem::path& path, std::span<const std::uint8_t> bytes) {
+    std::ofstream stream(path, std::ios::binary);
+    stream.write(reinterpret_cast<const char*>(bytes.data()),
+                 static_cast<std::streamsize>(bytes.size()));
+}
+
+Bytes bytesOf(std::string_view text) {
+    return {text.begin(), text.end()};
+}
+
+Bytes joined(std::initializer_list<Bytes> pieces) {
+    Bytes all;
+    for (const Bytes& piece : pieces) {
+        all.insert(all.end(), piece.begin(), piece.end());
+    }
+    return all;
+}
+
+Bytes counted(std::string_view text) {
+    return joined({{static_cast<std::uint8_t>(text.size())}, bytesOf(text)});
+}
+
+Bytes word(std::uint32_t value) {
+    return {static_cast<std::uint8_t>(value), static_cast<std::uint8_t>(value >> 8),
+            static_cast<std::uint8_t>(value >> 16), static_cast<std::uint8_t>(value >> 24)};
+}
+
+NumberedNames::NumberedNames() {
+    const TextSource numbers = [](StringId id) { return "{" + std::to_string(id) + "}"; };
+    luFunctions = buildLuCatalogues(numbers);
+    menuCommands = buildMenuCommandCatalogue(numbers);
+}
+
+DisplayNames NumberedNames::of(HostType type) const {
+    return {luFunctions.of(type), menuCommands};
+}
+
+std::vector<std::string> linesOf(const Script& script, HostType type,
+                                 const HiddenTextCipher& cipher) {
+    static const NumberedNames names;
+    std::vector<std::string> lines;
+    for (const EntryHandle& entry : script.entries) {
+        lines.push_back(formatEntryLine(unpackEntry(entry, cipher), names.of(type)));
+    }
+    return lines;
+}
+
+}  // namespace quendra::test

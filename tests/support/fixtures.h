@@ -1,0 +1,61 @@
+// The frozen script files and small makers of bytes and entries.
+#pragma once
+
+#include "hosts/host_type.h"
+#include "hosts/lu_catalogue.h"
+#include "hosts/menu_catalogue.h"
+#include "model/entry_display.h"
+#include "model/script.h"
+#include "scriptfile/hidden_text.h"
+
+#include <cstdint>
+#include <filesystem>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace quendra::test {
+
+using Bytes = std::vector<std::uint8_t>;
+
+/// A script file with what must come out of it: the file after saving, and the display lines.
+struct Case {
+    std::string name;
+    HostType hostType;
+    char version;
+    std::size_t entries;
+    Bytes file;
+    Bytes expected;
+    std::vector<std::string> lines;
+    /// Rows whose text is ours to choose.
+    std::vector<std::size_t> openRows;
+};
+[[nodiscard]] const std::vector<Case>& frozenCases();
+/// The identity under which the hidden texts of the frozen cases are enciphered.
+[[nodiscard]] std::string frozenIdentity();
+
+[[nodiscard]] Bytes readBytes(const std::filesystem::path& path);
+void writeBytes(const std::filesystem::path& path, std::span<const std::uint8_t> bytes);
+
+/// Bytes of a text, and of pieces one behind the other.
+[[nodiscard]] Bytes bytesOf(std::string_view text);
+[[nodiscard]] Bytes joined(std::initializer_list<Bytes> pieces);
+/// A text with its length byte.
+[[nodiscard]] Bytes counted(std::string_view text);
+[[nodiscard]] Bytes word(std::uint32_t value);
+
+/// Catalogues whose texts are their ids in braces: "{12159}".
+struct NumberedNames {
+    NumberedNames();
+    [[nodiscard]] DisplayNames of(HostType type) const;
+
+    LuCatalogues luFunctions;
+    MenuCommandCatalogue menuCommands;
+};
+
+/// The display lines of a script under numbered names.
+[[nodiscard]] std::vector<std::string> linesOf(const Script& script, HostType type,
+                                               const HiddenTextCipher& cipher);
+
+}  // namespace quendra::test
