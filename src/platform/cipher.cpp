@@ -62,7 +62,7 @@ std::optional<std::vector<std::uint8_t>> runCipher(EVP_CIPHER_CTX* context,
         wipeMemory(output.data(), output.size());
         return std::nullopt;
     }
-    output.resize(static_cast<std::size_t>(written + last));
+    output.resize(static_cast<std::size_t>(written) + static_cast<std::size_t>(last));
     return output;
 }
 
@@ -87,7 +87,8 @@ struct TripleDesCbc::Contexts {
 };
 
 TripleDesCbc::TripleDesCbc(const TripleDesKey& key)
-    : contexts_(std::make_unique<Contexts>(makeContext(key, true), makeContext(key, false))) {}
+    : contexts_(
+          std::make_unique<Contexts>(Contexts{makeContext(key, true), makeContext(key, false)})) {}
 TripleDesCbc::~TripleDesCbc() = default;
 TripleDesCbc::TripleDesCbc(TripleDesCbc&&) noexcept = default;
 TripleDesCbc& TripleDesCbc::operator=(TripleDesCbc&&) noexcept = default;

@@ -40,7 +40,7 @@ TEST(EntryLine, showsWhatNoCatalogueKnowsAndNothingForNoCommand) {
 TEST(EntryLine, neverShowsAHiddenTextAndKeepsForeignLetters) {
     ScriptEntry type = entryOf(CommandCode::Type, "pass\xE4word");
     EXPECT_EQ(lineOf(type), "Type \"pass\u00E4word\"");
-    for (const std::uint8_t flag : {1, 2, 255}) {
+    for (const std::uint8_t flag : {std::uint8_t{1}, std::uint8_t{2}, std::uint8_t{255}}) {
         type.hidden = flag;
         EXPECT_EQ(lineOf(type), "Type \"*********\" (H)");
     }

@@ -38,8 +38,8 @@ TEST_P(FrozenCase, showsTheExpectedLines) {
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(, FrozenCase, testing::ValuesIn(frozenCases()), [](const auto& info) {
-    std::string name = info.param.name;
+INSTANTIATE_TEST_SUITE_P(, FrozenCase, testing::ValuesIn(frozenCases()), [](const auto& row) {
+    std::string name = row.param.name;
     std::ranges::replace(name, '-', '_');
     return name;
 });

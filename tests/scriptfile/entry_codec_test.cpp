@@ -111,7 +111,8 @@ TEST(EntryCodec, bringsForeignActionsThroughEditsOfTheirOwner) {
     EXPECT_EQ(entry.elseCode, CommandCode::Return);
     EXPECT_EQ(packed(entry), read.script.entries[0]);
     setCode(slotFields(entry, Slot::Then), CommandCode::Beep);
-    EXPECT_EQ(Bytes(packed(entry).record().begin(), packed(entry).record().end()),
+    const EntryHandle edited = packed(entry);
+    EXPECT_EQ(Bytes(edited.record().begin(), edited.record().end()),
               joined({{9}, counted("out"), {0}, counted("b"), {0}, {4}, {12}}));
 }
 

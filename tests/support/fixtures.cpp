@@ -11,10 +11,11 @@ namespace quendra::test {
 
 namespace {
 
-const std::filesystem::path casesFolder = std::filesystem::path(QUENDRA_FIXTURES) / "cases";
+// A function, since test parameters are made before the constants of this file would be.
+std::filesystem::path casesFolder() { return std::filesystem::path(QUENDRA_FIXTURES) / "cases"; }
 
 nlohmann::json manifest() {
-    std::ifstream stream(casesFolder / "manifest.json");
+    std::ifstream stream(casesFolder() / "manifest.json");
     return nlohmann::json::parse(stream);
 }
 
@@ -35,7 +36,7 @@ char versionCharacter(const std::string& digit) {
 
 Case readCase(const nlohmann::json& row) {
     const auto bytes = [&](const char* key) {
-        return readBytes(casesFolder / row.at(key).get<std::string>());
+        return readBytes(casesFolder() / row.at(key).get<std::string>());
     };
     Case result{row.at("name"),
                 hostTypeOfName(row.at("host").get<std::string>()).value(),
@@ -43,7 +44,7 @@ Case readCase(const nlohmann::json& row) {
                 row.at("entries"),
                 bytes("file"),
                 bytes("expected"),
-                readLines(casesFolder / row.at("lines").get<std::string>()),
+                readLines(casesFolder() / row.at("lines").get<std::string>()),
                 row.at("openRows")};
     return result;
 }
@@ -53,7 +54,8 @@ Case readCase(const nlohmann::json& row) {
 const std::vector<Case>& frozenCases() {
     static const std::vector<Case> cases = [] {
         std::vector<Case> read;
-        for (const auto& row : manifest().at("cases")) {
+        const nlohmann::json all = manifest();
+        for (const auto& row : all.at("cases")) {
             read.push_back(readCase(row));
         }
         return read;
