@@ -13,8 +13,8 @@ namespace fs = std::filesystem;
 
 class Parser {
   public:
-    Parser(std::span<const std::string> arguments, const PathProbe& exists)
-        : rest_(arguments), exists_(exists) {}
+    Parser(std::span<const std::string> arguments, const PathProbe& probe)
+        : rest_(arguments), probe_(probe) {}
 
     CommandLine parse() {
         while (!rest_.empty() && result_.error.empty())
@@ -59,7 +59,10 @@ class Parser {
     [[nodiscard]] bool isPath(const std::string& argument) const {
         const fs::path path = argument;
         const fs::path folder = path.parent_path();
-        return exists_(path) || (folder.has_relative_path() && exists_(folder));
+        const fs::file_type type = probe_(path);
+        const bool isFile = type != fs::file_type::not_found && type != fs::file_type::none &&
+                            type != fs::file_type::directory;
+        return isFile || (folder.has_relative_path() && probe_(folder) == fs::file_type::directory);
     }
 
     // "/tX" any number of times, then "/e" or nothing. False, and nothing taken, when the argument
@@ -93,7 +96,7 @@ class Parser {
     }
 
     std::span<const std::string> rest_;
-    const PathProbe& exists_;
+    const PathProbe& probe_;
     bool onlyPaths_ = false;
     bool hostTypeSeen_ = false;
     CommandLine result_;
@@ -101,13 +104,13 @@ class Parser {
 
 }  // namespace
 
-bool pathExists(const fs::path& path) {
+fs::file_type fileTypeAt(const fs::path& path) {
     std::error_code error;
-    return fs::exists(path, error);
+    return fs::status(path, error).type();
 }
 
-CommandLine parseCommandLine(std::span<const std::string> arguments, const PathProbe& exists) {
-    return Parser(arguments, exists).parse();
+CommandLine parseCommandLine(std::span<const std::string> arguments, const PathProbe& probe) {
+    return Parser(arguments, probe).parse();
 }
 
 std::string commandLineHelp() {

@@ -23,9 +23,9 @@ struct CommandLine {
     std::string error;
 };
 
-/// Whether something is at a path; tests answer for paths that no machine has.
-using PathProbe = std::function<bool(const std::filesystem::path&)>;
-[[nodiscard]] bool pathExists(const std::filesystem::path& path);
+/// What is at a path, links followed; tests answer for paths that no machine has.
+using PathProbe = std::function<std::filesystem::file_type(const std::filesystem::path&)>;
+[[nodiscard]] std::filesystem::file_type fileTypeAt(const std::filesystem::path& path);
 
 /// Parses the arguments behind the program's own name and behind those options that ask for a
 /// picture of the window, which whoever draws it has taken out before.
@@ -37,11 +37,11 @@ using PathProbe = std::function<bool(const std::filesystem::path&)>;
 ///   --                       what follows is a path
 ///   --help, --version
 ///
-/// Paths begin with "/" too. An argument is a path, whatever it begins with, when it names
-/// something that is there, or when the folder that it names is there (unless that is "/"):
-/// "/etc/new.qds" is no "/e", and a script that is yet to be written can be named.
+/// Paths begin with "/" too. An argument is a path, whatever it begins with, when it names a file
+/// that is there (a folder is no file), or when the folder that it would lie in is there, unless
+/// that is "/": "/etc/new.qds" is no "/e", so a script that is yet to be written can be named.
 [[nodiscard]] CommandLine parseCommandLine(std::span<const std::string> arguments,
-                                           const PathProbe& exists = pathExists);
+                                           const PathProbe& probe = fileTypeAt);
 
 /// For --help and --version, each with its final line end.
 [[nodiscard]] std::string commandLineHelp();
