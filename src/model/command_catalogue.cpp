@@ -39,11 +39,6 @@ bool isScriptEvent(CommandCode code) {
     return code >= CommandCode::Beep && code <= CommandCode::Paste;
 }
 
-bool ownsActions(CommandCode code) {
-    return code == CommandCode::WaitFor || code == CommandCode::IfInputIs ||
-           code == CommandCode::WatchFor;
-}
-
 std::span<const ScriptEventInfo> scriptEvents() {
     return catalogue;
 }

@@ -37,13 +37,18 @@ enum class CommandCode : std::uint8_t {
 };
 
 /// True for the codes that name a kind: 0 to 23 without 3. No other code is ever held in an entry.
-[[nodiscard]] bool isCommandCode(std::uint8_t value);
+[[nodiscard]] constexpr bool isCommandCode(std::uint32_t value) {
+    return value <= 23 && value != 3;
+}
 
 /// True for the twenty Script Events (codes 4 to 23).
 [[nodiscard]] bool isScriptEvent(CommandCode code);
 
 /// True for the three commands that carry actions: Wait_For, If_Input_Is and Watch_For.
-[[nodiscard]] bool ownsActions(CommandCode code);
+[[nodiscard]] constexpr bool ownsActions(CommandCode code) {
+    return code == CommandCode::WaitFor || code == CommandCode::IfInputIs ||
+           code == CommandCode::WatchFor;
+}
 
 struct ScriptEventInfo {
     CommandCode code;

@@ -6,7 +6,6 @@
 #include <array>
 #include <cstdio>
 #include <initializer_list>
-#include <ranges>
 
 namespace quendra {
 
@@ -41,8 +40,9 @@ std::string menuCommandLine(const ConstSlotFields& f, const DisplayNames& names)
     return line;
 }
 
-std::string typeLine(const ConstSlotFields& f) {
+std::string typeLine(const ConstSlotFields& f, const DisplayNames& names) {
     if (!isHiddenText(f)) return "Type " + quotedText(f);
+    if (names.revealHidden) return "Type " + quotedText(f) + " (H)";
     return "Type \"" + std::string(f.textLength, '*') + "\" (H)";
 }
 
@@ -94,7 +94,7 @@ std::string slotLine(const ConstSlotFields& f, const DisplayNames& names) {
         case CommandCode::WatchFor: return keyword + " " + quotedText(f);
         case CommandCode::SetCursor:
             return keyword + " " + std::to_string(f.row) + ", " + std::to_string(f.column);
-        case CommandCode::Type: return typeLine(f);
+        case CommandCode::Type: return typeLine(f, names);
         case CommandCode::Wait:
         case CommandCode::WaitReady: return keyword + " " + std::to_string(f.number);
         case CommandCode::WaitUntil: return keyword + " " + dateTimeText(f.waitUntil);
@@ -186,9 +186,9 @@ ActionSummaries actionSummaries(const ScriptEntry& entry, bool isCompare,
 
 std::optional<TransferInputs> lastTransferShown(const Script& script,
                                                 const HiddenTextCipher& cipher) {
-    for (const EntryHandle& entry : script.entries | std::views::reverse) {
-        if (entry.code() != CommandCode::MenuCommand && !ownsActions(entry.code())) continue;
-        if (auto inputs = lastTransferOf(unpackEntry(entry, cipher))) return inputs;
+    for (auto entry = script.entries.rbegin(); entry != script.entries.rend(); ++entry) {
+        if (entry->code() != CommandCode::MenuCommand && !ownsActions(entry->code())) continue;
+        if (auto inputs = lastTransferOf(unpackEntry(*entry, cipher))) return inputs;
     }
     return std::nullopt;
 }

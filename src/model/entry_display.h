@@ -18,11 +18,14 @@ namespace quendra {
 struct DisplayNames {
     const LuCatalogue& luFunctions;
     const MenuCommandCatalogue& menuCommands;
+    /// Hidden texts show as they are, for whoever asks for them in so many words.
+    bool revealHidden = false;
 };
 
 /// The line of an entry in UTF-8, of any length and with any control characters that its texts
-/// hold. A hidden text shows as one asterisk per character; an LU key that the host type lacks as
-/// "<Lu Function 4/31>"; an entry without a command as the empty line.
+/// hold. A hidden text shows as one asterisk per character unless
+/// `names` reveals it; an LU key that the host type lacks as "<Lu Function 4/31>"; an entry without
+/// a command as the empty line.
 [[nodiscard]] std::string formatEntryLine(const ScriptEntry& entry, const DisplayNames& names);
 
 /// The two action lines of the Wait_For and If_Input_Is dialogs.

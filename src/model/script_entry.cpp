@@ -8,41 +8,6 @@ namespace quendra {
 
 namespace {
 
-template <class E>
-BasicSlotFields<E> fieldsOf(E& e, Slot slot) {
-    switch (slot) {
-        case Slot::Then:
-            return {e.thenCode,  e.thenTextLength, e.thenText,         e.row,
-                    e.column,    e.number,         e.commandId,        e.commandData,
-                    e.commandId, e.transferHost,   e.transferSettings, e.thenWaitUntil,
-                    e.maxLength, e.hidden,         e.prompt,           e.inputVariable,
-                    e.thenKept};
-        case Slot::Else:
-            return {e.elseCode,
-                    e.elseTextLength,
-                    e.elseText,
-                    e.elseRow,
-                    e.elseColumn,
-                    e.elseNumber,
-                    e.elseCommandId,
-                    e.elseCommandData,
-                    e.elseArea,
-                    e.elseTransferHost,
-                    e.elseTransferSettings,
-                    e.elseWaitUntil,
-                    e.elseMaxLength,
-                    e.elseHidden,
-                    e.elsePrompt,
-                    e.elseInputVariable,
-                    e.elseKept};
-        case Slot::Entry: break;
-    }
-    return {e.commandCode,      e.textLength, e.text,        e.row,       e.column,
-            e.number,           e.commandId,  e.commandData, e.commandId, e.transferHost,
-            e.transferSettings, e.waitUntil,  e.maxLength,   e.hidden,    e.prompt,
-            e.inputVariable,    e.kept};
-}
-
 template <std::size_t Size>
 std::size_t assign(std::array<char, Size>& field, std::string_view value) {
     const std::size_t length = std::min(value.size(), Size - 1);
@@ -65,13 +30,6 @@ ScriptEntry::~ScriptEntry() {
     wipeField(compareText);
     wipeMemory(transferSettings.bytes.data(), transferSettings.bytes.size());
     wipeMemory(elseTransferSettings.bytes.data(), elseTransferSettings.bytes.size());
-}
-
-SlotFields slotFields(ScriptEntry& entry, Slot slot) {
-    return fieldsOf(entry, slot);
-}
-ConstSlotFields slotFields(const ScriptEntry& entry, Slot slot) {
-    return fieldsOf(entry, slot);
 }
 
 std::string_view textOf(const ConstSlotFields& fields) {

@@ -172,10 +172,42 @@ using SlotFields = BasicSlotFields<ScriptEntry>;
 using ConstSlotFields = BasicSlotFields<const ScriptEntry>;
 
 /// The fields of a slot by the sharing rule: the then action has its own code, text, date-time and
-/// kept bytes and shares the rest with the entry; the else action has everything to itself. The
-/// view is valid as long as the entry.
-[[nodiscard]] SlotFields slotFields(ScriptEntry& entry, Slot slot);
-[[nodiscard]] ConstSlotFields slotFields(const ScriptEntry& entry, Slot slot);
+/// kept bytes and shares the rest with the entry; the else action has everything to itself. E is
+/// ScriptEntry or const ScriptEntry, and the view is valid as long as the entry.
+template <class E>
+[[nodiscard]] BasicSlotFields<E> slotFields(E& e, Slot slot) {
+    switch (slot) {
+        case Slot::Then:
+            return {e.thenCode,  e.thenTextLength, e.thenText,         e.row,
+                    e.column,    e.number,         e.commandId,        e.commandData,
+                    e.commandId, e.transferHost,   e.transferSettings, e.thenWaitUntil,
+                    e.maxLength, e.hidden,         e.prompt,           e.inputVariable,
+                    e.thenKept};
+        case Slot::Else:
+            return {e.elseCode,
+                    e.elseTextLength,
+                    e.elseText,
+                    e.elseRow,
+                    e.elseColumn,
+                    e.elseNumber,
+                    e.elseCommandId,
+                    e.elseCommandData,
+                    e.elseArea,
+                    e.elseTransferHost,
+                    e.elseTransferSettings,
+                    e.elseWaitUntil,
+                    e.elseMaxLength,
+                    e.elseHidden,
+                    e.elsePrompt,
+                    e.elseInputVariable,
+                    e.elseKept};
+        case Slot::Entry: break;
+    }
+    return {e.commandCode,      e.textLength, e.text,        e.row,       e.column,
+            e.number,           e.commandId,  e.commandData, e.commandId, e.transferHost,
+            e.transferSettings, e.waitUntil,  e.maxLength,   e.hidden,    e.prompt,
+            e.inputVariable,    e.kept};
+}
 
 /// The text of a field by its length; it may hold NUL bytes when it comes from a foreign file.
 [[nodiscard]] std::string_view textOf(const ConstSlotFields& fields);

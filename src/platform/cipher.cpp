@@ -87,7 +87,8 @@ struct TripleDesCbc::Contexts {
 };
 
 TripleDesCbc::TripleDesCbc(const TripleDesKey& key)
-    : contexts_(std::make_unique<Contexts>(makeContext(key, true), makeContext(key, false))) {}
+    : contexts_(
+          std::make_unique<Contexts>(Contexts{makeContext(key, true), makeContext(key, false)})) {}
 TripleDesCbc::~TripleDesCbc() = default;
 TripleDesCbc::TripleDesCbc(TripleDesCbc&&) noexcept = default;
 TripleDesCbc& TripleDesCbc::operator=(TripleDesCbc&&) noexcept = default;

@@ -68,7 +68,7 @@ RecordFormat recordFormat(const Signature& signature) {
     return {signature.hostType == HostType::VT, signature.version};
 }
 
-std::uint32_t commandCodeFromFile(std::uint8_t stored, const RecordFormat& format) {
+std::uint32_t oldCommandCode(std::uint8_t stored, const RecordFormat& format) {
     if (format.version < '7' && stored >= 17) {
         switch (stored) {
             case 17: return 19;
@@ -77,8 +77,7 @@ std::uint32_t commandCodeFromFile(std::uint8_t stored, const RecordFormat& forma
             default: return stored;
         }
     }
-    if (format.version < ':' && stored >= 14) return stored + 1u;
-    return stored;
+    return stored >= 14 ? stored + 1u : stored;
 }
 
 std::uint32_t menuCommandFromFile(std::uint32_t stored, const RecordFormat& format) {

@@ -48,7 +48,11 @@ inline constexpr RecordFormat memoryForm = {};
 
 /// Today's number of a stored command code byte. Gives values above 23 for bytes that no version
 /// defines.
-[[nodiscard]] std::uint32_t commandCodeFromFile(std::uint8_t stored, const RecordFormat& format);
+[[nodiscard]] std::uint32_t oldCommandCode(std::uint8_t stored, const RecordFormat& format);
+[[nodiscard]] inline std::uint32_t commandCodeFromFile(std::uint8_t stored,
+                                                       const RecordFormat& format) {
+    return format.version < ':' ? oldCommandCode(stored, format) : stored;
+}
 
 /// Menu command numbers: stored to memory (with the renumbering of older versions first) and back
 /// for a current file. One to one but for what VT cannot store; see vtStoresMenuCommand.

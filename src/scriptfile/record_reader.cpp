@@ -12,21 +12,6 @@ std::uint32_t RecordCursor::takeWord() {
            std::uint32_t{taken[3]} << 24;
 }
 
-bool RecordCursor::code(CommandCode& code) {
-    const std::size_t start = position_;
-    const std::uint32_t value = commandCodeFromFile(takeByte(), format_);
-    if (fault_ == RecordFault::None &&
-        (value > 255 || !isCommandCode(static_cast<std::uint8_t>(value)))) {
-        fail(RecordFault::UnknownCode, start);
-    }
-    if (fault_ != RecordFault::None) {
-        code = CommandCode::None;
-        return false;
-    }
-    code = static_cast<CommandCode>(value);
-    return true;
-}
-
 void RecordCursor::luKey(std::uint8_t& group, std::uint8_t& number) {
     group = takeByte();
     number = luNumberFromFile(takeByte(), format_);
@@ -96,7 +81,7 @@ void RecordReader::noTimeout() {
 }
 
 void RecordReader::foreignAction(const SlotFields& f) {
-    if (++nesting_ > maxNesting) fail(RecordFault::NestedTooDeep, position_);
+    if (++nesting_ > maxNesting) fail(RecordFault::NestedTooDeep, position_ - 1);
     if (fault_ == RecordFault::None) {
         const auto* cipher = std::exchange(cipher_, nullptr);
         ScriptEntry whole;
@@ -130,7 +115,7 @@ void RecordScanner::noTimeout() {
 }
 
 void RecordScanner::foreignAction(const SlotFields& f) {
-    if (++nesting_ > maxNesting) fail(RecordFault::NestedTooDeep, position_);
+    if (++nesting_ > maxNesting) fail(RecordFault::NestedTooDeep, position_ - 1);
     if (fault_ == RecordFault::None) {
         ScriptEntry whole;
         whole.commandCode = f.code;

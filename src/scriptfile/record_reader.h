@@ -41,7 +41,14 @@ class RecordCursor {
     /// A Wait_For inside a Watch_For claimed a timeout and actions; they were passed over.
     [[nodiscard]] bool droppedWatchedActions() const { return droppedWatchedActions_; }
 
-    bool code(CommandCode& code);
+    bool code(CommandCode& code) {
+        const std::size_t start = position_;
+        const std::uint32_t value = commandCodeFromFile(takeByte(), format_);
+        if (!isCommandCode(value)) fail(RecordFault::UnknownCode, start);
+        const bool good = fault_ == RecordFault::None;
+        code = good ? static_cast<CommandCode>(value) : CommandCode::None;
+        return good;
+    }
     void byte(std::uint8_t& value) { value = takeByte(); }
     void word(std::uint32_t& value) { value = takeWord(); }
     void luKey(std::uint8_t& group, std::uint8_t& number);
@@ -109,6 +116,13 @@ class RecordReader : public RecordCursor {
 class RecordScanner : public RecordCursor {
   public:
     using RecordCursor::RecordCursor;
+
+    /// Goes to the record that starts at `position`, as after construction.
+    void restart(std::size_t position) {
+        position_ = position;
+        fault_ = RecordFault::None;
+        isMemoryForm_ = true;
+    }
 
     /// False once a record was met that has to be read and written anew to become memory form.
     [[nodiscard]] bool isMemoryForm() const { return isMemoryForm_; }

@@ -31,7 +31,9 @@ class ScriptLoad {
 
     void run() {
         std::size_t position = signatureSize;
-        reserveRecords(std::min(maxEntries, bytes_.size()), bytes_.size());
+        const std::size_t mostEntries = std::min(maxEntries, bytes_.size() - position);
+        reserveRecords(mostEntries, bytes_.size());
+        result_.script.entries.reserve(mostEntries);
         while (position < bytes_.size() && result_.stop == ReadStop::None) {
             if (result_.script.isFull()) {
                 stop(ReadStop::TooManyEntries, position);
@@ -50,14 +52,14 @@ class ScriptLoad {
     }
 
     std::size_t storeScanned(std::size_t start) {
-        RecordScanner scanner(bytes_, start, format_);
-        layout::record(scanner, scratch_, Slot::Entry);
-        if (scanner.fault() != RecordFault::None) {
-            stop(stopOf(scanner.fault()), scanner.faultOffset());
+        scanner_.restart(start);
+        layout::record(scanner_, scratch_, Slot::Entry);
+        if (scanner_.fault() != RecordFault::None) {
+            stop(stopOf(scanner_.fault()), scanner_.faultOffset());
             return start;
         }
-        if (!scanner.isMemoryForm()) return storeConverted(start);
-        const std::size_t end = scanner.position();
+        if (!scanner_.isMemoryForm()) return storeConverted(start);
+        const std::size_t end = scanner_.position();
         result_.script.entries.push_back(storeRecord(bytes_.subspan(start, end - start)));
         return end;
     }
@@ -82,6 +84,7 @@ class ScriptLoad {
     std::span<const std::uint8_t> bytes_;
     ReadResult& result_;
     RecordFormat format_;
+    RecordScanner scanner_{bytes_, 0, format_};
     ScriptEntry scratch_;
     RecordWriter writer_{memoryForm, nullptr};
 };

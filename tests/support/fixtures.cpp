@@ -56,7 +56,8 @@ Case readCase(const nlohmann::json& row) {
 const std::vector<Case>& frozenCases() {
     static const std::vector<Case> cases = [] {
         std::vector<Case> read;
-        for (const auto& row : manifest().at("cases")) {
+        const nlohmann::json all = manifest();
+        for (const auto& row : all.at("cases")) {
             read.push_back(readCase(row));
         }
         return read;

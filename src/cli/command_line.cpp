@@ -1,0 +1,131 @@
+#include "cli/command_line.h"
+
+#include <CLI/CLI.hpp>
+#include <algorithm>
+#include <utility>
+
+namespace quendra::cli {
+
+namespace {
+
+Announcement wrongUsage(const std::string& what) {
+    return {"qds: " + what + "\nTry 'qds --help'.\n", statusWrongUsage};
+}
+
+// The parser and what it fills. The lists of files are read from their options as they were typed,
+// since the parser's conversion drops a file called "{}".
+struct Parser {
+    CLI::App app{"Show and convert terminal automation scripts.", "qds"};
+    CLI::App* show = nullptr;
+    CLI::App* convert = nullptr;
+    CLI::App* texts = nullptr;
+    ShowRequest showRequest;
+    ConvertRequest convertRequest;
+    std::string hostName;
+    std::vector<std::string> typedFiles;
+
+    Parser();
+    void addShow();
+    void addConvert();
+    CLI::Option* addFiles(CLI::App& command, const std::string& help);
+};
+
+Parser::Parser() {
+    app.set_help_flag("-h,--help", "Print this help and exit");
+    app.set_version_flag("--version", "qds " QUENDRA_VERSION, "Print the version and exit");
+    app.require_subcommand(1);
+    app.get_formatter()->label("SUBCOMMAND", "COMMAND");
+    app.footer(
+        "FILE - is standard input, and standard output where a file is written.\n"
+        "Exit status: 0 all well; 1 a file was refused, was not whole or would lose something;\n"
+        "2 wrong usage.");
+    addShow();
+    addConvert();
+    texts = app.add_subcommand("texts", "Print every text of the user interface by its number")
+                ->group("Commands");
+}
+
+CLI::Option* Parser::addFiles(CLI::App& command, const std::string& help) {
+    return command.add_option("FILE", typedFiles, help)->required()->type_name("");
+}
+
+void Parser::addShow() {
+    show = app.add_subcommand("show", "Print the entries of scripts, one line for each")
+               ->group("Commands");
+    show->add_flag("--numbers", showRequest.numbers, "Number the lines");
+    show->add_flag("--reveal", showRequest.reveal, "Print hidden texts too");
+    addFiles(*show, "Script files");
+}
+
+void Parser::addConvert() {
+    convert = app.add_subcommand("convert", "Write scripts in the current version of the format")
+                  ->group("Commands");
+    convert->add_option("--host", hostName, "Switch to this host type")
+        ->type_name("mainframe|iseries|vt|uts|t27|icl");
+    convert->add_flag("--allow-loss", convertRequest.allowLoss,
+                      "Write what there is of a file that is not whole or does not fit");
+    auto* output = convert->add_option("--output", convertRequest.output, "Write to this file")
+                       ->type_name("OUT");
+    convert
+        ->add_flag("--in-place", convertRequest.inPlace,
+                   "Replace the files; each old one is kept as FILE.bak")
+        ->excludes(output);
+    addFiles(*convert, "Script files; only one with --output");
+}
+
+Request convertRequestOf(const Parser& parser) {
+    ConvertRequest request = parser.convertRequest;
+    request.files = parser.convert->get_option("FILE")->results();
+    if (parser.convert->count("--host") > 0) {
+        request.hostType = hostTypeOfCommandLineName(parser.hostName);
+        if (!request.hostType) {
+            return wrongUsage("--host must be one of mainframe, iseries, vt, uts, t27, icl");
+        }
+    }
+    if (request.inPlace) {
+        if (std::ranges::find(request.files, standardStream) != request.files.end()) {
+            return wrongUsage("standard input cannot be converted in place");
+        }
+        return request;
+    }
+    if (request.output.empty()) return wrongUsage("convert needs --output OUT or --in-place");
+    if (request.files.size() > 1) return wrongUsage("--output takes a single FILE");
+    return request;
+}
+
+// The parser would take a file called "[a,b]" for a list of two.
+std::string asFileName(const std::string& argument) {
+    const bool looksLikeList = argument.starts_with('[') && argument.ends_with(']');
+    return looksLikeList ? "./" + argument : argument;
+}
+
+Request requestOf(const Parser& parser) {
+    if (parser.show->parsed()) {
+        ShowRequest request = parser.showRequest;
+        request.files = parser.show->get_option("FILE")->results();
+        return request;
+    }
+    if (parser.convert->parsed()) return convertRequestOf(parser);
+    return TextsRequest{};
+}
+
+}  // namespace
+
+Request parseArguments(const std::vector<std::string>& arguments) {
+    Parser parser;
+    try {
+        // The parser takes its arguments from the back.
+        std::vector<std::string> reversed(arguments.rbegin(), arguments.rend());
+        std::ranges::transform(reversed, reversed.begin(), asFileName);
+        parser.app.parse(std::move(reversed));
+    } catch (const CLI::CallForHelp&) {
+        return Announcement{parser.app.help()};
+    } catch (const CLI::CallForVersion& version) {
+        return Announcement{std::string(version.what()) + "\n"};
+    } catch (const CLI::ParseError& error) {
+        return wrongUsage(error.what());
+    }
+    return requestOf(parser);
+}
+
+}  // namespace quendra::cli

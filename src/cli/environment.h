@@ -1,0 +1,76 @@
+// What a run of qds reads from and writes to, and what all its commands share.
+#pragma once
+
+#include "hosts/lu_catalogue.h"
+#include "hosts/menu_catalogue.h"
+#include "platform/files.h"
+#include "platform/language_library.h"
+#include "scriptfile/script_reader.h"
+
+#include <cstdint>
+#include <filesystem>
+#include <optional>
+#include <ostream>
+#include <span>
+#include <string>
+#include <string_view>
+
+namespace quendra::cli {
+
+/// Injected, so that tests run commands in their own process. The streams outlive it.
+struct Environment {
+    /// Descriptor that "-" reads; it stays open.
+    int input = 0;
+    std::ostream& out;
+    std::ostream& err;
+    /// The folder of the program file, where the language library is found.
+    std::filesystem::path programFolder;
+};
+
+/// What messages and headings call a file: its name with control characters escaped, or "standard
+/// input".
+[[nodiscard]] std::string shownName(std::string_view file);
+
+/// Writes "qds: FILE: what" to standard error.
+void report(Environment& environment, std::string_view file, std::string_view what);
+
+/// "what (byte offset 12)".
+[[nodiscard]] std::string withOffset(std::string_view what, std::size_t offset);
+
+/// Reads a file, or standard input for "-". When it cannot be read that is reported, and the result
+/// is none.
+[[nodiscard]] std::optional<FileContent> readInput(Environment& environment,
+                                                   const std::string& file, std::size_t maxBytes);
+
+/// A script file with its bytes.
+struct SourceScript {
+    FileContent content;
+    ReadResult read;
+};
+
+/// Reads a script file. What cannot be read or was refused is reported and gives none. Reading that
+/// stopped early is left to the caller to report, below what it prints of the file.
+[[nodiscard]] std::optional<SourceScript> readScriptInput(Environment& environment,
+                                                          const std::string& file);
+
+/// Reports that a file was not read whole, and what a watched Wait_For lost. True when it is whole.
+bool reportReading(Environment& environment, const std::string& file, const ReadResult& read);
+
+/// Writes a file, or standard output for "-". A regular file is replaced whole or not at all; where
+/// it is the very file that the bytes came from (`source`), the old one is kept as a backup, and
+/// when that has these bytes already nothing happens. Reports a failure; true when there was none.
+[[nodiscard]] bool writeOutput(Environment& environment, const std::string& file,
+                               std::span<const std::uint8_t> bytes, const FileContent& source);
+
+/// The texts of the language library and the names that entries show. Without a library they are
+/// empty and `isLoaded` is false; that has been reported then.
+struct EntryNames {
+    explicit EntryNames(Environment& environment);
+
+    LanguageLibrary library;
+    bool isLoaded = false;
+    LuCatalogues luFunctions;
+    MenuCommandCatalogue menuCommands;
+};
+
+}  // namespace quendra::cli

@@ -1,0 +1,28 @@
+#include "cli/qds.h"
+
+namespace quendra::cli {
+
+namespace {
+
+struct RequestRunner {
+    Environment& environment;
+
+    int operator()(const Announcement& announcement) const {
+        (announcement.status == statusWell ? environment.out : environment.err)
+            << announcement.text;
+        return announcement.status;
+    }
+    int operator()(const ShowRequest& request) const { return showScripts(request, environment); }
+    int operator()(const ConvertRequest& request) const {
+        return convertScripts(request, environment);
+    }
+    int operator()(const TextsRequest&) const { return printTexts(environment); }
+};
+
+}  // namespace
+
+int runQds(const std::vector<std::string>& arguments, Environment& environment) {
+    return std::visit(RequestRunner{environment}, parseArguments(arguments));
+}
+
+}  // namespace quendra::cli

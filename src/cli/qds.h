@@ -1,0 +1,20 @@
+// The commands of qds.
+#pragma once
+
+#include "cli/command_line.h"
+#include "cli/environment.h"
+
+#include <string>
+#include <vector>
+
+namespace quendra::cli {
+
+/// Runs qds with its arguments (without the program's name) and gives the exit status. What was
+/// written to `out` may still be buffered.
+[[nodiscard]] int runQds(const std::vector<std::string>& arguments, Environment& environment);
+
+[[nodiscard]] int showScripts(const ShowRequest& request, Environment& environment);
+[[nodiscard]] int convertScripts(const ConvertRequest& request, Environment& environment);
+[[nodiscard]] int printTexts(Environment& environment);
+
+}  // namespace quendra::cli

@@ -1,0 +1,64 @@
+// qds show: the lines of scripts, as the script list of the editor shows them.
+
+#include "cli/qds.h"
+#include "model/entry_display.h"
+#include "platform/registry.h"
+#include "platform/text_encoding.h"
+#include "scriptfile/entry_codec.h"
+
+#include <iomanip>
+
+namespace quendra::cli {
+
+namespace {
+
+struct Show {
+    const ShowRequest& request;
+    Environment& environment;
+    EntryNames names;
+    HiddenTextCipher cipher;
+    bool isFirst = true;
+};
+
+void printHeading(Show& show, const std::string& file) {
+    if (show.request.files.size() < 2) return;
+    if (!show.isFirst) show.environment.out << '\n';
+    show.isFirst = false;
+    show.environment.out << "==> " << shownName(file) << " <==\n";
+}
+
+void printLines(const Show& show, const ReadResult& read) {
+    std::ostream& out = show.environment.out;
+    const DisplayNames names = {show.names.luFunctions.of(read.signature.hostType),
+                                show.names.menuCommands, show.request.reveal};
+    std::size_t number = 0;
+    for (const EntryHandle& entry : read.script.entries) {
+        if (show.request.numbers) out << std::setw(6) << ++number << '\t';
+        out << escapeControlCharacters(formatEntryLine(unpackEntry(entry, show.cipher), names))
+            << '\n';
+    }
+}
+
+bool showFile(Show& show, const std::string& file) {
+    const auto source = readScriptInput(show.environment, file);
+    if (!source) return false;
+    printHeading(show, file);
+    printLines(show, source->read);
+    // What was read stands above the message also where both go to the same screen.
+    show.environment.out.flush();
+    return reportReading(show.environment, file, source->read);
+}
+
+}  // namespace
+
+int showScripts(const ShowRequest& request, Environment& environment) {
+    Show show = {request, environment, EntryNames(environment), HiddenTextCipher(userIdentity())};
+    bool isWell = show.names.isLoaded;
+    for (const std::string& file : request.files) {
+        if (!showFile(show, file)) isWell = false;
+        if (!environment.out) break;
+    }
+    return isWell ? statusWell : statusRefused;
+}
+
+}  // namespace quendra::cli

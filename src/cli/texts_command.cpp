@@ -1,0 +1,18 @@
+// qds texts: every text that the program asks the language library for.
+
+#include "cli/qds.h"
+#include "platform/string_ids.h"
+#include "platform/text_encoding.h"
+
+namespace quendra::cli {
+
+int printTexts(Environment& environment) {
+    EntryNames names(environment);
+    for (const StringId id : stringIds()) {
+        environment.out << id << '\t' << escapeControlCharacters(names.library.loadText(id))
+                        << '\n';
+    }
+    return names.isLoaded ? statusWell : statusRefused;
+}
+
+}  // namespace quendra::cli
