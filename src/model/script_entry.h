@@ -146,6 +146,7 @@ struct BasicSlotFields {
     Ref<KeptBytes> kept;
 
     /// A view to write through serves wherever one to read from is asked for.
+    // NOLINTNEXTLINE(google-explicit-constructor): it must be tacit, as for a pointer
     operator BasicSlotFields<const E>() const requires(!std::is_const_v<E>) {
         return {code,
                 textLength,
