@@ -114,22 +114,31 @@ bool isDark(const QPalette& palette) {
            palette.color(QPalette::WindowText).lightness();
 }
 
-// Fusion, with what it leaves out: a list shows that it has the focus.
+// Fusion, with what it leaves out: a list has an edge that shows on dark too, and shows that it has
+// the focus. The toolbar has no line of its own, since the pane below draws one.
 class EditorStyle : public QProxyStyle {
   public:
     EditorStyle() : QProxyStyle(QStyleFactory::create(QStringLiteral("Fusion"))) {}
 
     void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
                      const QWidget* widget) const override {
+        if (element == CE_ToolBar) return;
         QProxyStyle::drawControl(element, option, painter, widget);
-        if (element == CE_ShapedFrame && qobject_cast<const QAbstractItemView*>(widget) &&
-            widget->hasFocus()) {
-            painter->save();
-            painter->setPen(option->palette.color(QPalette::Active, QPalette::Highlight));
-            painter->setBrush(Qt::NoBrush);
-            painter->drawRect(option->rect.adjusted(0, 0, -1, -1));
-            painter->restore();
+        if (element == CE_ShapedFrame && qobject_cast<const QAbstractItemView*>(widget)) {
+            drawListEdge(*option, *painter, widget->hasFocus());
         }
+    }
+
+  private:
+    static void drawListEdge(const QStyleOption& option, QPainter& painter, bool focused) {
+        const QPalette& palette = option.palette;
+        const QPalette::ColorRole plain = isDark(palette) ? QPalette::Light : QPalette::Mid;
+        painter.save();
+        painter.setRenderHint(QPainter::Antialiasing, false);
+        painter.setPen(palette.color(QPalette::Active, focused ? QPalette::Highlight : plain));
+        painter.setBrush(Qt::NoBrush);
+        painter.drawRect(option.rect.adjusted(0, 0, -1, -1));
+        painter.restore();
     }
 };
 

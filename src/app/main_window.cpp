@@ -41,6 +41,15 @@ QString asToolTip(const std::string& text) {
     return QStringLiteral("<qt>") + plain.toHtmlEscaped() + QStringLiteral("</qt>");
 }
 
+// Qt's own buttons for what a narrow window has no room for.
+void nameExtensionButtons(QWidget& window) {
+    for (const char* name : {"qt_toolbar_ext_button", "qt_menubar_ext_button"}) {
+        if (auto* button = window.findChild<QWidget*>(QLatin1String(name))) {
+            button->setAccessibleName(QStringLiteral("More commands"));
+        }
+    }
+}
+
 }  // namespace
 
 MainWindow::MainWindow(ApplicationState& state, QWidget* parent)
@@ -52,6 +61,7 @@ MainWindow::MainWindow(ApplicationState& state, QWidget* parent)
     buildMenus();
     buildToolBar();
     buildStatusBar();
+    nameExtensionButtons(*this);
     pane_ = new EditorPane(state_, this);
     setCentralWidget(pane_);
     connect(pane_, &EditorPane::commandRequested, this, &MainWindow::runCommand);
@@ -127,6 +137,7 @@ void MainWindow::buildStatusBar() {
     statusLine_ = new StatusLine;
     statusLine_->setObjectName(QStringLiteral("statusLine"));
     statusBar()->setObjectName(QStringLiteral("statusBar"));
+    statusLine_->setContentsMargins(8, 0, 8, 0);
     statusBar()->addWidget(statusLine_, 1);
 }
 
