@@ -11,8 +11,8 @@ namespace quendra::test {
 
 namespace {
 
-EntryHandle numbered(std::uint32_t number) {
-    return storeRecord(joined({{16}, word(number)}));
+EntryHandle numbered(std::size_t number) {
+    return storeRecord(joined({{16}, word(static_cast<std::uint32_t>(number))}));
 }
 
 // One random edit of any kind; entries are drawn from a few, so that equal neighbours occur.
