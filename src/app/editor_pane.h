@@ -6,6 +6,7 @@
 
 #include <QWidget>
 
+#include <memory>
 #include <span>
 #include <vector>
 
@@ -43,6 +44,10 @@ class EditorPane : public QWidget {
     /// first).
     void takeFocus();
 
+    [[nodiscard]] QSize sizeHint() const override;
+    /// Room for a few rows in each list, with the text as large as it is.
+    [[nodiscard]] QSize minimumSizeHint() const override;
+
   Q_SIGNALS:
     /// A gesture asks for a command of the main window (308 to 311). Emitted after the gesture's
     /// own event has been handled, never from inside it.
@@ -52,9 +57,14 @@ class EditorPane : public QWidget {
     /// A drag has moved entries; script, selection and currentIndex are as they end.
     void entriesMoved();
 
+  protected:
+    void resizeEvent(QResizeEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+    void changeEvent(QEvent* event) override;
+
   private:
     class Private;
-    Private* const d_;
+    const std::unique_ptr<Private> d_;
 };
 
 }  // namespace quendra

@@ -1,0 +1,48 @@
+// Which commands can be chosen, and what their tool tips say, from the state of the script and the
+// selections.
+#pragma once
+
+#include "app/application_state.h"
+#include "app/editor_pane.h"
+
+#include <optional>
+#include <string>
+
+namespace quendra {
+
+/// What Edit/Replace Entry takes the focused entry's new content from.
+enum class EditSource : std::uint8_t {
+    /// No entry is focused.
+    None,
+    /// The entry's own dialog.
+    Dialog,
+    /// The entry has no parameters: the selected row of a palette takes its place.
+    ScriptEvents,
+    LuFunctions,
+    MenuCommands,
+};
+[[nodiscard]] EditSource editSource(const EntryHandle& entry, const HiddenTextCipher& cipher);
+
+/// Everything that the commands' states depend on. Texts are UTF-8.
+struct CommandFacts {
+    std::size_t entryCount = 0;
+    std::size_t selectedCount = 0;
+    std::size_t clipboardCount = 0;
+    EditSource editSource = EditSource::None;
+    std::string focusedLine = {};
+    std::optional<std::string> selectedEvent = {};
+    std::optional<std::string> selectedLuFunction = {};
+    std::optional<std::string> selectedMenuCommand = {};
+};
+[[nodiscard]] CommandFacts commandFacts(const ApplicationState& state, const EditorPane& pane);
+
+/// True for every command that has no condition.
+[[nodiscard]] bool isCommandEnabled(int command, const CommandFacts& facts);
+
+[[nodiscard]] std::string commandToolTip(int command, const CommandFacts& facts,
+                                         LanguageLibrary& language);
+
+/// "Delete 3 entries": tool tip, and with a question mark the confirmation.
+[[nodiscard]] std::string deleteText(LanguageLibrary& language, std::size_t count);
+
+}  // namespace quendra

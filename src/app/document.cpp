@@ -1,0 +1,215 @@
+#include "app/document.h"
+
+#include "app/ui_text.h"
+#include "platform/text_encoding.h"
+#include "scriptfile/entry_codec.h"
+#include "scriptfile/script_files.h"
+#include "scriptfile/script_writer.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <utility>
+
+namespace quendra {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+Message fileError(ApplicationState& state, StringId text, StringId title, const fs::path& path,
+                  const std::string& reason) {
+    std::string shown = libraryText(state.language, text, {pathText(path)});
+    if (!reason.empty()) shown += "\n\n" + reason;
+    return {shown, libraryText(state.language, title), MessageIcon::Exclamation, MessageButtons::Ok,
+            false};
+}
+
+// A folder can be opened and a damaged disk may fail later: what failed is then the reading.
+bool failedWhileReading(const FileFailure& failure) {
+    return failure.code == EISDIR || failure.code == EIO;
+}
+
+// A full or failing disk stops the writing; everything else stops the file from being created.
+bool failedWhileWriting(const FileFailure& failure) {
+    return failure.code == ENOSPC || failure.code == EDQUOT || failure.code == EIO ||
+           failure.code == EFBIG;
+}
+
+std::optional<Message> openRefusal(ApplicationState& state, const fs::path& path,
+                                   const LoadedScript& loaded) {
+    constexpr StringId title = 13724;
+    if (loaded.failure) {
+        const StringId text = failedWhileReading(*loaded.failure) ? 13728 : 12465;
+        return fileError(state, text, title, path, loaded.failure->message);
+    }
+    if (loaded.read.refusal == ReadRefusal::TooShort) {
+        return fileError(state, 13728, title, path, {});
+    }
+    if (loaded.read.refusal) return fileError(state, 13727, title, path, {});
+    return std::nullopt;
+}
+
+std::string entryNumbers(const std::vector<std::size_t>& entries) {
+    constexpr std::size_t shown = 10;
+    std::string text;
+    for (std::size_t i = 0; i < std::min(entries.size(), shown); ++i) {
+        text += (i == 0 ? "" : ", ") + std::to_string(entries[i] + 1);
+    }
+    return entries.size() > shown ? text + ", ..." : text;
+}
+
+// What there is to tell about a loaded file behind the number of its entries; empty for an ordinary
+// one.
+std::string loadNote(ApplicationState& state, const ReadResult& read,
+                     const std::optional<ReplaceResult>& upgrade) {
+    std::string remarks;
+    if (!read.isWhole()) {
+        remarks +=
+            " loaded: " + describe(read.stop) + " (byte " + std::to_string(read.stopOffset) + ")";
+    }
+    if (!read.droppedActions.empty()) {
+        remarks += "; a watched Wait_For has no timeout and no actions: left out in entry " +
+                   entryNumbers(read.droppedActions);
+    }
+    if (upgrade && upgrade->failure) {
+        remarks +=
+            "; the file keeps its older version until it is saved: " + upgrade->failure->message;
+    } else if (upgrade) {
+        remarks += "; converted from an older version, which is kept as " +
+                   pathText(upgrade->backup.filename());
+    }
+    if (remarks.empty()) return {};
+    return entryCountText(state.language, read.script.entryCount()) + remarks;
+}
+
+// The document takes over what was loaded. From here on nothing can fail.
+void takeOver(ApplicationState& state, const fs::path& path, LoadedScript loaded,
+              const std::optional<ReplaceResult>& upgrade) {
+    const bool upgraded = upgrade && !upgrade->failure;
+    ScriptDocument document;
+    document.fileName = path;
+    document.stamp = upgraded ? upgrade->stamp : loaded.stamp;
+    document.keepOldOnSave = !loaded.read.isWhole() || (loaded.read.isOlderVersion() && !upgraded);
+    state.document = std::move(document);
+    state.currentHostType = loaded.read.signature.hostType;
+    state.script = std::move(loaded.read.script);
+    state.currentIndex = state.script.entryCount() == 0 ? -1 : 0;
+    state.dropPending = false;
+}
+
+bool isOwnFile(const ScriptDocument& document, const fs::path& path) {
+    if (document.fileName.empty()) return false;
+    std::error_code ignored;
+    return path == document.fileName || fs::equivalent(path, document.fileName, ignored);
+}
+
+bool changedOnDisk(const ScriptDocument& document, const fs::path& path) {
+    if (!isOwnFile(document, path)) return false;
+    const auto now = fileStamp(path);
+    return now && now != document.stamp;
+}
+
+std::string shortEntryLine(const ApplicationState& state, std::size_t index) {
+    constexpr qsizetype longest = 72;
+    const ScriptEntry entry = unpackEntry(state.script.entries[index], state.cipher);
+    const QString line =
+        qtText(escapeControlCharacters(formatEntryLine(entry, state.displayNames())));
+    return std::to_string(index + 1) + ":  " +
+           (line.size() <= longest ? line : line.left(longest) + QChar(0x2026)).toStdString();
+}
+
+Message lossQuestion(ApplicationState& state, const std::vector<std::size_t>& entries) {
+    constexpr std::size_t shown = 10;
+    std::string text = "A VT script file cannot store these entries as they are:\n\n";
+    for (std::size_t i = 0; i < std::min(entries.size(), shown); ++i) {
+        text += shortEntryLine(state, entries[i]) + "\n";
+    }
+    if (entries.size() > shown) {
+        text += "and " + std::to_string(entries.size() - shown) + " more\n";
+    }
+    text += "\nSave, and lose what the file cannot store?";
+    return {text, libraryText(state.language, 13730), MessageIcon::Question, MessageButtons::YesNo,
+            true};
+}
+
+}  // namespace
+
+std::string documentTitle(const ScriptDocument& document) {
+    return "Quendra Script Editor  -  " +
+           (document.fileName.empty() ? "Untitled" : pathText(document.fileName)) +
+           (document.modified ? " *" : "");
+}
+
+std::string entryCountText(LanguageLibrary& language, std::size_t count) {
+    if (count == 0) return libraryText(language, 13707);
+    if (count == 1) return libraryText(language, 13708);
+    return libraryText(language, 13709, {std::to_string(count)});
+}
+
+Message savePrompt(ApplicationState& state, DiscardingCommand command) {
+    const fs::path& fileName = state.document.fileName;
+    return {fileName.empty() ? libraryText(state.language, 13711)
+                             : libraryText(state.language, 13710, {pathText(fileName)}),
+            libraryText(state.language, command == DiscardingCommand::Exit ? 13717 : 13712),
+            MessageIcon::Question, MessageButtons::YesNoCancel, false};
+}
+
+void newDocument(ApplicationState& state) {
+    state.script = {};
+    state.document = {};
+    state.currentIndex = -1;
+    state.dropPending = false;
+}
+
+OpenOutcome openDocument(ApplicationState& state, const fs::path& path) {
+    LoadedScript loaded = loadScriptFile(path);
+    if (auto refusal = openRefusal(state, path, loaded)) return {false, std::move(refusal), {}};
+    const auto upgrade = upgradeScriptFile(path, loaded);
+    std::string note = loadNote(state, loaded.read, upgrade);
+    takeOver(state, path, std::move(loaded), upgrade);
+    return {true, std::nullopt, std::move(note)};
+}
+
+OpenOutcome openDocumentAtStart(ApplicationState& state, const fs::path& path) {
+    OpenOutcome outcome = openDocument(state, path);
+    if (outcome.opened) return outcome;
+    state.document.fileName = path;
+    state.document.stamp = fileStamp(path);
+    state.document.keepOldOnSave = state.document.stamp.has_value();
+    if (!readFile(path, 1).failure) return outcome;
+    // It cannot be opened at all: no box, but a file that is there is not passed over unseen.
+    if (state.document.stamp)
+        outcome.note = outcome.refusal->text.substr(0, outcome.refusal->text.find('\n'));
+    outcome.refusal.reset();
+    return outcome;
+}
+
+std::vector<Message> questionsBeforeSave(ApplicationState& state, const fs::path& path) {
+    std::vector<Message> questions;
+    if (changedOnDisk(state.document, path)) {
+        questions.push_back({"The file \"" + pathText(path) +
+                                 "\" has been changed by another program since it was loaded.\n\n"
+                                 "Replace it? The changed file is kept as a backup beside it.",
+                             libraryText(state.language, 13730), MessageIcon::Question,
+                             MessageButtons::YesNo, true});
+    }
+    const auto unstorable = unstorableEntries(state.script, state.currentHostType);
+    if (!unstorable.empty()) questions.push_back(lossQuestion(state, unstorable));
+    return questions;
+}
+
+SaveOutcome saveDocument(ApplicationState& state, const fs::path& path) {
+    const bool keepOld = !isOwnFile(state.document, path) || state.document.keepOldOnSave ||
+                         changedOnDisk(state.document, path);
+    const ReplaceResult result = saveScriptFile(path, state.script, state.currentHostType,
+                                                keepOld ? OldFile::KeepAsBackup : OldFile::Drop);
+    if (result.failure) {
+        const StringId text = failedWhileWriting(*result.failure) ? 13731 : 13729;
+        return {false, fileError(state, text, 13730, path, result.failure->message), {}};
+    }
+    state.document = {path, false, result.stamp, false};
+    if (result.backup.empty()) return {true, std::nullopt, {}};
+    return {true, std::nullopt, "The old file is kept as " + pathText(result.backup.filename())};
+}
+
+}  // namespace quendra

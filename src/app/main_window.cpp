@@ -1,0 +1,324 @@
+#include "app/main_window.h"
+
+#include "app/about_box.h"
+#include "app/command_states.h"
+#include "app/commands.h"
+#include "app/file_dialogs.h"
+#include "app/placement.h"
+#include "app/status_line.h"
+#include "app/symbol_icon.h"
+#include "app/ui_text.h"
+
+#include <QAction>
+#include <QActionGroup>
+#include <QCloseEvent>
+#include <QGuiApplication>
+#include <QMenuBar>
+#include <QScreen>
+#include <QSessionManager>
+#include <QStatusBar>
+#include <QToolBar>
+
+#include <algorithm>
+#include <utility>
+
+namespace quendra {
+
+namespace {
+
+constexpr QSize comfortableSize{940, 640};
+constexpr QSize smallestSize{626, 410};
+
+// Qt replaces "[*]" in a title by its own mark.
+QString asWindowTitle(const std::string& title) {
+    return qtText(title).replace(QLatin1String("[*]"), QLatin1String("[*][*]"));
+}
+
+// A tool tip takes anything that looks like markup as such, and only markup is wrapped.
+QString asToolTip(const std::string& text) {
+    constexpr qsizetype longLine = 80;
+    const QString plain = qtText(text);
+    if (plain.size() <= longLine && !Qt::mightBeRichText(plain)) return plain;
+    return QStringLiteral("<qt>") + plain.toHtmlEscaped() + QStringLiteral("</qt>");
+}
+
+// Qt's own buttons for what a narrow window has no room for.
+void nameExtensionButtons(QWidget& window) {
+    for (const char* name : {"qt_toolbar_ext_button", "qt_menubar_ext_button"}) {
+        if (auto* button = window.findChild<QWidget*>(QLatin1String(name))) {
+            button->setAccessibleName(QStringLiteral("More commands"));
+        }
+    }
+}
+
+}  // namespace
+
+MainWindow::MainWindow(ApplicationState& state, QWidget* parent)
+    : QMainWindow(parent), state_(state) {
+    setObjectName(QStringLiteral("mainWindow"));
+    setWindowIcon(programIcon());
+    setContextMenuPolicy(Qt::NoContextMenu);
+    buildActions();
+    buildMenus();
+    buildToolBar();
+    buildStatusBar();
+    nameExtensionButtons(*this);
+    pane_ = new EditorPane(state_, this);
+    setCentralWidget(pane_);
+    connect(pane_, &EditorPane::commandRequested, this, &MainWindow::runCommand);
+    connect(pane_, &EditorPane::selectionChanged, this, &MainWindow::updateCommandStates);
+    connect(pane_, &EditorPane::entriesMoved, this, &MainWindow::scriptChanged);
+    connect(
+        qGuiApp, &QGuiApplication::commitDataRequest, this, [this] { endSession(); },
+        Qt::DirectConnection);
+    showHostType();
+    showDocument();
+    placeOnScreen();
+}
+
+void MainWindow::setEditingCommands(EditingCommands commands) {
+    editing_ = std::move(commands);
+}
+
+void MainWindow::buildActions() {
+    auto* modes = new QActionGroup(this);
+    for (const CommandInfo& info : commands()) {
+        auto* action =
+            new QAction(toolbarIcon(info.id), qtText(commandMenuText(info, state_.language)), this);
+        action->setObjectName(QStringLiteral("command%1").arg(info.id));
+        action->setShortcut(QKeySequence::fromString(QLatin1String(info.shortcut)));
+        action->setIconText(qtText(libraryText(state_.language, info.toolTipId)));
+        action->setStatusTip(qtText(libraryText(state_.language, info.statusTextId)));
+        action->setMenuRole(QAction::NoRole);
+        action->setIconVisibleInMenu(false);
+        if (hostTypeOfModeCommand(info.id)) {
+            action->setCheckable(true);
+            modes->addAction(action);
+        }
+        connect(action, &QAction::triggered, this, [this, id = info.id] { runCommand(id); });
+        actions_[info.id] = action;
+    }
+}
+
+void MainWindow::buildMenus() {
+    menuBar()->setObjectName(QStringLiteral("menuBar"));
+    for (const MenuInfo& info : menus()) {
+        QMenu* menu = menuBar()->addMenu(qtText(libraryText(state_.language, info.titleId)));
+        menu->setObjectName(QLatin1String(info.objectName));
+        for (const int id : info.items) {
+            if (id == command::separator) {
+                menu->addSeparator();
+            } else {
+                menu->addAction(actions_.at(id));
+            }
+        }
+    }
+}
+
+void MainWindow::buildToolBar() {
+    toolBar_ = new QToolBar(this);
+    toolBar_->setObjectName(QStringLiteral("toolBar"));
+    toolBar_->setMovable(false);
+    toolBar_->setFloatable(false);
+    toolBar_->setIconSize({24, 24});
+    toolBar_->setToolButtonStyle(Qt::ToolButtonIconOnly);
+    for (const int id : toolbarCommands()) {
+        if (id == command::separator) {
+            toolBar_->addSeparator();
+            continue;
+        }
+        toolBar_->addAction(actions_.at(id));
+        toolBar_->widgetForAction(actions_.at(id))
+            ->setObjectName(QStringLiteral("toolButton%1").arg(id));
+    }
+    addToolBar(toolBar_);
+}
+
+void MainWindow::buildStatusBar() {
+    statusLine_ = new StatusLine;
+    statusLine_->setObjectName(QStringLiteral("statusLine"));
+    statusBar()->setObjectName(QStringLiteral("statusBar"));
+    statusLine_->setContentsMargins(4, 0, 4, 0);
+    statusBar()->addWidget(statusLine_, 1);
+}
+
+void MainWindow::placeOnScreen() {
+    setMinimumSize(smallestSize.width() * 3 / 4, smallestSize.height() * 3 / 4);
+    resize(comfortableSize.boundedTo(screen()->availableSize()));
+    centreOnScreen(*this);
+}
+
+void MainWindow::runCommand(int command) {
+    if (!refusedAtLimit(command)) dispatch(command);
+    pane_->takeFocus();
+}
+
+bool MainWindow::refusedAtLimit(int command) {
+    if (command < command::paste || command > command::insertMenuCommand) return false;
+    if (!state_.script.isFull()) return false;
+    // The insert that would have used it up does not come.
+    state_.dropPending = false;
+    showMessage(
+        this, {formatText("Max limit of %d script entries reached.", {std::to_string(maxEntries)}),
+               "Quendra Script Editor", MessageIcon::Information, MessageButtons::Ok, false});
+    return true;
+}
+
+void MainWindow::dispatch(int command) {
+    if (const auto host = hostTypeOfModeCommand(command)) return setHostType(*host);
+    switch (command) {
+        case command::newScript: return newScript();
+        case command::open: return openScript();
+        case command::save: save(); return;
+        case command::saveAs: saveAs(); return;
+        case command::exit: QMetaObject::invokeMethod(this, "close", Qt::QueuedConnection); return;
+        case command::about: AboutBox(state_.language, this).exec(); return;
+        default: return dispatchEditing(command);
+    }
+}
+
+void MainWindow::dispatchEditing(int command) {
+    const auto run = [](const std::function<void()>& operation) {
+        if (operation) operation();
+    };
+    switch (command) {
+        case command::cut: return run(editing_.cutEntries);
+        case command::copy: return run(editing_.copyEntries);
+        case command::paste: return run(editing_.pasteEntries);
+        case command::insertScriptEvent: return run(editing_.insertScriptEvent);
+        case command::insertLuFunction: return run(editing_.insertLuFunction);
+        case command::insertMenuCommand: return run(editing_.insertMenuCommand);
+        case command::editEntry: return run(editing_.editCurrentEntry);
+        case command::deleteEntries: return run(editing_.deleteEntries);
+        default: return;
+    }
+}
+
+void MainWindow::newScript() {
+    if (state_.script.entryCount() == 0) return;
+    if (!mayDiscardChanges(DiscardingCommand::NewOrOpen)) return;
+    newDocument(state_);
+    note_.clear();
+    showDocument();
+}
+
+void MainWindow::openScript() {
+    if (!mayDiscardChanges(DiscardingCommand::NewOrOpen)) return;
+    const auto path =
+        chooseFile(this, {FileDialogMode::Open, libraryText(state_.language, 13713),
+                          "Quendra Script Files(*.qds)", "qds", state_.settings.scriptsDir});
+    if (!path) return;
+    const OpenOutcome outcome = openDocument(state_, *path);
+    if (outcome.refusal) showMessage(this, *outcome.refusal);
+    if (!outcome.opened) return;
+    note_ = outcome.note;
+    showHostType();
+    showDocument();
+}
+
+void MainWindow::openAtStart(const std::filesystem::path& path) {
+    const OpenOutcome outcome = openDocumentAtStart(state_, path);
+    note_ = outcome.note;
+    showHostType();
+    showDocument();
+    if (outcome.refusal) showMessage(this, *outcome.refusal);
+}
+
+bool MainWindow::save() {
+    return state_.document.fileName.empty() ? saveAs() : saveTo(state_.document.fileName);
+}
+
+bool MainWindow::saveAs() {
+    const auto path =
+        chooseFile(this, {FileDialogMode::Save, libraryText(state_.language, 13714),
+                          "Quendra Script Files(*.qds)", "qds", state_.settings.scriptsDir});
+    // Cancel is an answer, not a failure: closing and New go on after it.
+    return !path || saveTo(*path);
+}
+
+bool MainWindow::saveTo(const std::filesystem::path& path) {
+    if (!agreedToAll(questionsBeforeSave(state_, path))) return false;
+    const SaveOutcome outcome = saveDocument(state_, path);
+    if (outcome.refusal) showMessage(this, *outcome.refusal);
+    if (!outcome.saved) return false;
+    note_ = outcome.note;
+    updateTitle();
+    updateStatus();
+    return true;
+}
+
+bool MainWindow::agreedToAll(const std::vector<Message>& questions) {
+    return std::all_of(questions.begin(), questions.end(), [this](const Message& question) {
+        return askMessage(this, question) == MessageAnswer::Yes;
+    });
+}
+
+bool MainWindow::mayDiscardChanges(DiscardingCommand command) {
+    if (!state_.document.modified) return true;
+    switch (askMessage(this, savePrompt(state_, command))) {
+        case MessageAnswer::Yes: return save();
+        case MessageAnswer::No: return true;
+        default: return false;
+    }
+}
+
+void MainWindow::setHostType(HostType hostType) {
+    state_.currentHostType = hostType;
+    showHostType();
+    pane_->rebuildScriptList();
+    updateCommandStates();
+    pane_->takeFocus();
+}
+
+void MainWindow::showHostType() {
+    actions_.at(hostTypeInfo(state_.currentHostType).modeCommand)->setChecked(true);
+    pane_->refillLuPalette();
+}
+
+void MainWindow::showDocument() {
+    pane_->rebuildScriptList();
+    updateTitle();
+    updateStatus();
+    updateCommandStates();
+}
+
+void MainWindow::scriptChanged() {
+    state_.document.modified = true;
+    note_.clear();
+    updateTitle();
+    updateStatus();
+    updateCommandStates();
+}
+
+void MainWindow::updateTitle() {
+    setWindowTitle(asWindowTitle(documentTitle(state_.document)));
+}
+
+void MainWindow::updateStatus() {
+    statusLine_->setLine(qtText(
+        note_.empty() ? entryCountText(state_.language, state_.script.entryCount()) : note_));
+}
+
+void MainWindow::showNote(const std::string& note) {
+    note_ = note;
+    updateStatus();
+}
+
+void MainWindow::updateCommandStates() {
+    const CommandFacts facts = commandFacts(state_, *pane_);
+    for (const auto& [id, action] : actions_) {
+        action->setEnabled(isCommandEnabled(id, facts));
+        action->setToolTip(asToolTip(commandToolTip(id, facts, state_.language)));
+    }
+}
+
+void MainWindow::endSession() {
+    state_.document.modified = false;
+    updateTitle();
+}
+
+void MainWindow::closeEvent(QCloseEvent* event) {
+    event->setAccepted(mayDiscardChanges(DiscardingCommand::Exit));
+}
+
+}  // namespace quendra

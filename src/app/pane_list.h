@@ -1,0 +1,43 @@
+// The kind of list that the editor pane has four of: one line and one icon per row, at a cost that
+// depends on the visible rows only.
+#pragma once
+
+#include <QListView>
+
+#include <vector>
+
+namespace quendra {
+
+class PaneList : public QListView {
+    Q_OBJECT
+
+  public:
+    explicit PaneList(QWidget* parent = nullptr);
+
+    /// Ascending. Costs as much as there are selected rows, and nothing per row of the list.
+    [[nodiscard]] std::vector<std::size_t> selectedRows() const;
+    /// The focused row, -1 for none.
+    [[nodiscard]] int focusedRow() const { return currentIndex().row(); }
+    [[nodiscard]] bool isRowSelected(int row) const;
+
+    /// Where a row stands in the viewport's coordinates, also a row out of sight.
+    [[nodiscard]] QRect rowRect(int row) const;
+    /// Paints a row as it looks when it is selected, at the painter's origin and no wider than its
+    /// text.
+    void paintSelectedRow(QPainter& painter, int row) const;
+
+    /// Lines across the list above these rows (the row count stands for the end of the list); a
+    /// line out of sight shows at the edge nearest to it.
+    void setLandingLines(std::vector<int> rows);
+    [[nodiscard]] const std::vector<int>& landingLines() const { return landingLines_; }
+
+  protected:
+    void paintEvent(QPaintEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void changeEvent(QEvent* event) override;
+
+  private:
+    std::vector<int> landingLines_;
+};
+
+}  // namespace quendra

@@ -1,0 +1,73 @@
+#include "app/screenshot.h"
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QPixmap>
+#include <QWidget>
+
+namespace quendra {
+
+namespace {
+
+std::optional<QSize> sizeOf(const std::string& text) {
+    constexpr int largest = 10000;
+    const QStringList parts = QString::fromStdString(text).split(QLatin1Char('x'));
+    if (parts.size() != 2) return std::nullopt;
+    const QSize size(parts[0].toInt(), parts[1].toInt());
+    if (size.isEmpty() || size.width() > largest || size.height() > largest) return std::nullopt;
+    return size;
+}
+
+bool isScale(const std::string& text) {
+    constexpr double smallest = 0.5;
+    constexpr double largest = 8;
+    bool isNumber = false;
+    const double value = QString::fromStdString(text).toDouble(&isNumber);
+    return isNumber && value >= smallest && value <= largest;
+}
+
+bool takeValue(const std::string& option, const std::string& value, PictureOptions& options) {
+    if (option == "--screenshot") {
+        options.file = QFile::decodeName(value.c_str());
+        return !value.empty();
+    }
+    if (option == "--size") {
+        const auto size = sizeOf(value);
+        options.size = size.value_or(QSize());
+        return size.has_value();
+    }
+    options.scale = value;
+    return isScale(value);
+}
+
+}  // namespace
+
+std::optional<PictureOptions> takePictureOptions(std::vector<std::string>& arguments) {
+    PictureOptions options;
+    std::vector<std::string> others;
+    for (std::size_t i = 0; i < arguments.size(); ++i) {
+        const std::string& argument = arguments[i];
+        if (argument == "--light") {
+            options.appearance = Appearance::Light;
+        } else if (argument == "--dark") {
+            options.appearance = Appearance::Dark;
+        } else if (argument == "--screenshot" || argument == "--size" || argument == "--scale") {
+            if (i + 1 == arguments.size()) return std::nullopt;
+            if (!takeValue(argument, arguments[++i], options)) return std::nullopt;
+        } else {
+            others.push_back(argument);
+        }
+    }
+    arguments = std::move(others);
+    return options;
+}
+
+bool savePicture(QWidget& window, const PictureOptions& options) {
+    if (!options.size.isEmpty()) window.resize(options.size);
+    // Layout, posted commands and the first painting have to be over.
+    for (int i = 0; i < 3; ++i)
+        QCoreApplication::processEvents();
+    return window.grab().save(options.file);
+}
+
+}  // namespace quendra

@@ -1,0 +1,35 @@
+// Drawing the main window into a picture file: for the manual, and for looking at the window where
+// there is no screen.
+#pragma once
+
+#include "app/appearance.h"
+
+#include <QSize>
+#include <QString>
+
+#include <optional>
+#include <string>
+#include <vector>
+
+class QWidget;
+
+namespace quendra {
+
+/// What the options --screenshot FILE, --size WxH, --scale N, --light and --dark ask for.
+struct PictureOptions {
+    /// Where the picture goes; empty when none is wanted.
+    QString file;
+    QSize size;
+    /// Device pixels per unit, as text for the environment of the toolkit; empty for the screen's.
+    std::string scale;
+    Appearance appearance = Appearance::Platform;
+};
+
+/// Takes the options out of `arguments` (without the program's name); all others stay in their
+/// order. None when an option lacks its value or has one that makes no sense.
+[[nodiscard]] std::optional<PictureOptions> takePictureOptions(std::vector<std::string>& arguments);
+
+/// Draws `window`, which is shown, into the file, in the format of the file's extension.
+[[nodiscard]] bool savePicture(QWidget& window, const PictureOptions& options);
+
+}  // namespace quendra

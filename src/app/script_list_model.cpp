@@ -1,0 +1,51 @@
+#include "app/script_list_model.h"
+
+#include "app/symbol_icon.h"
+#include "platform/text_encoding.h"
+#include "scriptfile/entry_codec.h"
+
+namespace quendra {
+namespace {
+
+QString lineOf(const ScriptEntry& entry, const ApplicationState& state) {
+    return QString::fromStdString(
+        escapeControlCharacters(formatEntryLine(entry, state.displayNames())));
+}
+
+}  // namespace
+
+ScriptListModel::ScriptListModel(const ApplicationState& state, QObject* parent)
+    : QAbstractListModel(parent),
+      state_(state),
+      rows_(static_cast<int>(state.script.entryCount())) {}
+
+void ScriptListModel::reload() {
+    beginResetModel();
+    rows_ = static_cast<int>(state_.script.entryCount());
+    endResetModel();
+}
+
+int ScriptListModel::rowCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : rows_;
+}
+
+QVariant ScriptListModel::data(const QModelIndex& index, int role) const {
+    const auto row = static_cast<std::size_t>(index.row());
+    if (!index.isValid() || row >= state_.script.entryCount()) return {};
+    if (role != Qt::DisplayRole && role != Qt::DecorationRole && role != Qt::ToolTipRole) return {};
+    const ScriptEntry entry = unpackEntry(state_.script.entries[row], state_.cipher);
+    switch (role) {
+        case Qt::DisplayRole: return lineOf(entry, state_);
+        case Qt::ToolTipRole: return wrappingToolTip(lineOf(entry, state_));
+        default: return bitmapIcon(bitmapIdOf(entry.commandCode, entry.commandId));
+    }
+}
+
+QString wrappingToolTip(const QString& text) {
+    // Lines hold anything a user types, "<b>" too, and a tool tip guesses from such signs whether
+    // it is rich text.
+    return QStringLiteral("<p style=\"white-space: pre-wrap; margin: 0\">%1</p>")
+        .arg(text.toHtmlEscaped());
+}
+
+}  // namespace quendra

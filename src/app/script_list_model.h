@@ -1,0 +1,34 @@
+// The rows of the script list: each line is made when it is asked for.
+#pragma once
+
+#include "app/application_state.h"
+
+#include <QAbstractListModel>
+
+namespace quendra {
+
+class ScriptListModel : public QAbstractListModel {
+    Q_OBJECT
+
+  public:
+    /// `state` outlives the model.
+    explicit ScriptListModel(const ApplicationState& state, QObject* parent = nullptr);
+
+    /// Shows the script as it is now. Between two calls the number of rows stays as it was,
+    /// whatever happens to the script.
+    void reload();
+
+    [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
+    /// The display text is one line, with control characters escaped; the tool tip is the same
+    /// text, ready to wrap.
+    [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
+
+  private:
+    const ApplicationState& state_;
+    int rows_ = 0;
+};
+
+/// A tool tip that shows exactly this text, wrapped where it is too long for one line.
+[[nodiscard]] QString wrappingToolTip(const QString& text);
+
+}  // namespace quendra

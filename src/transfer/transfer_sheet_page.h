@@ -1,0 +1,17 @@
+// The file transfer settings: a sheet with the pages Settings and Advanced over the working
+// settings.
+#pragma once
+
+#include "dialogs/parameter_dialogs.h"
+
+#include <cstdint>
+
+namespace quendra {
+
+/// Opens the sheet on the state's working settings and the given host system. Every change goes
+/// into the working settings at once and stays there after Cancel. True on OK; then `host` is the
+/// host system chosen.
+[[nodiscard]] bool editTransferSettings(const DialogContext& context, std::uint8_t& host,
+                                        TransferDirection direction);
+
+}  // namespace quendra

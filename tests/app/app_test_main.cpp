@@ -1,0 +1,24 @@
+// Runs the tests without a screen, in a home folder that holds nothing of the user's.
+#include "support/temporary_folder.h"
+
+#include <QApplication>
+
+#include <gtest/gtest.h>
+
+int main(int argc, char** argv) {
+    ::testing::InitGoogleTest(&argc, argv);
+    const quendra::test::TemporaryFolder home;
+    const auto set = [&home](const char* name, const char* folder) {
+        qputenv(name, (home / folder).string().c_str());
+    };
+    set("HOME", "home");
+    set("XDG_CONFIG_HOME", "home/.config");
+    set("XDG_DATA_HOME", "home/.local/share");
+    set("XDG_CONFIG_DIRS", "etc");
+    qputenv("XDG_RUNTIME_DIR", home.path().string().c_str());
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    qputenv("QT_QPA_PLATFORMTHEME", "none");
+    QApplication application(argc, argv);
+    QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+    return RUN_ALL_TESTS();
+}

@@ -1,0 +1,113 @@
+#include "app/editor_fixture.h"
+
+#include "app/clipboard_commands.h"
+#include "app/ui_text.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QLabel>
+#include <QListView>
+
+namespace quendra::test {
+
+EditorState::EditorState() {
+    state.settings.programDir = pathFromQt(QCoreApplication::applicationDirPath());
+    state.settings.installDir = folder.path() / "installed";
+    state.settings.workingDir = folder.path();
+    state.settings.scriptsDir = folder.path();
+    state.settings.transferDir = folder.path();
+    state.settings.configDir = folder.path();
+    const auto notice = state.language.load(
+        {state.settings.programDir, state.settings.configDir, state.settings.installDir});
+    if (notice) throw std::runtime_error(notice->text);
+    state.luCatalogues = buildLuCatalogues(state.language.textSource());
+    state.menuCommands = buildMenuCommandCatalogue(state.language.textSource());
+}
+
+Bytes commentRecord(std::string_view text) {
+    return joined({Bytes{6}, counted(text)});
+}
+
+Bytes menuRecord(std::uint32_t commandId) {
+    return joined({Bytes{2}, word(commandId), word(0)});
+}
+
+Bytes scriptFile(std::string_view signature, std::initializer_list<Bytes> records) {
+    return joined({bytesOf(signature), joined(records)});
+}
+
+Bytes commentFile(std::size_t count) {
+    Bytes file = bytesOf("QDMDSCR=");
+    for (std::size_t i = 1; i <= count; ++i) {
+        const Bytes record = commentRecord(std::to_string(i));
+        file.insert(file.end(), record.begin(), record.end());
+    }
+    return file;
+}
+
+Answers::Answers() {
+    messagesBefore_ = replaceMessageHandler([this](QWidget*, const Message& message) {
+        messages.push_back(message);
+        if (message.buttons == MessageButtons::Ok) return MessageAnswer::Ok;
+        if (toMessages.empty()) {
+            ADD_FAILURE() << "unexpected question: " << message.text;
+            return MessageAnswer::Cancel;
+        }
+        const MessageAnswer answer = toMessages.front();
+        toMessages.pop_front();
+        return answer;
+    });
+    fileDialogsBefore_ = replaceFileDialogHandler(
+        [this](QWidget*, const FileDialogRequest& request) -> std::optional<std::filesystem::path> {
+            fileDialogs.push_back(request);
+            if (toFileDialogs.empty()) {
+                ADD_FAILURE() << "unexpected file dialog: " << request.title;
+                return std::nullopt;
+            }
+            auto answer = toFileDialogs.front();
+            toFileDialogs.pop_front();
+            return answer;
+        });
+}
+
+Answers::~Answers() {
+    EXPECT_TRUE(toMessages.empty()) << "a prepared answer was never asked for";
+    EXPECT_TRUE(toFileDialogs.empty()) << "a prepared file name was never asked for";
+    replaceMessageHandler(std::move(messagesBefore_));
+    replaceFileDialogHandler(std::move(fileDialogsBefore_));
+}
+
+EditorTest::EditorTest() : window(state) {
+    EditingCommands editing;
+    addClipboardCommands(editing, state, window);
+    window.setEditingCommands(std::move(editing));
+    window.show();
+    QApplication::setActiveWindow(&window);
+}
+
+std::filesystem::path EditorTest::open(const std::string& name, const Bytes& bytes) {
+    const auto path = editor.folder / name;
+    writeBytes(path, bytes);
+    answers.toFileDialogs.emplace_back(path);
+    action(301).trigger();
+    return path;
+}
+
+void EditorTest::select(std::initializer_list<std::size_t> entries, int focused) {
+    window.pane().selectEntries(std::vector<std::size_t>(entries), focused);
+}
+
+void EditorTest::choosePaletteRow(const char* list, int row) {
+    auto& view = widget<QListView>(list);
+    view.setCurrentIndex(view.model()->index(row, 0));
+}
+
+QAction& EditorTest::action(int command) {
+    return widget<QAction>(("command" + std::to_string(command)).c_str());
+}
+
+QString EditorTest::status() const {
+    return window.findChild<QLabel*>(QStringLiteral("statusLine"))->text();
+}
+
+}  // namespace quendra::test

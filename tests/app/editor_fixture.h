@@ -1,0 +1,79 @@
+// A running editor for tests: a made-up home, the real language library, the real window, and
+// answers for every question that it may ask.
+#pragma once
+
+#include "app/file_dialogs.h"
+#include "app/main_window.h"
+#include "app/message_box.h"
+#include "support/fixtures.h"
+#include "support/temporary_folder.h"
+
+#include <deque>
+#include <gtest/gtest.h>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace quendra::test {
+
+/// State as after start-up with an empty script; scripts lie in `folder`.
+struct EditorState {
+    EditorState();
+
+    TemporaryFolder folder;
+    ApplicationState state;
+};
+
+/// A Comment record with this text, as a file holds it.
+[[nodiscard]] Bytes commentRecord(std::string_view text);
+/// A record of a menu command without parameters.
+[[nodiscard]] Bytes menuRecord(std::uint32_t commandId);
+/// A current file: signature and records.
+[[nodiscard]] Bytes scriptFile(std::string_view signature, std::initializer_list<Bytes> records);
+/// A current Mainframe file with so many Comments "1", "2", ...
+[[nodiscard]] Bytes commentFile(std::size_t count);
+
+/// Answers message boxes and file dialogs while it lives, and keeps what was asked. A question
+/// without a prepared answer fails the test and is answered with Cancel.
+class Answers {
+  public:
+    Answers();
+    ~Answers();
+    Answers(const Answers&) = delete;
+    Answers& operator=(const Answers&) = delete;
+
+    std::deque<MessageAnswer> toMessages;
+    std::deque<std::optional<std::filesystem::path>> toFileDialogs;
+    std::vector<Message> messages;
+    std::vector<FileDialogRequest> fileDialogs;
+
+  private:
+    MessageHandler messagesBefore_;
+    FileDialogHandler fileDialogsBefore_;
+};
+
+class EditorTest : public ::testing::Test {
+  protected:
+    EditorTest();
+
+    /// Opens a file with these bytes through the menu command.
+    std::filesystem::path open(const std::string& name, const Bytes& bytes);
+    void select(std::initializer_list<std::size_t> entries, int focused);
+    void choosePaletteRow(const char* list, int row);
+    [[nodiscard]] QAction& action(int command);
+    [[nodiscard]] QString title() const { return window.windowTitle(); }
+    [[nodiscard]] QString status() const;
+    template <class T>
+    [[nodiscard]] T& widget(const char* name) {
+        T* found = window.findChild<T*>(QLatin1String(name));
+        if (found == nullptr) throw std::runtime_error(std::string("no widget ") + name);
+        return *found;
+    }
+
+    EditorState editor;
+    ApplicationState& state = editor.state;
+    Answers answers;
+    MainWindow window;
+};
+
+}  // namespace quendra::test
