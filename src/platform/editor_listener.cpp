@@ -94,7 +94,7 @@ void EditorListener::accept() {
 }
 
 void EditorListener::answer(int descriptor) {
-    std::array<char, maxEditorQuestion> buffer;
+    std::array<char, maxEditorQuestion> buffer{};
     const ssize_t size = ::recv(descriptor, buffer.data(), buffer.size(), MSG_DONTWAIT | MSG_TRUNC);
     if (size < 0 && (errno == EAGAIN || errno == EINTR)) return;
     // A packet that was cut gives its whole length.
