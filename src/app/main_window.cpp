@@ -312,6 +312,12 @@ void MainWindow::updateCommandStates() {
     }
 }
 
+void MainWindow::comeToFront() {
+    setWindowState(windowState() & ~Qt::WindowMinimized);
+    raise();
+    activateWindow();
+}
+
 void MainWindow::endSession() {
     state_.document.modified = false;
     updateTitle();

@@ -53,6 +53,9 @@ class MainWindow : public QMainWindow {
     /// document changes.
     void showNote(const std::string& note);
 
+    /// Restores the window if it is minimised and brings it in front of all others.
+    void comeToFront();
+
     /// The desktop session ends: the window closes without a question from now on.
     void endSession();
 

@@ -34,7 +34,7 @@ class EntryWriter {
 
     void byte(const char* name, std::uint8_t value) { object_[name] = value; }
     void word(const char* name, std::uint32_t value) { object_[name] = value; }
-    void flag(const char* name, std::uint8_t value) { object_[name] = jsonOfFlag(value); }
+    void flag(const char* name, std::uint32_t value) { object_[name] = jsonOfFlag(value); }
     void variable(const char* name, std::uint8_t kind) {
         const std::string_view known = inputVariableName(kind);
         object_[name] = known.empty() ? Json(kind) : Json(known);
