@@ -22,6 +22,15 @@ namespace {
 
 constexpr int wrongUsage = 2;
 
+// What the toolkit reads from the environment when it starts. A picture needs no screen.
+void prepareToolkit(const Environment& environment, const PictureOptions& picture) {
+    if (!picture.scale.empty()) qputenv("QT_SCALE_FACTOR", picture.scale.c_str());
+    const bool hasScreen = variable(environment, "DISPLAY") ||
+                           variable(environment, "WAYLAND_DISPLAY") ||
+                           variable(environment, "QT_QPA_PLATFORM");
+    if (!picture.file.isEmpty() && !hasScreen) qputenv("QT_QPA_PLATFORM", "offscreen");
+}
+
 // The window that other editors may ask about; none while it is not there.
 struct ShownWindow {
     ApplicationState* state = nullptr;
@@ -83,7 +92,7 @@ int runEditor(int& argc, char** argv, const CommandLine& line, const PictureOpti
                                 describeWindow(shown, className));
         if (admission.raisedOther) return 0;
     }
-    if (!picture.scale.empty()) qputenv("QT_SCALE_FACTOR", picture.scale.c_str());
+    prepareToolkit(inputs.environment, picture);
     QApplication application(argc, argv);
     QGuiApplication::setDesktopFileName(QStringLiteral("quendra-script-editor"));
     applyAppearance(application, picture.appearance);
