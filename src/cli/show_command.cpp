@@ -1,6 +1,5 @@
 // qds show: the lines of scripts, as the script list of the editor shows them.
 
-#include "cli/json_text.h"
 #include "cli/qds.h"
 #include "cli/script_json.h"
 #include "model/entry_display.h"
@@ -9,7 +8,6 @@
 #include "scriptfile/entry_codec.h"
 
 #include <iomanip>
-#include <nlohmann/json.hpp>
 
 namespace quendra::cli {
 
@@ -45,7 +43,8 @@ void printForm(const Show& show, const ReadResult& read) {
     const HostType hostType = read.signature.hostType;
     const JsonPrinting printing = {show.names.luFunctions.of(hostType), show.names.menuCommands,
                                    show.cipher, show.request.reveal};
-    show.environment.out << printJson(jsonOfScript(read.script, hostType, printing)) << '\n';
+    printScript(show.environment.out, read.script, hostType, printing);
+    show.environment.out << '\n';
 }
 
 bool showFile(const Show& show, const std::string& file) {

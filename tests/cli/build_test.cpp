@@ -32,6 +32,14 @@ std::string quoted(const std::string& text) {
     return '"' + text + '"';
 }
 
+std::string manyFields() {
+    std::string fields;
+    for (int i = 0; i < 1000; ++i) {
+        fields += quoted("f" + std::to_string(i)) + ": 0, ";
+    }
+    return "{" + fields + R"("hostType": "VT"})";
+}
+
 std::vector<Refusal> badForms() {
     const std::string many = times(R"({"command": "Beep"},)", 4096) + R"({"command": "Beep"})";
     return {
@@ -45,6 +53,8 @@ std::vector<Refusal> badForms() {
         {"DeepNesting", times("[", 100'000), "nested too deep"},
         {"DeepObjects", times(R"({"a":)", 100'000), "nested too deep"},
         {"ManyValues", "[" + times("0,", 500'000) + "0]", "more than any script has"},
+        {"ManyObjects", "[" + times("{},", 500'000) + "0]", "more than any script has"},
+        {"ManyFields", manyFields(), "too many fields"},
         {"FieldTwice", entryOf("Comment", R"("text": "a", "text": "b")"), "two fields called text"},
         {"NoObject", "[]", "must be an object"},
         {"NoHostType", R"({"entries": []})", "hostType: must be"},
