@@ -11,14 +11,6 @@ const LuCatalogue& luFunctions(const DialogContext& context) {
     return context.state.luCatalogues.of(context.state.currentHostType);
 }
 
-bool refuse(const DialogContext& context, const ActionPlace& place, const ActionChoice& choice) {
-    ApplicationState& state = context.state;
-    const auto refusal = refusalOf(choice, place.owner, state.currentHostType);
-    if (!refusal) return false;
-    showMessage(context.window, refusalMessage(*refusal, place, state.language.textSource()));
-    return true;
-}
-
 bool editTransfer(const DialogContext& context, const SlotFields& action, std::uint32_t commandId) {
     std::uint8_t host = action.transferHost;
     const auto direction =
@@ -59,9 +51,17 @@ ActionPlace placeOf(const EditTarget& target) {
     return {compares ? CommandCode::IfInputIs : CommandCode::WaitFor, target.slot};
 }
 
+std::optional<Message> refusalOf(const DialogContext& context, const EditTarget& target,
+                                 const ActionChoice& choice) {
+    ApplicationState& state = context.state;
+    const ActionPlace place = placeOf(target);
+    const auto refusal = refusalOf(choice, place.owner, state.currentHostType);
+    if (!refusal) return std::nullopt;
+    return refusalMessage(*refusal, place, state.language.textSource());
+}
+
 bool acceptChoice(const DialogContext& context, const EditTarget& target,
                   const ActionChoice& choice) {
-    if (refuse(context, placeOf(target), choice)) return false;
     const SlotFields action = slotFields(target.entry, target.slot);
     applyChoice(action, choice, luFunctions(context));
     return !lacksParameters(action) || askForParameters(context, target);
@@ -75,11 +75,12 @@ void openChoice(const DialogContext& context, const EditTarget& target,
         case DoubleClickAct::EditTransfer: openTransfer(context, action, choice); return;
         case DoubleClickAct::ChooseAndEdit: break;
     }
-    const ActionPlace place = placeOf(target);
-    // A Watch_For refuses an event without a dialog of its own only at OK.
-    const bool valid = !refusalOf(choice, place.owner, context.state.currentHostType);
-    if (!valid && place.owner == CommandCode::WatchFor) return;
-    if (refuse(context, place, choice)) return;
+    if (const auto refusal = refusalOf(context, target, choice)) {
+        // A Watch_For refuses only at OK.
+        const bool tells = placeOf(target).owner != CommandCode::WatchFor;
+        if (tells) showMessage(context.window, *refusal);
+        return;
+    }
     applyChoice(action, choice, luFunctions(context));
     static_cast<void>(askForParameters(context, target));
 }

@@ -1,5 +1,5 @@
-// Taking a choice as an action: with OK, and by double-click. Works on the dialog's copy of the
-// entry and shows refusals over the dialog.
+// Taking a choice as an action: with OK, and by double-click. Both work on the dialog's copy of the
+// entry and open further dialogs over `context.window`.
 #pragma once
 
 #include "dialogs/action_rules.h"
@@ -10,9 +10,13 @@ namespace quendra {
 /// Which action of which command the target is.
 [[nodiscard]] ActionPlace placeOf(const EditTarget& target);
 
-/// OK: the action becomes what was chosen, and what it then lacks is asked for. True when the
-/// dialog may end; false after a refusal, which leaves the action alone, and when the asking was
-/// cancelled, which leaves its new command.
+/// What the user is told when the choice cannot be taken.
+[[nodiscard]] std::optional<Message> refusalOf(const DialogContext& context,
+                                               const EditTarget& target,
+                                               const ActionChoice& choice);
+
+/// OK on a choice that is not refused: the action becomes what was chosen, and what it then lacks
+/// is asked for. False when the asking was cancelled; the action then has its new command already.
 [[nodiscard]] bool acceptChoice(const DialogContext& context, const EditTarget& target,
                                 const ActionChoice& choice);
 
