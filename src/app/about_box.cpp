@@ -1,5 +1,6 @@
 #include "app/about_box.h"
 
+#include "app/placement.h"
 #include "app/startup_settings.h"
 #include "app/symbol_icon.h"
 #include "app/ui_text.h"
@@ -66,6 +67,8 @@ AboutBox::AboutBox(LanguageLibrary& language, QWidget* parent) : QDialog(parent)
     all->addWidget(buttons);
     layout()->setSizeConstraint(QLayout::SetFixedSize);
     buttons->button(QDialogButtonBox::Ok)->setFocus();
+    adjustSize();
+    centreOnScreen(*this);
 }
 
 void AboutBox::keyPressEvent(QKeyEvent* event) {

@@ -1,11 +1,8 @@
 #include "app/appearance.h"
 
-#include <QAbstractItemView>
+#include "app/editor_style.h"
+
 #include <QApplication>
-#include <QPainter>
-#include <QProxyStyle>
-#include <QStyleFactory>
-#include <QStyleOption>
 #include <QToolTip>
 
 namespace quendra {
@@ -21,7 +18,8 @@ struct Colours {
     QRgb button;
     QRgb highlight;
     QRgb highlightedText;
-    /// The selection of a list that does not have the focus.
+    /// The selection of a list that does not have the focus: dark enough for the white that icons
+    /// take on any selection.
     QRgb quietHighlight;
     QRgb quietHighlightedText;
     QRgb toolTip;
@@ -43,8 +41,8 @@ constexpr Colours lightColours = {
     .button = 0xfff3f4f6,
     .highlight = 0xff2463c5,
     .highlightedText = 0xffffffff,
-    .quietHighlight = 0xffd5dae2,
-    .quietHighlightedText = 0xff1b1f24,
+    .quietHighlight = 0xff6a7484,
+    .quietHighlightedText = 0xffffffff,
     .toolTip = 0xfffffdf2,
     .link = 0xff1f5bb8,
     .light = 0xffffffff,
@@ -63,8 +61,8 @@ constexpr Colours darkColours = {
     .button = 0xff32363c,
     .highlight = 0xff2f6bc6,
     .highlightedText = 0xffffffff,
-    .quietHighlight = 0xff3c424b,
-    .quietHighlightedText = 0xffe6e8eb,
+    .quietHighlight = 0xff4d5561,
+    .quietHighlightedText = 0xffffffff,
     .toolTip = 0xff32363c,
     .link = 0xff82b1ff,
     .light = 0xff4a4f57,
@@ -108,30 +106,6 @@ QPalette paletteOf(const Colours& c) {
     palette.setColor(QPalette::Disabled, QPalette::Highlight, QColor::fromRgb(c.mid));
     return palette;
 }
-
-bool isDark(const QPalette& palette) {
-    return palette.color(QPalette::Window).lightness() <
-           palette.color(QPalette::WindowText).lightness();
-}
-
-// Fusion, with what it leaves out: a list shows that it has the focus.
-class EditorStyle : public QProxyStyle {
-  public:
-    EditorStyle() : QProxyStyle(QStyleFactory::create(QStringLiteral("Fusion"))) {}
-
-    void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
-                     const QWidget* widget) const override {
-        QProxyStyle::drawControl(element, option, painter, widget);
-        if (element == CE_ShapedFrame && qobject_cast<const QAbstractItemView*>(widget) &&
-            widget->hasFocus()) {
-            painter->save();
-            painter->setPen(option->palette.color(QPalette::Active, QPalette::Highlight));
-            painter->setBrush(Qt::NoBrush);
-            painter->drawRect(option->rect.adjusted(0, 0, -1, -1));
-            painter->restore();
-        }
-    }
-};
 
 }  // namespace
 

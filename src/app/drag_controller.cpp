@@ -129,6 +129,8 @@ void DragController::begin() {
     marked_ = {};
     QToolTip::hideText();
     QApplication::setOverrideCursor(Qt::BlankCursor);
+    // Moves without a button are how a release that went elsewhere is noticed.
+    pane_.setMouseTracking(true);
     pane_.grabMouse();
     image_ = std::make_unique<DragImage>(source(), pane_.mapFromGlobal(start_), &pane_);
 }
@@ -138,6 +140,7 @@ void DragController::finish() {
     image_.reset();
     lists_.front()->setLandingLines({});
     pane_.releaseMouse();
+    pane_.setMouseTracking(false);
     QApplication::restoreOverrideCursor();
 }
 

@@ -10,7 +10,7 @@
 namespace quendra {
 namespace {
 
-constexpr double seeThrough = 0.75;
+constexpr double seeThrough = 0.85;
 
 }  // namespace
 

@@ -387,7 +387,11 @@ QSize EditorPane::minimumSizeHint() const {
     const int listHeight = leastRows * list.sizeHintForRow(0) + 2 * list.frameWidth();
     // What the label and the gaps take from a third of the height.
     const int around = 1000 - paneGeometry({0, 3000}, textHeight).palettes[0].list.height();
-    return {20 * textHeight, 3 * (listHeight + around)};
+    int labelWidth = 0;
+    for (const QLabel* label : d_->labels_) {
+        labelWidth = std::max(labelWidth, label->sizeHint().width());
+    }
+    return {std::max(20 * textHeight, 3 * labelWidth), 3 * (listHeight + around)};
 }
 
 void EditorPane::resizeEvent(QResizeEvent* event) {

@@ -3,6 +3,8 @@
 #include "app/ui_text.h"
 
 #include <QFileDialog>
+#include <QHeaderView>
+#include <QTreeView>
 
 #include <utility>
 
@@ -10,14 +12,26 @@ namespace quendra {
 
 namespace {
 
+constexpr QSize comfortableDialogSize{820, 520};
+
 FileDialogHandler& currentHandler() {
     static FileDialogHandler handler;
     return handler;
 }
 
+// Sizes and dates whole, all the rest of the width for the names.
+void fitColumns(const QFileDialog& dialog) {
+    const auto* files = dialog.findChild<QTreeView*>(QStringLiteral("treeView"));
+    if (files == nullptr) return;
+    files->header()->setStretchLastSection(false);
+    files->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    files->header()->setSectionResizeMode(0, QHeaderView::Stretch);
+}
+
 std::optional<std::filesystem::path> runDialog(QWidget* owner, const FileDialogRequest& request) {
     QFileDialog dialog(owner, qtText(request.title));
     dialog.setObjectName(QStringLiteral("fileDialog"));
+    dialog.resize(comfortableDialogSize);
     const bool saving = request.mode == FileDialogMode::Save;
     dialog.setAcceptMode(saving ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
     dialog.setFileMode(saving ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
@@ -27,6 +41,7 @@ std::optional<std::filesystem::path> runDialog(QWidget* owner, const FileDialogR
     if (!request.initialFolder.empty()) {
         dialog.setDirectory(QFile::decodeName(request.initialFolder.c_str()));
     }
+    fitColumns(dialog);
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return std::nullopt;
     return std::filesystem::absolute(pathFromQt(dialog.selectedFiles().constFirst()));
 }

@@ -4,6 +4,7 @@
 #include "app/command_states.h"
 #include "app/commands.h"
 #include "app/file_dialogs.h"
+#include "app/placement.h"
 #include "app/status_line.h"
 #include "app/symbol_icon.h"
 #include "app/ui_text.h"
@@ -41,6 +42,15 @@ QString asToolTip(const std::string& text) {
     return QStringLiteral("<qt>") + plain.toHtmlEscaped() + QStringLiteral("</qt>");
 }
 
+// Qt's own buttons for what a narrow window has no room for.
+void nameExtensionButtons(QWidget& window) {
+    for (const char* name : {"qt_toolbar_ext_button", "qt_menubar_ext_button"}) {
+        if (auto* button = window.findChild<QWidget*>(QLatin1String(name))) {
+            button->setAccessibleName(QStringLiteral("More commands"));
+        }
+    }
+}
+
 }  // namespace
 
 MainWindow::MainWindow(ApplicationState& state, QWidget* parent)
@@ -52,6 +62,7 @@ MainWindow::MainWindow(ApplicationState& state, QWidget* parent)
     buildMenus();
     buildToolBar();
     buildStatusBar();
+    nameExtensionButtons(*this);
     pane_ = new EditorPane(state_, this);
     setCentralWidget(pane_);
     connect(pane_, &EditorPane::commandRequested, this, &MainWindow::runCommand);
@@ -127,16 +138,14 @@ void MainWindow::buildStatusBar() {
     statusLine_ = new StatusLine;
     statusLine_->setObjectName(QStringLiteral("statusLine"));
     statusBar()->setObjectName(QStringLiteral("statusBar"));
+    statusLine_->setContentsMargins(4, 0, 4, 0);
     statusBar()->addWidget(statusLine_, 1);
 }
 
 void MainWindow::placeOnScreen() {
     setMinimumSize(smallestSize.width() * 3 / 4, smallestSize.height() * 3 / 4);
-    const QRect screen = this->screen()->geometry();
-    const QRect usable = this->screen()->availableGeometry();
-    resize(comfortableSize.boundedTo(usable.size()));
-    move(screen.left() + (screen.width() - width()) / 2,
-         std::max(usable.top(), screen.top() + (screen.height() - height()) / 2 - 10));
+    resize(comfortableSize.boundedTo(screen()->availableSize()));
+    centreOnScreen(*this);
 }
 
 void MainWindow::runCommand(int command) {

@@ -16,6 +16,8 @@ namespace {
 
 constexpr int iconExtent = 16;
 constexpr int lineThickness = 2;
+/// Right of the text of a row that is painted only as wide as its text.
+constexpr int textMargin = 4;
 
 class RowDelegate : public QStyledItemDelegate {
   public:
@@ -28,11 +30,16 @@ class RowDelegate : public QStyledItemDelegate {
         return {0, std::max(option.decorationSize.height(), option.fontMetrics.height()) + 3};
     }
 
+    [[nodiscard]] int neededWidth(const QStyleOptionViewItem& option,
+                                  const QModelIndex& index) const {
+        return QStyledItemDelegate::sizeHint(option, index).width();
+    }
+
     /// Only a row whose text is cut off has more to tell.
     bool helpEvent(QHelpEvent* event, QAbstractItemView* view, const QStyleOptionViewItem& option,
                    const QModelIndex& index) override {
-        const int needed = QStyledItemDelegate::sizeHint(option, index).width();
-        if (index.isValid() && event->type() == QEvent::ToolTip && needed <= option.rect.width()) {
+        if (index.isValid() && event->type() == QEvent::ToolTip &&
+            neededWidth(option, index) <= option.rect.width()) {
             QToolTip::hideText();
             return true;
         }
@@ -40,12 +47,18 @@ class RowDelegate : public QStyledItemDelegate {
     }
 };
 
+/// Icons keep up with large text.
+void fitIcons(PaneList& list) {
+    const int extent = std::max(iconExtent, list.fontMetrics().height());
+    list.setIconSize({extent, extent});
+}
+
 }  // namespace
 
 PaneList::PaneList(QWidget* parent) : QListView(parent) {
     setItemDelegate(new RowDelegate(this));
     setUniformItemSizes(true);
-    setIconSize({iconExtent, iconExtent});
+    fitIcons(*this);
     setTextElideMode(Qt::ElideRight);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setEditTriggers(NoEditTriggers);
@@ -74,10 +87,14 @@ QRect PaneList::rowRect(int row) const {
 void PaneList::paintSelectedRow(QPainter& painter, int row) const {
     QStyleOptionViewItem option;
     initViewItemOption(&option);
-    option.rect = QRect({0, 0}, rowRect(row).size());
+    const auto& delegate = static_cast<const RowDelegate&>(*itemDelegate());
+    const QModelIndex index = model()->index(row, 0);
+    const QSize whole = rowRect(row).size();
+    const int width = std::min(whole.width(), delegate.neededWidth(option, index) + textMargin);
+    option.rect = QRect(0, 0, width, whole.height());
     option.state |= QStyle::State_Selected | QStyle::State_Active;
     option.state &= ~QStyle::State_HasFocus;
-    itemDelegate()->paint(&painter, option, model()->index(row, 0));
+    delegate.paint(&painter, option, index);
 }
 
 void PaneList::setLandingLines(std::vector<int> rows) {
@@ -111,6 +128,11 @@ void PaneList::focusInEvent(QFocusEvent* event) {
     // means something: what is inserted goes to the end.
     QAbstractScrollArea::focusInEvent(event);
     viewport()->update();
+}
+
+void PaneList::changeEvent(QEvent* event) {
+    QListView::changeEvent(event);
+    if (event->type() == QEvent::FontChange) fitIcons(*this);
 }
 
 }  // namespace quendra

@@ -22,7 +22,8 @@ class PaneList : public QListView {
 
     /// Where a row stands in the viewport's coordinates, also a row out of sight.
     [[nodiscard]] QRect rowRect(int row) const;
-    /// Paints a row as it looks when it is selected, at the painter's origin.
+    /// Paints a row as it looks when it is selected, at the painter's origin and no wider than its
+    /// text.
     void paintSelectedRow(QPainter& painter, int row) const;
 
     /// Lines across the list above these rows (the row count stands for the end of the list); a
@@ -33,6 +34,7 @@ class PaneList : public QListView {
   protected:
     void paintEvent(QPaintEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
+    void changeEvent(QEvent* event) override;
 
   private:
     std::vector<int> landingLines_;

@@ -79,8 +79,8 @@ QPixmap render(const QByteArray& drawing, QSize pixels) {
     QSvgRenderer renderer(drawing);
     QPainter painter(&pixmap);
     const int side = std::min(pixels.width(), pixels.height());
-    renderer.render(&painter,
-                    QRectF((pixels.width() - side) / 2, (pixels.height() - side) / 2, side, side));
+    const QPoint corner((pixels.width() - side) / 2, (pixels.height() - side) / 2);
+    renderer.render(&painter, QRectF(QRect(corner, QSize(side, side))));
     return pixmap;
 }
 

@@ -15,18 +15,21 @@ Announcement wrongUsage(const std::string& what) {
 // The parser and what it fills. The lists of files are read from their options as they were typed,
 // since the parser's conversion drops a file called "{}".
 struct Parser {
-    CLI::App app{"Show and convert terminal automation scripts.", "qds"};
+    CLI::App app{"Show, convert and build terminal automation scripts.", "qds"};
     CLI::App* show = nullptr;
     CLI::App* convert = nullptr;
+    CLI::App* build = nullptr;
     CLI::App* texts = nullptr;
     ShowRequest showRequest;
     ConvertRequest convertRequest;
+    BuildRequest buildRequest;
     std::string hostName;
     std::vector<std::string> typedFiles;
 
     Parser();
     void addShow();
     void addConvert();
+    void addBuild();
     CLI::Option* addFiles(CLI::App& command, const std::string& help);
 };
 
@@ -41,6 +44,7 @@ Parser::Parser() {
         "2 wrong usage.");
     addShow();
     addConvert();
+    addBuild();
     texts = app.add_subcommand("texts", "Print every text of the user interface by its number")
                 ->group("Commands");
 }
@@ -52,7 +56,9 @@ CLI::Option* Parser::addFiles(CLI::App& command, const std::string& help) {
 void Parser::addShow() {
     show = app.add_subcommand("show", "Print the entries of scripts, one line for each")
                ->group("Commands");
-    show->add_flag("--numbers", showRequest.numbers, "Number the lines");
+    auto* numbers = show->add_flag("--numbers", showRequest.numbers, "Number the lines");
+    show->add_flag("--json", showRequest.json, "Print the JSON form that build reads")
+        ->excludes(numbers);
     show->add_flag("--reveal", showRequest.reveal, "Print hidden texts too");
     addFiles(*show, "Script files");
 }
@@ -71,6 +77,16 @@ void Parser::addConvert() {
                    "Replace the files; each old one is kept as FILE.bak")
         ->excludes(output);
     addFiles(*convert, "Script files; only one with --output");
+}
+
+void Parser::addBuild() {
+    build = app.add_subcommand("build", "Make a script from its JSON form")->group("Commands");
+    build->add_option("SOURCE.json", buildRequest.source, "The JSON form")
+        ->required()
+        ->type_name("");
+    build->add_option("--output", buildRequest.output, "Write to this file")
+        ->required()
+        ->type_name("OUT.qds");
 }
 
 Request convertRequestOf(const Parser& parser) {
@@ -106,6 +122,7 @@ Request requestOf(const Parser& parser) {
         return request;
     }
     if (parser.convert->parsed()) return convertRequestOf(parser);
+    if (parser.build->parsed()) return parser.buildRequest;
     return TextsRequest{};
 }
 

@@ -21,6 +21,7 @@ inline constexpr const char* standardStream = "-";
 
 struct ShowRequest {
     bool numbers = false;
+    bool json = false;
     bool reveal = false;
     std::vector<std::string> files;
 };
@@ -35,6 +36,11 @@ struct ConvertRequest {
     std::vector<std::string> files;
 };
 
+struct BuildRequest {
+    std::string source;
+    std::string output;
+};
+
 struct TextsRequest {};
 
 /// Nothing to do but to print: help and version to standard output, with status 0; wrong usage to
@@ -44,7 +50,7 @@ struct Announcement {
     int status = statusWell;
 };
 
-using Request = std::variant<Announcement, ShowRequest, ConvertRequest, TextsRequest>;
+using Request = std::variant<Announcement, ShowRequest, ConvertRequest, BuildRequest, TextsRequest>;
 
 /// Takes apart the arguments without the program's name. Arguments that make no sense give an
 /// announcement that says so.

@@ -1,30 +1,12 @@
 // qds convert: scripts in the current version of the format, for the same or another host type.
 
+#include "cli/loss_report.h"
 #include "cli/qds.h"
-#include "model/entry_display.h"
-#include "platform/registry.h"
-#include "platform/text_encoding.h"
-#include "scriptfile/entry_codec.h"
 #include "scriptfile/script_writer.h"
 
 namespace quendra::cli {
 
 namespace {
-
-void reportUnstorable(Environment& environment, const std::string& file, const ReadResult& read,
-                      HostType hostType, const std::vector<std::size_t>& indexes) {
-    const EntryNames names(environment);
-    const HiddenTextCipher cipher(userIdentity());
-    const DisplayNames display = {names.luFunctions.of(read.signature.hostType),
-                                  names.menuCommands};
-    for (const std::size_t index : indexes) {
-        const ScriptEntry entry = unpackEntry(read.script.entries[index], cipher);
-        report(environment, file,
-               "entry " + std::to_string(index + 1) + " cannot be stored in a script for " +
-                   std::string(hostTypeInfo(hostType).name) + ": " +
-                   escapeControlCharacters(formatEntryLine(entry, display)));
-    }
-}
 
 bool replaceSource(Environment& environment, const std::string& file,
                    std::span<const std::uint8_t> bytes, const FileContent& source) {
@@ -42,9 +24,7 @@ bool convertFile(const ConvertRequest& request, Environment& environment, const 
     const HostType hostType = request.hostType.value_or(read.signature.hostType);
 
     bool losesNothing = reportReading(environment, file, read);
-    const auto unstorable = unstorableEntries(read.script, hostType);
-    if (!unstorable.empty()) {
-        reportUnstorable(environment, file, read, hostType, unstorable);
+    if (reportLoss(environment, file, read.script, read.signature.hostType, hostType)) {
         losesNothing = false;
     }
     if (!losesNothing && !request.allowLoss) return false;

@@ -16,6 +16,7 @@ struct RequestRunner {
     int operator()(const ConvertRequest& request) const {
         return convertScripts(request, environment);
     }
+    int operator()(const BuildRequest& request) const { return buildScript(request, environment); }
     int operator()(const TextsRequest&) const { return printTexts(environment); }
 };
 

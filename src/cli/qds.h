@@ -15,6 +15,7 @@ namespace quendra::cli {
 
 [[nodiscard]] int showScripts(const ShowRequest& request, Environment& environment);
 [[nodiscard]] int convertScripts(const ConvertRequest& request, Environment& environment);
+[[nodiscard]] int buildScript(const BuildRequest& request, Environment& environment);
 [[nodiscard]] int printTexts(Environment& environment);
 
 }  // namespace quendra::cli

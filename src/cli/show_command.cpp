@@ -1,12 +1,15 @@
 // qds show: the lines of scripts, as the script list of the editor shows them.
 
+#include "cli/json_text.h"
 #include "cli/qds.h"
+#include "cli/script_json.h"
 #include "model/entry_display.h"
 #include "platform/registry.h"
 #include "platform/text_encoding.h"
 #include "scriptfile/entry_codec.h"
 
 #include <iomanip>
+#include <nlohmann/json.hpp>
 
 namespace quendra::cli {
 
@@ -20,8 +23,9 @@ struct Show {
     bool isFirst = true;
 };
 
+// JSON has none: what prints one form after another is made for programs.
 void printHeading(Show& show, const std::string& file) {
-    if (show.request.files.size() < 2) return;
+    if (show.request.files.size() < 2 || show.request.json) return;
     if (!show.isFirst) show.environment.out << '\n';
     show.isFirst = false;
     show.environment.out << "==> " << shownName(file) << " <==\n";
@@ -39,11 +43,22 @@ void printLines(const Show& show, const ReadResult& read) {
     }
 }
 
+void printForm(const Show& show, const ReadResult& read) {
+    const HostType hostType = read.signature.hostType;
+    const JsonPrinting printing = {show.names.luFunctions.of(hostType), show.names.menuCommands,
+                                   show.cipher, show.request.reveal};
+    show.environment.out << printJson(jsonOfScript(read.script, hostType, printing)) << '\n';
+}
+
 bool showFile(Show& show, const std::string& file) {
     const auto source = readScriptInput(show.environment, file);
     if (!source) return false;
     printHeading(show, file);
-    printLines(show, source->read);
+    if (show.request.json) {
+        printForm(show, source->read);
+    } else {
+        printLines(show, source->read);
+    }
     // What was read stands above the message also where both go to the same screen.
     show.environment.out.flush();
     return reportReading(show.environment, file, source->read);

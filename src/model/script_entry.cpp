@@ -45,7 +45,9 @@ std::string_view compareTextOf(const ScriptEntry& entry) {
 }
 
 void setText(const SlotFields& fields, std::string_view value) {
-    fields.textLength = static_cast<std::uint8_t>(assign(fields.text, value));
+    const std::string_view stored = value.substr(0, maxTextLength);
+    if (textOf(fields) == stored) return;
+    fields.textLength = static_cast<std::uint8_t>(assign(fields.text, stored));
     fields.kept.reset();
 }
 

@@ -146,6 +146,7 @@ struct BasicSlotFields {
     Ref<KeptBytes> kept;
 
     /// A view to write through serves wherever one to read from is asked for.
+    // NOLINTNEXTLINE(google-explicit-constructor): it must be tacit, as for a pointer
     operator BasicSlotFields<const E>() const requires(!std::is_const_v<E>) {
         return {code,
                 textLength,
@@ -214,7 +215,8 @@ template <class E>
 [[nodiscard]] std::string_view compareTextOf(const ScriptEntry& entry);
 
 /// Stores the first 255 (prompt: 1023) bytes of `value` with the length and zeros behind. A new
-/// text drops what was kept of the old one.
+/// text drops what was kept of the old one; the same text again does not, so that a dialog left
+/// with OK and nothing changed gives back somebody else's hidden text as it was.
 void setText(const SlotFields& fields, std::string_view value);
 void setPrompt(const SlotFields& fields, std::string_view value);
 void setCompareText(ScriptEntry& entry, std::string_view value);

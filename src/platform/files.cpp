@@ -1,5 +1,7 @@
 #include "platform/files.h"
 
+#include "platform/descriptor.h"
+
 #include <algorithm>
 #include <array>
 #include <cerrno>
@@ -22,24 +24,6 @@ FileFailure lastFailure() {
     const int code = errno;
     return {code, std::generic_category().message(code)};
 }
-
-// A descriptor that is closed when it goes; where the result of closing matters, close() is called
-// before.
-class Descriptor {
-  public:
-    explicit Descriptor(int descriptor) : descriptor_(descriptor) {}
-    Descriptor(const Descriptor&) = delete;
-    Descriptor& operator=(const Descriptor&) = delete;
-    ~Descriptor() {
-        if (descriptor_ >= 0) ::close(descriptor_);
-    }
-    [[nodiscard]] bool isOpen() const { return descriptor_ >= 0; }
-    [[nodiscard]] int get() const { return descriptor_; }
-    [[nodiscard]] bool close() { return ::close(std::exchange(descriptor_, -1)) == 0; }
-
-  private:
-    int descriptor_;
-};
 
 FileStamp stampOf(const struct stat& state) {
     return {state.st_dev, state.st_ino, static_cast<std::uint64_t>(state.st_size),
@@ -125,18 +109,21 @@ bool syncFolder(const fs::path& folder) {
     return descriptor.isOpen() && (::fsync(descriptor.get()) == 0 || errno == EINVAL);
 }
 
+bool copyBytes(int source, int target) {
+    std::array<std::uint8_t, 65536> buffer{};
+    ssize_t got = 0;
+    while ((got = readFully(source, buffer.data(), buffer.size())) > 0) {
+        if (!writeAll(target, std::span(buffer).first(static_cast<std::size_t>(got)))) return false;
+    }
+    return got == 0;
+}
+
 bool copyNew(const fs::path& from, const fs::path& to, mode_t mode) {
     const Descriptor source(::open(from.c_str(), O_RDONLY | O_CLOEXEC));
     if (!source.isOpen()) return false;
     Descriptor target(::open(to.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, mode & 0777));
     if (!target.isOpen()) return false;
-    std::array<std::uint8_t, 65536> buffer{};
-    ssize_t got = 0;
-    bool done = true;
-    while (done && (got = readFully(source.get(), buffer.data(), buffer.size())) > 0) {
-        done = writeAll(target.get(), std::span(buffer).first(static_cast<std::size_t>(got)));
-    }
-    done = done && got == 0 && ::fsync(target.get()) == 0;
+    bool done = copyBytes(source.get(), target.get()) && ::fsync(target.get()) == 0;
     done = target.close() && done;
     if (!done) {
         const int error = errno;
@@ -240,6 +227,29 @@ ReplaceResult replaceFile(const fs::path& path, std::span<const std::uint8_t> by
     // nothing is undone.
     if (!syncFolder(target.parent_path())) result.failure = lastFailure();
     return result;
+}
+
+std::optional<FileFailure> copyFile(const fs::path& from, const fs::path& to) {
+    const Descriptor source(::open(from.c_str(), O_RDONLY | O_CLOEXEC));
+    struct stat old {};
+    struct stat state {};
+    if (!source.isOpen() || ::fstat(source.get(), &old) != 0) return lastFailure();
+    const fs::path target = linkTarget(to);
+    if (::stat(target.c_str(), &state) == 0 && state.st_dev == old.st_dev &&
+        state.st_ino == old.st_ino) {
+        return std::nullopt;
+    }
+    TemporaryFile temporary(target);
+    if (!temporary.opened) return lastFailure();
+    const int descriptor = temporary.descriptor.get();
+    if (!copyBytes(source.get(), descriptor) || ::fchmod(descriptor, old.st_mode & 0777) != 0 ||
+        ::fsync(descriptor) != 0 || !temporary.descriptor.close() ||
+        ::rename(temporary.path.c_str(), target.c_str()) != 0) {
+        return lastFailure();
+    }
+    temporary.path.clear();
+    if (!syncFolder(target.parent_path())) return lastFailure();
+    return std::nullopt;
 }
 
 }  // namespace quendra

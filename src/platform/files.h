@@ -65,4 +65,9 @@ struct ReplaceResult {
 [[nodiscard]] ReplaceResult replaceFile(const std::filesystem::path& path,
                                         std::span<const std::uint8_t> bytes, OldFile oldFile);
 
+/// Puts a copy of the file `from`, with its mode, at `to` by the same way. None when it is there;
+/// also when both are the same file, which is left alone.
+[[nodiscard]] std::optional<FileFailure> copyFile(const std::filesystem::path& from,
+                                                  const std::filesystem::path& to);
+
 }  // namespace quendra

@@ -1,11 +1,10 @@
 #include "platform/registry.h"
 
-#include "platform/profile_file.h"
-
 #include <algorithm>
-#include <cstdlib>
+#include <charconv>
 #include <filesystem>
-#include <vector>
+#include <unistd.h>
+#include <utility>
 
 namespace quendra {
 
@@ -13,59 +12,103 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// An environment variable that is set and not empty.
-std::optional<std::string> environment(const char* name) {
-    const char* value = std::getenv(name);
-    if (!value || !*value) return std::nullopt;
-    return value;
+constexpr const char* fileInFolder = "quendra/registry.ini";
+
+std::optional<fs::path> userFile(const Environment& environment) {
+    if (const auto config = folderVariable(environment, "XDG_CONFIG_HOME")) {
+        return *config / fileInFolder;
+    }
+    if (const auto home = folderVariable(environment, "HOME")) {
+        return *home / ".config" / fileInFolder;
+    }
+    return std::nullopt;
 }
 
-std::vector<fs::path> rootFolders(RegistryRoot root) {
-    if (root == RegistryRoot::CurrentUser) {
-        if (const auto config = environment("XDG_CONFIG_HOME")) return {*config};
-        if (const auto home = environment("HOME")) return {fs::path(*home) / ".config"};
-        return {};
-    }
-    std::vector<fs::path> folders;
-    const std::string list = environment("XDG_CONFIG_DIRS").value_or("/etc/xdg");
-    for (std::size_t start = 0; start <= list.size();) {
+std::vector<fs::path> machineFiles(const Environment& environment) {
+    std::vector<fs::path> files;
+    const std::string list = variable(environment, "XDG_CONFIG_DIRS").value_or("/etc/xdg");
+    for (std::size_t start = 0; start < list.size();) {
         const std::size_t end = std::min(list.find(':', start), list.size());
-        if (end > start) folders.emplace_back(list.substr(start, end - start));
+        if (list[start] == '/')
+            files.push_back(list.substr(start, end - start) / fs::path(fileInFolder));
         start = end + 1;
     }
-    return folders;
+    return files;
 }
 
-// The profiles of a root that exist, most important first.
-std::vector<Profile> profilesOf(RegistryRoot root) {
-    std::vector<Profile> profiles;
-    for (const fs::path& folder : rootFolders(root)) {
-        if (auto profile = readProfileFile(folder / "quendra" / "registry.ini")) {
-            profiles.push_back(std::move(*profile));
-        }
-    }
-    return profiles;
+void addProfile(std::vector<Profile>& profiles, const fs::path& file) {
+    if (auto profile = readProfileFile(file)) profiles.push_back(std::move(*profile));
+}
+
+const std::vector<Profile>& profilesOf(const Registry& registry, RegistryRoot root) {
+    return root == RegistryRoot::CurrentUser ? registry.currentUser : registry.localMachine;
+}
+
+// Digits up to the end of the text, at most 255.
+std::optional<std::uint8_t> parseByte(std::string_view digits, int base) {
+    std::uint8_t value = 0;
+    const char* const end = digits.data() + digits.size();
+    const auto result = std::from_chars(digits.data(), end, value, base);
+    if (result.ec != std::errc() || result.ptr != end) return std::nullopt;
+    return value;
 }
 
 }  // namespace
 
-std::optional<std::string> registryText(RegistryRoot root, std::string_view key,
-                                        std::string_view value) {
-    for (const Profile& profile : profilesOf(root)) {
+Registry readRegistry(const Environment& environment) {
+    Registry registry;
+    if (const auto file = userFile(environment)) addProfile(registry.currentUser, *file);
+    for (const fs::path& file : machineFiles(environment))
+        addProfile(registry.localMachine, file);
+    return registry;
+}
+
+std::optional<std::string> registryText(const Registry& registry, RegistryRoot root,
+                                        std::string_view key, std::string_view value) {
+    for (const Profile& profile : profilesOf(registry, root)) {
         if (auto text = lookup(profile, key, value)) return text;
     }
     return std::nullopt;
 }
 
-bool registryHasKey(RegistryRoot root, std::string_view key) {
-    for (const Profile& profile : profilesOf(root)) {
-        if (hasSection(profile, key)) return true;
+std::optional<std::uint8_t> registryByte(const Registry& registry, RegistryRoot root,
+                                         std::string_view key, std::string_view value) {
+    const auto text = registryText(registry, root, key, value);
+    if (!text) return std::nullopt;
+    const std::string_view digits = *text;
+    for (const std::string_view prefix : {"hex:", "0x", "0X"}) {
+        if (digits.starts_with(prefix)) return parseByte(digits.substr(prefix.size()), 16);
     }
-    return false;
+    return parseByte(digits, 10);
+}
+
+bool registryHasKey(const Registry& registry, RegistryRoot root, std::string_view key) {
+    return std::ranges::any_of(profilesOf(registry, root),
+                               [&](const Profile& profile) { return hasSection(profile, key); });
+}
+
+bool userRegistryUsable(const Environment& environment) {
+    const auto file = userFile(environment);
+    if (!file) return false;
+    std::error_code error;
+    if (fs::exists(*file, error)) {
+        return fs::is_regular_file(*file, error) && ::access(file->c_str(), R_OK) == 0;
+    }
+    // What would have to be made begins below the nearest folder that is there.
+    fs::path folder = file->parent_path();
+    while (::access(folder.c_str(), F_OK) != 0 && folder.has_relative_path()) {
+        folder = folder.parent_path();
+    }
+    return fs::is_directory(folder, error) && ::access(folder.c_str(), W_OK | X_OK) == 0;
+}
+
+std::string userIdentity(const Registry& registry) {
+    return registryText(registry, RegistryRoot::CurrentUser, "Identities", "Default User ID")
+        .value_or("");
 }
 
 std::string userIdentity() {
-    return registryText(RegistryRoot::CurrentUser, "Identities", "Default User ID").value_or("");
+    return userIdentity(readRegistry(processEnvironment()));
 }
 
 }  // namespace quendra

@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 #include <numeric>
 #include <random>
+#include <ranges>
 
 namespace quendra::test {
 
@@ -51,8 +52,8 @@ TEST(Script, removesAnySelectionLikeOneByOne) {
         Script script = numberedScript(count);
         auto expected = script.entries;
         const auto indexes = someIndexes(random, count);
-        for (auto i = indexes.rbegin(); i != indexes.rend(); ++i) {
-            expected.erase(expected.begin() + static_cast<std::ptrdiff_t>(*i));
+        for (const std::size_t index : std::views::reverse(indexes)) {
+            expected.erase(expected.begin() + static_cast<std::ptrdiff_t>(index));
         }
         removeEntries(script, indexes);
         EXPECT_EQ(script.entries, expected);
@@ -75,8 +76,8 @@ TEST(Script, movesEntriesToTheirPlacesAndKeepsTheOrderOfTheRest) {
         moveEntries(script, moves);
         ASSERT_EQ(script.entryCount(), count);
         auto rest = before.entries;
-        for (auto i = from.rbegin(); i != from.rend(); ++i) {
-            rest.erase(rest.begin() + static_cast<std::ptrdiff_t>(*i));
+        for (const std::size_t index : std::views::reverse(from)) {
+            rest.erase(rest.begin() + static_cast<std::ptrdiff_t>(index));
         }
         std::vector<EntryHandle> others;
         for (std::size_t i = 0; i < count; ++i) {

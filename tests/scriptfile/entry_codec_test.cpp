@@ -79,6 +79,18 @@ TEST(EntryCodec, givesBackWhatAnotherKeyHidUntilItIsEdited) {
     EXPECT_FALSE(edited.kept);
 }
 
+TEST(EntryCodec, givesBackATextThatDecipheredOnlyByChanceUntilItIsChanged) {
+    const TripleDesCbc bare(deriveTripleDesKey("mine").value());
+    const Bytes odd = bare.encipher(bytesOf("no closing NUL")).value();
+    const Bytes record = joined({{15}, {static_cast<std::uint8_t>(odd.size())}, odd, {1}});
+    ScriptEntry seen = unpackEntry(storeRecord(record), myCipher);
+    EXPECT_EQ(textOf(slotFields(seen, Slot::Entry)), "no closing NUL");
+    setText(slotFields(seen, Slot::Entry), "no closing NUL");
+    EXPECT_EQ(packed(seen), storeRecord(record));
+    setText(slotFields(seen, Slot::Entry), "changed");
+    EXPECT_EQ(packed(seen), packed(hiddenType("changed")));
+}
+
 TEST(EntryCodec, neverStoresAHiddenTextThatDoesNotFit) {
     EXPECT_TRUE(packEntry(hiddenType(std::string(246, 'x')), myCipher).ok());
     const PackResult tooLong = packEntry(hiddenType(std::string(247, 'x')), myCipher);

@@ -138,7 +138,6 @@ TEST(ScriptReader, passesOverTheTimeoutOfAWatchedWaitForAndSaysSo) {
 }
 
 TEST(ScriptWriter, knowsWhatVtCannotStore) {
-    FileTransferSettings empty;
     ScriptEntry menu;
     menu.commandCode = CommandCode::MenuCommand;
     ScriptEntry wait;

@@ -12,7 +12,9 @@ namespace quendra::test {
 namespace {
 
 // A function, since test parameters are made before the constants of this file would be.
-std::filesystem::path casesFolder() { return std::filesystem::path(QUENDRA_FIXTURES) / "cases"; }
+std::filesystem::path casesFolder() {
+    return std::filesystem::path(QUENDRA_FIXTURES) / "cases";
+}
 
 nlohmann::json manifest() {
     std::ifstream stream(casesFolder() / "manifest.json");

@@ -1,0 +1,28 @@
+// The one style of the program: Fusion, mended where lists, buttons and message boxes fall short.
+#pragma once
+
+#include <QProxyStyle>
+
+namespace quendra {
+
+/// Lists have an edge that shows on dark too, show that they have the focus, and show their
+/// selection quietly when they have not. Buttons have no pictures, messages have plain ones, and
+/// the toolbar no line of its own, since the pane below draws one.
+class EditorStyle : public QProxyStyle {
+    Q_OBJECT
+
+  public:
+    EditorStyle();
+
+    void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                     const QWidget* widget) const override;
+    int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                  QStyleHintReturn* returnData) const override;
+    QIcon standardIcon(StandardPixmap standardIcon, const QStyleOption* option,
+                       const QWidget* widget) const override;
+};
+
+/// True for a palette of light text on dark ground.
+[[nodiscard]] bool isDark(const QPalette& palette);
+
+}  // namespace quendra

@@ -1,0 +1,19 @@
+// Bytes in the JSON form of a script.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace quendra::cli {
+
+/// The standard alphabet, padded, on one line.
+[[nodiscard]] std::string base64Of(std::span<const std::uint8_t> bytes);
+
+/// None for anything that base64Of would not give.
+[[nodiscard]] std::optional<std::vector<std::uint8_t>> bytesOfBase64(std::string_view text);
+
+}  // namespace quendra::cli

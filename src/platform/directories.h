@@ -1,0 +1,19 @@
+// Directories: making them, and finding out whether files can be made in them.
+#pragma once
+
+#include <filesystem>
+
+namespace quendra {
+
+/// Makes the directory and every missing parent. True when it is there afterwards; one that existed
+/// already is a success.
+bool makeDirectoryPath(const std::filesystem::path& path);
+
+/// Makes one directory whose parent exists. True when it is there afterwards.
+bool makeDirectory(const std::filesystem::path& path);
+
+/// Whether the user can make files in the directory, found out by making one ("qdt" and six
+/// characters) and removing it: permissions alone do not tell of a read-only or full disk.
+[[nodiscard]] bool canMakeFilesIn(const std::filesystem::path& directory);
+
+}  // namespace quendra

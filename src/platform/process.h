@@ -1,0 +1,22 @@
+// Other programs: started and left alone.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace quendra {
+
+/// Starts a program, looked for on $PATH when its name holds no "/", with its arguments. It runs in
+/// a session of its own in the current directory with this process's variables, reads from and
+/// writes to nothing, and lives on when this process ends; nobody waits for it. Gives none once the
+/// program runs, or the system's words for why it does not.
+[[nodiscard]] std::optional<std::string> startDetached(const std::string& program,
+                                                       const std::vector<std::string>& arguments);
+
+/// Hands a web address to the desktop's opener: xdg-open, else gio. None when one of them runs;
+/// whether it finds a browser is not known. An address that begins with "-" is refused, since an
+/// opener would take it for an option.
+[[nodiscard]] std::optional<std::string> openWebPage(const std::string& address);
+
+}  // namespace quendra
