@@ -21,10 +21,10 @@ constexpr StringId okText = 14424;
 /// A box that offers the variables and takes any text that a script can store.
 struct OperandBox {
     QComboBox* box = nullptr;
-    TextField* text = nullptr;
+    TextEdit* text = nullptr;
 };
 
-void show(const OperandBox& operand, std::string_view bytes) {
+void showOperand(const OperandBox& operand, std::string_view bytes) {
     operand.text->setBytes(bytes);
     const QString text = operand.text->text();
     // The list opens on the variable that is shown; a row also sets the text, and none empties it.
@@ -53,8 +53,8 @@ class IfInputIsDialog : public ParameterDialog {
     }
 
     void load() override {
-        show(first_, firstOperandShown(target().entry));
-        show(second_, secondOperandShown(target().entry));
+        showOperand(first_, firstOperandShown(target().entry));
+        showOperand(second_, secondOperandShown(target().entry));
         actions_->refresh();
     }
 
@@ -74,7 +74,7 @@ class IfInputIsDialog : public ParameterDialog {
 
   private:
     OperandBox makeBox(const char* name, const char* textName) {
-        OperandBox made = {named(new QComboBox, name), new TextField};
+        OperandBox made = {named(new QComboBox, name), new TextEdit};
         made.box->setEditable(true);
         made.box->setLineEdit(made.text);
         made.box->setInsertPolicy(QComboBox::NoInsert);

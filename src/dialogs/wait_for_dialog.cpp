@@ -42,7 +42,7 @@ NumberRange widened(NumberRange range, std::uint8_t stored) {
             std::max<std::uint32_t>(range.largest, stored)};
 }
 
-std::uint8_t byteOf(const SpinField& field) {
+std::uint8_t byteOf(const SpinEdit& field) {
     return static_cast<std::uint8_t>(field.number().value_or(0));
 }
 
@@ -59,7 +59,7 @@ class WaitForDialog : public ParameterDialog {
   public:
     WaitForDialog(const DialogContext& context, const EditTarget& target)
         : ParameterDialog(context, target, "waitForDialog", "Wait_For"),
-          text_(named(new TextField, "text")) {
+          text_(named(new TextEdit, "text")) {
         setWindowTitle(QStringLiteral("Wait_For"));
         addLabelled("textLabel", text(textLabel), text_);
         auto* groups = new QHBoxLayout;
@@ -119,8 +119,8 @@ class WaitForDialog : public ParameterDialog {
         const ScriptEntry& entry = target().entry;
         QGroupBox* group = makeGroup("findGroup", findGroup);
         auto* grid = new QGridLayout(group);
-        row_ = named(new SpinField(widened(rowRange, entry.searchRow)), "row");
-        column_ = named(new SpinField(widened(columnRange, entry.searchColumn)), "column");
+        row_ = named(new SpinEdit(widened(rowRange, entry.searchRow)), "row");
+        column_ = named(new SpinEdit(widened(columnRange, entry.searchColumn)), "column");
         exact_ = named(new QCheckBox(text(exactText)), "exactPosition");
         case_ = named(new QCheckBox(text(caseText)), "caseSensitive");
         grid->addWidget(makeLabel("startLabel", text(startPosition)), 0, 0, 1, 5);
@@ -139,7 +139,7 @@ class WaitForDialog : public ParameterDialog {
         auto* grid = new QGridLayout(group);
         noTimeout_ = named(new QRadioButton(text(noTimeoutText)), "noTimeout");
         timeout_ = named(new QRadioButton(text(timeoutText)), "timeout");
-        seconds_ = named(new SpinField(secondsRange), "timeoutSeconds");
+        seconds_ = named(new SpinEdit(secondsRange), "timeoutSeconds");
         seconds_->setAccessibleName(plainLabel(text(timeoutText)));
         grid->addWidget(noTimeout_, 0, 0, 1, 3);
         grid->addWidget(timeout_, 1, 0);
@@ -161,14 +161,14 @@ class WaitForDialog : public ParameterDialog {
         actions_->setActionsEnabled(waits());
     }
 
-    TextField* text_;
-    SpinField* row_ = nullptr;
-    SpinField* column_ = nullptr;
+    TextEdit* text_;
+    SpinEdit* row_ = nullptr;
+    SpinEdit* column_ = nullptr;
     QCheckBox* exact_ = nullptr;
     QCheckBox* case_ = nullptr;
     QRadioButton* noTimeout_ = nullptr;
     QRadioButton* timeout_ = nullptr;
-    SpinField* seconds_ = nullptr;
+    SpinEdit* seconds_ = nullptr;
     /// None for the action of a Watch_For, like the timeout's fields.
     ActionPair* actions_ = nullptr;
 };

@@ -13,7 +13,7 @@ class WatchForDialog : public ActionChooser {
     WatchForDialog(const DialogContext& context, ScriptEntry& entry)
         : ActionChooser(context, {entry}, {entry, Slot::Then, ActionOwner::WaitForOrWatchFor},
                         "watchForDialog", "Watch_For"),
-          text_(named(new TextField, "text")) {
+          text_(named(new TextEdit, "text")) {
         setWindowTitle(QStringLiteral("Watch_For"));
         addLabelled("textLabel", text(textLabel), text_);
         addLists();
@@ -34,7 +34,7 @@ class WatchForDialog : public ActionChooser {
     void store() override { storeText(*text_); }
 
   private:
-    TextField* text_;
+    TextEdit* text_;
 };
 
 }  // namespace
