@@ -11,31 +11,33 @@ const LuCatalogue& luFunctions(const DialogContext& context) {
     return context.state.luCatalogues.of(context.state.currentHostType);
 }
 
+// On the working settings as they are.
 bool editTransfer(const DialogContext& context, const SlotFields& action, std::uint32_t commandId) {
-    std::uint8_t host = action.transferHost;
-    const auto direction =
+    TransferInputs& working = context.state.workingTransfer;
+    working.host = action.transferHost;
+    working.direction =
         commandId == sendFileCommand ? TransferDirection::Send : TransferDirection::Receive;
-    if (!editTransferSettings(context, host, direction)) return false;
+    std::uint8_t host = action.transferHost;
+    if (!editTransferSettings(context, host, working.direction)) return false;
+    working.host = host;
     action.transferHost = host;
-    action.transferSettings = context.state.workingTransfer.settings;
+    action.transferSettings = working.settings;
     return true;
 }
 
 // The command is one that asks for something.
 bool askForParameters(const DialogContext& context, const EditTarget& target) {
     const SlotFields action = slotFields(target.entry, target.slot);
-    if (action.code == CommandCode::WaitFor) return editWatchedWaitFor(context, target.entry);
-    if (action.code == CommandCode::MenuCommand && isFileTransfer(action.commandId)) {
-        return editTransfer(context, action, action.commandId);
-    }
-    return editParameters(context, target);
+    const bool transfers =
+        action.code == CommandCode::MenuCommand && isFileTransfer(action.commandId);
+    return transfers ? editTransfer(context, action, action.commandId)
+                     : editParameters(context, target);
 }
 
 void openTransfer(const DialogContext& context, const SlotFields& action,
                   const ActionChoice& choice) {
     const std::uint32_t commandId = firstMenuCommand + static_cast<std::uint32_t>(choice.row);
     context.state.workingTransfer.settings = action.transferSettings;
-    context.state.workingTransfer.host = action.transferHost;
     if (editTransfer(context, action, commandId)) {
         applyChoice(action, choice, luFunctions(context));
     }
