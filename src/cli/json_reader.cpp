@@ -278,7 +278,9 @@ ScriptOfJson scriptOfJson(const Json& form, const HiddenTextCipher& cipher) {
     fields.finish();
     if (!entries || !entries->is_array()) {
         fields.fail("entries", "must be a list");
-    } else if (entries->size() > maxEntries) {
+        return result;
+    }
+    if (entries->size() > maxEntries) {
         fields.fail("entries", "a script has at most " + std::to_string(maxEntries));
     }
     for (std::size_t i = 0; result.ok() && i < entries->size(); ++i) {

@@ -99,6 +99,11 @@ std::vector<Refusal> badEntries() {
          "entry 2: the record of an action is damaged"},
         {"RecordOfBeep", entryOf("Watch_For", R"("then": {"command": "Beep", "record": "AAAA"})"),
          "entry 2, then action: record: unknown field"},
+    };
+}
+
+std::vector<Refusal> badFields() {
+    return {
         {"TextNumber", entryOf("Comment", R"("text": 5)"), "entry 2: text: must be a string"},
         {"TextNull", entryOf("Comment", R"("text": null)"), "entry 2: text: must be a string"},
         {"TextTooLong", entryOf("Comment", R"("text": )" + quoted(times("\u00e9", 256))),
@@ -209,6 +214,7 @@ TEST_P(Refused, namesThePlaceAndWritesNothing) {
 
 INSTANTIATE_TEST_SUITE_P(Form, Refused, testing::ValuesIn(badForms()), rowName);
 INSTANTIATE_TEST_SUITE_P(Entry, Refused, testing::ValuesIn(badEntries()), rowName);
+INSTANTIATE_TEST_SUITE_P(Field, Refused, testing::ValuesIn(badFields()), rowName);
 INSTANTIATE_TEST_SUITE_P(Text, Refused, testing::ValuesIn(badTextsAndSettings()), rowName);
 
 class Build : public QdsTest {};

@@ -47,12 +47,14 @@ const Bytes script = scriptFile("QDMDSCR=", {Bytes(4096, 4)});
 
 // Opens files for the standard streams of a run and closes them with it.
 class Process : public QdsTest {
-  protected:
+  public:
     ~Process() override {
         for (const int descriptor : opened_) {
             ::close(descriptor);
         }
     }
+
+  protected:
     int openFile(const std::string& path, int flags = O_RDONLY) {
         opened_.push_back(::open(path.c_str(), flags | O_CLOEXEC, 0600));
         return opened_.back();

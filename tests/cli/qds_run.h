@@ -25,9 +25,11 @@ struct QdsRun {
 /// A folder for the files of a test, and a user with an identity: that of the frozen cases unless
 /// another is set.
 class QdsTest : public testing::Test {
+  public:
+    ~QdsTest() override;
+
   protected:
     QdsTest();
-    ~QdsTest() override;
 
     void setIdentity(const std::string& identity);
     /// The path of a file in the folder, written first when bytes are given.
