@@ -80,16 +80,16 @@ class EditParameters : public DialogTest {
 TEST_F(EditParameters, RunsTheDialogOfTheSlot) {
     entry = newEntry(CommandCode::WaitFor);
     entry.elseCode = CommandCode::Wait;
-    whenOpen([](QWidget& dialog) {
-        EXPECT_EQ(dialog.windowTitle(), QStringLiteral("Wait"));
-        typeText(*dialog.findChild<QLineEdit*>(QStringLiteral("number")), QStringLiteral("12"));
-        clickOn(*dialog.findChild<QWidget*>(QStringLiteral("ok")));
+    whenOpen([](QWidget& opened) {
+        EXPECT_EQ(opened.windowTitle(), QStringLiteral("Wait"));
+        typeText(*opened.findChild<QLineEdit*>(QStringLiteral("number")), QStringLiteral("12"));
+        clickOn(*opened.findChild<QWidget*>(QStringLiteral("ok")));
     });
     EXPECT_TRUE(edit(Slot::Else));
     EXPECT_EQ(entry.elseNumber, 12U);
-    whenOpen([](QWidget& dialog) {
-        typeText(*dialog.findChild<QLineEdit*>(QStringLiteral("number")), QStringLiteral("13"));
-        clickOn(*dialog.findChild<QWidget*>(QStringLiteral("cancel")));
+    whenOpen([](QWidget& opened) {
+        typeText(*opened.findChild<QLineEdit*>(QStringLiteral("number")), QStringLiteral("13"));
+        clickOn(*opened.findChild<QWidget*>(QStringLiteral("cancel")));
     });
     EXPECT_FALSE(edit(Slot::Else));
     EXPECT_EQ(entry.elseNumber, 12U);
