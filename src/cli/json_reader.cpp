@@ -54,7 +54,7 @@ class EntryReader {
 
     void byte(const char* name, std::uint8_t& value) { object_.number(name, value); }
     void word(const char* name, std::uint32_t& value) { object_.number(name, value); }
-    void flag(const char* name, std::uint8_t& value) { object_.flag(name, value); }
+    void flag(const char* name, auto& value) { object_.flag(name, value); }
     void variable(const char* name, std::uint8_t& kind);
     void text(const SlotFields& f) {
         if (const auto text = object_.text("text", maxTextLength)) setText(f, *text);
@@ -278,7 +278,9 @@ ScriptOfJson scriptOfJson(const Json& form, const HiddenTextCipher& cipher) {
     fields.finish();
     if (!entries || !entries->is_array()) {
         fields.fail("entries", "must be a list");
-    } else if (entries->size() > maxEntries) {
+        return result;
+    }
+    if (entries->size() > maxEntries) {
         fields.fail("entries", "a script has at most " + std::to_string(maxEntries));
     }
     for (std::size_t i = 0; result.ok() && i < entries->size(); ++i) {

@@ -27,7 +27,7 @@ class DescriptorBuffer : public std::streambuf {
   private:
     int descriptor_;
     std::optional<FileFailure> failure_;
-    std::array<char, 65536> buffer_;
+    std::array<char, 65536> buffer_ = {};
 };
 
 }  // namespace quendra::cli

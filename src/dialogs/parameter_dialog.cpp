@@ -70,10 +70,10 @@ void selectAllText(QWidget* field) {
 }
 
 ParameterDialog::ParameterDialog(const DialogContext& context, const EditTarget& target,
-                                 const char* name, const char* helpPage)
+                                 const char* name, std::string_view helpPage)
     : QDialog(context.window), context_(context), target_(target) {
     setObjectName(QLatin1String(name));
-    setProperty("helpPage", QLatin1String(helpPage));
+    setProperty("helpPage", qtText(helpPage));
     setModal(true);
 
     picture_ = new CommandPicture(bitmapIdOf(fields().code, fields().commandId));

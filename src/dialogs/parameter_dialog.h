@@ -15,6 +15,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 class QBoxLayout;
@@ -42,7 +43,7 @@ class ParameterDialog : public QDialog {
     /// page of the manual is about it. The target's entry and the context's state outlive the
     /// dialog.
     ParameterDialog(const DialogContext& context, const EditTarget& target, const char* name,
-                    const char* helpPage);
+                    std::string_view helpPage);
 
     virtual void load() = 0;
     /// The first thing that is wrong with the fields, in the order in which they are checked.

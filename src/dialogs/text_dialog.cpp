@@ -31,7 +31,7 @@ class TextDialog : public ParameterDialog {
   public:
     TextDialog(const DialogContext& context, const EditTarget& target)
         : ParameterDialog(context, target, "textDialog",
-                          commandKeyword(slotFields(target.entry, target.slot).code).data()) {
+                          commandKeyword(slotFields(target.entry, target.slot).code)) {
         setWindowTitle(caption());
         text_ = named(new TextEdit, "text");
         addLabelled("textLabel", text(labelOf(fields().code)), text_);

@@ -15,7 +15,7 @@ class WaitDialog : public ParameterDialog {
   public:
     WaitDialog(const DialogContext& context, const EditTarget& target)
         : ParameterDialog(context, target, "waitDialog",
-                          commandKeyword(slotFields(target.entry, target.slot).code).data()) {
+                          commandKeyword(slotFields(target.entry, target.slot).code)) {
         setWindowTitle(caption());
         number_ = named(new NumberEdit(std::numeric_limits<std::uint32_t>::max()), "number");
         addLabelled("numberLabel", label(), number_);
