@@ -1,8 +1,8 @@
 // The desktop editor's start.
 #include "app/appearance.h"
-#include "app/clipboard_commands.h"
 #include "app/main_window.h"
 #include "app/screenshot.h"
+#include "app/script_editor.h"
 #include "app/symbol_icon.h"
 #include "app/ui_text.h"
 #include "platform/registry.h"
@@ -35,9 +35,7 @@ int main(int argc, char** argv) {
     state.menuCommands = buildMenuCommandCatalogue(state.language.textSource());
     state.cipher = HiddenTextCipher(userIdentity());
     MainWindow window(state);
-    EditingCommands editing;
-    addClipboardCommands(editing, state, window);
-    window.setEditingCommands(std::move(editing));
+    const ScriptEditor editor(state, window, {});
     window.show();
     if (!arguments.empty()) window.openAtStart(std::filesystem::absolute(arguments.front()));
     if (!picture->file.isEmpty()) return savePicture(window, *picture) ? 0 : 1;

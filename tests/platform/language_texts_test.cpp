@@ -121,9 +121,11 @@ TEST_P(LanguageTexts, ComeOutOfTheBuiltLibraryUnchanged) {
 
 TEST_P(LanguageTexts, HaveTheFormatPlacesThatTheProgramFills) {
     const std::map<StringId, std::vector<std::string>> filled{
-        {12465, {"%s"}}, {13701, {"%s"}}, {13702, {"%s"}}, {13703, {"%s"}},
-        {13704, {"%s"}}, {13705, {"%s"}}, {13709, {"%d"}}, {13710, {"%s"}},
-        {13727, {"%s"}}, {13728, {"%s"}}, {13729, {"%s"}}, {13731, {"%s"}},
+        {12465, {"%s"}}, {13701, {"%s"}}, {13702, {"%s"}}, {13703, {"%s"}}, {13704, {"%s"}},
+        {13705, {"%s"}}, {13709, {"%d"}}, {13710, {"%s"}}, {13727, {"%s"}}, {13728, {"%s"}},
+        {13729, {"%s"}}, {13731, {"%s"}}, {15302, {"%s"}}, {15304, {"%s"}}, {15306, {"%s"}},
+        {15308, {"%s"}}, {15312, {"%s"}}, {15313, {"%s"}}, {15314, {"%s"}}, {15315, {"%s"}},
+        {15316, {"%s"}},
     };
     for (const auto& [id, text] : source.texts) {
         const auto expected = filled.find(id);
