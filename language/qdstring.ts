@@ -2593,5 +2593,50 @@
         <extracomment>Message: hidden text that cannot be enciphered; the entry follows</extracomment>
         <translation>The hidden text of this entry cannot be enciphered: there is no usable key.</translation>
     </message>
+    <message id="16001">
+        <source>The character %s cannot be stored in a script.</source>
+        <extracomment>Note under a field: a character that scripts cannot hold was typed or pasted</extracomment>
+        <translation>The character %s cannot be stored in a script.</translation>
+    </message>
+    <message id="16002">
+        <source>At most %d characters fit here.</source>
+        <extracomment>Note under a field: the text would be too long</extracomment>
+        <translation>At most %d characters fit here.</translation>
+    </message>
+    <message id="16003">
+        <source>A hidden text can have at most %d characters.</source>
+        <extracomment>Note and message: a text that is to be hidden is too long</extracomment>
+        <translation>A hidden text can have at most %d characters.</translation>
+    </message>
+    <message id="16004">
+        <source>A number from %d to %d</source>
+        <extracomment>Note under a number field and its tool tip: the range</extracomment>
+        <translation>A number from %d to %d</translation>
+    </message>
+    <message id="16005">
+        <source>%s: enter a number from %d to %d.</source>
+        <extracomment>Message: the number in the named field is outside of its range</extracomment>
+        <translation>%s: enter a number from %d to %d.</translation>
+    </message>
+    <message id="16006">
+        <source>You have no user identity: hidden texts are only obscured, and whoever has the script can read them.</source>
+        <extracomment>Type dialog: tool tip of the text and of the check box that hides it</extracomment>
+        <translation>You have no user identity: hidden texts are only obscured, and whoever has the script can read them.</translation>
+    </message>
+    <message id="16007">
+        <source>Hidden under another user identity</source>
+        <extracomment>Type dialog: stands in the empty field of a text that cannot be deciphered</extracomment>
+        <translation>Hidden under another user identity</translation>
+    </message>
+    <message id="16008">
+        <source>&amp;Date</source>
+        <extracomment>Wait_Until dialog: check box before the date</extracomment>
+        <translation>&amp;Date</translation>
+    </message>
+    <message id="16009">
+        <source>&amp;Time</source>
+        <extracomment>Wait_Until dialog: check box before the time of day</extracomment>
+        <translation>&amp;Time</translation>
+    </message>
 </context>
 </TS>

@@ -2593,5 +2593,50 @@
         <extracomment>Message: hidden text that cannot be enciphered; the entry follows</extracomment>
         <translation>Der verborgene Text dieses Eintrags kann nicht verschlüsselt werden: Es gibt keinen brauchbaren Schlüssel.</translation>
     </message>
+    <message id="16001">
+        <source>The character %s cannot be stored in a script.</source>
+        <extracomment>Note under a field: a character that scripts cannot hold was typed or pasted</extracomment>
+        <translation>Das Zeichen %s kann in einem Skript nicht gespeichert werden.</translation>
+    </message>
+    <message id="16002">
+        <source>At most %d characters fit here.</source>
+        <extracomment>Note under a field: the text would be too long</extracomment>
+        <translation>Hier passen höchstens %d Zeichen hinein.</translation>
+    </message>
+    <message id="16003">
+        <source>A hidden text can have at most %d characters.</source>
+        <extracomment>Note and message: a text that is to be hidden is too long</extracomment>
+        <translation>Ein verborgener Text kann höchstens %d Zeichen haben.</translation>
+    </message>
+    <message id="16004">
+        <source>A number from %d to %d</source>
+        <extracomment>Note under a number field and its tool tip: the range</extracomment>
+        <translation>Eine Zahl von %d bis %d</translation>
+    </message>
+    <message id="16005">
+        <source>%s: enter a number from %d to %d.</source>
+        <extracomment>Message: the number in the named field is outside of its range</extracomment>
+        <translation>%s: Geben Sie eine Zahl von %d bis %d ein.</translation>
+    </message>
+    <message id="16006">
+        <source>You have no user identity: hidden texts are only obscured, and whoever has the script can read them.</source>
+        <extracomment>Type dialog: tool tip of the text and of the check box that hides it</extracomment>
+        <translation>Sie haben keine Benutzerkennung: Verborgene Texte werden nur verschleiert, und wer das Skript hat, kann sie lesen.</translation>
+    </message>
+    <message id="16007">
+        <source>Hidden under another user identity</source>
+        <extracomment>Type dialog: stands in the empty field of a text that cannot be deciphered</extracomment>
+        <translation>Unter einer anderen Benutzerkennung verborgen</translation>
+    </message>
+    <message id="16008">
+        <source>&amp;Date</source>
+        <extracomment>Wait_Until dialog: check box before the date</extracomment>
+        <translation>&amp;Datum</translation>
+    </message>
+    <message id="16009">
+        <source>&amp;Time</source>
+        <extracomment>Wait_Until dialog: check box before the time of day</extracomment>
+        <translation>&amp;Uhrzeit</translation>
+    </message>
 </context>
 </TS>

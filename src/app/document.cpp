@@ -1,5 +1,6 @@
 #include "app/document.h"
 
+#include "app/application_life.h"
 #include "app/ui_text.h"
 #include "platform/text_encoding.h"
 #include "scriptfile/entry_codec.h"
@@ -211,6 +212,7 @@ SaveOutcome saveDocument(ApplicationState& state, const fs::path& path) {
         return {false, fileError(state, text, 13730, path, result.failure->message), {}};
     }
     state.document = {path, false, result.stamp, false, state.script};
+    backupSavedScript(state.settings, path);
     if (result.backup.empty()) return {true, std::nullopt, {}};
     return {true, std::nullopt, "The old file is kept as " + pathText(result.backup.filename())};
 }

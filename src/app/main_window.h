@@ -10,11 +10,11 @@
 #include <QMainWindow>
 
 #include <filesystem>
+#include <functional>
 #include <map>
 #include <string>
 
 class QAction;
-class QMenu;
 class QToolBar;
 
 namespace quendra {
@@ -30,6 +30,9 @@ class MainWindow : public QMainWindow {
 
     /// The commands that change the script run these from now on.
     void setEditingCommands(EditingCommands commands);
+
+    /// The Help command runs this from now on.
+    void setHelpCommand(std::function<void()> showHelp);
 
     /// Runs a command as its menu item does, whether it is enabled or not.
     void runCommand(int command);
@@ -53,6 +56,9 @@ class MainWindow : public QMainWindow {
     /// Shows a text (UTF-8) in the status bar in place of the entry count, until the script or the
     /// document changes.
     void showNote(const std::string& note);
+
+    /// Restores the window if it is minimised and brings it in front of all others.
+    void comeToFront();
 
     /// The desktop session ends: the window closes without a question from now on.
     void endSession();
@@ -88,6 +94,7 @@ class MainWindow : public QMainWindow {
 
     ApplicationState& state_;
     EditingCommands editing_;
+    std::function<void()> showHelp_;
     std::map<int, QAction*> actions_;
     QToolBar* toolBar_ = nullptr;
     EditorPane* pane_ = nullptr;

@@ -84,7 +84,7 @@ void fieldsAfterCommand(Io& io, E& entry, Slot slot) {
         case CommandCode::Copy:
         case CommandCode::Paste:
             io.area(f);
-            io.word("number", f.number);
+            io.flag("number", f.number);
             break;
         case CommandCode::IfInputIs:
             io.text(f);

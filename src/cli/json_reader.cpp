@@ -54,7 +54,7 @@ class EntryReader {
 
     void byte(const char* name, std::uint8_t& value) { object_.number(name, value); }
     void word(const char* name, std::uint32_t& value) { object_.number(name, value); }
-    void flag(const char* name, std::uint8_t& value) { object_.flag(name, value); }
+    void flag(const char* name, auto& value) { object_.flag(name, value); }
     void variable(const char* name, std::uint8_t& kind);
     void text(const SlotFields& f) {
         if (const auto text = object_.text("text", maxTextLength)) setText(f, *text);

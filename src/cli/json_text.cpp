@@ -20,32 +20,71 @@ using Json = nlohmann::ordered_json;
 constexpr int maxDepth = 8;
 // No entry with two actions has a hundred values.
 constexpr std::size_t maxValues = maxEntries * 100;
+constexpr std::size_t maxFields = 100;
 
-struct Refusal {
-    std::string what;
-};
-
-// Watches the parser, which by itself would take a gigabyte for a few megabytes of brackets and the
-// last of two fields with one name.
-class ParseGuard {
+// Reads the text through before a tree of it is made, which for a few megabytes of brackets would
+// take a gigabyte, and of two fields with one name would keep one.
+class JsonGuard final : public nlohmann::json_sax<Json> {
   public:
-    bool operator()(int depth, Json::parse_event_t event, const Json& parsed) {
-        if (depth > maxDepth) throw Refusal{"the JSON form is nested too deep"};
-        if (++values_ > maxValues) throw Refusal{"the JSON form holds more than any script has"};
-        if (event == Json::parse_event_t::object_start) openObjects_.emplace_back();
-        if (event == Json::parse_event_t::object_end) openObjects_.pop_back();
-        if (event == Json::parse_event_t::key) noteKey(parsed.get_ref<const std::string&>());
-        return true;
+    [[nodiscard]] const std::string& refusal() const { return refusal_; }
+    /// Where the text stops being JSON, counted from 1, if that is what is wrong.
+    [[nodiscard]] std::optional<std::size_t> errorPosition() const { return errorPosition_; }
+
+    bool null() override { return countValue(); }
+    bool boolean(bool) override { return countValue(); }
+    bool number_integer(number_integer_t) override { return countValue(); }
+    bool number_unsigned(number_unsigned_t) override { return countValue(); }
+    bool number_float(number_float_t, const string_t&) override { return countValue(); }
+    bool string(string_t&) override { return countValue(); }
+    bool binary(binary_t&) override { return countValue(); }
+    bool start_object(std::size_t) override {
+        fieldsOfOpen_.emplace_back();
+        return open();
+    }
+    bool key(string_t& name) override {
+        auto& fields = fieldsOfOpen_.back();
+        if (!fields.insert(name).second) {
+            return refuse("an object has two fields called " + escapeControlCharacters(name));
+        }
+        return fields.size() <= maxFields || refuse("an object has too many fields");
+    }
+    bool end_object() override {
+        fieldsOfOpen_.pop_back();
+        return close();
+    }
+    bool start_array(std::size_t) override { return open(); }
+    bool end_array() override { return close(); }
+    bool parse_error(std::size_t position, const std::string&,
+                     const nlohmann::detail::exception& error) override {
+        if (dynamic_cast<const Json::parse_error*>(&error) == nullptr) {
+            return refuse("a number is out of range");
+        }
+        errorPosition_ = position;
+        return false;
     }
 
   private:
-    void noteKey(const std::string& key) {
-        if (openObjects_.back().insert(key).second) return;
-        throw Refusal{"an object has two fields called " + escapeControlCharacters(key)};
+    bool refuse(const std::string& what) {
+        refusal_ = what;
+        return false;
+    }
+    bool countValue() {
+        return ++values_ <= maxValues || refuse("the JSON form holds more than any script has");
+    }
+    bool open() {
+        if (++depth_ > maxDepth) return refuse("the JSON form is nested too deep");
+        return countValue();
+    }
+    bool close() {
+        --depth_;
+        return true;
     }
 
+    std::string refusal_;
+    std::optional<std::size_t> errorPosition_;
     std::size_t values_ = 0;
-    std::vector<std::set<std::string>> openObjects_;
+    int depth_ = 0;
+    std::vector<std::set<std::string>> fieldsOfOpen_;
 };
 
 std::string placeOf(std::string_view text, std::size_t offset) {
@@ -60,18 +99,13 @@ std::string placeOf(std::string_view text, std::size_t offset) {
 
 ParsedJson parseJson(std::span<const std::uint8_t> text) {
     const std::string_view characters(reinterpret_cast<const char*>(text.data()), text.size());
-    try {
-        ParseGuard guard;
-        Json value = Json::parse(characters, std::ref(guard));
-        return {std::make_unique<Json>(std::move(value)), ""};
-    } catch (const Json::parse_error& error) {
-        const std::size_t offset = std::min(text.size(), error.byte > 0 ? error.byte - 1 : 0);
-        return {nullptr, "not valid JSON " + placeOf(characters, offset)};
-    } catch (const Json::exception&) {
-        return {nullptr, "a number in the JSON form is out of range"};
-    } catch (const Refusal& refusal) {
-        return {nullptr, refusal.what};
+    JsonGuard guard;
+    if (Json::sax_parse(characters, &guard)) {
+        return {std::make_unique<Json>(Json::parse(characters)), ""};
     }
+    if (!guard.errorPosition()) return {nullptr, guard.refusal()};
+    const std::size_t position = std::max<std::size_t>(1, *guard.errorPosition());
+    return {nullptr, "not valid JSON " + placeOf(characters, std::min(text.size(), position - 1))};
 }
 
 std::string printJson(const nlohmann::ordered_json& value) {

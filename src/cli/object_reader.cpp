@@ -44,12 +44,6 @@ std::uint32_t ObjectReader::wholeNumber(std::string_view name, const Json& value
     return 0;
 }
 
-void ObjectReader::flag(std::string_view name, std::uint8_t& target) {
-    if (const Json* value = find(name)) {
-        target = static_cast<std::uint8_t>(wholeNumber(name, *value, 255, true));
-    }
-}
-
 std::optional<std::string> ObjectReader::text(std::string_view name, std::size_t longest) {
     const Json* value = find(name);
     if (!value) return std::nullopt;

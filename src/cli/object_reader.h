@@ -34,13 +34,13 @@ class ObjectReader {
     /// A whole number that fits `target`, which keeps its value when the field was left out.
     template <class Number>
     void number(std::string_view name, Number& target) {
-        if (const Json* value = find(name)) {
-            target = static_cast<Number>(
-                wholeNumber(name, *value, std::numeric_limits<Number>::max(), false));
-        }
+        take(name, target, false);
     }
     /// The same, and true or false for 1 or 0.
-    void flag(std::string_view name, std::uint8_t& target);
+    template <class Number>
+    void flag(std::string_view name, Number& target) {
+        take(name, target, true);
+    }
 
     /// The windows-1252 bytes of a string; none when the field was left out or is refused.
     [[nodiscard]] std::optional<std::string> text(std::string_view name, std::size_t longest);
@@ -56,6 +56,14 @@ class ObjectReader {
     void finish();
 
   private:
+    template <class Number>
+    void take(std::string_view name, Number& target, bool isFlag) {
+        if (const Json* value = find(name)) {
+            target = static_cast<Number>(
+                wholeNumber(name, *value, std::numeric_limits<Number>::max(), isFlag));
+        }
+    }
+
     const Json& object_;
     std::string place_;
     std::string& refusal_;

@@ -7,15 +7,20 @@
 #include <QLabel>
 #include <QListView>
 
+#include <fstream>
+
 namespace quendra::test {
 
-EditorState::EditorState() {
+EditorState::EditorState(const std::string& language) {
     state.settings.programDir = pathFromQt(QCoreApplication::applicationDirPath());
     state.settings.installDir = folder.path() / "installed";
     state.settings.workingDir = folder.path();
     state.settings.scriptsDir = folder.path();
     state.settings.transferDir = folder.path();
-    state.settings.configDir = folder.path();
+    state.settings.configDir = folder.path() / "Config";
+    std::filesystem::create_directory(state.settings.configDir);
+    std::ofstream(state.settings.configDir / "language.ini")
+        << "[Language]\nLanguage=" << language << "\n";
     const auto notice = state.language.load(
         {state.settings.programDir, state.settings.configDir, state.settings.installDir});
     if (notice) throw std::runtime_error(notice->text);

@@ -20,7 +20,8 @@ namespace quendra::test {
 
 /// State as after start-up with an empty script; scripts lie in `folder`.
 struct EditorState {
-    EditorState();
+    /// `language` is the base name of the language library.
+    explicit EditorState(const std::string& language = "qdstring");
 
     TemporaryFolder folder;
     ApplicationState state;

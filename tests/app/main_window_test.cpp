@@ -498,7 +498,7 @@ TEST_F(MainWindowTest, EveryWidgetOfOursHasAnObjectName) {
     }
 }
 
-TEST_F(MainWindowTest, MnemonicsAreUniqueWithinAMenu) {
+TEST(MainWindowLanguageTest, MnemonicsAreUniqueWithinAMenu) {
     const auto mnemonics = [](const QList<QAction*>& items) {
         QStringList keys;
         for (const QAction* item : items) {
@@ -507,10 +507,14 @@ TEST_F(MainWindowTest, MnemonicsAreUniqueWithinAMenu) {
         }
         return keys;
     };
-    EXPECT_EQ(mnemonics(window.menuBar()->actions()).removeDuplicates(), 0);
-    for (const QAction* entry : window.menuBar()->actions()) {
-        EXPECT_EQ(mnemonics(entry->menu()->actions()).removeDuplicates(), 0)
-            << entry->text().toStdString();
+    for (const char* language : {"qdstring", "qdstring_de"}) {
+        EditorState editor(language);
+        const MainWindow window(editor.state);
+        EXPECT_EQ(mnemonics(window.menuBar()->actions()).removeDuplicates(), 0) << language;
+        for (const QAction* entry : window.menuBar()->actions()) {
+            EXPECT_EQ(mnemonics(entry->menu()->actions()).removeDuplicates(), 0)
+                << entry->text().toStdString();
+        }
     }
 }
 

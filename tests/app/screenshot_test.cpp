@@ -18,6 +18,12 @@ TEST(PictureOptionsTest, AreTakenOutAndTheRestIsLeftInOrder) {
     EXPECT_EQ(arguments, (std::vector<std::string>{"/t1", "a.qds", "--other"}));
 }
 
+TEST(PictureOptionsTest, NamesBehindTwoDashesAreNoOptions) {
+    std::vector<std::string> arguments = {"--light", "--", "--dark"};
+    EXPECT_EQ(takePictureOptions(arguments)->appearance, Appearance::Light);
+    EXPECT_EQ(arguments, (std::vector<std::string>{"--", "--dark"}));
+}
+
 TEST(PictureOptionsTest, WrongValuesAreRefused) {
     const std::vector<std::string> rows[] = {
         {"--screenshot"},     {"--screenshot", ""}, {"--size", "800"},  {"--size", "0x5"},

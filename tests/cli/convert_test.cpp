@@ -1,0 +1,150 @@
+// qds convert.
+#include "cli/qds_run.h"
+
+#include <filesystem>
+
+namespace quendra::test {
+
+namespace {
+
+namespace fs = std::filesystem;
+using Names = std::vector<std::string>;
+
+const Bytes beep = {4};
+const Bytes oldScript = scriptFile("QDMDSCR2", {beep});
+const Bytes newScript = scriptFile("QDMDSCR=", {beep});
+const Bytes cutScript = scriptFile("QDMDSCR2", {beep, {6, 9}});
+// Menu command 213, which VT emulators lack, behind another entry.
+const Bytes notForVt = scriptFile("QDMDSCR=", {beep, {2}, word(213), word(0)});
+
+}  // namespace
+
+class Convert : public QdsTest {};
+
+TEST_F(Convert, writesTheExpectedBytesOfEveryFrozenFile) {
+    for (const Case& frozen : frozenCases()) {
+        SCOPED_TRACE(frozen.name);
+        const QdsRun run = runQds({"convert", "--output", "-", "-"}, frozen.file);
+        EXPECT_EQ(run.status, 0);
+        EXPECT_EQ(run.err, "");
+        EXPECT_EQ(bytesOf(run.out), frozen.expected);
+    }
+}
+
+TEST_F(Convert, leavesHiddenTextsOfOtherUsersAsTheyAre) {
+    setIdentity("{SOMEONE-ELSE}");
+    const Case& frozen = frozenCase("kinds-mainframe-v2");
+    EXPECT_EQ(bytesOf(runQds({"convert", "--output", "-", "-"}, frozen.file).out), frozen.expected);
+}
+
+TEST_F(Convert, switchesTheHostType) {
+    const QdsRun run =
+        runQds({"convert", "--host", "icl", "--output", file("out.qds"), "-"}, oldScript);
+    EXPECT_EQ(run.status, 0);
+    EXPECT_EQ(readBytes(file("out.qds")), scriptFile("QD7DSCR=", {beep}));
+}
+
+TEST_F(Convert, refusesAHostTypeThatCannotStoreAnEntry) {
+    const std::string source = file("a.qds", notForVt);
+    const Names arguments = {"convert", "--host", "vt", "--output", file("out.qds"), source};
+    const QdsRun refused = runQds(arguments);
+    EXPECT_EQ(refused.status, 1);
+    EXPECT_EQ(refused.err.find("qds: " + source + ": entry 2 cannot be stored in a VT script: "),
+              0u)
+        << refused.err;
+    EXPECT_EQ(names(), Names{"a.qds"});
+
+    Names allowed = arguments;
+    allowed.insert(allowed.end() - 1, "--allow-loss");
+    const QdsRun lossy = runQds(allowed);
+    EXPECT_EQ(lossy.status, 1);
+    EXPECT_EQ(lossy.err, refused.err);
+    EXPECT_EQ(readBytes(file("out.qds")), scriptFile("QDVTSCR=", {beep, {2}, word(211), word(0)}));
+}
+
+TEST_F(Convert, writesNothingForAFileThatIsNotWhole) {
+    const std::string out = file("out.qds", bytesOf("keep me"));
+    const QdsRun refused = runQds({"convert", "--output", out, "-"}, cutScript);
+    EXPECT_EQ(refused.status, 1);
+    EXPECT_EQ(
+        refused.err,
+        "qds: standard input: the file ends inside an entry, after 1 entry (byte offset 11)\n");
+    EXPECT_EQ(readBytes(out), bytesOf("keep me"));
+
+    const QdsRun lossy = runQds({"convert", "--allow-loss", "--output", out, "-"}, cutScript);
+    EXPECT_EQ(lossy.status, 1);
+    EXPECT_EQ(lossy.err, refused.err);
+    EXPECT_EQ(readBytes(out), newScript);
+    EXPECT_EQ(names(), Names{"out.qds"});
+
+    EXPECT_EQ(
+        runQds({"convert", "--allow-loss", "--output", out, "-"}, bytesOf("no script")).status, 1);
+    EXPECT_EQ(readBytes(out), newScript);
+}
+
+TEST_F(Convert, writesWhatAWatchedWaitForKeepsAndSaysSo) {
+    const Bytes claims = joined({{20}, counted("w"), {17}, counted("f"), {1, 1, 0, 1, 1, 5, 4, 4}});
+    const Bytes kept = joined({{20}, counted("w"), {17}, counted("f"), {1, 1, 0, 1, 0}});
+    const QdsRun run = runQds({"convert", "--output", "-", "-"}, scriptFile("QDMDSCR=", {claims}));
+    EXPECT_EQ(run.status, 0);
+    EXPECT_EQ(bytesOf(run.out), scriptFile("QDMDSCR=", {kept}));
+    EXPECT_NE(run.err.find("note: entry 1: "), std::string::npos);
+}
+
+TEST_F(Convert, keepsTheOldFilesInPlaceAndGoesOnAfterABadOne) {
+    const std::string first = file("first.qds", oldScript);
+    const std::string cut = file("cut.qds", cutScript);
+    const std::string current = file("current.qds", newScript);
+    const std::string last = file("last.qds", oldScript);
+    const QdsRun run =
+        runQds({"convert", "--in-place", first, cut, file("missing.qds"), current, last});
+    EXPECT_EQ(run.status, 1);
+    EXPECT_EQ(linesOfText(run.err).size(), 2u) << run.err;
+    EXPECT_EQ(names(), (Names{"current.qds", "cut.qds", "first.qds", "first.qds.bak", "last.qds",
+                              "last.qds.bak"}));
+    EXPECT_EQ(readBytes(first), newScript);
+    EXPECT_EQ(readBytes(first + ".bak"), oldScript);
+    EXPECT_EQ(readBytes(cut), cutScript);
+    EXPECT_EQ(readBytes(last), newScript);
+}
+
+TEST_F(Convert, leavesAFileAloneInPlaceThatIsAsItShouldBe) {
+    const std::string current = file("current.qds", newScript);
+    const auto before = fs::file_size(current);
+    const auto written = fs::last_write_time(current);
+    EXPECT_EQ(runQds({"convert", "--in-place", current}).status, 0);
+    EXPECT_EQ(runQds({"convert", "--output", current, current}).status, 0);
+    EXPECT_EQ(fs::last_write_time(current), written);
+    EXPECT_EQ(fs::file_size(current), before);
+    EXPECT_EQ(names(), Names{"current.qds"});
+}
+
+TEST_F(Convert, keepsTheOldFileWhenTheOutputIsTheInput) {
+    const std::string source = file("a.qds", oldScript);
+    fs::create_hard_link(source, file("same.qds"));
+    EXPECT_EQ(runQds({"convert", "--output", file("same.qds"), source}).status, 0);
+    EXPECT_EQ(readBytes(file("same.qds")), newScript);
+    EXPECT_EQ(readBytes(file("same.qds.bak")), oldScript);
+
+    const std::string other = file("b.qds", bytesOf("an older result"));
+    EXPECT_EQ(runQds({"convert", "--output", other, source}).status, 0);
+    EXPECT_EQ(readBytes(other), newScript);
+    EXPECT_FALSE(fs::exists(other + ".bak"));
+}
+
+TEST_F(Convert, refusesPlacesThatCannotBeWritten) {
+    const std::string source = file("a.qds", oldScript);
+    for (const std::string& place : {file("no/such/folder"), file("."), std::string("/dev/full")}) {
+        const QdsRun run = runQds({"convert", "--output", place, source});
+        EXPECT_EQ(run.status, 1) << place;
+        EXPECT_EQ(run.err.find("qds: " + place + ": "), 0u) << run.err;
+    }
+    EXPECT_EQ(names(), Names{"a.qds"});
+}
+
+TEST_F(Convert, writesIntoADevice) {
+    EXPECT_EQ(runQds({"convert", "--output", "/dev/null", "-"}, oldScript).status, 0);
+    EXPECT_TRUE(fs::is_character_file("/dev/null"));
+}
+
+}  // namespace quendra::test

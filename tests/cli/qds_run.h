@@ -1,0 +1,62 @@
+// qds run in the test's own process, with made-up streams and a made-up identity.
+#pragma once
+
+#include "support/fixtures.h"
+#include "support/temporary_folder.h"
+
+#include <filesystem>
+#include <gtest/gtest.h>
+#include <string>
+#include <vector>
+
+namespace quendra::test {
+
+/// What a run gave back.
+struct QdsRun {
+    int status = -1;
+    std::string out;
+    std::string err;
+};
+
+/// Runs qds in this process. `input` is what standard input holds.
+[[nodiscard]] QdsRun runQds(const std::vector<std::string>& arguments,
+                            std::span<const std::uint8_t> input = {});
+
+/// A folder for the files of a test, and a user with an identity: that of the frozen cases unless
+/// another is set.
+class QdsTest : public testing::Test {
+  protected:
+    QdsTest();
+    ~QdsTest() override;
+
+    void setIdentity(const std::string& identity);
+    /// The path of a file in the folder, written first when bytes are given.
+    [[nodiscard]] std::string file(const std::string& name) const {
+        return (folder_ / name).string();
+    }
+    [[nodiscard]] std::string file(const std::string& name,
+                                   std::span<const std::uint8_t> bytes) const;
+    /// The names of all files in the folder, sorted.
+    [[nodiscard]] std::vector<std::string> names() const;
+
+    /// The script that a JSON form builds; the test fails where it is refused.
+    [[nodiscard]] Bytes built(const std::string& json) const;
+
+  private:
+    TemporaryFolder folder_;
+    TemporaryFolder configuration_;
+};
+
+/// Names the rows of a table of tests by their `name`.
+inline constexpr auto rowName = [](const auto& row) { return std::string(row.param.name); };
+
+/// The frozen case of this name.
+[[nodiscard]] const Case& frozenCase(const std::string& name);
+
+/// The lines of a text, without their ends.
+[[nodiscard]] std::vector<std::string> linesOfText(const std::string& text);
+
+/// A current script file of a host type: the signature and these records.
+[[nodiscard]] Bytes scriptFile(const char* signature, std::initializer_list<Bytes> records);
+
+}  // namespace quendra::test
