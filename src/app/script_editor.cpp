@@ -34,7 +34,7 @@ StringId refusalText(EditRefusal refusal) {
 
 }  // namespace
 
-ScriptEditor::ScriptEditor(ApplicationState& state, MainWindow& window, ParameterDialog dialog)
+ScriptEditor::ScriptEditor(ApplicationState& state, MainWindow& window, EditParameters dialog)
     : state_(state), window_(window), dialog_(std::move(dialog)) {
     window_.setEditingCommands(commands());
     connect(&window_.pane(), &EditorPane::entriesAboutToMove, this,

@@ -16,7 +16,7 @@ namespace quendra {
 class MainWindow;
 
 /// Opens the dialog of a command, as editParameters does. An empty one answers Cancel.
-using ParameterDialog = std::function<bool(const DialogContext&, const EditTarget&)>;
+using EditParameters = std::function<bool(const DialogContext&, const EditTarget&)>;
 
 /// Gives a window its editing commands as long as it lives. Every change of the script, drags
 /// included, becomes one step of the state's history.
@@ -25,7 +25,7 @@ class ScriptEditor : public QObject, private EditingView {
 
   public:
     /// `state` and `window` outlive it.
-    ScriptEditor(ApplicationState& state, MainWindow& window, ParameterDialog dialog);
+    ScriptEditor(ApplicationState& state, MainWindow& window, EditParameters dialog);
     ~ScriptEditor() override;
     ScriptEditor(const ScriptEditor&) = delete;
     ScriptEditor& operator=(const ScriptEditor&) = delete;
@@ -55,7 +55,7 @@ class ScriptEditor : public QObject, private EditingView {
 
     ApplicationState& state_;
     MainWindow& window_;
-    ParameterDialog dialog_;
+    EditParameters dialog_;
     /// Script and selection when a drag was about to move entries.
     ScriptView beforeMove_;
 };

@@ -148,7 +148,7 @@ TEST(CommandTableTest, EveryCommandHasTextsAndAPlaceInAMenu) {
         EXPECT_NE(editor.state.language.loadText(info.toolTipId), "") << info.id;
         EXPECT_NE(editor.state.language.loadText(info.statusTextId), "") << info.id;
     }
-    EXPECT_EQ(expected, 321);
+    EXPECT_EQ(expected, 326);
 }
 
 TEST(CommandTableTest, ModeCommandsHaveTheirHostTypesTexts) {
