@@ -1,12 +1,12 @@
 // The desktop editor's start: what has to be known before the window, the window, and the end.
 #include "app/appearance.h"
 #include "app/application_life.h"
-#include "app/clipboard_commands.h"
 #include "app/command_line.h"
 #include "app/commands.h"
 #include "app/main_window.h"
 #include "app/message_box.h"
 #include "app/screenshot.h"
+#include "app/script_editor.h"
 #include "app/startup.h"
 #include "app/toolkit_language.h"
 #include "platform/editor_windows.h"
@@ -63,9 +63,7 @@ void applyCommandLine(MainWindow& window, const CommandLine& line) {
 int runWindow(ApplicationState& state, ShownWindow& shown, EditorListener* listener,
               const CommandLine& line, const PictureOptions& picture) {
     MainWindow window(state);
-    EditingCommands editing;
-    addClipboardCommands(editing, state, window);
-    window.setEditingCommands(std::move(editing));
+    const ScriptEditor editor(state, window, {});
     shown = {&state, &window};
     std::unique_ptr<QSocketNotifier> asked;
     if (listener && listener->descriptor() >= 0) {
