@@ -9,6 +9,7 @@
 #include <cstdlib>
 #include <nlohmann/json.hpp>
 #include <span>
+#include <sstream>
 
 namespace {
 
@@ -43,8 +44,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     require(read.isWhole() && read.script == made.script);
     const cli::JsonPrinting printing = {luFunctions().of(made.hostType), menuCommands(), cipher,
                                         true};
-    const std::string printed =
-        cli::printJson(cli::jsonOfScript(made.script, made.hostType, printing));
+    std::ostringstream out;
+    cli::printScript(out, made.script, made.hostType, printing);
+    const std::string printed = out.str();
     const cli::ParsedJson again =
         cli::parseJson({reinterpret_cast<const std::uint8_t*>(printed.data()), printed.size()});
     require(again.value != nullptr);

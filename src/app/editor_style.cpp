@@ -1,15 +1,48 @@
 #include "app/editor_style.h"
 
 #include <QAbstractItemView>
+#include <QGuiApplication>
 #include <QIconEngine>
 #include <QPainter>
-#include <QPainterPath>
 #include <QStyleFactory>
 #include <QStyleOption>
+
+#include <algorithm>
+#include <functional>
+#include <utility>
 
 namespace quendra {
 
 namespace {
+
+// Drawn anew at whatever size and scale is asked for, into a square box.
+using Drawing = std::function<void(QPainter& painter, const QRectF& box)>;
+
+class DrawnIconEngine : public QIconEngine {
+  public:
+    explicit DrawnIconEngine(Drawing drawing) : drawing_(std::move(drawing)) {}
+
+    void paint(QPainter* painter, const QRect& rect, QIcon::Mode, QIcon::State) override {
+        const int side = std::min(rect.width(), rect.height());
+        QRectF box(0, 0, side, side);
+        box.moveCenter(QRectF(rect).center());
+        painter->save();
+        painter->setRenderHint(QPainter::Antialiasing);
+        drawing_(*painter, box);
+        painter->restore();
+    }
+    QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
+        QPixmap pixmap(size);
+        pixmap.fill(Qt::transparent);
+        QPainter painter(&pixmap);
+        paint(&painter, QRect(QPoint(), size), mode, state);
+        return pixmap;
+    }
+    QIconEngine* clone() const override { return new DrawnIconEngine(*this); }
+
+  private:
+    Drawing drawing_;
+};
 
 struct MessageSign {
     QRgb colour;
@@ -22,55 +55,43 @@ constexpr MessageSign questionSign = {0xff2463c5, u'?', false};
 constexpr MessageSign warningSign = {0xffc77700, u'!', true};
 constexpr MessageSign stopSign = {0xffc4302b, u'\u00d7', false};
 
-// Drawn at whatever size and scale is asked for.
-class MessageIconEngine : public QIconEngine {
-  public:
-    explicit MessageIconEngine(const MessageSign& sign) : sign_(sign) {}
-
-    void paint(QPainter* painter, const QRect& rect, QIcon::Mode, QIcon::State) override {
-        const qreal side = std::min(rect.width(), rect.height());
-        const QRectF box(rect.x() + (rect.width() - side) / 2,
-                         rect.y() + (rect.height() - side) / 2, side, side);
-        painter->save();
-        painter->setRenderHint(QPainter::Antialiasing);
-        painter->setPen(Qt::NoPen);
-        painter->setBrush(QColor::fromRgb(sign_.colour));
-        painter->drawPath(shape(box.adjusted(side / 16, side / 16, -side / 16, -side / 16)));
-        QFont font = painter->font();
-        font.setBold(true);
-        font.setPixelSize(static_cast<int>(side * (sign_.triangle ? 0.5 : 0.62)));
-        painter->setFont(font);
-        painter->setPen(Qt::white);
-        const qreal down = sign_.triangle ? side * 0.22 : 0;
-        painter->drawText(box.adjusted(0, down, 0, 0), Qt::AlignCenter, QString(QChar(sign_.sign)));
-        painter->restore();
+void drawMessageSign(QPainter& painter, const QRectF& whole, const MessageSign& sign) {
+    const qreal side = whole.width();
+    const QRectF box = whole.adjusted(side / 16, side / 16, -side / 16, -side / 16);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(QColor::fromRgb(sign.colour));
+    if (sign.triangle) {
+        painter.drawPolygon(
+            QPolygonF{{QPointF(box.center().x(), box.top()), box.bottomRight(), box.bottomLeft()}});
+    } else {
+        painter.drawEllipse(box);
     }
-    QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
-        QPixmap pixmap(size);
-        pixmap.fill(Qt::transparent);
-        QPainter painter(&pixmap);
-        paint(&painter, QRect(QPoint(), size), mode, state);
-        return pixmap;
-    }
-    QIconEngine* clone() const override { return new MessageIconEngine(*this); }
-
-  private:
-    [[nodiscard]] QPainterPath shape(const QRectF& box) const {
-        QPainterPath path;
-        if (sign_.triangle) {
-            path.addPolygon(QPolygonF{{QPointF(box.center().x(), box.top()), box.bottomRight(),
-                                       box.bottomLeft(), QPointF(box.center().x(), box.top())}});
-        } else {
-            path.addEllipse(box);
-        }
-        return path;
-    }
-
-    MessageSign sign_;
-};
+    QFont font = painter.font();
+    font.setBold(true);
+    font.setPixelSize(static_cast<int>(side * (sign.triangle ? 0.5 : 0.62)));
+    painter.setFont(font);
+    painter.setPen(Qt::white);
+    // The broad part of the triangle is its lower one.
+    const qreal down = sign.triangle ? side * 0.22 : 0;
+    painter.drawText(whole.adjusted(0, down, 0, 0), Qt::AlignCenter, QString(QChar(sign.sign)));
+}
 
 QIcon messageIcon(const MessageSign& sign) {
-    return QIcon(new MessageIconEngine(sign));
+    return QIcon(new DrawnIconEngine(
+        [sign](QPainter& painter, const QRectF& box) { drawMessageSign(painter, box, sign); }));
+}
+
+// What the toolbar has no room for is behind this arrow; Fusion's own is black in every palette.
+QIcon extensionIcon() {
+    return QIcon(new DrawnIconEngine([](QPainter& painter, const QRectF& box) {
+        const qreal step = box.width() / 4;
+        painter.setPen(QPen(QGuiApplication::palette().color(QPalette::ButtonText), step / 2));
+        for (const qreal left : {box.center().x() - step, box.center().x() + step / 2}) {
+            painter.drawPolyline(QPolygonF{{QPointF(left, box.center().y() - step),
+                                            QPointF(left + step, box.center().y()),
+                                            QPointF(left, box.center().y() + step)}});
+        }
+    }));
 }
 
 void drawListEdge(const QStyleOption& option, QPainter& painter, bool focused) {
@@ -124,6 +145,7 @@ QIcon EditorStyle::standardIcon(StandardPixmap icon, const QStyleOption* option,
         case SP_MessageBoxQuestion: return messageIcon(questionSign);
         case SP_MessageBoxWarning: return messageIcon(warningSign);
         case SP_MessageBoxCritical: return messageIcon(stopSign);
+        case SP_ToolBarHorizontalExtensionButton: return extensionIcon();
         default: return QProxyStyle::standardIcon(icon, option, widget);
     }
 }

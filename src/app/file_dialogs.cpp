@@ -42,6 +42,9 @@ std::optional<std::filesystem::path> runDialog(QWidget* owner, const FileDialogR
         dialog.setDirectory(QFile::decodeName(request.initialFolder.c_str()));
     }
     fitColumns(dialog);
+    if (!request.initialFile.empty()) {
+        dialog.selectFile(QFile::decodeName(request.initialFile.c_str()));
+    }
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return std::nullopt;
     return std::filesystem::absolute(pathFromQt(dialog.selectedFiles().constFirst()));
 }

@@ -25,6 +25,8 @@ struct FileDialogRequest {
     std::string extension;
     /// Where the dialog starts; empty for the current folder.
     std::filesystem::path initialFolder;
+    /// The name that is offered; one with a folder takes the dialog there. Empty for none.
+    std::filesystem::path initialFile = {};
 };
 
 /// The absolute path that the user chose; none on Cancel. Open gives files that exist only. Save

@@ -42,6 +42,10 @@ QString asToolTip(const std::string& text) {
     return QStringLiteral("<qt>") + plain.toHtmlEscaped() + QStringLiteral("</qt>");
 }
 
+void runIfSet(const std::function<void()>& operation) {
+    if (operation) operation();
+}
+
 // Qt's own buttons for what a narrow window has no room for.
 void nameExtensionButtons(QWidget& window) {
     for (const char* name : {"qt_toolbar_ext_button", "qt_menubar_ext_button"}) {
@@ -67,7 +71,6 @@ MainWindow::MainWindow(ApplicationState& state, QWidget* parent)
     setCentralWidget(pane_);
     connect(pane_, &EditorPane::commandRequested, this, &MainWindow::runCommand);
     connect(pane_, &EditorPane::selectionChanged, this, &MainWindow::updateCommandStates);
-    connect(pane_, &EditorPane::entriesMoved, this, &MainWindow::scriptChanged);
     connect(
         qGuiApp, &QGuiApplication::commitDataRequest, this, [this] { endSession(); },
         Qt::DirectConnection);
@@ -80,13 +83,17 @@ void MainWindow::setEditingCommands(EditingCommands commands) {
     editing_ = std::move(commands);
 }
 
+void MainWindow::setHelpCommand(std::function<void()> showHelp) {
+    showHelp_ = std::move(showHelp);
+}
+
 void MainWindow::buildActions() {
     auto* modes = new QActionGroup(this);
     for (const CommandInfo& info : commands()) {
         auto* action =
             new QAction(toolbarIcon(info.id), qtText(commandMenuText(info, state_.language)), this);
         action->setObjectName(QStringLiteral("command%1").arg(info.id));
-        action->setShortcut(QKeySequence::fromString(QLatin1String(info.shortcut)));
+        action->setShortcuts(QKeySequence::listFromString(QLatin1String(info.shortcut)));
         action->setIconText(qtText(libraryText(state_.language, info.toolTipId)));
         action->setStatusTip(qtText(libraryText(state_.language, info.statusTextId)));
         action->setMenuRole(QAction::NoRole);
@@ -172,24 +179,24 @@ void MainWindow::dispatch(int command) {
         case command::save: save(); return;
         case command::saveAs: saveAs(); return;
         case command::exit: QMetaObject::invokeMethod(this, "close", Qt::QueuedConnection); return;
+        case command::help: return runIfSet(showHelp_);
         case command::about: AboutBox(state_.language, this).exec(); return;
         default: return dispatchEditing(command);
     }
 }
 
 void MainWindow::dispatchEditing(int command) {
-    const auto run = [](const std::function<void()>& operation) {
-        if (operation) operation();
-    };
     switch (command) {
-        case command::cut: return run(editing_.cutEntries);
-        case command::copy: return run(editing_.copyEntries);
-        case command::paste: return run(editing_.pasteEntries);
-        case command::insertScriptEvent: return run(editing_.insertScriptEvent);
-        case command::insertLuFunction: return run(editing_.insertLuFunction);
-        case command::insertMenuCommand: return run(editing_.insertMenuCommand);
-        case command::editEntry: return run(editing_.editCurrentEntry);
-        case command::deleteEntries: return run(editing_.deleteEntries);
+        case command::undo: return runIfSet(editing_.undo);
+        case command::redo: return runIfSet(editing_.redo);
+        case command::cut: return runIfSet(editing_.cutEntries);
+        case command::copy: return runIfSet(editing_.copyEntries);
+        case command::paste: return runIfSet(editing_.pasteEntries);
+        case command::insertScriptEvent: return runIfSet(editing_.insertScriptEvent);
+        case command::insertLuFunction: return runIfSet(editing_.insertLuFunction);
+        case command::insertMenuCommand: return runIfSet(editing_.insertMenuCommand);
+        case command::editEntry: return runIfSet(editing_.editCurrentEntry);
+        case command::deleteEntries: return runIfSet(editing_.deleteEntries);
         default: return;
     }
 }
@@ -283,7 +290,7 @@ void MainWindow::showDocument() {
 }
 
 void MainWindow::scriptChanged() {
-    state_.document.modified = true;
+    state_.document.modified = state_.script != state_.document.saved;
     note_.clear();
     updateTitle();
     updateStatus();
@@ -309,7 +316,16 @@ void MainWindow::updateCommandStates() {
     for (const auto& [id, action] : actions_) {
         action->setEnabled(isCommandEnabled(id, facts));
         action->setToolTip(asToolTip(commandToolTip(id, facts, state_.language)));
+        if (const auto text = commandMenuText(id, facts, state_.language)) {
+            action->setText(qtText(*text));
+        }
     }
+}
+
+void MainWindow::comeToFront() {
+    setWindowState(windowState() & ~Qt::WindowMinimized);
+    raise();
+    activateWindow();
 }
 
 void MainWindow::endSession() {

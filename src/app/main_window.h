@@ -1,5 +1,5 @@
 // The main window: menus, toolbar, editor pane and status bar around the one script, and the
-// commands 300 to 320.
+// commands.
 #pragma once
 
 #include "app/application_state.h"
@@ -10,11 +10,11 @@
 #include <QMainWindow>
 
 #include <filesystem>
+#include <functional>
 #include <map>
 #include <string>
 
 class QAction;
-class QMenu;
 class QToolBar;
 
 namespace quendra {
@@ -28,10 +28,13 @@ class MainWindow : public QMainWindow {
     /// `state` outlives the window. Its language is loaded and its catalogues are built.
     explicit MainWindow(ApplicationState& state, QWidget* parent = nullptr);
 
-    /// The commands 305 to 312 run these from now on.
+    /// The commands that change the script run these from now on.
     void setEditingCommands(EditingCommands commands);
 
-    /// Runs a command of 300 to 320 as its menu item does, whether it is enabled or not.
+    /// The Help command runs this from now on.
+    void setHelpCommand(std::function<void()> showHelp);
+
+    /// Runs a command as its menu item does, whether it is enabled or not.
     void runCommand(int command);
 
     /// Makes a host type the current one and shows the script under its names. The document is not
@@ -41,8 +44,9 @@ class MainWindow : public QMainWindow {
     /// Opens the script that the command line names.
     void openAtStart(const std::filesystem::path& path);
 
-    /// The script has been changed: marks the document as modified and brings title, status bar and
-    /// command states up to date. The list itself is the caller's to rebuild.
+    /// The script has been changed: marks the document as modified when it differs from the saved
+    /// one, and brings title, status bar and command states up to date. The list itself is the
+    /// caller's to rebuild.
     void scriptChanged();
 
     /// Brings menu items, toolbar buttons and their tool tips up to date with script, selections
@@ -52,6 +56,9 @@ class MainWindow : public QMainWindow {
     /// Shows a text (UTF-8) in the status bar in place of the entry count, until the script or the
     /// document changes.
     void showNote(const std::string& note);
+
+    /// Restores the window if it is minimised and brings it in front of all others.
+    void comeToFront();
 
     /// The desktop session ends: the window closes without a question from now on.
     void endSession();
@@ -87,6 +94,7 @@ class MainWindow : public QMainWindow {
 
     ApplicationState& state_;
     EditingCommands editing_;
+    std::function<void()> showHelp_;
     std::map<int, QAction*> actions_;
     QToolBar* toolBar_ = nullptr;
     EditorPane* pane_ = nullptr;

@@ -47,6 +47,12 @@ std::optional<PictureOptions> takePictureOptions(std::vector<std::string>& argum
     std::vector<std::string> others;
     for (std::size_t i = 0; i < arguments.size(); ++i) {
         const std::string& argument = arguments[i];
+        if (argument == "--") {
+            // Names of files follow.
+            others.insert(others.end(), arguments.begin() + static_cast<std::ptrdiff_t>(i),
+                          arguments.end());
+            break;
+        }
         if (argument == "--light") {
             options.appearance = Appearance::Light;
         } else if (argument == "--dark") {

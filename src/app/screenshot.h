@@ -26,7 +26,8 @@ struct PictureOptions {
 };
 
 /// Takes the options out of `arguments` (without the program's name); all others stay in their
-/// order. None when an option lacks its value or has one that makes no sense.
+/// order, as does whatever stands behind "--". None when an option lacks its value or has one that
+/// makes no sense.
 [[nodiscard]] std::optional<PictureOptions> takePictureOptions(std::vector<std::string>& arguments);
 
 /// Draws `window`, which is shown, into the file, in the format of the file's extension.

@@ -12,33 +12,34 @@ inline constexpr const char* productVersion = "6.1";
 inline constexpr const char* fullVersion = "6.1.4.1982";
 
 struct StartupSettings {
+    /// "Software\Quendra\6.1", or "Software\Quendra Web\6.1" when web-deployed.
+    std::string productKeyPath;
+    std::filesystem::path programDir;
+    std::filesystem::path installDir;
+    std::filesystem::path workingDir;
+    /// Empty when none is configured.
+    std::filesystem::path backupDir;
+    std::filesystem::path scriptsDir;
+    std::filesystem::path transferDir;
+    std::filesystem::path configDir;
+    std::filesystem::path helpFilePath;
+    std::string webHelpBase;
+    std::string windowClassName = "Quendra Script Editor";
+
     /// The program file lies in a low-integrity folder.
     bool protectedMode = false;
     /// The program runs from a per-user or temporary cache folder.
     bool webDeployed = false;
-    /// "Software\Quendra\6.1", or "Software\Quendra Web\6.1" when web-deployed.
-    std::string productKeyPath;
     /// 2: the settings are the user's; anything else: the machine's.
     std::uint8_t baseRegistry = 0;
-    std::filesystem::path programDir;
-    std::filesystem::path installDir;
     std::uint8_t workingDirType = 0;
-    std::filesystem::path workingDir;
     /// Scripts, transfer files and configuration lie in subfolders of the working directory.
     bool withSubfolders = true;
     bool appendVersion = false;
     bool crossVersionInterop = true;
-    /// Empty when none is configured.
-    std::filesystem::path backupDir;
     /// The working directory was not writable and the backup directory took its place.
     bool usingBackupDir = false;
-    std::filesystem::path scriptsDir;
-    std::filesystem::path transferDir;
-    std::filesystem::path configDir;
-    std::string windowClassName = "Quendra Script Editor";
     bool useWebHelp = false;
-    std::string webHelpBase;
-    std::filesystem::path helpFilePath;
 };
 
 }  // namespace quendra

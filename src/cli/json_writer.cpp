@@ -3,6 +3,7 @@
 #include "cli/base64.h"
 #include "cli/json_layout.h"
 #include "cli/json_names.h"
+#include "cli/json_text.h"
 #include "cli/script_json.h"
 #include "cli/transfer_json.h"
 #include "platform/text_encoding.h"
@@ -10,6 +11,7 @@
 
 #include <array>
 #include <nlohmann/json.hpp>
+#include <ostream>
 #include <utility>
 
 namespace quendra::cli {
@@ -98,20 +100,29 @@ void EntryWriter::luKey(std::uint8_t group, std::uint8_t number) {
     object_["name"] = name ? Json(*name) : Json(nullptr);
 }
 
+// The text of an entry as it stands in the list of entries. Strings hold no raw line break.
+void printEntry(std::ostream& out, const Json& entry) {
+    for (const char character : printJson(entry)) {
+        out << character;
+        if (character == '\n') out << "    ";
+    }
+}
+
 }  // namespace
 
-Json jsonOfScript(const Script& script, HostType hostType, const JsonPrinting& printing) {
-    Json entries = Json::array();
+void printScript(std::ostream& out, const Script& script, HostType hostType,
+                 const JsonPrinting& printing) {
+    out << "{\n  \"hostType\": \"" << hostTypeInfo(hostType).name << "\",\n  \"entries\": [";
+    // Entry by entry: the tree of a whole script takes a hundred megabytes.
+    const char* separator = "\n    ";
     for (const EntryHandle& handle : script.entries) {
-        Json object;
-        EntryWriter(object, hostType, printing)
+        Json entry;
+        EntryWriter(entry, hostType, printing)
             .slot(unpackEntry(handle, printing.cipher), Slot::Entry);
-        entries.push_back(std::move(object));
+        out << std::exchange(separator, ",\n    ");
+        printEntry(out, entry);
     }
-    Json form;
-    form["hostType"] = hostTypeInfo(hostType).name;
-    form["entries"] = std::move(entries);
-    return form;
+    out << (script.entries.empty() ? "]\n}" : "\n  ]\n}");
 }
 
 }  // namespace quendra::cli

@@ -9,6 +9,7 @@
 #include "model/script.h"
 #include "scriptfile/hidden_text.h"
 
+#include <iosfwd>
 #include <nlohmann/json_fwd.hpp>
 #include <string>
 
@@ -23,10 +24,10 @@ struct JsonPrinting {
     bool reveal = false;
 };
 
-/// The JSON form with every field of every entry. A hidden text that the cipher does not open is
-/// null with its enciphered bytes beside it.
-[[nodiscard]] nlohmann::ordered_json jsonOfScript(const Script& script, HostType hostType,
-                                                  const JsonPrinting& printing);
+/// Prints the JSON form with every field of every entry, without a line break at its end. A hidden
+/// text that the cipher does not open is null with its enciphered bytes beside it.
+void printScript(std::ostream& out, const Script& script, HostType hostType,
+                 const JsonPrinting& printing);
 
 /// A script made from its JSON form, or why it was refused: entry (from 1), slot, field and what is
 /// wrong with it, never the value.
@@ -38,7 +39,7 @@ struct ScriptOfJson {
     [[nodiscard]] bool ok() const { return refusal.empty(); }
 };
 
-/// Fields left out are those of a new entry. Gives back the very records that jsonOfScript was
+/// Fields left out are those of a new entry. Gives back the very records that printScript was
 /// given when hidden texts were revealed and the cipher is the same.
 [[nodiscard]] ScriptOfJson scriptOfJson(const nlohmann::ordered_json& form,
                                         const HiddenTextCipher& cipher);

@@ -1,6 +1,5 @@
 // qds show: the lines of scripts, as the script list of the editor shows them.
 
-#include "cli/json_text.h"
 #include "cli/qds.h"
 #include "cli/script_json.h"
 #include "model/entry_display.h"
@@ -9,7 +8,6 @@
 #include "scriptfile/entry_codec.h"
 
 #include <iomanip>
-#include <nlohmann/json.hpp>
 
 namespace quendra::cli {
 
@@ -20,14 +18,12 @@ struct Show {
     Environment& environment;
     EntryNames names;
     HiddenTextCipher cipher;
-    bool isFirst = true;
 };
 
 // JSON has none: what prints one form after another is made for programs.
-void printHeading(Show& show, const std::string& file) {
+// No empty line between the files: that would read like one more entry without a command.
+void printHeading(const Show& show, const std::string& file) {
     if (show.request.files.size() < 2 || show.request.json) return;
-    if (!show.isFirst) show.environment.out << '\n';
-    show.isFirst = false;
     show.environment.out << "==> " << shownName(file) << " <==\n";
 }
 
@@ -47,10 +43,11 @@ void printForm(const Show& show, const ReadResult& read) {
     const HostType hostType = read.signature.hostType;
     const JsonPrinting printing = {show.names.luFunctions.of(hostType), show.names.menuCommands,
                                    show.cipher, show.request.reveal};
-    show.environment.out << printJson(jsonOfScript(read.script, hostType, printing)) << '\n';
+    printScript(show.environment.out, read.script, hostType, printing);
+    show.environment.out << '\n';
 }
 
-bool showFile(Show& show, const std::string& file) {
+bool showFile(const Show& show, const std::string& file) {
     const auto source = readScriptInput(show.environment, file);
     if (!source) return false;
     printHeading(show, file);
@@ -67,7 +64,8 @@ bool showFile(Show& show, const std::string& file) {
 }  // namespace
 
 int showScripts(const ShowRequest& request, Environment& environment) {
-    Show show = {request, environment, EntryNames(environment), HiddenTextCipher(userIdentity())};
+    const Show show = {request, environment, EntryNames(environment),
+                       HiddenTextCipher(userIdentity())};
     bool isWell = show.names.isLoaded;
     for (const std::string& file : request.files) {
         if (!showFile(show, file)) isWell = false;

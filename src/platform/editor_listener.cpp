@@ -17,6 +17,8 @@ namespace fs = std::filesystem;
 
 constexpr std::size_t maxConnections = 16;
 constexpr int maxEvents = 16;
+// An asker does not wait for a place in the queue, so there are more of them than anyone needs.
+constexpr int maxQueued = 128;
 
 }  // namespace
 
@@ -51,7 +53,7 @@ bool EditorListener::listen(const fs::path& folder) {
         return false;
     }
     address_ = hidden;
-    if (::listen(socket_.get(), maxConnections) != 0 || !watch(socket_.get())) return false;
+    if (::listen(socket_.get(), maxQueued) != 0 || !watch(socket_.get())) return false;
     const fs::path visible = folder / (std::string(editorSocketPrefix) + name);
     if (::rename(hidden.c_str(), visible.c_str()) != 0) return false;
     address_ = visible;
@@ -78,16 +80,21 @@ void EditorListener::serve() {
     }
 }
 
+// Takes as many as there are places, so that nobody who floods the queue keeps others out for long.
 // Someone who connects and stays silent costs one of the places, and only until they are needed.
 void EditorListener::accept() {
-    Descriptor connection(::accept4(socket_.get(), nullptr, nullptr, SOCK_CLOEXEC | SOCK_NONBLOCK));
-    if (!connection.isOpen() || !peerIsSameUser(connection.get())) return;
-    if (connections_.size() == maxConnections) connections_.erase(connections_.begin());
-    if (watch(connection.get())) connections_.push_back(std::move(connection));
+    for (std::size_t i = 0; i < maxConnections; ++i) {
+        Descriptor connection(
+            ::accept4(socket_.get(), nullptr, nullptr, SOCK_CLOEXEC | SOCK_NONBLOCK));
+        if (!connection.isOpen()) return;
+        if (!peerIsSameUser(connection.get())) continue;
+        if (connections_.size() == maxConnections) connections_.erase(connections_.begin());
+        if (watch(connection.get())) connections_.push_back(std::move(connection));
+    }
 }
 
 void EditorListener::answer(int descriptor) {
-    std::array<char, maxEditorQuestion> buffer;
+    std::array<char, maxEditorQuestion> buffer{};
     const ssize_t size = ::recv(descriptor, buffer.data(), buffer.size(), MSG_DONTWAIT | MSG_TRUNC);
     if (size < 0 && (errno == EAGAIN || errno == EINTR)) return;
     // A packet that was cut gives its whole length.

@@ -206,6 +206,8 @@ ReplaceResult replaceFile(const fs::path& path, std::span<const std::uint8_t> by
         errno = S_ISDIR(old->st_mode) ? EISDIR : EINVAL;
         return fail();
     }
+    // Renaming needs no right to the file itself, but its user has said that it shall not change.
+    if (old && ::access(target.c_str(), W_OK) != 0) return fail();
 
     TemporaryFile temporary(target);
     if (!temporary.opened) return fail();

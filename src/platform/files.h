@@ -61,7 +61,8 @@ struct ReplaceResult {
 /// or the whole new one is there: a temporary file in the same folder is written, synchronised and
 /// renamed. Mode and, where allowed, owner of the old file stay; a symbolic link stays a link and
 /// its target is replaced. A kept old file is called NAME.bak, or NAME.bak2 and so on when that
-/// exists. On failure nothing has changed and nothing is left behind.
+/// exists. A file that the user may not write is not replaced. On failure nothing has changed and
+/// nothing is left behind.
 [[nodiscard]] ReplaceResult replaceFile(const std::filesystem::path& path,
                                         std::span<const std::uint8_t> bytes, OldFile oldFile);
 

@@ -2,12 +2,10 @@
 #include "app/document.h"
 
 #include "app/editor_fixture.h"
-#include "scriptfile/script_files.h"
+#include "support/full_disk.h"
 
+#include <algorithm>
 #include <filesystem>
-#include <fstream>
-#include <sys/stat.h>
-#include <unistd.h>
 
 namespace quendra::test {
 namespace {
@@ -28,7 +26,8 @@ class DocumentTest : public ::testing::Test {
     }
     std::size_t filesInFolder() {
         return static_cast<std::size_t>(
-            std::distance(fs::directory_iterator(editor.folder.path()), fs::directory_iterator()));
+            std::count_if(fs::directory_iterator(editor.folder.path()), fs::directory_iterator(),
+                          [](const auto& entry) { return entry.is_regular_file(); }));
     }
 
     EditorState editor;
@@ -120,15 +119,20 @@ TEST_F(DocumentTest, OlderFileThatCannotBeWrittenIsLoadedAndKeptByTheFirstSave) 
         return frozen.version == '5' && frozen.entries > 0;
     });
     ASSERT_NE(old, cases.end());
-    // A name so long that the names of the temporary file and of the backup do not fit any more
-    // stops the rewriting for everyone, the superuser too.
-    const fs::path path = file(std::string(251, 'x') + ".qds", old->file);
-    const OpenOutcome outcome = openDocument(state, path);
-    ASSERT_TRUE(outcome.opened);
-    EXPECT_NE(outcome.note.find("older version"), std::string::npos) << outcome.note;
+    const fs::path path = file("old.qds", old->file);
+    {
+        const FullDisk full;
+        const OpenOutcome outcome = openDocument(state, path);
+        ASSERT_TRUE(outcome.opened);
+        EXPECT_NE(outcome.note.find("older version"), std::string::npos) << outcome.note;
+    }
     EXPECT_EQ(state.script.entryCount(), old->entries);
     EXPECT_EQ(readBytes(path), old->file);
-    EXPECT_TRUE(state.document.keepOldOnSave);
+    EXPECT_EQ(filesInFolder(), 1U);
+    EXPECT_TRUE(questionsBeforeSave(state, path).empty());
+    ASSERT_TRUE(saveDocument(state, path).saved);
+    EXPECT_EQ(readBytes(path), old->expected);
+    EXPECT_EQ(readBytes(path.string() + ".bak"), old->file);
 }
 
 struct NotWhole {
@@ -217,15 +221,42 @@ TEST_F(DocumentTest, FailedWriteLeavesDocumentAndDisk) {
     state.document.modified = true;
     state.document.keepOldOnSave = true;
     const auto stamp = state.document.stamp;
-    const SaveOutcome outcome = saveDocument(state, editor.folder / "missing" / "b.qds");
-    EXPECT_FALSE(outcome.saved);
-    ASSERT_TRUE(outcome.refusal);
-    EXPECT_NE(outcome.refusal->text.find("cannot be created"), std::string::npos);
-    EXPECT_EQ(state.document.fileName, path);
-    EXPECT_TRUE(state.document.modified);
-    EXPECT_TRUE(state.document.keepOldOnSave);
-    EXPECT_EQ(state.document.stamp, stamp);
-    EXPECT_EQ(filesInFolder(), 1U);
+    struct Row {
+        const char* name;
+        fs::path path;
+        bool diskIsFull;
+        const char* text;
+    };
+    const Row rows[] = {
+        {"no such folder", editor.folder / "missing" / "b.qds", false, "cannot be created"},
+        {"name of a folder", editor.folder.path(), false, "cannot be created"},
+        {"full disk", path, true, "cannot be written"},
+        {"full disk, new file", editor.folder / "b.qds", true, "cannot be written"},
+    };
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.name);
+        std::optional<FullDisk> full;
+        if (row.diskIsFull) full.emplace();
+        const SaveOutcome outcome = saveDocument(state, row.path);
+        full.reset();
+        EXPECT_FALSE(outcome.saved);
+        ASSERT_TRUE(outcome.refusal);
+        EXPECT_NE(outcome.refusal->text.find(row.text), std::string::npos) << outcome.refusal->text;
+        EXPECT_EQ(state.document.fileName, path);
+        EXPECT_TRUE(state.document.modified);
+        EXPECT_TRUE(state.document.keepOldOnSave);
+        EXPECT_EQ(state.document.stamp, stamp);
+        EXPECT_EQ(readBytes(path), commentFile(2));
+        EXPECT_EQ(filesInFolder(), 1U);
+    }
+}
+
+TEST_F(DocumentTest, SavedScriptIsCopiedToTheBackupDirectory) {
+    const fs::path path = openedFile("a.qds", commentFile(2));
+    state.settings.backupDir = editor.folder / "backup";
+    fs::create_directories(state.settings.backupDir / "Scripts");
+    ASSERT_TRUE(saveDocument(state, path).saved);
+    EXPECT_EQ(readBytes(state.settings.backupDir / "Scripts" / "a.qds"), commentFile(2));
 }
 
 TEST_F(DocumentTest, SavingAsVtNamesWhatWouldBeLost) {

@@ -1,6 +1,5 @@
 #include "app/editor_fixture.h"
 
-#include "app/clipboard_commands.h"
 #include "app/ui_text.h"
 
 #include <QAction>
@@ -8,15 +7,20 @@
 #include <QLabel>
 #include <QListView>
 
+#include <fstream>
+
 namespace quendra::test {
 
-EditorState::EditorState() {
+EditorState::EditorState(const std::string& language) {
     state.settings.programDir = pathFromQt(QCoreApplication::applicationDirPath());
     state.settings.installDir = folder.path() / "installed";
     state.settings.workingDir = folder.path();
     state.settings.scriptsDir = folder.path();
     state.settings.transferDir = folder.path();
-    state.settings.configDir = folder.path();
+    state.settings.configDir = folder.path() / "Config";
+    std::filesystem::create_directory(state.settings.configDir);
+    std::ofstream(state.settings.configDir / "language.ini")
+        << "[Language]\nLanguage=" << language << "\n";
     const auto notice = state.language.load(
         {state.settings.programDir, state.settings.configDir, state.settings.installDir});
     if (notice) throw std::runtime_error(notice->text);
@@ -77,12 +81,24 @@ Answers::~Answers() {
     replaceFileDialogHandler(std::move(fileDialogsBefore_));
 }
 
-EditorTest::EditorTest() : window(state) {
-    EditingCommands editing;
-    addClipboardCommands(editing, state, window);
-    window.setEditingCommands(std::move(editing));
+EditorTest::EditorTest()
+    : window(state),
+      scriptEditor(state, window, [this](const DialogContext&, const EditTarget& target) {
+          dialogs.push_back(target.entry);
+          if (toDialogs.empty()) {
+              ADD_FAILURE() << "unexpected dialog of " << commandKeyword(target.entry.commandCode);
+              return false;
+          }
+          const DialogAnswer answer = toDialogs.front();
+          toDialogs.pop_front();
+          return answer(target.entry);
+      }) {
     window.show();
     QApplication::setActiveWindow(&window);
+}
+
+EditorTest::~EditorTest() {
+    EXPECT_TRUE(toDialogs.empty()) << "a prepared dialog was never opened";
 }
 
 std::filesystem::path EditorTest::open(const std::string& name, const Bytes& bytes) {

@@ -5,10 +5,12 @@
 #include "app/file_dialogs.h"
 #include "app/main_window.h"
 #include "app/message_box.h"
+#include "app/script_editor.h"
 #include "support/fixtures.h"
 #include "support/temporary_folder.h"
 
 #include <deque>
+#include <functional>
 #include <gtest/gtest.h>
 #include <memory>
 #include <string>
@@ -18,7 +20,8 @@ namespace quendra::test {
 
 /// State as after start-up with an empty script; scripts lie in `folder`.
 struct EditorState {
-    EditorState();
+    /// `language` is the base name of the language library.
+    explicit EditorState(const std::string& language = "qdstring");
 
     TemporaryFolder folder;
     ApplicationState state;
@@ -52,9 +55,13 @@ class Answers {
     FileDialogHandler fileDialogsBefore_;
 };
 
+/// What a user does in a parameter dialog: changes the working copy and gives true for OK.
+using DialogAnswer = std::function<bool(ScriptEntry&)>;
+
 class EditorTest : public ::testing::Test {
   protected:
     EditorTest();
+    ~EditorTest() override;
 
     /// Opens a file with these bytes through the menu command.
     std::filesystem::path open(const std::string& name, const Bytes& bytes);
@@ -73,7 +80,12 @@ class EditorTest : public ::testing::Test {
     EditorState editor;
     ApplicationState& state = editor.state;
     Answers answers;
+    /// For the parameter dialogs in the order in which they open, and the working copies that they
+    /// were opened on.
+    std::deque<DialogAnswer> toDialogs;
+    std::vector<ScriptEntry> dialogs;
     MainWindow window;
+    ScriptEditor scriptEditor;
 };
 
 }  // namespace quendra::test

@@ -291,14 +291,17 @@ TEST(BackupDirectory, IsMadeWithItsSubfoldersAndLeftAlone) {
 }
 
 TEST(BackupDirectory, TakesThePlaceOfAWorkingDirectoryThatRefusesWrites) {
-    Machine machine;
-    machine.write("file", "");
-    const StartupSettings settings = startWithBackup(machine, "<SHARE>/b", "@/file/w");
-    EXPECT_TRUE(settings.usingBackupDir);
-    EXPECT_EQ(settings.workingDir, machine.at("share/b"));
-    EXPECT_EQ(settings.scriptsDir, machine.at("share/b/Scripts"));
-    EXPECT_EQ(settings.configDir, machine.at("share/b/Config"));
-    EXPECT_TRUE(settings.withSubfolders);
+    // One that cannot be made, and one that is there and takes no files, not even from root.
+    for (const char* workingDir : {"@/file/w", "/proc/self"}) {
+        Machine machine;
+        machine.write("file", "");
+        const StartupSettings settings = startWithBackup(machine, "<SHARE>/b", workingDir);
+        EXPECT_TRUE(settings.usingBackupDir) << workingDir;
+        EXPECT_EQ(settings.workingDir, machine.at("share/b"));
+        EXPECT_EQ(settings.scriptsDir, machine.at("share/b/Scripts"));
+        EXPECT_EQ(settings.configDir, machine.at("share/b/Config"));
+        EXPECT_TRUE(settings.withSubfolders);
+    }
 }
 
 TEST(BackupDirectory, HasNoSubfoldersWhereTheWorkingDirectoryHasNone) {

@@ -63,8 +63,8 @@ TEST_F(Show, headsSeveralFilesAndNumbersTheirLines) {
     const QdsRun run =
         runQds({"show", "--numbers", first, empty, "-"}, scriptFile("QDMDSCR=", {beep}));
     EXPECT_EQ(run.status, 0);
-    EXPECT_EQ(run.out, "==> " + first + " <==\n     1\tone\n     2\tBeep\n\n==> " + empty +
-                           " <==\n\n==> standard input <==\n     1\tBeep\n");
+    EXPECT_EQ(run.out, "==> " + first + " <==\n     1\tone\n     2\tBeep\n==> " + empty +
+                           " <==\n==> standard input <==\n     1\tBeep\n");
 }
 
 TEST_F(Show, escapesControlCharactersInLinesNamesAndTexts) {

@@ -2,12 +2,11 @@
 #include "platform/files.h"
 
 #include "support/fixtures.h"
+#include "support/full_disk.h"
 #include "support/temporary_folder.h"
 
 #include <cerrno>
-#include <csignal>
 #include <gtest/gtest.h>
-#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -21,22 +20,6 @@ std::size_t filesIn(const fs::path& folder) {
     return static_cast<std::size_t>(
         std::distance(fs::directory_iterator(folder), fs::directory_iterator()));
 }
-
-// Lets every file of this process grow to a few bytes only, as a full disk would.
-class FullDisk {
-  public:
-    FullDisk() {
-        std::signal(SIGXFSZ, SIG_IGN);
-        getrlimit(RLIMIT_FSIZE, &before_);
-        rlimit tiny = before_;
-        tiny.rlim_cur = 4;
-        setrlimit(RLIMIT_FSIZE, &tiny);
-    }
-    ~FullDisk() { setrlimit(RLIMIT_FSIZE, &before_); }
-
-  private:
-    rlimit before_{};
-};
 
 }  // namespace
 
@@ -97,6 +80,19 @@ TEST(ReplaceFile, refusesFoldersAndMissingFolders) {
     EXPECT_EQ(replaceFile(folder / "none/a.qds", bytesOf("x"), OldFile::Drop).failure->code,
               ENOENT);
     EXPECT_EQ(filesIn(folder.path()), 1u);
+}
+
+TEST(ReplaceFile, leavesAWriteProtectedFileAlone) {
+    if (geteuid() == 0) GTEST_SKIP() << "the superuser may write everything";
+    const TemporaryFolder folder;
+    writeBytes(folder / "script.qds", bytesOf("old"));
+    ASSERT_EQ(chmod((folder / "script.qds").c_str(), 0444), 0);
+    const ReplaceResult result =
+        replaceFile(folder / "script.qds", bytesOf("new"), OldFile::KeepAsBackup);
+    ASSERT_TRUE(result.failure);
+    EXPECT_EQ(result.failure->code, EACCES);
+    EXPECT_EQ(readBytes(folder / "script.qds"), bytesOf("old"));
+    EXPECT_EQ(filesIn(folder.path()), 1U);
 }
 
 TEST(ReadFile, readsPipesAndBoundsLongFiles) {

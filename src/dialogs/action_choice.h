@@ -1,0 +1,27 @@
+// Taking a choice as an action: with OK, and by double-click. Both work on the dialog's copy of the
+// entry and open further dialogs over `context.window`.
+#pragma once
+
+#include "dialogs/action_rules.h"
+#include "dialogs/parameter_dialogs.h"
+
+namespace quendra {
+
+/// Which action of which command the target is.
+[[nodiscard]] ActionPlace placeOf(const EditTarget& target);
+
+/// What the user is told when the choice cannot be taken.
+[[nodiscard]] std::optional<Message> refusalOf(const DialogContext& context,
+                                               const EditTarget& target,
+                                               const ActionChoice& choice);
+
+/// OK on a choice that is not refused: the action becomes what was chosen, and what it then lacks
+/// is asked for. False when the asking was cancelled; the action then has its new command already.
+[[nodiscard]] bool acceptChoice(const DialogContext& context, const EditTarget& target,
+                                const ActionChoice& choice);
+
+/// Double-click: the action's parameters are asked for at once, whatever it has already. Rows
+/// without parameters do nothing.
+void openChoice(const DialogContext& context, const EditTarget& target, const ActionChoice& choice);
+
+}  // namespace quendra

@@ -1,0 +1,50 @@
+#include "dialogs/action_chooser.h"
+
+#include "dialogs/action_choice.h"
+
+#include <QLabel>
+#include <QVBoxLayout>
+
+namespace quendra {
+
+namespace {
+
+constexpr StringId promptText = 11214;
+
+}  // namespace
+
+ActionChooser::ActionChooser(const DialogContext& context, const EditTarget& target,
+                             const EditTarget& action, const char* name, const char* helpPage)
+    : ParameterDialog(context, target, name, helpPage), action_(action) {
+    layout()->setSizeConstraint(QLayout::SetDefaultConstraint);
+    setSizeGripEnabled(true);
+}
+
+void ActionChooser::addLists() {
+    body().addWidget(makeLabel("actionPrompt", text(promptText)));
+    lists_ = new ActionLists(context().state, this);
+    body().addWidget(lists_, 1);
+    connect(lists_, &ActionLists::doubleClicked, this,
+            [this](const ActionChoice& choice) { openChoice(overThis(), action_, choice); });
+}
+
+void ActionChooser::load() {
+    ApplicationState& state = context().state;
+    lists_->select(choiceOf(actionFields(), state.luCatalogues.of(state.currentHostType)));
+}
+
+std::optional<Refusal> ActionChooser::check() const {
+    const auto message = refusalOf(context(), action_, lists_->choice());
+    return message ? std::optional(Refusal{*message, nullptr}) : std::nullopt;
+}
+
+void ActionChooser::accept() {
+    if (const auto found = check()) {
+        refuse(*found);
+        return;
+    }
+    store();
+    if (acceptChoice(overThis(), action_, lists_->choice())) QDialog::accept();
+}
+
+}  // namespace quendra

@@ -1,0 +1,44 @@
+// The Action dialog: chooses the then or else action of a Wait_For or an If_Input_Is.
+#include "app/ui_text.h"
+#include "dialogs/action_choice.h"
+#include "dialogs/action_chooser.h"
+
+namespace quendra {
+
+namespace {
+
+constexpr StringId okText = 14424;
+
+class ActionDialog : public ActionChooser {
+  public:
+    ActionDialog(const DialogContext& context, const EditTarget& action)
+        : ActionChooser(context, action, action, "actionDialog", "Action") {
+        const ActionPlace place = placeOf(action);
+        setWindowTitle(qtText(actionCaption(place)));
+        setPicture(bitmapIdOf(place.owner, 0));
+        addLists();
+        addButtons(text(okText));
+    }
+
+    void store() override {}
+
+  protected:
+    void showEvent(QShowEvent* event) override {
+        ActionChooser::showEvent(event);
+        lists().focusActiveList();
+    }
+};
+
+}  // namespace
+
+bool chooseAction(const DialogContext& context, const EditTarget& target) {
+    // A copy: OK and double-click change the action before their dialogs are answered, and Cancel
+    // takes all of it back.
+    ScriptEntry working = target.entry;
+    ActionDialog dialog(context, {working, target.slot, target.owner});
+    if (!dialog.run()) return false;
+    target.entry = working;
+    return true;
+}
+
+}  // namespace quendra

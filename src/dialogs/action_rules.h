@@ -1,0 +1,79 @@
+// What the choice of an action rests on: which commands may be actions where, what an action still
+// lacks, what is selected at the start, and the refusals. Plain values, no widgets.
+#pragma once
+
+#include "app/message_box.h"
+#include "hosts/host_type.h"
+#include "hosts/lu_catalogue.h"
+#include "model/script_entry.h"
+#include "platform/language_library.h"
+
+#include <cstdint>
+#include <optional>
+#include <string>
+
+namespace quendra {
+
+/// The action that is being chosen: of which command (Wait_For, If_Input_Is or Watch_For), and
+/// which of its two.
+struct ActionPlace {
+    CommandCode owner = CommandCode::WaitFor;
+    Slot slot = Slot::Then;
+};
+
+/// The three lists that actions are chosen from, in the order in which they are shown.
+enum class ActionList : std::uint8_t { ScriptEvents, LuFunctions, MenuCommands };
+
+/// The active list and its selected row, -1 for none.
+struct ActionChoice {
+    ActionList list = ActionList::ScriptEvents;
+    int row = -1;
+
+    bool operator==(const ActionChoice&) const = default;
+};
+
+/// Where the lists hold an action. Nothing is selected, in the list of the action's kind, for a key
+/// that the catalogue lacks and for a menu command outside the list.
+[[nodiscard]] ActionChoice choiceOf(const ConstSlotFields& action, const LuCatalogue& luFunctions);
+
+/// True for a command that an action at this place may be: none that carries actions itself, but
+/// a Watch_For may run a Wait_For.
+[[nodiscard]] bool mayBeAction(CommandCode code, CommandCode owner);
+
+enum class ActionRefusal : std::uint8_t { NothingSelected, CarriesActions, NotInVt };
+
+/// Why a choice cannot be taken, or none.
+[[nodiscard]] std::optional<ActionRefusal> refusalOf(const ActionChoice& choice, CommandCode owner,
+                                                     HostType hostType);
+
+/// What is told then. The Watch_For dialog takes its texts from the library, the Action dialog has
+/// its own.
+[[nodiscard]] Message refusalMessage(ActionRefusal refusal, const ActionPlace& place,
+                                     const TextSource& texts);
+
+/// The title of the Action dialog; none for Watch_For, which chooses in a dialog of its own.
+[[nodiscard]] std::string actionCaption(const ActionPlace& place);
+
+/// Makes the action what was chosen: its code, and key or menu command. Every other field stays, so
+/// a text or number from before serves the new command too; only a hidden text goes when its Type
+/// does, since another command would show it and store it in clear. `choice` is one that is not
+/// refused, and its row exists.
+void applyChoice(const SlotFields& action, const ActionChoice& choice,
+                 const LuCatalogue& luFunctions);
+
+/// True when the action is of a command whose parameters it does not have yet, so that accepting it
+/// has to ask for them first. What is kept of an action that cannot be read counts as its
+/// parameters.
+[[nodiscard]] bool lacksParameters(const ConstSlotFields& action);
+
+/// What a double-click on a row does; it never ends the dialog.
+enum class DoubleClickAct : std::uint8_t {
+    Nothing,
+    /// The action becomes the command, and then its parameters are asked for, whatever it has.
+    ChooseAndEdit,
+    /// The settings come first; the action becomes a file transfer only when they are accepted.
+    EditTransfer,
+};
+[[nodiscard]] DoubleClickAct doubleClickAct(const ActionChoice& choice);
+
+}  // namespace quendra

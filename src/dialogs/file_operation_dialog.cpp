@@ -1,0 +1,115 @@
+// Run and the menu commands that take a file name.
+#include "app/file_dialogs.h"
+#include "app/ui_text.h"
+#include "dialogs/command_dialogs.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include <algorithm>
+#include <array>
+
+namespace quendra {
+
+namespace {
+
+constexpr StringId browseText = 10152;
+constexpr StringId refusalCaption = 13745;
+
+/// Which files "Browse" offers.
+enum class FileKind : std::uint8_t { Program, Session, Any, Macro };
+
+struct FileOperation {
+    /// Of the menu command; 0 for Run.
+    std::uint32_t commandId;
+    StringId caption;
+    StringId label;
+    FileKind kind;
+};
+
+constexpr std::array<FileOperation, 6> fileOperations = {{
+    {0, 13734, 13735, FileKind::Program},
+    {202, 12519, 13736, FileKind::Session},
+    {204, 13737, 13738, FileKind::Session},
+    {219, 11724, 13739, FileKind::Any},
+    {254, 13740, 13741, FileKind::Macro},
+    {257, 13742, 13743, FileKind::Macro},
+}};
+
+const FileOperation& fileOperation(const ConstSlotFields& fields) {
+    const std::uint32_t id = fields.code == CommandCode::Run ? 0 : fields.commandId;
+    const auto found =
+        std::find_if(fileOperations.begin(), fileOperations.end(),
+                     [id](const FileOperation& operation) { return operation.commandId == id; });
+    return found == fileOperations.end() ? fileOperations.front() : *found;
+}
+
+FileDialogRequest browseRequest(FileKind kind, const ApplicationState& state) {
+    const auto& folder = state.settings.workingDir;
+    const HostTypeInfo& host = hostTypeInfo(state.currentHostType);
+    switch (kind) {
+        case FileKind::Session:
+            return {FileDialogMode::Open,
+                    {},
+                    std::string(host.sessionFileFilter),
+                    std::string(host.sessionFileExtension),
+                    folder / "Config"};
+        // No extension: with "*" for one, files without a dot in their names would be left out.
+        case FileKind::Any: return {FileDialogMode::Open, {}, "All Files(*.*)", {}, folder};
+        case FileKind::Macro:
+            return {FileDialogMode::Open, {}, "Quendra Macros(*.qdm)", "qdm", folder / "Macros"};
+        case FileKind::Program: break;
+    }
+    return {FileDialogMode::Open, {}, "Program Files(*.exe)", "exe", folder};
+}
+
+class FileOperationDialog : public ParameterDialog {
+  public:
+    FileOperationDialog(const DialogContext& context, const EditTarget& target)
+        : ParameterDialog(context, target, "fileOperationDialog", "File_Operation"),
+          operation_(fileOperation(fields())) {
+        setWindowTitle(text(operation_.caption));
+        file_ = named(new TextEdit, "file");
+        auto* browse = named(new QPushButton(text(browseText)), "browse");
+        connect(browse, &QPushButton::clicked, this, [this] { chooseName(); });
+        body().addWidget(makeLabel("fileLabel", text(operation_.label), file_));
+        auto* row = new QHBoxLayout;
+        row->addWidget(file_, 1);
+        row->addWidget(browse);
+        body().addLayout(row);
+        addButtons();
+    }
+
+    void load() override { file_->setBytes(textOf(fields())); }
+
+    [[nodiscard]] std::optional<Refusal> check() const override {
+        if (file_->text().isEmpty()) return required(file_, text(refusalCaption));
+        return std::nullopt;
+    }
+
+    void store() override { storeText(*file_); }
+
+  private:
+    void chooseName() {
+        FileDialogRequest request = browseRequest(operation_.kind, context().state);
+        request.title = windowTitle().toStdString();
+        const auto path = chooseFile(this, request);
+        if (!path) return;
+        file_->setFocus();
+        if (file_->takeText(qtText(pathText(*path)))) file_->selectAll();
+    }
+
+    const FileOperation& operation_;
+    TextEdit* file_ = nullptr;
+};
+
+}  // namespace
+
+std::unique_ptr<ParameterDialog> makeFileOperationDialog(const DialogContext& context,
+                                                         const EditTarget& target) {
+    return std::make_unique<FileOperationDialog>(context, target);
+}
+
+}  // namespace quendra

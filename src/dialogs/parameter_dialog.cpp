@@ -1,0 +1,303 @@
+#include "dialogs/parameter_dialog.h"
+
+#include "app/placement.h"
+#include "app/symbol_icon.h"
+#include "app/ui_text.h"
+
+#include <QAccessible>
+#include <QApplication>
+#include <QDialogButtonBox>
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPainter>
+#include <QPushButton>
+#include <QShowEvent>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace quendra {
+
+namespace {
+
+constexpr StringId cancelText = 10167;
+constexpr StringId requiredText = 13744;
+constexpr StringId foreignCharacterText = 16001;
+constexpr StringId lengthText = 16002;
+constexpr StringId hiddenLengthText = 16003;
+constexpr StringId rangeTextId = 16004;
+constexpr StringId outOfRangeText = 16005;
+
+constexpr int pictureSide = 32;
+/// Wide enough for every note in one line.
+constexpr int bodyCharacters = 52;
+
+// Painted when it is shown, so that it follows the palette and every scale.
+class CommandPicture : public QWidget {
+  public:
+    explicit CommandPicture(int bitmapId) : icon_(bitmapIcon(bitmapId)) {
+        setFixedSize(pictureSide, pictureSide);
+    }
+
+    void setBitmap(int bitmapId) {
+        icon_ = bitmapIcon(bitmapId);
+        update();
+    }
+
+  protected:
+    void paintEvent(QPaintEvent*) override {
+        QPainter painter(this);
+        icon_.paint(&painter, rect());
+    }
+
+  private:
+    QIcon icon_;
+};
+
+}  // namespace
+
+QString plainLabel(QString label) {
+    label.remove(u'&');
+    label = label.trimmed();
+    if (label.endsWith(u':')) label.chop(1);
+    return label;
+}
+
+void selectAllText(QWidget* field) {
+    if (auto* line = qobject_cast<QLineEdit*>(field)) line->selectAll();
+    if (auto* spin = qobject_cast<QAbstractSpinBox*>(field)) spin->selectAll();
+}
+
+ParameterDialog::ParameterDialog(const DialogContext& context, const EditTarget& target,
+                                 const char* name, std::string_view helpPage)
+    : QDialog(context.window), context_(context), target_(target) {
+    setObjectName(QLatin1String(name));
+    setProperty("helpPage", qtText(helpPage));
+    setModal(true);
+
+    picture_ = new CommandPicture(bitmapIdOf(fields().code, fields().commandId));
+    picture_->setObjectName(QStringLiteral("commandPicture"));
+    body_ = new QVBoxLayout;
+    body_->setSpacing(6);
+    body_->addStrut(fontMetrics().averageCharWidth() * bodyCharacters);
+
+    auto* top = new QHBoxLayout;
+    top->setSpacing(16);
+    top->addWidget(picture_, 0, Qt::AlignTop);
+    top->addLayout(body_, 1);
+    auto* all = new QVBoxLayout(this);
+    all->setContentsMargins(16, 16, 16, 12);
+    all->setSpacing(8);
+    all->addLayout(top);
+    all->setSizeConstraint(QLayout::SetFixedSize);
+}
+
+QString ParameterDialog::text(StringId id) const {
+    return qtText(libraryText(context_.state.language, id));
+}
+
+QGridLayout* ParameterDialog::addGrid() {
+    auto* grid = new QGridLayout;
+    grid->setHorizontalSpacing(8);
+    grid->setVerticalSpacing(6);
+    auto* row = new QHBoxLayout;
+    row->addLayout(grid);
+    row->addStretch(1);
+    body_->addLayout(row);
+    return grid;
+}
+
+QLabel* ParameterDialog::makeLabel(const char* name, const QString& text, QWidget* buddy) {
+    auto* label = new QLabel;
+    label->setObjectName(QLatin1String(name));
+    label->setTextFormat(Qt::PlainText);
+    label->setText(text);
+    if (buddy != nullptr) label->setBuddy(buddy);
+    return label;
+}
+
+void ParameterDialog::addLabelled(const char* labelName, const QString& label, QWidget* field) {
+    body_->addWidget(makeLabel(labelName, label, field));
+    body_->addWidget(field);
+}
+
+void ParameterDialog::setPicture(int bitmapId) {
+    static_cast<CommandPicture*>(picture_)->setBitmap(bitmapId);
+}
+
+void ParameterDialog::addButtons(const QString& okText) {
+    auto& all = static_cast<QVBoxLayout&>(*layout());
+    note_ = makeLabel("note", {});
+    // One line always stays free for it, so that the fields do not move while something is typed.
+    note_->setMinimumHeight(fontMetrics().lineSpacing());
+    auto* noteRow = new QHBoxLayout;
+    noteRow->addSpacing(pictureSide + 16);
+    noteRow->addWidget(note_, 1);
+    all.addLayout(noteRow);
+
+    auto* ok = new QPushButton(okText);
+    ok->setObjectName(QStringLiteral("ok"));
+    ok->setDefault(true);
+    auto* cancel = new QPushButton(text(cancelText));
+    cancel->setObjectName(QStringLiteral("cancel"));
+    auto* buttons = new QDialogButtonBox;
+    buttons->setObjectName(QStringLiteral("buttons"));
+    buttons->addButton(ok, QDialogButtonBox::AcceptRole);
+    buttons->addButton(cancel, QDialogButtonBox::RejectRole);
+    connect(buttons, &QDialogButtonBox::accepted, this, &ParameterDialog::accept);
+    connect(buttons, &QDialogButtonBox::rejected, this, &ParameterDialog::reject);
+    all.addWidget(buttons);
+}
+
+void ParameterDialog::registerField(QWidget* field, const char* name) {
+    field->setObjectName(QLatin1String(name));
+    field->installEventFilter(this);
+    fields_.push_back(field);
+}
+
+TextEdit* ParameterDialog::named(TextEdit* field, const char* name) {
+    registerField(field, name);
+    connect(field, &TextEdit::refused, this,
+            [this, field](const InputFault& fault) { showFault(field, fault); });
+    // A paste that was cut to the field's length is an edit too: its note stays.
+    connect(field, &QLineEdit::textEdited, this, [this, field] {
+        if (field->text().size() < field->maxLength()) showRange();
+    });
+    return field;
+}
+
+PromptEdit* ParameterDialog::named(PromptEdit* field, const char* name) {
+    registerField(field, name);
+    connect(field, &PromptEdit::refused, this,
+            [this, field](const InputFault& fault) { showFault(field, fault); });
+    connect(field, &QPlainTextEdit::textChanged, this, &ParameterDialog::showRange);
+    return field;
+}
+
+NumberEdit* ParameterDialog::named(NumberEdit* field, const char* name) {
+    registerField(field, name);
+    field->setToolTip(rangeText(field));
+    connect(field, &NumberEdit::refused, this,
+            [this, field](const InputFault& fault) { showFault(field, fault); });
+    connect(field, &QLineEdit::textEdited, this, &ParameterDialog::showRange);
+    return field;
+}
+
+SpinEdit* ParameterDialog::named(SpinEdit* field, const char* name) {
+    registerField(field, name);
+    field->setToolTip(rangeText(field));
+    connect(field, &SpinEdit::refused, this,
+            [this, field](const InputFault& fault) { showFault(field, fault); });
+    connect(field, &QSpinBox::textChanged, this, &ParameterDialog::showRange);
+    return field;
+}
+
+QString ParameterDialog::rangeText(const QWidget* field) const {
+    const NumberRange* range = nullptr;
+    if (const auto* number = qobject_cast<const NumberEdit*>(field)) range = &number->range();
+    if (const auto* spin = qobject_cast<const SpinEdit*>(field)) range = &spin->range();
+    if (range == nullptr) return {};
+    return qtText(libraryText(context_.state.language, rangeTextId,
+                              {std::to_string(range->smallest), std::to_string(range->largest)}));
+}
+
+void ParameterDialog::showRange() {
+    showNote(rangeText(focusWidget()));
+}
+
+void ParameterDialog::showFault(const QWidget* field, const InputFault& fault) {
+    LanguageLibrary& language = context_.state.language;
+    const std::string limit = std::to_string(fault.limit);
+    switch (fault.kind) {
+        case InputFault::Kind::Character:
+            showNote(qtText(
+                libraryText(language, foreignCharacterText, {fault.character.toStdString()})));
+            break;
+        case InputFault::Kind::Length:
+            showNote(qtText(libraryText(language, lengthText, {limit})));
+            break;
+        case InputFault::Kind::HiddenLength:
+            showNote(qtText(libraryText(language, hiddenLengthText, {limit})));
+            break;
+        case InputFault::Kind::Number: showNote(rangeText(field)); break;
+    }
+    QApplication::beep();
+}
+
+void ParameterDialog::showNote(const QString& note) {
+    if (note_ == nullptr || note_->text() == note) return;
+    note_->setText(note);
+    QAccessibleEvent changed(note_, QAccessible::NameChanged);
+    QAccessible::updateAccessibility(&changed);
+}
+
+bool ParameterDialog::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::FocusIn) showNote(rangeText(qobject_cast<QWidget*>(watched)));
+    return QDialog::eventFilter(watched, event);
+}
+
+void ParameterDialog::focusFirstField() {
+    const auto first = std::find_if(fields_.begin(), fields_.end(), [this](const QWidget* field) {
+        return field->isVisibleTo(this) && field->isEnabledTo(this);
+    });
+    if (first == fields_.end()) return;
+    (*first)->setFocus();
+    selectAllText(*first);
+}
+
+void ParameterDialog::showEvent(QShowEvent* event) {
+    if (!event->spontaneous()) {
+        focusFirstField();
+        centreOnScreen(*this);
+    }
+    QDialog::showEvent(event);
+}
+
+bool ParameterDialog::run() {
+    load();
+    return exec() == Accepted;
+}
+
+void ParameterDialog::accept() {
+    if (const auto found = check()) {
+        refuse(*found);
+        return;
+    }
+    store();
+    QDialog::accept();
+}
+
+Refusal ParameterDialog::refusal(QWidget* field, const QString& text, const QString& caption) {
+    return {{text.toStdString(), caption.toStdString(), MessageIcon::Information,
+             MessageButtons::Ok, false},
+            field};
+}
+
+Refusal ParameterDialog::required(QWidget* field, const QString& caption) const {
+    return refusal(field, text(requiredText), caption);
+}
+
+Refusal ParameterDialog::outOfRange(const SpinEdit* field, const QString& label,
+                                    const QString& caption) const {
+    const NumberRange& range = field->range();
+    const std::string text =
+        libraryText(context_.state.language, outOfRangeText,
+                    {plainLabel(label).toStdString(), std::to_string(range.smallest),
+                     std::to_string(range.largest)});
+    return refusal(const_cast<SpinEdit*>(field), qtText(text), caption);
+}
+
+void ParameterDialog::storeText(const TextEdit& field) const {
+    const SecretText text = field.bytes();
+    if (text.view() != textOf(fields())) setText(fields(), text.view());
+}
+
+void ParameterDialog::refuse(const Refusal& refusal) {
+    showMessage(this, refusal.message);
+    if (refusal.field == nullptr) return;
+    refusal.field->setFocus();
+    selectAllText(refusal.field);
+}
+
+}  // namespace quendra

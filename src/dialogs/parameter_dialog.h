@@ -1,0 +1,133 @@
+// What every parameter dialog shares. A dialog is three functions over one slot of the working
+// copy: load() shows the record, check() says what is wrong with the fields, store() writes the
+// record. None of them needs the dialog to be on the screen.
+#pragma once
+
+#include "app/message_box.h"
+#include "dialogs/input_fault.h"
+#include "dialogs/number_edit.h"
+#include "dialogs/parameter_dialogs.h"
+#include "dialogs/prompt_edit.h"
+#include "dialogs/text_edit.h"
+
+#include <QDialog>
+
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+class QBoxLayout;
+class QGridLayout;
+class QLabel;
+class QVBoxLayout;
+
+namespace quendra {
+
+/// Why a dialog cannot end with OK: what the user is told, and the field that then has the focus.
+struct Refusal {
+    Message message;
+    QWidget* field = nullptr;
+};
+
+/// A modal dialog with the command's picture at the top left, the fields beside it, one line for
+/// notes on what is typed, and OK and Cancel. Return is OK, Escape is Cancel. A derived class
+/// builds its fields in its constructor, each through add...() or named(), and ends that with
+/// addButtons().
+class ParameterDialog : public QDialog {
+    Q_OBJECT
+
+  public:
+    /// `name` is the dialog's object name; `helpPage`, in the property of that name, says which
+    /// page of the manual is about it. The target's entry and the context's state outlive the
+    /// dialog.
+    ParameterDialog(const DialogContext& context, const EditTarget& target, const char* name,
+                    std::string_view helpPage);
+
+    virtual void load() = 0;
+    /// The first thing that is wrong with the fields, in the order in which they are checked.
+    [[nodiscard]] virtual std::optional<Refusal> check() const = 0;
+    /// Called only when check() found nothing.
+    virtual void store() = 0;
+
+    /// Loads, shows the dialog in the middle of the screen and gives true when it ended with OK.
+    [[nodiscard]] bool run();
+
+    void accept() override;
+
+  protected:
+    void showEvent(QShowEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+    [[nodiscard]] const DialogContext& context() const { return context_; }
+    [[nodiscard]] const EditTarget& target() const { return target_; }
+    /// The slot that this dialog edits.
+    [[nodiscard]] SlotFields fields() const { return slotFields(target_.entry, target_.slot); }
+
+    /// A text of the language library.
+    [[nodiscard]] QString text(StringId id) const;
+
+    /// Where the fields go, from top to bottom.
+    [[nodiscard]] QVBoxLayout& body() { return *body_; }
+    /// The rows and columns of a few short fields, beside each other at the left.
+    QGridLayout* addGrid();
+    /// A label of plain text. Its mnemonic moves to `buddy`, which has to be there already.
+    QLabel* makeLabel(const char* name, const QString& text, QWidget* buddy = nullptr);
+    /// A label above `field`.
+    void addLabelled(const char* labelName, const QString& label, QWidget* field);
+
+    /// Gives a field its object name. The first enabled one has the focus when the dialog opens;
+    /// what a field refuses, and the range of a number, shows in the line for notes.
+    template <class Field>
+    Field* named(Field* field, const char* name) {
+        registerField(field, name);
+        return field;
+    }
+    TextEdit* named(TextEdit* field, const char* name);
+    PromptEdit* named(PromptEdit* field, const char* name);
+    NumberEdit* named(NumberEdit* field, const char* name);
+    SpinEdit* named(SpinEdit* field, const char* name);
+
+    /// Shows the command's icon in the corner; by default that of the slot's command.
+    void setPicture(int bitmapId);
+    void addButtons(const QString& okText = QStringLiteral("OK"));
+
+    /// The refusals that several dialogs have. `label` names the field as its label does.
+    [[nodiscard]] Refusal required(QWidget* field, const QString& caption) const;
+    [[nodiscard]] Refusal outOfRange(const SpinEdit* field, const QString& label,
+                                     const QString& caption) const;
+    /// A refusal in the caller's own words.
+    [[nodiscard]] static Refusal refusal(QWidget* field, const QString& text,
+                                         const QString& caption);
+
+    /// Stores a text into the slot. A text that the user left as it was keeps what was stored with
+    /// it.
+    void storeText(const TextEdit& field) const;
+
+    /// Tells the user and moves the focus to the field.
+    void refuse(const Refusal& refusal);
+    void showNote(const QString& note);
+
+  private:
+    void registerField(QWidget* field, const char* name);
+    void showFault(const QWidget* field, const InputFault& fault);
+    void showRange();
+    [[nodiscard]] QString rangeText(const QWidget* field) const;
+    void focusFirstField();
+
+    DialogContext context_;
+    EditTarget target_;
+    QVBoxLayout* body_ = nullptr;
+    QLabel* note_ = nullptr;
+    QWidget* picture_ = nullptr;
+    std::vector<QWidget*> fields_;
+};
+
+/// A label as a name in a message: without its mnemonic and its colon.
+[[nodiscard]] QString plainLabel(QString label);
+
+/// Selects all of a line edit's or a spin box's text; other widgets are left alone.
+void selectAllText(QWidget* field);
+
+}  // namespace quendra

@@ -1,0 +1,179 @@
+// Set_Cursor, Copy and Paste: positions on the host's screen.
+#include "dialogs/command_dialogs.h"
+
+#include <QCheckBox>
+#include <QGridLayout>
+#include <QLabel>
+#include <QVBoxLayout>
+
+#include <initializer_list>
+
+namespace quendra {
+
+namespace {
+
+constexpr StringId rowText = 10156;
+constexpr StringId columnText = 10157;
+
+constexpr std::uint32_t largestPosition = 255;
+
+std::uint8_t byteOf(const NumberEdit& field) {
+    return static_cast<std::uint8_t>(field.number().value_or(0));
+}
+
+class SetCursorDialog : public ParameterDialog {
+  public:
+    SetCursorDialog(const DialogContext& context, const EditTarget& target)
+        : ParameterDialog(context, target, "setCursorDialog", "Set_Cursor") {
+        setWindowTitle(QStringLiteral("Set_Cursor"));
+        body().addWidget(makeLabel("heading", text(14557)));
+        QGridLayout& grid = *addGrid();
+        row_ = named(new NumberEdit(largestPosition), "row");
+        column_ = named(new NumberEdit(largestPosition), "column");
+        grid.addWidget(makeLabel("rowLabel", text(rowText), row_), 0, 0);
+        grid.addWidget(row_, 0, 1);
+        grid.addWidget(makeLabel("columnLabel", text(columnText), column_), 0, 2);
+        grid.addWidget(column_, 0, 3);
+        addButtons();
+    }
+
+    void load() override {
+        row_->setNumber(fields().row);
+        column_->setNumber(fields().column);
+    }
+
+    [[nodiscard]] std::optional<Refusal> check() const override {
+        for (NumberEdit* field : {row_, column_}) {
+            if (!field->number()) return required(field, windowTitle());
+        }
+        return std::nullopt;
+    }
+
+    void store() override {
+        fields().row = byteOf(*row_);
+        fields().column = byteOf(*column_);
+    }
+
+  private:
+    NumberEdit* row_ = nullptr;
+    NumberEdit* column_ = nullptr;
+};
+
+// Positions that a check box makes meaningless: they are disabled then, and still have to be there.
+class AreaDialog : public ParameterDialog {
+  public:
+    using ParameterDialog::ParameterDialog;
+
+    [[nodiscard]] std::optional<Refusal> check() const override {
+        for (NumberEdit* field : positions_) {
+            if (field->number()) continue;
+            // What is disabled cannot have the focus: the check box enables it.
+            QWidget* focus = field->isEnabled() ? static_cast<QWidget*>(field) : instead_;
+            return required(focus, windowTitle());
+        }
+        return std::nullopt;
+    }
+
+  protected:
+    /// A row of label, row field and column field.
+    void addPosition(QGridLayout& grid, const QString& label,
+                     std::initializer_list<const char*> names) {
+        const int line = grid.rowCount();
+        int place = 1;
+        for (const char* name : names) {
+            auto* field = named(new NumberEdit(largestPosition), name);
+            field->setAccessibleName(plainLabel(label) + QStringLiteral(": ") +
+                                     plainLabel(text(place == 1 ? rowText : columnText)));
+            grid.addWidget(field, line, place++);
+            positions_.push_back(field);
+        }
+        NumberEdit* first = positions_[positions_.size() - names.size()];
+        const QByteArray labelName = QByteArray(*names.begin()) + "Label";
+        grid.addWidget(makeLabel(labelName, label, first), line, 0);
+    }
+
+    void addInstead(const QString& label, const char* name) {
+        instead_ = named(new QCheckBox(label), name);
+        connect(instead_, &QCheckBox::toggled, this, [this](bool checked) {
+            for (NumberEdit* field : positions_)
+                field->setEnabled(!checked);
+        });
+        body().addWidget(instead_);
+    }
+
+    [[nodiscard]] std::uint8_t position(std::size_t index) const {
+        return byteOf(*positions_[index]);
+    }
+
+    void show(const ScreenArea& area) {
+        const std::uint8_t bytes[] = {area.startRow, area.startColumn, area.endRow, area.endColumn};
+        for (std::size_t i = 0; i < positions_.size(); ++i)
+            positions_[i]->setNumber(bytes[i]);
+        instead_->setChecked(fields().number != 0);
+    }
+
+    void storeFlag() { fields().number = instead_->isChecked() ? 1 : 0; }
+
+  private:
+    std::vector<NumberEdit*> positions_;
+    QCheckBox* instead_ = nullptr;
+};
+
+class CopyDialog : public AreaDialog {
+  public:
+    CopyDialog(const DialogContext& context, const EditTarget& target)
+        : AreaDialog(context, target, "copyDialog", "Copy") {
+        setWindowTitle(text(10279));
+        body().addWidget(makeLabel("heading", text(14834)));
+        QGridLayout& grid = *addGrid();
+        addPosition(grid, text(14835), {"startRow", "startColumn"});
+        addPosition(grid, text(14836), {"endRow", "endColumn"});
+        addInstead(text(14837), "entireScreen");
+        addButtons();
+    }
+
+    void load() override { show(unpackArea(fields().area)); }
+
+    void store() override {
+        fields().area = packArea({position(0), position(1), position(2), position(3)});
+        storeFlag();
+    }
+};
+
+class PasteDialog : public AreaDialog {
+  public:
+    PasteDialog(const DialogContext& context, const EditTarget& target)
+        : AreaDialog(context, target, "pasteDialog", "Paste") {
+        setWindowTitle(text(10303));
+        body().addWidget(makeLabel("heading", text(14838)));
+        addPosition(*addGrid(), text(14839), {"row", "column"});
+        addInstead(text(14840), "atCursor");
+        addButtons();
+    }
+
+    void load() override { show(unpackArea(fields().area)); }
+
+    void store() override {
+        fields().area = packArea({position(0), position(1), 0, 0});
+        storeFlag();
+    }
+};
+
+}  // namespace
+
+std::unique_ptr<ParameterDialog> makeSetCursorDialog(const DialogContext& context,
+                                                     const EditTarget& target) {
+    return std::make_unique<SetCursorDialog>(context, target);
+}
+
+std::unique_ptr<ParameterDialog> makeCopyDialog(const DialogContext& context,
+                                                const EditTarget& target) {
+    return std::make_unique<CopyDialog>(context, target);
+}
+
+std::unique_ptr<ParameterDialog> makePasteDialog(const DialogContext& context,
+                                                 const EditTarget& target) {
+    return std::make_unique<PasteDialog>(context, target);
+}
+
+}  // namespace quendra

@@ -1,0 +1,91 @@
+// Comment, Goto, Label, Message, Express_Logon and Type: one text.
+#include "app/ui_text.h"
+#include "dialogs/command_dialogs.h"
+#include "platform/registry.h"
+
+#include <QCheckBox>
+#include <QLabel>
+#include <QVBoxLayout>
+
+namespace quendra {
+
+namespace {
+
+constexpr StringId hideText = 11209;
+constexpr StringId hiddenLengthText = 16003;
+constexpr StringId onlyObscuredText = 16006;
+constexpr StringId sealedText = 16007;
+
+StringId labelOf(CommandCode code) {
+    switch (code) {
+        case CommandCode::Comment: return 13746;
+        case CommandCode::Goto: return 13747;
+        case CommandCode::Label: return 13748;
+        case CommandCode::Message: return 13749;
+        case CommandCode::ExpressLogon: return 14833;
+        default: return 13750;
+    }
+}
+
+class TextDialog : public ParameterDialog {
+  public:
+    TextDialog(const DialogContext& context, const EditTarget& target)
+        : ParameterDialog(context, target, "textDialog",
+                          commandKeyword(slotFields(target.entry, target.slot).code)) {
+        setWindowTitle(caption());
+        text_ = named(new TextEdit, "text");
+        addLabelled("textLabel", text(labelOf(fields().code)), text_);
+        if (fields().code == CommandCode::Type) addHidingParts();
+        addButtons();
+    }
+
+    void load() override {
+        if (isHiddenText(fields())) text_->setMasked(true);
+        text_->setBytes(textOf(fields()));
+        const bool sealed = isHiddenText(fields()) && fields().kept && textOf(fields()).empty();
+        text_->setPlaceholderText(sealed ? text(sealedText) : QString());
+    }
+
+    [[nodiscard]] std::optional<Refusal> check() const override {
+        if (text_->text().isEmpty()) return required(text_, caption());
+        const bool hides = isHiddenText(fields()) || (hide_ != nullptr && hide_->isChecked());
+        if (hides && text_->bytes().size() > maxHiddenTextLength) {
+            const auto limit = std::to_string(maxHiddenTextLength);
+            return refusal(text_,
+                           qtText(libraryText(context().state.language, hiddenLengthText, {limit})),
+                           caption());
+        }
+        return std::nullopt;
+    }
+
+    // A text once hidden stays hidden: the flag is set and never cleared here.
+    void store() override {
+        storeText(*text_);
+        if (hide_ != nullptr && hide_->isChecked()) fields().hidden = 1;
+    }
+
+  private:
+    [[nodiscard]] QString caption() const { return qtText(commandKeyword(fields().code)); }
+
+    void addHidingParts() {
+        const QString note = userIdentity().empty() ? text(onlyObscuredText) : QString();
+        text_->setToolTip(note);
+        if (context().state.editing) return;
+        hide_ = named(new QCheckBox(text(hideText)), "hide");
+        hide_->setToolTip(note);
+        connect(hide_, &QCheckBox::toggled, text_, &TextEdit::setMasked);
+        body().addWidget(hide_);
+    }
+
+    TextEdit* text_ = nullptr;
+    QCheckBox* hide_ = nullptr;
+};
+
+}  // namespace
+
+std::unique_ptr<ParameterDialog> makeTextDialog(const DialogContext& context,
+                                                const EditTarget& target) {
+    return std::make_unique<TextDialog>(context, target);
+}
+
+}  // namespace quendra

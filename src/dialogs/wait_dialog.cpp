@@ -1,0 +1,54 @@
+// Wait and Wait_Ready: one number.
+#include "app/ui_text.h"
+#include "dialogs/command_dialogs.h"
+
+#include <limits>
+
+namespace quendra {
+
+namespace {
+
+constexpr StringId secondsText = 13753;
+constexpr StringId restoresText = 13754;
+
+class WaitDialog : public ParameterDialog {
+  public:
+    WaitDialog(const DialogContext& context, const EditTarget& target)
+        : ParameterDialog(context, target, "waitDialog",
+                          commandKeyword(slotFields(target.entry, target.slot).code)) {
+        setWindowTitle(caption());
+        number_ = named(new NumberEdit(std::numeric_limits<std::uint32_t>::max()), "number");
+        addLabelled("numberLabel", label(), number_);
+        addButtons();
+    }
+
+    void load() override { number_->setNumber(fields().number); }
+
+    [[nodiscard]] std::optional<Refusal> check() const override {
+        if (!number_->number()) return required(number_, caption());
+        return std::nullopt;
+    }
+
+    void store() override { fields().number = number_->number().value_or(0); }
+
+  private:
+    [[nodiscard]] QString caption() const { return qtText(commandKeyword(fields().code)); }
+
+    [[nodiscard]] QString label() const {
+        const bool seconds = fields().code == CommandCode::Wait;
+        if (target().slot != Slot::Else) return text(seconds ? secondsText : restoresText);
+        return seconds ? QStringLiteral("&Enter time to Wait(seconds):")
+                       : QStringLiteral("&Enter the number of Keyboard Restores to wait for:");
+    }
+
+    NumberEdit* number_ = nullptr;
+};
+
+}  // namespace
+
+std::unique_ptr<ParameterDialog> makeWaitDialog(const DialogContext& context,
+                                                const EditTarget& target) {
+    return std::make_unique<WaitDialog>(context, target);
+}
+
+}  // namespace quendra

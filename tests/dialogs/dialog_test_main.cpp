@@ -1,0 +1,27 @@
+// Runs the tests without a screen, in a home folder that holds nothing of the user's.
+#include "app/appearance.h"
+#include "support/temporary_folder.h"
+
+#include <QApplication>
+#include <QLocale>
+
+#include <gtest/gtest.h>
+
+int main(int argc, char** argv) {
+    ::testing::InitGoogleTest(&argc, argv);
+    const quendra::test::TemporaryFolder home;
+    const auto set = [&home](const char* name, const char* folder) {
+        qputenv(name, (home / folder).string().c_str());
+    };
+    set("HOME", "home");
+    set("XDG_CONFIG_HOME", "home/.config");
+    set("XDG_DATA_HOME", "home/.local/share");
+    set("XDG_CONFIG_DIRS", "etc");
+    qputenv("XDG_RUNTIME_DIR", home.path().string().c_str());
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+    qputenv("QT_QPA_PLATFORMTHEME", "none");
+    QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedKingdom));
+    QApplication application(argc, argv);
+    quendra::applyAppearance(application, quendra::Appearance::Light);
+    return RUN_ALL_TESTS();
+}

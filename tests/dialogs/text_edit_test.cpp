@@ -1,0 +1,315 @@
+// The line edit of all texts: its limits, and how it hides a text.
+#include "dialogs/dialog_fixture.h"
+#include "platform/secret_memory.h"
+
+#include <array>
+#include <cstdio>
+#include <fcntl.h>
+#include <fstream>
+#include <unistd.h>
+
+namespace quendra::test {
+namespace {
+
+class TextEditTest : public DialogTest {
+  protected:
+    [[nodiscard]] TextEdit& edit() { return widget<TextEdit>("text"); }
+    [[nodiscard]] std::string stored() const {
+        return std::string(textOf(slotFields(entry, Slot::Entry)));
+    }
+    [[nodiscard]] std::string held() { return std::string(edit().bytes().view()); }
+    void openHidden(std::string_view text) {
+        entry = newEntry(CommandCode::Type);
+        entry.hidden = 1;
+        setText(slotFields(entry, Slot::Entry), text);
+        state.editing = true;
+        open();
+    }
+    void key(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+        QTest::keyClick(&edit(), key, modifiers);
+    }
+};
+
+TEST_F(TextEditTest, APasteOf300CharactersIsCutTo255AndMoreCannotBeTyped) {
+    openNew(CommandCode::Comment);
+    pasteInto(edit(), QString(300, QChar(0xe4)));
+    EXPECT_EQ(edit().text().size(), 255);
+    EXPECT_EQ(note(), "At most 255 characters fit here.");
+    typeText(edit(), QStringLiteral("x"));
+    EXPECT_EQ(edit().text().size(), 255);
+    key(Qt::Key_Backspace);
+    EXPECT_EQ(note(), "");
+    typeText(edit(), QStringLiteral("x"));
+    pressOk();
+    EXPECT_EQ(stored(), std::string(254, '\xe4') + 'x');
+}
+
+TEST_F(TextEditTest, WhatTheEncodingLacksIsRefusedWhereItIsTyped) {
+    openNew(CommandCode::Comment);
+    typeText(edit(), QStringLiteral(u"a\u4e2d"));
+    EXPECT_EQ(edit().text(), QStringLiteral("a"));
+    EXPECT_EQ(note(), "The character \xe4\xb8\xad cannot be stored in a script.");
+    typeText(edit(), QStringLiteral(u"\u20ac"));
+    EXPECT_EQ(edit().text(), QStringLiteral(u"a\u20ac"));
+    EXPECT_EQ(note(), "");
+    pasteInto(edit(), QStringLiteral(u"whole \U0001f511 or not at all"));
+    EXPECT_EQ(edit().text(), QStringLiteral(u"a\u20ac"));
+    EXPECT_EQ(note(), "The character \xf0\x9f\x94\x91 cannot be stored in a script.");
+    pressOk();
+    EXPECT_EQ(stored(), "a\x80");
+}
+
+TEST_F(TextEditTest, OfSeveralPastedLinesTheFirstIsTaken) {
+    openNew(CommandCode::Comment);
+    typeText(edit(), QStringLiteral("[]"));
+    key(Qt::Key_Left);
+    pasteInto(edit(), QStringLiteral("one\r\ntwo"));
+    EXPECT_EQ(edit().text(), QStringLiteral("[one]"));
+    EXPECT_EQ(edit().cursorPosition(), 4);
+}
+
+TEST_F(TextEditTest, EveryByteOfAFileSurvivesAnEditBesideIt) {
+    std::string all;
+    for (int byte = 0; byte < 254; ++byte)
+        all += static_cast<char>(byte);
+    entry = newEntry(CommandCode::Comment);
+    setText(slotFields(entry, Slot::Entry), all);
+    open();
+    key(Qt::Key_End);
+    typeText(edit(), QStringLiteral("x"));
+    pressOk();
+    EXPECT_EQ(stored(), all + 'x');
+}
+
+TEST_F(TextEditTest, TheBoxMasksAndUnmasksAtOnce) {
+    openNew(CommandCode::Type);
+    EXPECT_FALSE(widget<QCheckBox>("hide").isChecked());
+    typeText(edit(), QStringLiteral("logon"));
+    clickOn(widget<QCheckBox>("hide"));
+    EXPECT_EQ(edit().displayText(), QStringLiteral("*****"));
+    EXPECT_EQ(edit().echoMode(), QLineEdit::Password) << "so that screen readers do not read it";
+    typeText(edit(), QStringLiteral("!"));
+    clickOn(widget<QCheckBox>("hide"));
+    EXPECT_EQ(edit().displayText(), QStringLiteral("logon!"));
+    pressOk();
+    EXPECT_EQ(entry.hidden, 0) << "checked and unchecked again";
+    EXPECT_EQ(stored(), "logon!");
+}
+
+TEST_F(TextEditTest, AHiddenTypeStaysHiddenWithoutABoxToChangeIt) {
+    openNew(CommandCode::Type);
+    typeText(edit(), QStringLiteral("pass"));
+    clickOn(widget<QCheckBox>("hide"));
+    pressOk();
+    EXPECT_EQ(entry.hidden, 1);
+    state.editing = true;
+    open();
+    EXPECT_FALSE(has("hide"));
+    EXPECT_EQ(edit().displayText(), QStringLiteral("****"));
+    typeText(edit(), QStringLiteral("new"));
+    pressOk();
+    EXPECT_EQ(stored(), "new");
+    EXPECT_EQ(entry.hidden, 1);
+}
+
+TEST_F(TextEditTest, OtherTextsAreNeitherMaskedNorOfferedToHide) {
+    entry = newEntry(CommandCode::Message);
+    entry.hidden = 1;
+    setText(slotFields(entry, Slot::Entry), "seen");
+    open();
+    EXPECT_FALSE(has("hide"));
+    EXPECT_EQ(edit().displayText(), QStringLiteral("seen"));
+    EXPECT_TRUE(edit().toolTip().isEmpty());
+}
+
+TEST_F(TextEditTest, AMaskedTextIsEditedLikeAnyOther) {
+    openHidden("abcdef");
+    EXPECT_EQ(edit().selectedText().size(), 6) << "selected when the dialog opens";
+    key(Qt::Key_Home);
+    typeText(edit(), QStringLiteral("1"));
+    EXPECT_EQ(held(), "1abcdef");
+    key(Qt::Key_Right);
+    key(Qt::Key_Delete);
+    EXPECT_EQ(held(), "1acdef");
+    key(Qt::Key_Backspace);
+    EXPECT_EQ(held(), "1cdef");
+    key(Qt::Key_Right, Qt::ShiftModifier);
+    key(Qt::Key_Right, Qt::ShiftModifier);
+    typeText(edit(), QStringLiteral(u"\u00fc"));
+    EXPECT_EQ(held(),
+              "1\xfc"
+              "ef");
+    EXPECT_EQ(edit().cursorPosition(), 2);
+    pasteInto(edit(), QStringLiteral("xyz\nnext"));
+    EXPECT_EQ(held(), "1\xfcxyzef");
+    key(Qt::Key_Left, Qt::ShiftModifier);
+    key(Qt::Key_X, Qt::ControlModifier);
+    EXPECT_EQ(held(), "1\xfcxyef");
+    edit().backspace();
+    EXPECT_EQ(held(), "1\xfcxef");
+    EXPECT_EQ(edit().displayText(), QStringLiteral("*****"));
+    key(Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(held(), "1\xfcxef") << "nothing to undo";
+    typeText(edit(), QStringLiteral(u"\u4e2d"));
+    EXPECT_EQ(held(), "1\xfcxef");
+    pressOk();
+    EXPECT_EQ(stored(), "1\xfcxef");
+}
+
+TEST_F(TextEditTest, AnInputMethodReachesAMaskedText) {
+    openHidden("ab");
+    QInputMethodEvent compose(QStringLiteral("^"), {});
+    QApplication::sendEvent(&edit(), &compose);
+    EXPECT_EQ(edit().displayText(), QStringLiteral("**"));
+    QInputMethodEvent commit;
+    commit.setCommitString(QStringLiteral(u"\u00ea"));
+    QApplication::sendEvent(&edit(), &commit);
+    EXPECT_EQ(held(), "\xea");
+}
+
+TEST_F(TextEditTest, AMaskedTextTakesWhatCanBeEncipheredAndNoMore) {
+    openHidden(std::string(245, 'h'));
+    key(Qt::Key_End);
+    typeText(edit(), QStringLiteral("12"));
+    EXPECT_EQ(held(), std::string(245, 'h') + '1');
+    EXPECT_EQ(note(), "A hidden text can have at most 246 characters.");
+    key(Qt::Key_Backspace);
+    EXPECT_EQ(note(), "");
+    pasteInto(edit(), QStringLiteral("two"));
+    EXPECT_EQ(held(), std::string(245, 'h')) << "a secret is not cut unseen";
+    edit().selectAll();
+    pasteInto(edit(), QString(246, u'p'));
+    pressOk();
+    EXPECT_EQ(stored(), std::string(246, 'p'));
+}
+
+TEST_F(TextEditTest, ATextTooLongToHideIsRefusedAtOk) {
+    openNew(CommandCode::Type);
+    pasteInto(edit(), QString(250, u'p'));
+    clickOn(widget<QCheckBox>("hide"));
+    pressOk();
+    ASSERT_EQ(answers.messages.size(), 1U);
+    EXPECT_EQ(answers.messages[0].text, "A hidden text can have at most 246 characters.");
+    EXPECT_EQ(answers.messages[0].title, "Type");
+    EXPECT_EQ(focused(), "text");
+    EXPECT_EQ(stored(), "");
+    key(Qt::Key_End);
+    for (int i = 0; i < 4; ++i)
+        key(Qt::Key_Backspace);
+    pressOk();
+    EXPECT_TRUE(endedWithOk());
+    EXPECT_EQ(stored(), std::string(246, 'p'));
+}
+
+TEST_F(TextEditTest, WhatCouldNotBeDecipheredIsKeptUntilTheTextIsEdited) {
+    openHidden("");
+    const std::vector<std::uint8_t> sealed{1, 2, 3, 4, 5, 6, 7, 8};
+    entry.kept = sealed;
+    open();
+    EXPECT_EQ(edit().placeholderText(), libraryLine(16007));
+    pressOk();
+    EXPECT_EQ(answers.messages.size(), 1U) << "an empty text is refused";
+    EXPECT_EQ(entry.kept, sealed);
+    typeText(edit(), QStringLiteral("new"));
+    pressOk();
+    EXPECT_FALSE(entry.kept.has_value());
+
+    // Deciphered by chance under another key: the bytes stay as long as the text does.
+    openHidden("x");
+    entry.kept = sealed;
+    pressOk();
+    EXPECT_EQ(entry.kept, sealed);
+}
+
+TEST_F(TextEditTest, WithoutAnIdentityTheToolTipSaysThatTextsAreOnlyObscured) {
+    openNew(CommandCode::Type);
+    EXPECT_EQ(edit().toolTip(), libraryLine(16006));
+    EXPECT_EQ(widget<QCheckBox>("hide").toolTip(), libraryLine(16006));
+    const std::filesystem::path folder =
+        std::filesystem::path(qgetenv("XDG_CONFIG_HOME").toStdString()) / "quendra";
+    std::filesystem::create_directories(folder);
+    std::ofstream(folder / "registry.ini") << "[Identities]\nDefault User ID = {1234}\n";
+    openNew(CommandCode::Type);
+    EXPECT_TRUE(edit().toolTip().isEmpty());
+    EXPECT_TRUE(widget<QCheckBox>("hide").toolTip().isEmpty());
+    std::filesystem::remove_all(folder);
+}
+
+// A text that this file never holds as such: every byte is kept with its bits turned over.
+constexpr std::array<unsigned char, 14> turnedSecret = {0x8e, 0xa5, 0xc6, 0xce, 0x94, 0xb0, 0x89,
+                                                        0xc8, 0x98, 0xbb, 0xcc, 0x85, 0xae, 0x95};
+
+char secretCharacter(std::size_t index) {
+    return static_cast<char>(~turnedSecret[index]);
+}
+
+// True when the secret stands at `at`, its characters `step` bytes apart.
+bool isSecretAt(const std::vector<unsigned char>& memory, std::size_t at, std::size_t step) {
+    if (at + turnedSecret.size() * step > memory.size()) return false;
+    for (std::size_t i = 0; i < turnedSecret.size(); ++i) {
+        if (static_cast<unsigned char>(~memory[at + i * step]) != turnedSecret[i]) return false;
+    }
+    return true;
+}
+
+// Looks through all that this process can write, for the secret in one or two bytes a character.
+bool memoryHoldsTheSecret() {
+    constexpr std::size_t largest = std::size_t{256} << 20U;
+    const int memory = ::open("/proc/self/mem", O_RDONLY | O_CLOEXEC);
+    std::ifstream maps("/proc/self/maps");
+    std::string line;
+    bool found = false;
+    while (!found && std::getline(maps, line)) {
+        std::size_t start = 0;
+        std::size_t end = 0;
+        char mode[5] = {};
+        if (std::sscanf(line.c_str(), "%zx-%zx %4s", &start, &end, mode) != 3) continue;
+        if (mode[0] != 'r' || mode[1] != 'w' || end - start > largest) continue;
+        std::vector<unsigned char> region(end - start);
+        const ssize_t got =
+            ::pread(memory, region.data(), region.size(), static_cast<off_t>(start));
+        region.resize(got < 0 ? 0 : static_cast<std::size_t>(got));
+        for (std::size_t at = 0; at < region.size() && !found; ++at) {
+            found = isSecretAt(region, at, 1) || isSecretAt(region, at, 2);
+        }
+        wipeMemory(region.data(), region.size());
+    }
+    ::close(memory);
+    return found;
+}
+
+void typeSecret(QWidget& edit) {
+    for (std::size_t i = 0; i < turnedSecret.size(); ++i) {
+        typeText(edit, QString(QLatin1Char(secretCharacter(i))));
+    }
+}
+
+TEST_F(TextEditTest, NoCopyOfAHiddenTextOutlivesTheDialog) {
+    openNew(CommandCode::Type);
+    clickOn(widget<QCheckBox>("hide"));
+    typeSecret(edit());
+    key(Qt::Key_Backspace);
+    typeText(edit(), QString(QLatin1Char(secretCharacter(turnedSecret.size() - 1))));
+    pressOk();
+    ASSERT_EQ(entry.text[3], secretCharacter(3));
+    ASSERT_TRUE(memoryHoldsTheSecret()) << "the entry holds it";
+    dialog.reset();
+    entry = ScriptEntry();
+    EXPECT_FALSE(memoryHoldsTheSecret()) << "typed";
+
+    entry = newEntry(CommandCode::Type);
+    entry.hidden = 1;
+    entry.textLength = static_cast<std::uint8_t>(turnedSecret.size());
+    for (std::size_t i = 0; i < turnedSecret.size(); ++i)
+        entry.text[i] = secretCharacter(i);
+    open();
+    key(Qt::Key_End);
+    typeText(edit(), QStringLiteral("more"));
+    QTest::keyClick(dialog.get(), Qt::Key_Escape);
+    dialog.reset();
+    entry = ScriptEntry();
+    EXPECT_FALSE(memoryHoldsTheSecret()) << "shown";
+}
+
+}  // namespace
+}  // namespace quendra::test
