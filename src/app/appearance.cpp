@@ -117,7 +117,7 @@ QPalette appearancePalette(Appearance appearance) {
 
 void applyAppearance(QApplication& application, Appearance appearance) {
     if (appearance == Appearance::Platform) {
-        appearance = isDark(application.palette()) ? Appearance::Dark : Appearance::Light;
+        appearance = isDark(QApplication::palette()) ? Appearance::Dark : Appearance::Light;
     }
     QApplication::setStyle(new EditorStyle);
     const QPalette palette = appearancePalette(appearance);
