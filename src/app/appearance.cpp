@@ -103,6 +103,8 @@ QPalette paletteOf(const Colours& c) {
     palette.setColor(QPalette::Inactive, QPalette::Highlight, QColor::fromRgb(c.quietHighlight));
     palette.setColor(QPalette::Inactive, QPalette::HighlightedText,
                      QColor::fromRgb(c.quietHighlightedText));
+    // A field that takes nothing does not look like one that waits to be filled.
+    palette.setColor(QPalette::Disabled, QPalette::Base, QColor::fromRgb(c.button));
     palette.setColor(QPalette::Disabled, QPalette::Highlight, QColor::fromRgb(c.mid));
     return palette;
 }

@@ -108,6 +108,10 @@ void TextEdit::setBytes(std::string_view windows1252) {
     setText(text);
 }
 
+std::size_t TextEdit::lengthLimit() const {
+    return static_cast<std::size_t>(maxLength());
+}
+
 SecretText TextEdit::bytes() const {
     return masked_ ? SecretText(secret_.view()) : toBytes(text());
 }
@@ -119,7 +123,7 @@ bool TextEdit::takeText(const QString& text) {
         return false;
     }
     if (text.size() > maxLength()) {
-        Q_EMIT refused({InputFault::Kind::Length, {}, maxTextLength});
+        Q_EMIT refused({InputFault::Kind::Length, {}, lengthLimit()});
         return false;
     }
     selectAll();
@@ -155,8 +159,11 @@ void TextEdit::insertMasked(QStringView text) {
     const auto removed = static_cast<std::size_t>(selectionLength());
     const auto at = static_cast<std::size_t>(removed > 0 ? selectionStart() : cursorPosition());
     const auto added = static_cast<std::size_t>(line.size());
-    if (secret_.size() - removed + added > maxHiddenTextLength) {
-        Q_EMIT refused({InputFault::Kind::HiddenLength, {}, maxHiddenTextLength});
+    const std::size_t limit = std::min(lengthLimit(), maxHiddenTextLength);
+    if (secret_.size() - removed + added > limit) {
+        const auto kind =
+            limit < maxHiddenTextLength ? InputFault::Kind::Length : InputFault::Kind::HiddenLength;
+        Q_EMIT refused({kind, {}, limit});
         return;
     }
     secret_.replace(at, removed, toBytes(line).view());
@@ -188,7 +195,7 @@ void TextEdit::followMaskedChange() {
 void TextEdit::reportRejection() {
     const QString foreign = validator_->takeRejected();
     if (foreign.isEmpty()) {
-        Q_EMIT refused({InputFault::Kind::Length, {}, maxTextLength});
+        Q_EMIT refused({InputFault::Kind::Length, {}, lengthLimit()});
     } else {
         Q_EMIT refused({InputFault::Kind::Character, foreign});
     }
@@ -197,6 +204,8 @@ void TextEdit::reportRejection() {
 void TextEdit::keyPressEvent(QKeyEvent* event) {
     if (masked_ && event->matches(QKeySequence::Paste)) {
         insertMasked(QGuiApplication::clipboard()->text());
+    } else if (masked_ && event->matches(QKeySequence::Undo)) {
+        // The line edit's own undo would empty the field.
     } else if (masked_ && insertsText(*event)) {
         insertMasked(event->text());
     } else {

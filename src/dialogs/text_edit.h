@@ -14,9 +14,9 @@ namespace quendra {
 
 class TextValidator;
 
-/// At most 255 characters of windows-1252, in one line. A longer paste is cut; a text with other
-/// characters is refused whole; of several pasted lines the first is taken. Line breaks and other
-/// control characters that a file brought in stay in the text.
+/// At most 255 characters of windows-1252, or fewer by setMaxLength(), in one line. A longer paste
+/// is cut; a text with other characters is refused whole; of several pasted lines the first is
+/// taken. Line breaks and other control characters that a file brought in stay in the text.
 ///
 /// While masked, the line edit itself knows asterisks only: the text lies in a SecretText, so no
 /// undo history, layout or freed buffer of Qt's holds it. Read it with bytes(); text() then gives
@@ -51,6 +51,7 @@ class TextEdit : public QLineEdit {
     void contextMenuEvent(QContextMenuEvent* event) override;
 
   private:
+    [[nodiscard]] std::size_t lengthLimit() const;
     void insertMasked(QStringView text);
     void removeMaskedSelection();
     void showMask(std::size_t cursor);

@@ -1,7 +1,7 @@
 #include "transfer/bound_page.h"
 
 #include "app/ui_text.h"
-#include "dialogs/number_edit.h"
+#include "dialogs/input_note.h"
 #include "dialogs/text_edit.h"
 
 #include <QButtonGroup>
@@ -153,6 +153,14 @@ QWidget* BoundPage::makeTextEdit(const TransferControl& row) {
     // removed not before the change of its asterisks.
     connect(edit, &QLineEdit::textEdited, this, take);
     connect(edit, &QLineEdit::textChanged, this, take);
+    connect(edit, &TextEdit::refused, this, [this](const InputFault& fault) {
+        Q_EMIT noted(faultNote(model_.state.language, fault));
+    });
+    // A paste that was cut to the field's length is an edit too: its note stays.
+    connect(edit, &QLineEdit::textEdited, this, [this, edit] {
+        if (edit->text().size() < edit->maxLength()) Q_EMIT noted({});
+    });
+    connect(edit, &QLineEdit::editingFinished, this, [this] { Q_EMIT noted({}); });
     return edit;
 }
 
@@ -160,6 +168,11 @@ QWidget* BoundPage::makeNumberEdit(const TransferControl& row) {
     auto* edit = new NumberEdit(largestSevenDigits, this);
     connect(edit, &QLineEdit::textChanged, this,
             [this, &row, edit] { store(row.field, edit->number().value_or(0)); });
+    const QString range = rangeNote(model_.state.language, edit->range());
+    edit->setToolTip(range);
+    connect(edit, &NumberEdit::refused, this, [this, range] { Q_EMIT noted(range); });
+    connect(edit, &QLineEdit::textEdited, this, [this] { Q_EMIT noted({}); });
+    connect(edit, &QLineEdit::editingFinished, this, [this] { Q_EMIT noted({}); });
     return edit;
 }
 

@@ -67,6 +67,10 @@ class BoundPage : public QWidget {
     /// Shows the settings as they are, and what the host system enables. Stores nothing.
     virtual void load();
 
+  Q_SIGNALS:
+    /// What the user should know about what is being typed; empty when there is nothing any more.
+    void noted(const QString& note);
+
   protected:
     void showEvent(QShowEvent* event) override;
 

@@ -6,8 +6,12 @@
 #include "transfer/advanced_page.h"
 #include "transfer/settings_page.h"
 
+#include <QAccessible>
+#include <QApplication>
 #include <QDialog>
 #include <QDialogButtonBox>
+#include <QHBoxLayout>
+#include <QLabel>
 #include <QPushButton>
 #include <QShowEvent>
 #include <QTabWidget>
@@ -33,10 +37,13 @@ class TransferSheet : public QDialog {
     [[nodiscard]] QString text(StringId id) const {
         return qtText(model_.state.language.loadText(id));
     }
+    void addPage(QTabWidget& tabs, BoundPage* page, StringId title);
     [[nodiscard]] QDialogButtonBox* makeButtons();
+    void showNote(const QString& note);
 
     TransferSheetModel model_;
     SettingsPage* settings_;
+    QLabel* note_;
 };
 
 TransferSheet::TransferSheet(const DialogContext& context, std::uint8_t host)
@@ -48,14 +55,35 @@ TransferSheet::TransferSheet(const DialogContext& context, std::uint8_t host)
     auto* tabs = new QTabWidget;
     tabs->setObjectName(QStringLiteral("tabs"));
     settings_ = new SettingsPage(model_);
-    tabs->addTab(settings_, text(10208));
-    tabs->addTab(new AdvancedPage(model_), text(10995));
+    addPage(*tabs, settings_, 10208);
+    addPage(*tabs, new AdvancedPage(model_), 10995);
+    note_ = new QLabel;
+    note_->setObjectName(QStringLiteral("note"));
+    note_->setTextFormat(Qt::PlainText);
+    // The sheet keeps its size whatever the note says.
+    note_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    auto* bottom = new QHBoxLayout;
+    bottom->addWidget(note_, 1);
+    bottom->addWidget(makeButtons());
     auto* all = new QVBoxLayout(this);
     all->addWidget(tabs);
-    all->addWidget(makeButtons());
+    all->addLayout(bottom);
     all->setSizeConstraint(QLayout::SetFixedSize);
     // Not before the button is in the dialog, which would else take Browse for it.
     findChild<QPushButton*>(QStringLiteral("ok"))->setDefault(true);
+}
+
+void TransferSheet::addPage(QTabWidget& tabs, BoundPage* page, StringId title) {
+    tabs.addTab(page, text(title));
+    connect(page, &BoundPage::noted, this, &TransferSheet::showNote);
+}
+
+void TransferSheet::showNote(const QString& note) {
+    if (!note.isEmpty()) QApplication::beep();
+    if (note_->text() == note) return;
+    note_->setText(note);
+    QAccessibleEvent changed(note_, QAccessible::NameChanged);
+    QAccessible::updateAccessibility(&changed);
 }
 
 QDialogButtonBox* TransferSheet::makeButtons() {
