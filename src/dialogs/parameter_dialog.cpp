@@ -138,7 +138,6 @@ void ParameterDialog::addButtons(const QString& okText) {
 
     auto* ok = new QPushButton(okText);
     ok->setObjectName(QStringLiteral("ok"));
-    ok->setDefault(true);
     auto* cancel = new QPushButton(text(cancelText));
     cancel->setObjectName(QStringLiteral("cancel"));
     auto* buttons = new QDialogButtonBox;
@@ -148,6 +147,8 @@ void ParameterDialog::addButtons(const QString& okText) {
     connect(buttons, &QDialogButtonBox::accepted, this, &ParameterDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &ParameterDialog::reject);
     all.addWidget(buttons);
+    // Only within the dialog does it stay the default after another button had the focus.
+    ok->setDefault(true);
 }
 
 void ParameterDialog::registerField(QWidget* field, const char* name) {
