@@ -2503,6 +2503,96 @@
         <extracomment>If_Input_Is dialog: action line before an action is chosen; script wording as in the script list, the same in every language</extracomment>
         <translation>If Not Equal Then </translation>
     </message>
+    <message id="15301">
+        <source>&amp;Undo</source>
+        <extracomment>Menu: Edit, Undo, with nothing to undo</extracomment>
+        <translation>&amp;Undo</translation>
+    </message>
+    <message id="15302">
+        <source>&amp;Undo %s</source>
+        <extracomment>Menu: Edit, Undo; %s is the step, as “Delete 3 entries”</extracomment>
+        <translation>&amp;Undo %s</translation>
+    </message>
+    <message id="15303">
+        <source>&amp;Redo</source>
+        <extracomment>Menu: Edit, Redo, with nothing to redo</extracomment>
+        <translation>&amp;Redo</translation>
+    </message>
+    <message id="15304">
+        <source>&amp;Redo %s</source>
+        <extracomment>Menu: Edit, Redo; %s is the step, as “Delete 3 entries”</extracomment>
+        <translation>&amp;Redo %s</translation>
+    </message>
+    <message id="15305">
+        <source>Undo</source>
+        <extracomment>Tooltip: Undo, with nothing to undo</extracomment>
+        <translation>Undo</translation>
+    </message>
+    <message id="15306">
+        <source>Undo %s</source>
+        <extracomment>Tooltip: Undo; %s is the step, as “Delete 3 entries”</extracomment>
+        <translation>Undo %s</translation>
+    </message>
+    <message id="15307">
+        <source>Redo</source>
+        <extracomment>Tooltip: Redo, with nothing to redo</extracomment>
+        <translation>Redo</translation>
+    </message>
+    <message id="15308">
+        <source>Redo %s</source>
+        <extracomment>Tooltip: Redo; %s is the step, as “Delete 3 entries”</extracomment>
+        <translation>Redo %s</translation>
+    </message>
+    <message id="15309">
+        <source>Takes back the last change of the script.</source>
+        <extracomment>Status bar: Undo</extracomment>
+        <translation>Takes back the last change of the script.</translation>
+    </message>
+    <message id="15310">
+        <source>Makes the change again that was undone last.</source>
+        <extracomment>Status bar: Redo</extracomment>
+        <translation>Makes the change again that was undone last.</translation>
+    </message>
+    <message id="15311">
+        <source>Edit entry</source>
+        <extracomment>Step that Undo and Redo name: an entry was edited or replaced</extracomment>
+        <translation>Edit entry</translation>
+    </message>
+    <message id="15312">
+        <source>Delete %s</source>
+        <extracomment>Step that Undo and Redo name; %s is “1 entry” or “3 entries”</extracomment>
+        <translation>Delete %s</translation>
+    </message>
+    <message id="15313">
+        <source>Cut %s</source>
+        <extracomment>Step that Undo and Redo name; %s is “1 entry” or “3 entries”</extracomment>
+        <translation>Cut %s</translation>
+    </message>
+    <message id="15314">
+        <source>Paste %s</source>
+        <extracomment>Step that Undo and Redo name; %s is “1 entry” or “3 entries”</extracomment>
+        <translation>Paste %s</translation>
+    </message>
+    <message id="15315">
+        <source>Move %s</source>
+        <extracomment>Step that Undo and Redo name; %s is “1 entry” or “3 entries”</extracomment>
+        <translation>Move %s</translation>
+    </message>
+    <message id="15316">
+        <source>To replace this entry, first select what takes its place in the palette %s.</source>
+        <extracomment>Status bar: Edit/Replace Entry needs a selected row; %s is the label of the palette</extracomment>
+        <translation>To replace this entry, first select what takes its place in the palette %s.</translation>
+    </message>
+    <message id="15317">
+        <source>The hidden text of this entry is too long: it can have at most 246 characters.</source>
+        <extracomment>Message: hidden text too long; the entry follows</extracomment>
+        <translation>The hidden text of this entry is too long: it can have at most 246 characters.</translation>
+    </message>
+    <message id="15318">
+        <source>The hidden text of this entry cannot be enciphered: there is no usable key.</source>
+        <extracomment>Message: hidden text that cannot be enciphered; the entry follows</extracomment>
+        <translation>The hidden text of this entry cannot be enciphered: there is no usable key.</translation>
+    </message>
     <message id="16001">
         <source>The character %s cannot be stored in a script.</source>
         <extracomment>Note under a field: a character that scripts cannot hold was typed or pasted</extracomment>

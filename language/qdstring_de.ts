@@ -2503,6 +2503,96 @@
         <extracomment>If_Input_Is dialog: action line before an action is chosen; script wording as in the script list, the same in every language</extracomment>
         <translation>If Not Equal Then </translation>
     </message>
+    <message id="15301">
+        <source>&amp;Undo</source>
+        <extracomment>Menu: Edit, Undo, with nothing to undo</extracomment>
+        <translation>&amp;Rückgängig</translation>
+    </message>
+    <message id="15302">
+        <source>&amp;Undo %s</source>
+        <extracomment>Menu: Edit, Undo; %s is the step, as “Delete 3 entries”</extracomment>
+        <translation>&amp;Rückgängig: %s</translation>
+    </message>
+    <message id="15303">
+        <source>&amp;Redo</source>
+        <extracomment>Menu: Edit, Redo, with nothing to redo</extracomment>
+        <translation>&amp;Wiederherstellen</translation>
+    </message>
+    <message id="15304">
+        <source>&amp;Redo %s</source>
+        <extracomment>Menu: Edit, Redo; %s is the step, as “Delete 3 entries”</extracomment>
+        <translation>&amp;Wiederherstellen: %s</translation>
+    </message>
+    <message id="15305">
+        <source>Undo</source>
+        <extracomment>Tooltip: Undo, with nothing to undo</extracomment>
+        <translation>Rückgängig</translation>
+    </message>
+    <message id="15306">
+        <source>Undo %s</source>
+        <extracomment>Tooltip: Undo; %s is the step, as “Delete 3 entries”</extracomment>
+        <translation>Rückgängig: %s</translation>
+    </message>
+    <message id="15307">
+        <source>Redo</source>
+        <extracomment>Tooltip: Redo, with nothing to redo</extracomment>
+        <translation>Wiederherstellen</translation>
+    </message>
+    <message id="15308">
+        <source>Redo %s</source>
+        <extracomment>Tooltip: Redo; %s is the step, as “Delete 3 entries”</extracomment>
+        <translation>Wiederherstellen: %s</translation>
+    </message>
+    <message id="15309">
+        <source>Takes back the last change of the script.</source>
+        <extracomment>Status bar: Undo</extracomment>
+        <translation>Nimmt die letzte Änderung des Skripts zurück.</translation>
+    </message>
+    <message id="15310">
+        <source>Makes the change again that was undone last.</source>
+        <extracomment>Status bar: Redo</extracomment>
+        <translation>Nimmt die zuletzt rückgängig gemachte Änderung wieder vor.</translation>
+    </message>
+    <message id="15311">
+        <source>Edit entry</source>
+        <extracomment>Step that Undo and Redo name: an entry was edited or replaced</extracomment>
+        <translation>Eintrag bearbeiten</translation>
+    </message>
+    <message id="15312">
+        <source>Delete %s</source>
+        <extracomment>Step that Undo and Redo name; %s is “1 entry” or “3 entries”</extracomment>
+        <translation>%s löschen</translation>
+    </message>
+    <message id="15313">
+        <source>Cut %s</source>
+        <extracomment>Step that Undo and Redo name; %s is “1 entry” or “3 entries”</extracomment>
+        <translation>%s ausschneiden</translation>
+    </message>
+    <message id="15314">
+        <source>Paste %s</source>
+        <extracomment>Step that Undo and Redo name; %s is “1 entry” or “3 entries”</extracomment>
+        <translation>%s einfügen</translation>
+    </message>
+    <message id="15315">
+        <source>Move %s</source>
+        <extracomment>Step that Undo and Redo name; %s is “1 entry” or “3 entries”</extracomment>
+        <translation>%s verschieben</translation>
+    </message>
+    <message id="15316">
+        <source>To replace this entry, first select what takes its place in the palette %s.</source>
+        <extracomment>Status bar: Edit/Replace Entry needs a selected row; %s is the label of the palette</extracomment>
+        <translation>Um diesen Eintrag zu ersetzen, wählen Sie zuerst in der Palette %s aus, was an seine Stelle tritt.</translation>
+    </message>
+    <message id="15317">
+        <source>The hidden text of this entry is too long: it can have at most 246 characters.</source>
+        <extracomment>Message: hidden text too long; the entry follows</extracomment>
+        <translation>Der verborgene Text dieses Eintrags ist zu lang: Er darf höchstens 246 Zeichen haben.</translation>
+    </message>
+    <message id="15318">
+        <source>The hidden text of this entry cannot be enciphered: there is no usable key.</source>
+        <extracomment>Message: hidden text that cannot be enciphered; the entry follows</extracomment>
+        <translation>Der verborgene Text dieses Eintrags kann nicht verschlüsselt werden: Es gibt keinen brauchbaren Schlüssel.</translation>
+    </message>
     <message id="16001">
         <source>The character %s cannot be stored in a script.</source>
         <extracomment>Note under a field: a character that scripts cannot hold was typed or pasted</extracomment>

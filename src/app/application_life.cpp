@@ -27,6 +27,8 @@ std::vector<StartupNotice> loadApplication(ApplicationState& state, const Startu
 
 void wipeApplication(ApplicationState& state) {
     state.script.entries.clear();
+    state.document.saved = {};
+    state.history.clear();
     state.entryClipboard.clear();
     state.luCatalogues = {};
     state.menuCommands = {};

@@ -3,7 +3,6 @@
 #include "app/commands.h"
 #include "app/document.h"
 #include "app/ui_text.h"
-#include "scriptfile/entry_codec.h"
 
 namespace quendra {
 
@@ -26,26 +25,13 @@ bool canEdit(const CommandFacts& facts) {
     return false;
 }
 
-std::string insertText(StringId id, const std::optional<std::string>& item, StringId plainId,
-                       LanguageLibrary& language) {
+// The text with a place for the item, or the plain one when there is no item.
+std::string itemText(StringId id, const std::optional<std::string>& item, StringId plainId,
+                     LanguageLibrary& language) {
     return item ? libraryText(language, id, {*item}) : libraryText(language, plainId);
 }
 
 }  // namespace
-
-EditSource editSource(const EntryHandle& entry, const HiddenTextCipher& cipher) {
-    switch (entry.code()) {
-        case CommandCode::LuFunction: return EditSource::LuFunctions;
-        case CommandCode::MenuCommand:
-            return menuCommandTakesParameters(unpackEntry(entry, cipher).commandId)
-                       ? EditSource::Dialog
-                       : EditSource::MenuCommands;
-        case CommandCode::Beep:
-        case CommandCode::ClearWatch:
-        case CommandCode::Return: return EditSource::ScriptEvents;
-        default: return EditSource::Dialog;
-    }
-}
 
 CommandFacts commandFacts(const ApplicationState& state, const EditorPane& pane) {
     CommandFacts facts;
@@ -58,6 +44,8 @@ CommandFacts commandFacts(const ApplicationState& state, const EditorPane& pane)
         facts.editSource = editSource(state.script.entries[index], state.cipher);
         facts.focusedLine = pane.entryText(focused).toStdString();
     }
+    if (state.history.canUndo()) facts.undoStep = state.history.undoName();
+    if (state.history.canRedo()) facts.redoStep = state.history.redoName();
     facts.selectedEvent = selectedText(pane, Palette::ScriptEvents);
     facts.selectedLuFunction = selectedText(pane, Palette::LuFunctions);
     facts.selectedMenuCommand = selectedText(pane, Palette::MenuCommands);
@@ -76,6 +64,8 @@ bool isCommandEnabled(int id, const CommandFacts& facts) {
         case command::insertLuFunction: return facts.selectedLuFunction.has_value();
         case command::insertMenuCommand: return facts.selectedMenuCommand.has_value();
         case command::editEntry: return canEdit(facts);
+        case command::undo: return facts.undoStep.has_value();
+        case command::redo: return facts.redoStep.has_value();
         default: return true;
     }
 }
@@ -84,11 +74,11 @@ std::string commandToolTip(int id, const CommandFacts& facts, LanguageLibrary& l
     const StringId plain = commandInfo(id).toolTipId;
     switch (id) {
         case command::insertScriptEvent:
-            return insertText(13701, facts.selectedEvent, plain, language);
+            return itemText(13701, facts.selectedEvent, plain, language);
         case command::insertLuFunction:
-            return insertText(13702, facts.selectedLuFunction, plain, language);
+            return itemText(13702, facts.selectedLuFunction, plain, language);
         case command::insertMenuCommand:
-            return insertText(13703, facts.selectedMenuCommand, plain, language);
+            return itemText(13703, facts.selectedMenuCommand, plain, language);
         case command::editEntry:
             if (facts.editSource == EditSource::None) break;
             return libraryText(language, facts.editSource == EditSource::Dialog ? 13705 : 13704,
@@ -96,9 +86,28 @@ std::string commandToolTip(int id, const CommandFacts& facts, LanguageLibrary& l
         case command::deleteEntries:
             if (facts.selectedCount == 0) break;
             return deleteText(language, facts.selectedCount);
+        case command::undo: return itemText(15306, facts.undoStep, plain, language);
+        case command::redo: return itemText(15308, facts.redoStep, plain, language);
         default: break;
     }
     return libraryText(language, plain);
+}
+
+std::optional<std::string> commandMenuText(int id, const CommandFacts& facts,
+                                           LanguageLibrary& language) {
+    const StringId plain = commandInfo(id).menuTextId;
+    // A menu takes an "&" in a step's name as the mark of a mnemonic.
+    const auto shown = [](std::optional<std::string> step) {
+        for (std::size_t at = 0; step && (at = step->find('&', at)) != step->npos; at += 2) {
+            step->insert(at, 1, '&');
+        }
+        return step;
+    };
+    switch (id) {
+        case command::undo: return itemText(15302, shown(facts.undoStep), plain, language);
+        case command::redo: return itemText(15304, shown(facts.redoStep), plain, language);
+        default: return std::nullopt;
+    }
 }
 
 std::string deleteText(LanguageLibrary& language, std::size_t count) {

@@ -10,19 +10,6 @@
 
 namespace quendra {
 
-/// What Edit/Replace Entry takes the focused entry's new content from.
-enum class EditSource : std::uint8_t {
-    /// No entry is focused.
-    None,
-    /// The entry's own dialog.
-    Dialog,
-    /// The entry has no parameters: the selected row of a palette takes its place.
-    ScriptEvents,
-    LuFunctions,
-    MenuCommands,
-};
-[[nodiscard]] EditSource editSource(const EntryHandle& entry, const HiddenTextCipher& cipher);
-
 /// Everything that the commands' states depend on. Texts are UTF-8.
 struct CommandFacts {
     std::size_t entryCount = 0;
@@ -33,6 +20,9 @@ struct CommandFacts {
     std::optional<std::string> selectedEvent = {};
     std::optional<std::string> selectedLuFunction = {};
     std::optional<std::string> selectedMenuCommand = {};
+    /// The steps that Undo and Redo would take.
+    std::optional<std::string> undoStep = {};
+    std::optional<std::string> redoStep = {};
 };
 [[nodiscard]] CommandFacts commandFacts(const ApplicationState& state, const EditorPane& pane);
 
@@ -41,6 +31,10 @@ struct CommandFacts {
 
 [[nodiscard]] std::string commandToolTip(int command, const CommandFacts& facts,
                                          LanguageLibrary& language);
+
+/// The menu text of a command whose text says what it would do: of Undo and Redo; none for others.
+[[nodiscard]] std::optional<std::string> commandMenuText(int command, const CommandFacts& facts,
+                                                         LanguageLibrary& language);
 
 /// "Delete 3 entries": tool tip, and with a question mark the confirmation.
 [[nodiscard]] std::string deleteText(LanguageLibrary& language, std::size_t count);

@@ -32,10 +32,12 @@ constexpr CommandInfo table[] = {
     {318, 0, 14203, 14206, ""},
     {help, 11201, 13681, 13698, "F1"},
     {about, 11202, 11206, 13699, ""},
+    {undo, 15301, 15305, 15309, "Ctrl+Z"},
+    {redo, 15303, 15307, 15310, "Ctrl+Shift+Z; Ctrl+Y"},
 };
 
 constexpr int fileItems[] = {newScript, open, save, saveAs, separator, command::exit};
-constexpr int editItems[] = {cut, copy, paste};
+constexpr int editItems[] = {undo, redo, separator, cut, copy, paste};
 constexpr int entryItems[] = {insertScriptEvent, insertLuFunction, insertMenuCommand, separator,
                               editEntry,         separator,        deleteEntries};
 constexpr int modeItems[] = {313, 314, 315, 316, 317, 318};
@@ -54,6 +56,9 @@ constexpr int toolbarItems[] = {
     cut,
     copy,
     paste,
+    separator,
+    undo,
+    redo,
     separator,
     insertScriptEvent,
     insertLuFunction,

@@ -1,4 +1,4 @@
-// The editor's commands 300 to 320 in one table: menus, toolbar, tool tips, status-bar help and
+// The editor's commands in one table: menus, toolbar, tool tips, status-bar help and
 // shortcuts are all built from it.
 #pragma once
 
@@ -30,6 +30,8 @@ inline constexpr int firstMode = 313;
 inline constexpr int lastMode = 318;
 inline constexpr int help = 319;
 inline constexpr int about = 320;
+inline constexpr int undo = 321;
+inline constexpr int redo = 322;
 /// Stands for a separator in menus and toolbar.
 inline constexpr int separator = 0;
 }  // namespace command
@@ -40,14 +42,14 @@ struct CommandInfo {
     StringId menuTextId;
     StringId toolTipId;
     StringId statusTextId;
-    /// In Qt's portable notation; empty for none.
+    /// In Qt's portable notation, several with "; " between them; empty for none.
     const char* shortcut;
 };
 
 /// All commands in ascending order without gaps.
 [[nodiscard]] std::span<const CommandInfo> commands();
 
-/// The row of a command, which is one of 300 to 320.
+/// The row of a command, which is one of commands().
 [[nodiscard]] const CommandInfo& commandInfo(int id);
 
 /// The menu text in UTF-8, with its "&" and with a shortcut behind a tab where the language has one

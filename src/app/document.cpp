@@ -91,7 +91,9 @@ void takeOver(ApplicationState& state, const fs::path& path, LoadedScript loaded
     document.fileName = path;
     document.stamp = upgraded ? upgrade->stamp : loaded.stamp;
     document.keepOldOnSave = !loaded.read.isWhole() || (loaded.read.isOlderVersion() && !upgraded);
+    document.saved = loaded.read.script;
     state.document = std::move(document);
+    state.history.clear();
     state.currentHostType = loaded.read.signature.hostType;
     state.script = std::move(loaded.read.script);
     state.currentIndex = state.script.entryCount() == 0 ? -1 : 0;
@@ -158,6 +160,7 @@ Message savePrompt(ApplicationState& state, DiscardingCommand command) {
 void newDocument(ApplicationState& state) {
     state.script = {};
     state.document = {};
+    state.history.clear();
     state.currentIndex = -1;
     state.dropPending = false;
 }
@@ -208,7 +211,7 @@ SaveOutcome saveDocument(ApplicationState& state, const fs::path& path) {
         const StringId text = failedWhileWriting(*result.failure) ? 13731 : 13729;
         return {false, fileError(state, text, 13730, path, result.failure->message), {}};
     }
-    state.document = {path, false, result.stamp, false};
+    state.document = {path, false, result.stamp, false, state.script};
     backupSavedScript(state.settings, path);
     if (result.backup.empty()) return {true, std::nullopt, {}};
     return {true, std::nullopt, "The old file is kept as " + pathText(result.backup.filename())};

@@ -9,6 +9,8 @@ namespace quendra {
 /// and command states right through the window's scriptChanged(). An empty function: the command
 /// does nothing.
 struct EditingCommands {
+    std::function<void()> undo;
+    std::function<void()> redo;
     std::function<void()> cutEntries;
     std::function<void()> copyEntries;
     std::function<void()> pasteEntries;

@@ -62,6 +62,7 @@ class EditorPane::Private : public QObject {
     void drawSeparator() const;
     void rebuild();
     void select(std::span<const std::size_t> entries, int focused);
+    void show(const EntrySelection& selection);
     [[nodiscard]] const PaneList& listOf(Palette palette) const {
         return *lists_[1 + static_cast<std::size_t>(palette)];
     }
@@ -198,6 +199,9 @@ void EditorPane::Private::rebuild() {
     PaneList& list = *lists_[0];
     const int scrolled = list.verticalScrollBar()->value();
     scriptModel_->reload();
+    if (const auto shown = lastTransferShown(state_.script, state_.cipher)) {
+        state_.workingTransfer = *shown;
+    }
     list.doItemsLayout();
     list.verticalScrollBar()->setValue(scrolled);
     const QModelIndex current = scriptModel_->index(state_.currentIndex, 0);
@@ -220,6 +224,12 @@ void EditorPane::Private::select(std::span<const std::size_t> entries, int focus
         selection.clearCurrentIndex();
     }
     selection.select(selectionOf(*scriptModel_, entries), QItemSelectionModel::ClearAndSelect);
+}
+
+void EditorPane::Private::show(const EntrySelection& selection) {
+    const QuietChange quiet(*this);
+    rebuild();
+    select(selection.entries, selection.focused);
 }
 
 bool EditorPane::Private::eventFilter(QObject* watched, QEvent* event) {
@@ -314,6 +324,7 @@ void EditorPane::Private::moveByOne(bool up) {
 }
 
 void EditorPane::Private::applyMove(const MovePlan& plan, std::span<const EntryMove> moves) {
+    Q_EMIT pane_.entriesAboutToMove();
     {
         const QuietChange quiet(*this);
         moveEntries(state_.script, moves);
@@ -339,6 +350,10 @@ EditorPane::~EditorPane() = default;
 
 void EditorPane::rebuildScriptList() {
     d_->rebuild();
+}
+
+void EditorPane::showScript(const EntrySelection& selection) {
+    d_->show(selection);
 }
 
 void EditorPane::refillLuPalette() {

@@ -12,8 +12,6 @@
 
 namespace quendra {
 
-enum class Palette { ScriptEvents, LuFunctions, MenuCommands };
-
 class EditorPane : public QWidget {
     Q_OBJECT
 
@@ -24,8 +22,11 @@ class EditorPane : public QWidget {
     ~EditorPane() override;
 
     /// Shows the script anew and selects and focuses the entry at the state's currentIndex,
-    /// scrolled into view. Every change of the script ends with this.
+    /// scrolled into view. Every change of the script ends with this. The working transfer settings
+    /// become those of the last transfer shown, if there is one.
     void rebuildScriptList();
+    /// The same with a selection of one's own; told of once.
+    void showScript(const EntrySelection& selection);
     /// Shows the LU functions of the current host type.
     void refillLuPalette();
 
@@ -54,7 +55,9 @@ class EditorPane : public QWidget {
     void commandRequested(int command);
     /// A selection or the focused entry changed in any of the four lists.
     void selectionChanged();
-    /// A drag has moved entries; script, selection and currentIndex are as they end.
+    /// A drag or Ctrl with an arrow key is going to move entries.
+    void entriesAboutToMove();
+    /// It has moved them; script, selection and currentIndex are as they end.
     void entriesMoved();
 
   protected:

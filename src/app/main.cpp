@@ -1,12 +1,12 @@
 // The desktop editor's start: what has to be known before the window, the window, and the end.
 #include "app/appearance.h"
 #include "app/application_life.h"
-#include "app/clipboard_commands.h"
 #include "app/command_line.h"
 #include "app/commands.h"
 #include "app/main_window.h"
 #include "app/message_box.h"
 #include "app/screenshot.h"
+#include "app/script_editor.h"
 #include "app/startup.h"
 #include "app/toolkit_language.h"
 #include "platform/editor_windows.h"
@@ -21,6 +21,15 @@ namespace quendra {
 namespace {
 
 constexpr int wrongUsage = 2;
+
+// What the toolkit reads from the environment when it starts. A picture needs no screen.
+void prepareToolkit(const Environment& environment, const PictureOptions& picture) {
+    if (!picture.scale.empty()) qputenv("QT_SCALE_FACTOR", picture.scale.c_str());
+    const bool hasScreen = variable(environment, "DISPLAY") ||
+                           variable(environment, "WAYLAND_DISPLAY") ||
+                           variable(environment, "QT_QPA_PLATFORM");
+    if (!picture.file.isEmpty() && !hasScreen) qputenv("QT_QPA_PLATFORM", "offscreen");
+}
 
 // The window that other editors may ask about; none while it is not there.
 struct ShownWindow {
@@ -54,9 +63,7 @@ void applyCommandLine(MainWindow& window, const CommandLine& line) {
 int runWindow(ApplicationState& state, ShownWindow& shown, EditorListener* listener,
               const CommandLine& line, const PictureOptions& picture) {
     MainWindow window(state);
-    EditingCommands editing;
-    addClipboardCommands(editing, state, window);
-    window.setEditingCommands(std::move(editing));
+    const ScriptEditor editor(state, window, {});
     shown = {&state, &window};
     std::unique_ptr<QSocketNotifier> asked;
     if (listener && listener->descriptor() >= 0) {
@@ -83,7 +90,7 @@ int runEditor(int& argc, char** argv, const CommandLine& line, const PictureOpti
                                 describeWindow(shown, className));
         if (admission.raisedOther) return 0;
     }
-    if (!picture.scale.empty()) qputenv("QT_SCALE_FACTOR", picture.scale.c_str());
+    prepareToolkit(inputs.environment, picture);
     QApplication application(argc, argv);
     QGuiApplication::setDesktopFileName(QStringLiteral("quendra-script-editor"));
     applyAppearance(application, picture.appearance);

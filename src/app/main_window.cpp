@@ -71,7 +71,6 @@ MainWindow::MainWindow(ApplicationState& state, QWidget* parent)
     setCentralWidget(pane_);
     connect(pane_, &EditorPane::commandRequested, this, &MainWindow::runCommand);
     connect(pane_, &EditorPane::selectionChanged, this, &MainWindow::updateCommandStates);
-    connect(pane_, &EditorPane::entriesMoved, this, &MainWindow::scriptChanged);
     connect(
         qGuiApp, &QGuiApplication::commitDataRequest, this, [this] { endSession(); },
         Qt::DirectConnection);
@@ -94,7 +93,7 @@ void MainWindow::buildActions() {
         auto* action =
             new QAction(toolbarIcon(info.id), qtText(commandMenuText(info, state_.language)), this);
         action->setObjectName(QStringLiteral("command%1").arg(info.id));
-        action->setShortcut(QKeySequence::fromString(QLatin1String(info.shortcut)));
+        action->setShortcuts(QKeySequence::listFromString(QLatin1String(info.shortcut)));
         action->setIconText(qtText(libraryText(state_.language, info.toolTipId)));
         action->setStatusTip(qtText(libraryText(state_.language, info.statusTextId)));
         action->setMenuRole(QAction::NoRole);
@@ -188,6 +187,8 @@ void MainWindow::dispatch(int command) {
 
 void MainWindow::dispatchEditing(int command) {
     switch (command) {
+        case command::undo: return runIfSet(editing_.undo);
+        case command::redo: return runIfSet(editing_.redo);
         case command::cut: return runIfSet(editing_.cutEntries);
         case command::copy: return runIfSet(editing_.copyEntries);
         case command::paste: return runIfSet(editing_.pasteEntries);
@@ -289,7 +290,7 @@ void MainWindow::showDocument() {
 }
 
 void MainWindow::scriptChanged() {
-    state_.document.modified = true;
+    state_.document.modified = state_.script != state_.document.saved;
     note_.clear();
     updateTitle();
     updateStatus();
@@ -315,6 +316,9 @@ void MainWindow::updateCommandStates() {
     for (const auto& [id, action] : actions_) {
         action->setEnabled(isCommandEnabled(id, facts));
         action->setToolTip(asToolTip(commandToolTip(id, facts, state_.language)));
+        if (const auto text = commandMenuText(id, facts, state_.language)) {
+            action->setText(qtText(*text));
+        }
     }
 }
 

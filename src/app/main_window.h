@@ -1,5 +1,5 @@
 // The main window: menus, toolbar, editor pane and status bar around the one script, and the
-// commands 300 to 320.
+// commands.
 #pragma once
 
 #include "app/application_state.h"
@@ -28,13 +28,13 @@ class MainWindow : public QMainWindow {
     /// `state` outlives the window. Its language is loaded and its catalogues are built.
     explicit MainWindow(ApplicationState& state, QWidget* parent = nullptr);
 
-    /// The commands 305 to 312 run these from now on.
+    /// The commands that change the script run these from now on.
     void setEditingCommands(EditingCommands commands);
 
     /// The Help command runs this from now on.
     void setHelpCommand(std::function<void()> showHelp);
 
-    /// Runs a command of 300 to 320 as its menu item does, whether it is enabled or not.
+    /// Runs a command as its menu item does, whether it is enabled or not.
     void runCommand(int command);
 
     /// Makes a host type the current one and shows the script under its names. The document is not
@@ -44,8 +44,9 @@ class MainWindow : public QMainWindow {
     /// Opens the script that the command line names.
     void openAtStart(const std::filesystem::path& path);
 
-    /// The script has been changed: marks the document as modified and brings title, status bar and
-    /// command states up to date. The list itself is the caller's to rebuild.
+    /// The script has been changed: marks the document as modified when it differs from the saved
+    /// one, and brings title, status bar and command states up to date. The list itself is the
+    /// caller's to rebuild.
     void scriptChanged();
 
     /// Brings menu items, toolbar buttons and their tool tips up to date with script, selections

@@ -66,8 +66,10 @@ TEST(CommandStatesTest, ConditionalCommandsFollowScriptAndSelections) {
         {"menu command, menu command chosen",
          withMenuCommand(focusedOn(EditSource::MenuCommands)),
          {302, 303, 310, 311}},
+        {"step to undo", {.undoStep = "Cut 1 entry"}, {321}},
+        {"step to redo", {.redoStep = "Cut 1 entry"}, {322}},
     };
-    const std::set<int> conditional = {302, 303, 305, 306, 307, 308, 309, 310, 311, 312};
+    const std::set<int> conditional = {302, 303, 305, 306, 307, 308, 309, 310, 311, 312, 321, 322};
     for (const StateRow& row : rows) {
         for (const CommandInfo& info : commands()) {
             const bool expected = row.enabled.contains(info.id) || !conditional.contains(info.id);
@@ -122,6 +124,8 @@ TEST(CommandStatesTest, ToolTipsNameWhatIsChosen) {
         {312, {}, "Delete"},
         {312, {.selectedCount = 1}, "Delete 1 entry"},
         {312, {.selectedCount = 12}, "Delete 12 entries"},
+        {321, {.undoStep = "Cut 1 entry"}, "Undo Cut 1 entry"},
+        {322, {}, "Redo"},
         {301, {}, "Open"},
         {317, {}, "T27 Mode"},
     };
@@ -144,7 +148,7 @@ TEST(CommandTableTest, EveryCommandHasTextsAndAPlaceInAMenu) {
         EXPECT_NE(editor.state.language.loadText(info.toolTipId), "") << info.id;
         EXPECT_NE(editor.state.language.loadText(info.statusTextId), "") << info.id;
     }
-    EXPECT_EQ(expected, 321);
+    EXPECT_EQ(expected, 326);
 }
 
 TEST(CommandTableTest, ModeCommandsHaveTheirHostTypesTexts) {

@@ -1,6 +1,5 @@
 #include "app/editor_fixture.h"
 
-#include "app/clipboard_commands.h"
 #include "app/ui_text.h"
 
 #include <QAction>
@@ -82,12 +81,24 @@ Answers::~Answers() {
     replaceFileDialogHandler(std::move(fileDialogsBefore_));
 }
 
-EditorTest::EditorTest() : window(state) {
-    EditingCommands editing;
-    addClipboardCommands(editing, state, window);
-    window.setEditingCommands(std::move(editing));
+EditorTest::EditorTest()
+    : window(state),
+      scriptEditor(state, window, [this](const DialogContext&, const EditTarget& target) {
+          dialogs.push_back(target.entry);
+          if (toDialogs.empty()) {
+              ADD_FAILURE() << "unexpected dialog of " << commandKeyword(target.entry.commandCode);
+              return false;
+          }
+          const DialogAnswer answer = toDialogs.front();
+          toDialogs.pop_front();
+          return answer(target.entry);
+      }) {
     window.show();
     QApplication::setActiveWindow(&window);
+}
+
+EditorTest::~EditorTest() {
+    EXPECT_TRUE(toDialogs.empty()) << "a prepared dialog was never opened";
 }
 
 std::filesystem::path EditorTest::open(const std::string& name, const Bytes& bytes) {

@@ -5,10 +5,12 @@
 #include "app/file_dialogs.h"
 #include "app/main_window.h"
 #include "app/message_box.h"
+#include "app/script_editor.h"
 #include "support/fixtures.h"
 #include "support/temporary_folder.h"
 
 #include <deque>
+#include <functional>
 #include <gtest/gtest.h>
 #include <memory>
 #include <string>
@@ -53,9 +55,13 @@ class Answers {
     FileDialogHandler fileDialogsBefore_;
 };
 
+/// What a user does in a parameter dialog: changes the working copy and gives true for OK.
+using DialogAnswer = std::function<bool(ScriptEntry&)>;
+
 class EditorTest : public ::testing::Test {
   protected:
     EditorTest();
+    ~EditorTest() override;
 
     /// Opens a file with these bytes through the menu command.
     std::filesystem::path open(const std::string& name, const Bytes& bytes);
@@ -74,7 +80,12 @@ class EditorTest : public ::testing::Test {
     EditorState editor;
     ApplicationState& state = editor.state;
     Answers answers;
+    /// For the parameter dialogs in the order in which they open, and the working copies that they
+    /// were opened on.
+    std::deque<DialogAnswer> toDialogs;
+    std::vector<ScriptEntry> dialogs;
     MainWindow window;
+    ScriptEditor scriptEditor;
 };
 
 }  // namespace quendra::test

@@ -59,7 +59,7 @@ TEST_F(MainWindowTest, StartsUntitledEmptyAndAsMainframe) {
 
 TEST_F(MainWindowTest, MenusHoldTheirCommandsInOrder) {
     const std::vector<std::vector<int>> expected = {{300, 301, 302, 303, 0, 304},
-                                                    {305, 306, 307},
+                                                    {321, 322, 0, 305, 306, 307},
                                                     {308, 309, 310, 0, 311, 0, 312},
                                                     {313, 314, 315, 316, 317, 318},
                                                     {319, 0, 320}};
@@ -80,8 +80,9 @@ TEST_F(MainWindowTest, ToolBarHoldsItsButtonsInOrder) {
     for (QAction* item : widget<QToolBar>("toolBar").actions()) {
         found.push_back(item->isSeparator() ? 0 : item->objectName().mid(7).toInt());
     }
-    EXPECT_EQ(found, (std::vector<int>{301, 302, 0, 305, 306, 307, 0,   308, 309, 310, 0,   311,
-                                       0,   312, 0, 313, 314, 315, 316, 317, 318, 0,   319, 320}));
+    EXPECT_EQ(found,
+              (std::vector<int>{301, 302, 0,   305, 306, 307, 0,   321, 322, 0,   308, 309, 310, 0,
+                                311, 0,   312, 0,   313, 314, 315, 316, 317, 318, 0,   319, 320}));
 }
 
 TEST_F(MainWindowTest, OpenShowsScriptTitleCountAndHostType) {

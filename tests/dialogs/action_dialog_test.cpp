@@ -16,8 +16,8 @@ class ActionDialogTest : public SearchDialogTest {
         return steps.run([&] { return chooseAction({state, nullptr}, {entry, slot, owner}); });
     }
 
-    [[nodiscard]] QString menuName(std::uint32_t commandId) const {
-        return QString::fromStdString(menuCommandName(state.menuCommands, commandId));
+    [[nodiscard]] std::string menuName(std::uint32_t commandId) const {
+        return menuCommandName(state.menuCommands, commandId);
     }
 };
 
@@ -50,7 +50,7 @@ TEST_F(ActionDialogTest, WithNothingChosenItSelectsNothingAndSaysWhatIsMissing) 
         const ScriptEntry before = entry;
         answers.messages.clear();
         steps.in("actionDialog", [&](const OpenDialog& d) {
-            EXPECT_EQ(d.dialog.windowTitle(), expected[i][0]);
+            EXPECT_EQ(d.title(), expected[i][0]);
             for (const char* list : {"scriptEventsList", "luFunctionsList", "menuCommandsList"}) {
                 EXPECT_EQ(d.selected(list), "") << list;
             }
@@ -73,12 +73,12 @@ TEST_F(ActionDialogTest, ShowsTheActionThatThereIsInSightAndWithTheFocus) {
         LuKey key;
         std::uint32_t commandId;
         const char* list;
-        QString selected;
+        std::string selected;
     } rows[] = {
         {"the last event", CommandCode::WaitUntil, {}, 0, "scriptEventsList", "Wait_Until"},
         {"a key far down", CommandCode::LuFunction,
          state.luCatalogues.of(HostType::Mainframe).rows[60].key, 0, "luFunctionsList",
-         QString::fromStdString(state.luCatalogues.of(HostType::Mainframe).rows[60].name)},
+         state.luCatalogues.of(HostType::Mainframe).rows[60].name},
         {"the last menu command",
          CommandCode::MenuCommand,
          {},
@@ -117,7 +117,7 @@ TEST_F(ActionDialogTest, OneRowIsSelectedInAllThreeListsAndThatIsTheChoice) {
         auto& events = d.widget<QListView>("scriptEventsList");
         events.setFocus();
         EXPECT_EQ(d.selected("menuCommandsList"), menuName(201)) << "the focus chooses nothing";
-        QTest::keyClicks(&events, "clear");
+        d.type("clear");
         EXPECT_EQ(d.selected("scriptEventsList"), "Clear_Watch") << "typed ahead";
         EXPECT_EQ(d.selected("menuCommandsList"), "");
         QTest::keyClick(&events, Qt::Key_Up);
@@ -167,8 +167,8 @@ TEST_F(ActionDialogTest, CancelTakesBackWhatOkAndDoubleClicksDid) {
     steps.in("actionDialog",
              [](const OpenDialog& d) { d.doubleClickRow("scriptEventsList", "Message"); });
     steps.in("textDialog", [](const OpenDialog& d) {
-        EXPECT_EQ(d.dialog.windowTitle(), "Message");
-        EXPECT_EQ(d.widget<QLineEdit>("text").text(), "END");
+        EXPECT_EQ(d.title(), "Message");
+        EXPECT_EQ(d.shown("text"), "END");
         d.retype("text", "gone");
         d.click("ok");
     });
@@ -289,7 +289,7 @@ TEST_F(ActionDialogTest, ATransferThatLacksItsFilesStartsFromTheWorkingSettings)
     steps.in("actionDialog", [](const OpenDialog& d) { d.click("ok"); });
     steps.in("transferSheet", [this](const OpenDialog& d) {
         EXPECT_EQ(state.workingTransfer.direction, TransferDirection::Receive);
-        EXPECT_EQ(d.widget<QLineEdit>("hostFileName").text(), "REPORT");
+        EXPECT_EQ(d.shown("hostFileName"), "REPORT");
         d.retype("member", "MEMBER1");
         d.click("ok");
     });
@@ -314,7 +314,7 @@ TEST_F(ActionDialogTest, ADoubleClickOnATransferStartsFromTheActionsSettings) {
         d.doubleClickRow("menuCommandsList", menuName(sendFileCommand));
     });
     steps.in("transferSheet", [](const OpenDialog& d) {
-        EXPECT_EQ(d.widget<QLineEdit>("hostFileName").text(), "MINE");
+        EXPECT_EQ(d.shown("hostFileName"), "MINE");
         d.click("cancel");
     });
     steps.in("actionDialog", [](const OpenDialog& d) {
@@ -350,10 +350,9 @@ TEST_F(ActionDialogTest, ATypeActionOffersToHideItsTextOnlyInANewEntry) {
             d.click("ok");
         });
         steps.in("textDialog", [editing](const OpenDialog& d) {
-            const auto* hide = d.dialog.findChild<QCheckBox*>(QStringLiteral("hide"));
-            EXPECT_EQ(hide != nullptr, !editing);
+            EXPECT_EQ(d.has("hide"), !editing);
             d.retype("text", "secret");
-            if (hide != nullptr) d.click("hide");
+            if (!editing) d.click("hide");
             d.click("ok");
         });
         ASSERT_TRUE(choose(Slot::Else));

@@ -1,11 +1,9 @@
 #include "dialogs/modal_steps.h"
 
+#include <QAbstractButton>
 #include <QAbstractItemModel>
 #include <QApplication>
 #include <QItemSelectionModel>
-#include <QLabel>
-#include <QPointer>
-#include <QPushButton>
 #include <QThread>
 #include <QTimer>
 #include <QtTest>
@@ -20,14 +18,15 @@ namespace {
 constexpr int lookEvery = 2;
 constexpr int looksUntilGivingUp = 2500;
 
-QModelIndex rowOf(const QListView& list, const QString& text) {
-    const auto found = list.model()->match(list.model()->index(0, 0), Qt::DisplayRole, text, 1,
+QModelIndex rowOf(const QListView& list, const std::string& text) {
+    const auto found = list.model()->match(list.model()->index(0, 0), Qt::DisplayRole,
+                                           QString::fromStdString(text), 1,
                                            Qt::MatchExactly | Qt::MatchCaseSensitive);
-    if (found.isEmpty()) throw std::runtime_error("no row " + text.toStdString());
+    if (found.isEmpty()) throw std::runtime_error("no row " + text);
     return found.front();
 }
 
-QPoint pointOn(QListView& list, const QString& text) {
+QPoint pointOn(QListView& list, const std::string& text) {
     const QModelIndex row = rowOf(list, text);
     list.scrollTo(row);
     return list.visualRect(row).center();
@@ -49,45 +48,63 @@ void OpenDialog::click(const char* button) const {
                       QPoint(8, widget<QWidget>(button).height() / 2));
 }
 
-void OpenDialog::retype(const char* name, const QString& text) const {
-    auto& field = widget<QWidget>(name);
-    field.setFocus();
-    QTest::keyClick(&field, Qt::Key_A, Qt::ControlModifier);
-    if (text.isEmpty()) QTest::keyClick(&field, Qt::Key_Delete);
-    QTest::keyClicks(&field, text);
-}
-
 void OpenDialog::press(Qt::Key key) const {
     QTest::keyClick(dialog.focusWidget() != nullptr ? dialog.focusWidget() : &dialog, key);
 }
 
-void OpenDialog::clickRow(const char* list, const QString& text) const {
+void OpenDialog::type(const char* keys) const {
+    QTest::keyClicks(dialog.focusWidget(), QLatin1String(keys));
+}
+
+void OpenDialog::retype(const char* name, const std::string& keys) const {
+    auto& field = widget<QWidget>(name);
+    field.setFocus();
+    QTest::keyClick(&field, Qt::Key_A, Qt::ControlModifier);
+    QTest::keyClick(&field, Qt::Key_Delete);
+    QTest::keyClicks(&field, QString::fromStdString(keys));
+}
+
+void OpenDialog::clickRow(const char* list, const std::string& text) const {
     auto& view = widget<QListView>(list);
     QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, pointOn(view, text));
 }
 
-void OpenDialog::doubleClickRow(const char* list, const QString& text) const {
+void OpenDialog::doubleClickRow(const char* list, const std::string& text) const {
     auto& view = widget<QListView>(list);
     QTest::mouseDClick(view.viewport(), Qt::LeftButton, {}, pointOn(view, text));
     QCoreApplication::processEvents();
 }
 
-QString OpenDialog::lineText(const char* label) const {
-    return widget<QLabel>(label).text();
+std::string OpenDialog::title() const {
+    return dialog.windowTitle().toStdString();
+}
+
+std::string OpenDialog::shown(const char* name) const {
+    const auto& field = widget<QWidget>(name);
+    const char* property = field.inherits("QComboBox") ? "currentText" : "text";
+    return field.property(property).toString().toStdString();
+}
+
+bool OpenDialog::isChecked(const char* button) const {
+    return widget<QAbstractButton>(button).isChecked();
 }
 
 bool OpenDialog::isEnabled(const char* name) const {
     return widget<QWidget>(name).isEnabled();
 }
 
-QString OpenDialog::selected(const char* list) const {
+bool OpenDialog::has(const char* name) const {
+    return dialog.findChild<QWidget*>(QLatin1String(name)) != nullptr;
+}
+
+std::string OpenDialog::selected(const char* list) const {
     const auto rows = widget<QListView>(list).selectionModel()->selectedIndexes();
-    return rows.isEmpty() ? QString() : rows.front().data().toString();
+    return rows.isEmpty() ? "" : rows.front().data().toString().toStdString();
 }
 
 std::string OpenDialog::focused() const {
-    const QWidget* widget = dialog.focusWidget();
-    return widget == nullptr ? "" : widget->objectName().toStdString();
+    const QWidget* focus = dialog.focusWidget();
+    return focus == nullptr ? "" : focus->objectName().toStdString();
 }
 
 ModalSteps::ModalSteps() = default;

@@ -25,16 +25,23 @@ struct OpenDialog {
     }
 
     void click(const char* button) const;
-    /// The text of a line edit or a spin box, as keys over what was there.
-    void retype(const char* name, const QString& text) const;
-    /// Return, to the widget that has the focus.
+    /// A key to the widget that has the focus.
     void press(Qt::Key key) const;
-    void clickRow(const char* list, const QString& text) const;
-    void doubleClickRow(const char* list, const QString& text) const;
-    [[nodiscard]] QString lineText(const char* label) const;
+    /// Keys (of ASCII) to the widget that has the focus.
+    void type(const char* keys) const;
+    /// Types over what a line edit or a spin box shows.
+    void retype(const char* name, const std::string& keys) const;
+    void clickRow(const char* list, const std::string& text) const;
+    void doubleClickRow(const char* list, const std::string& text) const;
+
+    [[nodiscard]] std::string title() const;
+    /// What a label, a line edit, a spin box or a combo box shows.
+    [[nodiscard]] std::string shown(const char* name) const;
+    [[nodiscard]] bool isChecked(const char* button) const;
     [[nodiscard]] bool isEnabled(const char* name) const;
+    [[nodiscard]] bool has(const char* name) const;
     /// The selected row's text; empty for none.
-    [[nodiscard]] QString selected(const char* list) const;
+    [[nodiscard]] std::string selected(const char* list) const;
     [[nodiscard]] std::string focused() const;
 };
 

@@ -20,18 +20,18 @@ TEST_F(WaitForTest, ANewOneIsTypedAndGivenAFoundActionFromEndToEnd) {
     startNew(CommandCode::WaitFor);
     steps.in("waitForDialog", [](const OpenDialog& d) {
         EXPECT_EQ(d.focused(), "text");
-        EXPECT_EQ(d.widget<SpinEdit>("row").value(), 1);
-        EXPECT_EQ(d.widget<SpinEdit>("column").value(), 1);
-        EXPECT_FALSE(d.widget<QCheckBox>("exactPosition").isChecked());
-        EXPECT_TRUE(d.widget<QCheckBox>("caseSensitive").isChecked());
-        EXPECT_TRUE(d.widget<QRadioButton>("noTimeout").isChecked());
+        EXPECT_EQ(d.shown("row"), "1");
+        EXPECT_EQ(d.shown("column"), "1");
+        EXPECT_FALSE(d.isChecked("exactPosition"));
+        EXPECT_TRUE(d.isChecked("caseSensitive"));
+        EXPECT_TRUE(d.isChecked("noTimeout"));
         for (const char* part : actionParts) {
             EXPECT_FALSE(d.isEnabled(part)) << part;
         }
-        EXPECT_EQ(d.lineText("thenLine"), "If Found Then ");
-        EXPECT_EQ(d.lineText("elseLine"), "If Not Found Then ");
+        EXPECT_EQ(d.shown("thenLine"), "If Found Then ");
+        EXPECT_EQ(d.shown("elseLine"), "If Not Found Then ");
 
-        QTest::keyClicks(d.dialog.focusWidget(), "READY");
+        d.type("READY");
         QTest::keyClick(&d.dialog, Qt::Key_M, Qt::AltModifier);
         for (const char* part : actionParts) {
             EXPECT_TRUE(d.isEnabled(part)) << part;
@@ -41,13 +41,13 @@ TEST_F(WaitForTest, ANewOneIsTypedAndGivenAFoundActionFromEndToEnd) {
         d.click("thenButton");
     });
     steps.in("actionDialog", [](const OpenDialog& d) {
-        EXPECT_EQ(d.dialog.windowTitle(), "Wait_For Found Action");
+        EXPECT_EQ(d.title(), "Wait_For Found Action");
         d.clickRow("luFunctionsList", "Enter");
         d.press(Qt::Key_Return);
     });
     steps.in("waitForDialog", [](const OpenDialog& d) {
-        EXPECT_EQ(d.lineText("thenLine"), "If Found Then Enter");
-        EXPECT_EQ(d.lineText("elseLine"), "If Not Found Then ");
+        EXPECT_EQ(d.shown("thenLine"), "If Found Then Enter");
+        EXPECT_EQ(d.shown("elseLine"), "If Not Found Then ");
         d.click("ok");
     });
     ASSERT_TRUE(run());
@@ -100,7 +100,7 @@ TEST_F(WaitForTest, AnEmptyTextIsRefusedAndCancelDropsTheActionsToo) {
         d.click("ok");
     });
     steps.in("waitForDialog", [](const OpenDialog& d) {
-        EXPECT_EQ(d.lineText("thenLine"), "If Found Then Beep");
+        EXPECT_EQ(d.shown("thenLine"), "If Found Then Beep");
         d.press(Qt::Key_Escape);
     });
     EXPECT_FALSE(run());
@@ -112,25 +112,24 @@ TEST_F(WaitForTest, NumbersOutsideOfTheirFieldsCannotBeTypedOrAreRefusedByName) 
     steps.in("waitForDialog", [this](const OpenDialog& d) {
         const struct {
             const char* field;
-            QString typed;
-            int taken;
-        } rows[] = {{"row", "63", 6},
-                    {"row", "62", 62},
-                    {"row", "621", 62},
-                    {"column", "161", 16},
-                    {"column", "160", 160},
-                    {"column", "-5", 5},
-                    {"timeoutSeconds", "256", 25},
-                    {"timeoutSeconds", "255", 255}};
+            const char* typed;
+            const char* taken;
+        } rows[] = {{"row", "63", "6"},
+                    {"row", "62", "62"},
+                    {"row", "621", "62"},
+                    {"column", "161", "16"},
+                    {"column", "160", "160"},
+                    {"column", "-5", "5"},
+                    {"timeoutSeconds", "256", "25"},
+                    {"timeoutSeconds", "255", "255"}};
         for (const auto& row : rows) {
             d.retype(row.field, row.typed);
-            EXPECT_EQ(d.widget<SpinEdit>(row.field).value(), row.taken)
-                << row.field << " " << row.typed.toStdString();
+            EXPECT_EQ(d.shown(row.field), row.taken) << row.field << " " << row.typed;
         }
         for (const auto& [field, typed, name] :
              {std::tuple{"row", "0", "Row"}, std::tuple{"column", "", "Column"},
               std::tuple{"timeoutSeconds", "", "Timeout in Seconds"}}) {
-            const QString good = d.widget<SpinEdit>(field).text();
+            const std::string good = d.shown(field);
             d.retype(field, typed);
             d.click("ok");
             ASSERT_FALSE(answers.messages.empty());
@@ -197,23 +196,22 @@ TEST_F(IfInputIsTest, ANewOneTakesAVariableInAnyCaseAndALiteral) {
     startNew(CommandCode::IfInputIs);
     steps.in("ifInputIsDialog", [](const OpenDialog& d) {
         EXPECT_EQ(d.focused(), "firstOperand");
-        EXPECT_EQ(d.widget<QComboBox>("firstOperand").currentText(), "");
-        EXPECT_EQ(d.widget<QComboBox>("secondOperand").currentText(), "InputStr");
+        EXPECT_EQ(d.shown("firstOperand"), "");
+        EXPECT_EQ(d.shown("secondOperand"), "InputStr");
         EXPECT_EQ(d.widget<QComboBox>("secondOperand").currentIndex(), 0);
-        QTest::keyClicks(d.dialog.focusWidget(), "varuserid");
+        d.type("varuserid");
         d.retype("secondOperandText", "Var");
-        EXPECT_EQ(d.widget<QComboBox>("secondOperand").currentText(), "Var")
-            << "completed to a variable that was not meant";
+        EXPECT_EQ(d.shown("secondOperand"), "Var") << "completed to a variable that was not meant";
         d.click("elseButton");
     });
     steps.in("actionDialog", [](const OpenDialog& d) {
-        EXPECT_EQ(d.dialog.windowTitle(), "If_Input_Is Not Equal Action");
+        EXPECT_EQ(d.title(), "If_Input_Is Not Equal Action");
         d.clickRow("scriptEventsList", "Return");
         d.click("ok");
     });
     steps.in("ifInputIsDialog", [](const OpenDialog& d) {
-        EXPECT_EQ(d.lineText("thenLine"), "If Equal Then ");
-        EXPECT_EQ(d.lineText("elseLine"), "If Not Equal Then Return");
+        EXPECT_EQ(d.shown("thenLine"), "If Equal Then ");
+        EXPECT_EQ(d.shown("elseLine"), "If Not Equal Then Return");
         d.widget<QWidget>("firstOperand").setFocus();
         d.press(Qt::Key_Return);
     });
@@ -223,9 +221,9 @@ TEST_F(IfInputIsTest, ANewOneTakesAVariableInAnyCaseAndALiteral) {
               "If_Input_Is VarUserId = \"Var\" If Not Equal Then Return");
 
     steps.in("ifInputIsDialog", [](const OpenDialog& d) {
-        EXPECT_EQ(d.widget<QComboBox>("firstOperand").currentText(), "VarUserId");
+        EXPECT_EQ(d.shown("firstOperand"), "VarUserId");
         EXPECT_EQ(d.widget<QComboBox>("firstOperand").currentIndex(), 2);
-        EXPECT_EQ(d.widget<QComboBox>("secondOperand").currentText(), "Var");
+        EXPECT_EQ(d.shown("secondOperand"), "Var");
         d.widget<QWidget>("secondOperand").setFocus();
         QTest::keyClick(d.dialog.focusWidget(), Qt::Key_Down);
         QTest::keyClick(d.dialog.focusWidget(), Qt::Key_Down);
@@ -259,12 +257,12 @@ TEST_F(IfInputIsTest, EachEmptyBoxIsRefusedInItsTurn) {
 TEST_F(IfInputIsTest, TheBoxesTakeWhatAScriptCanStoreAndNoMore) {
     startCompare();
     steps.in("ifInputIsDialog", [](const OpenDialog& d) {
-        d.retype("firstOperandText", QString(300, u'x'));
-        EXPECT_EQ(d.widget<QComboBox>("firstOperand").currentText().size(), 255);
+        d.retype("firstOperandText", std::string(300, 'x'));
+        EXPECT_EQ(d.shown("firstOperand").size(), 255);
         auto& text = d.widget<QWidget>("secondOperandText");
         d.retype("secondOperandText", "a");
         typeText(text, QStringLiteral("\u20AC\u0416b"));
-        EXPECT_NE(d.lineText("note"), "");
+        EXPECT_NE(d.shown("note"), "");
         d.click("ok");
     });
     ASSERT_TRUE(run());
@@ -279,7 +277,7 @@ TEST_F(IfInputIsTest, AnEqualActionWithAKeyLeavesTheOperandsAlone) {
     entry.secondOperandKind = 4;
     steps.in("ifInputIsDialog", [](const OpenDialog& d) { d.click("thenButton"); });
     steps.in("actionDialog", [](const OpenDialog& d) {
-        EXPECT_EQ(d.dialog.windowTitle(), "If_Input_Is Equal Action");
+        EXPECT_EQ(d.title(), "If_Input_Is Equal Action");
         d.clickRow("luFunctionsList", "Enter");
         d.click("ok");
     });
@@ -298,7 +296,7 @@ TEST_F(WatchForTest, ANewOneOffersBeep) {
         ASSERT_EQ(answers.messages.size(), 1U);
         EXPECT_EQ(answers.messages[0].title, "Watch_For");
         EXPECT_EQ(d.focused(), "text");
-        QTest::keyClicks(d.dialog.focusWidget(), "ERROR");
+        d.type("ERROR");
         d.press(Qt::Key_Return);
     });
     ASSERT_TRUE(run());
@@ -308,17 +306,17 @@ TEST_F(WatchForTest, ANewOneOffersBeep) {
 TEST_F(WatchForTest, AWaitForActionHasATextAndSearchOptionsOnly) {
     startNew(CommandCode::WatchFor);
     steps.in("watchForDialog", [](const OpenDialog& d) {
-        QTest::keyClicks(d.dialog.focusWidget(), "ERROR");
+        d.type("ERROR");
         d.clickRow("scriptEventsList", "Wait_For");
         d.click("ok");
     });
     steps.in("waitForDialog", [](const OpenDialog& d) {
-        EXPECT_EQ(d.dialog.findChild<QWidget*>(QStringLiteral("timeoutGroup")), nullptr);
-        EXPECT_EQ(d.dialog.findChild<QWidget*>(QStringLiteral("actionGroup")), nullptr);
-        EXPECT_EQ(d.widget<QLineEdit>("text").text(), "");
-        EXPECT_EQ(d.widget<SpinEdit>("row").value(), 1);
-        EXPECT_TRUE(d.widget<QCheckBox>("caseSensitive").isChecked());
-        QTest::keyClicks(d.dialog.focusWidget(), "CLEAR");
+        EXPECT_FALSE(d.has("timeoutGroup"));
+        EXPECT_FALSE(d.has("actionGroup"));
+        EXPECT_EQ(d.shown("text"), "");
+        EXPECT_EQ(d.shown("row"), "1");
+        EXPECT_TRUE(d.isChecked("caseSensitive"));
+        d.type("CLEAR");
         d.retype("column", "80");
         d.click("ok");
     });
@@ -336,8 +334,8 @@ TEST_F(WatchForTest, AWaitForActionHasATextAndSearchOptionsOnly) {
         d.doubleClickRow("scriptEventsList", "Wait_For");
     });
     steps.in("waitForDialog", [](const OpenDialog& d) {
-        EXPECT_EQ(d.widget<QLineEdit>("text").text(), "CLEAR");
-        EXPECT_EQ(d.widget<SpinEdit>("column").value(), 80);
+        EXPECT_EQ(d.shown("text"), "CLEAR");
+        EXPECT_EQ(d.shown("column"), "80");
         d.click("exactPosition");
         d.click("ok");
     });
@@ -368,7 +366,7 @@ TEST_F(WatchForTest, RefusesInTheWordsOfTheLibraryAndOnlyAtOk) {
             refused("If_Input_Is and Watch_For events are not valid for this operation.",
                     "Watch_For");
         }
-        const QString refusedInVt = QString::fromStdString(state.menuCommands.names[12]);
+        const std::string refusedInVt = state.menuCommands.names[12];
         d.clickRow("menuCommandsList", refusedInVt);
         refused("This menu command is not compatible with the mode of the script.",
                 "Script Edit Info");

@@ -1,0 +1,170 @@
+#include "app/script_editor.h"
+
+#include "app/command_states.h"
+#include "app/document.h"
+#include "app/main_window.h"
+#include "app/message_box.h"
+#include "app/ui_text.h"
+#include "platform/text_encoding.h"
+
+#include <utility>
+
+namespace quendra {
+
+namespace {
+
+constexpr StringId editStep = 15311;
+constexpr StringId deleteStep = 15312;
+constexpr StringId cutStep = 15313;
+constexpr StringId pasteStep = 15314;
+constexpr StringId moveStep = 15315;
+
+// "Insert Script Event %s" and its like, by palette.
+constexpr StringId insertSteps[] = {13701, 13702, 13703};
+constexpr StringId paletteLabels[] = {11203, 11204, 11205};
+
+StringId refusalText(EditRefusal refusal) {
+    switch (refusal) {
+        case EditRefusal::MenuCommandNotInVt: return 13732;
+        case EditRefusal::HiddenTextTooLong: return 15317;
+        case EditRefusal::CannotEncipher: return 15318;
+    }
+    return 0;
+}
+
+}  // namespace
+
+ScriptEditor::ScriptEditor(ApplicationState& state, MainWindow& window, EditParameters dialog)
+    : state_(state), window_(window), dialog_(std::move(dialog)) {
+    window_.setEditingCommands(commands());
+    connect(&window_.pane(), &EditorPane::entriesAboutToMove, this,
+            [this] { beforeMove_ = currentView(); });
+    connect(&window_.pane(), &EditorPane::entriesMoved, this, &ScriptEditor::recordMove);
+}
+
+ScriptEditor::~ScriptEditor() {
+    window_.setEditingCommands({});
+}
+
+EditingCommands ScriptEditor::commands() {
+    EditingCommands commands;
+    commands.undo = [this] { takeStep(&UndoHistory::undo); };
+    commands.redo = [this] { takeStep(&UndoHistory::redo); };
+    commands.cutEntries = [this] { removeSelected(cutStep, quendra::cutEntries); };
+    commands.copyEntries = [this] { copy(); };
+    commands.pasteEntries = [this] { paste(); };
+    commands.insertScriptEvent = [this] {
+        insert(Palette::ScriptEvents, quendra::insertScriptEvent);
+    };
+    commands.insertLuFunction = [this] { insert(Palette::LuFunctions, quendra::insertLuFunction); };
+    commands.insertMenuCommand = [this] {
+        insert(Palette::MenuCommands, quendra::insertMenuCommand);
+    };
+    commands.editCurrentEntry = [this] {
+        change([this] { return quendra::editCurrentEntry(state_, *this); },
+               [this] { return libraryText(state_.language, editStep); });
+    };
+    commands.deleteEntries = [this] { removeSelected(deleteStep, quendra::deleteEntries); };
+    return commands;
+}
+
+void ScriptEditor::change(const std::function<bool()>& operation,
+                          const std::function<std::string()>& name) {
+    const ScriptView before = currentView();
+    if (!operation()) return;
+    state_.history.record(before, currentView(), name());
+    window_.scriptChanged();
+}
+
+void ScriptEditor::insert(Palette palette, bool (*operation)(EditingState&, EditingView&)) {
+    change([&] { return operation(state_, *this); },
+           [&] {
+               const int row = selectedRow(palette);
+               return libraryText(state_.language, insertSteps[static_cast<std::size_t>(palette)],
+                                  {window_.pane().paletteText(palette, row).toStdString()});
+           });
+}
+
+void ScriptEditor::copy() {
+    quendra::copyEntries(state_, *this);
+    window_.updateCommandStates();
+}
+
+void ScriptEditor::paste() {
+    const std::size_t before = state_.script.entryCount();
+    change([this] { return quendra::pasteEntries(state_, *this); },
+           [&] { return countedName(pasteStep, state_.script.entryCount() - before); });
+}
+
+void ScriptEditor::removeSelected(StringId name, bool (*operation)(EditingState&, EditingView&)) {
+    const std::size_t before = state_.script.entryCount();
+    change([&] { return operation(state_, *this); },
+           [&] { return countedName(name, before - state_.script.entryCount()); });
+}
+
+void ScriptEditor::takeStep(std::optional<EntrySelection> (UndoHistory::*step)(Script&)) {
+    const auto selection = (state_.history.*step)(state_.script);
+    if (!selection) return;
+    state_.currentIndex = selection->focused;
+    showScript(*selection);
+    window_.scriptChanged();
+}
+
+void ScriptEditor::recordMove() {
+    const ScriptView after = currentView();
+    state_.history.record(beforeMove_, after,
+                          countedName(moveStep, after.selection.entries.size()));
+    beforeMove_ = {};
+    window_.scriptChanged();
+}
+
+ScriptView ScriptEditor::currentView() const {
+    return {state_.script, {selectedEntries(), focusedEntry()}};
+}
+
+std::string ScriptEditor::countedName(StringId name, std::size_t count) const {
+    return libraryText(state_.language, name, {entryCountText(state_.language, count)});
+}
+
+std::vector<std::size_t> ScriptEditor::selectedEntries() const {
+    return window_.pane().selectedEntries();
+}
+
+int ScriptEditor::focusedEntry() const {
+    return window_.pane().focusedEntry();
+}
+
+int ScriptEditor::selectedRow(Palette palette) const {
+    return window_.pane().selectedRow(palette);
+}
+
+void ScriptEditor::showScript(const EntrySelection& selection) {
+    window_.pane().showScript(selection);
+}
+
+bool ScriptEditor::editParameters(ScriptEntry& entry) {
+    return dialog_ && dialog_({state_, &window_}, {entry});
+}
+
+bool ScriptEditor::confirmDelete(std::size_t count) {
+    const Message question{deleteText(state_.language, count) + "?",
+                           libraryText(state_.language, 13224), MessageIcon::Question,
+                           MessageButtons::YesNo, false};
+    return askMessage(&window_, question) == MessageAnswer::Yes;
+}
+
+void ScriptEditor::refuse(EditRefusal refusal, const ScriptEntry& entry) {
+    std::string text = libraryText(state_.language, refusalText(refusal));
+    if (refusal != EditRefusal::MenuCommandNotInVt) {
+        text += "\n\n" + escapeControlCharacters(formatEntryLine(entry, state_.displayNames()));
+    }
+    showMessage(&window_, {text, libraryText(state_.language, 13733), MessageIcon::Information,
+                           MessageButtons::Ok, false});
+}
+
+void ScriptEditor::askForRow(Palette palette) {
+    const StringId label = paletteLabels[static_cast<std::size_t>(palette)];
+    window_.showNote(libraryText(state_.language, 15316, {libraryText(state_.language, label)}));
+}
+
+}  // namespace quendra

@@ -1,0 +1,63 @@
+// The editing commands on the real window: the operations of model/editing.h between its lists, its
+// dialogs and the undo history.
+#pragma once
+
+#include "app/editing_commands.h"
+#include "dialogs/parameter_dialogs.h"
+#include "model/editing.h"
+
+#include <QObject>
+
+#include <functional>
+#include <string>
+
+namespace quendra {
+
+class MainWindow;
+
+/// Opens the dialog of a command, as editParameters does. An empty one answers Cancel.
+using EditParameters = std::function<bool(const DialogContext&, const EditTarget&)>;
+
+/// Gives a window its editing commands as long as it lives. Every change of the script, drags
+/// included, becomes one step of the state's history.
+class ScriptEditor : public QObject, private EditingView {
+    Q_OBJECT
+
+  public:
+    /// `state` and `window` outlive it.
+    ScriptEditor(ApplicationState& state, MainWindow& window, EditParameters dialog);
+    ~ScriptEditor() override;
+    ScriptEditor(const ScriptEditor&) = delete;
+    ScriptEditor& operator=(const ScriptEditor&) = delete;
+
+  private:
+    [[nodiscard]] std::vector<std::size_t> selectedEntries() const override;
+    [[nodiscard]] int focusedEntry() const override;
+    [[nodiscard]] int selectedRow(Palette palette) const override;
+    void showScript(const EntrySelection& selection) override;
+    [[nodiscard]] bool editParameters(ScriptEntry& entry) override;
+    [[nodiscard]] bool confirmDelete(std::size_t count) override;
+    void refuse(EditRefusal refusal, const ScriptEntry& entry) override;
+    void askForRow(Palette palette) override;
+
+    [[nodiscard]] EditingCommands commands();
+    /// Runs an operation that gives whether it changed the script; the step's name is asked for
+    /// after it.
+    void change(const std::function<bool()>& operation, const std::function<std::string()>& name);
+    void insert(Palette palette, bool (*operation)(EditingState&, EditingView&));
+    void copy();
+    void paste();
+    void removeSelected(StringId name, bool (*operation)(EditingState&, EditingView&));
+    void takeStep(std::optional<EntrySelection> (UndoHistory::*step)(Script&));
+    void recordMove();
+    [[nodiscard]] ScriptView currentView() const;
+    [[nodiscard]] std::string countedName(StringId name, std::size_t count) const;
+
+    ApplicationState& state_;
+    MainWindow& window_;
+    EditParameters dialog_;
+    /// Script and selection when a drag was about to move entries.
+    ScriptView beforeMove_;
+};
+
+}  // namespace quendra
