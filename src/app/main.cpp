@@ -63,7 +63,7 @@ void applyCommandLine(MainWindow& window, const CommandLine& line) {
 int runWindow(ApplicationState& state, ShownWindow& shown, EditorListener* listener,
               const CommandLine& line, const PictureOptions& picture) {
     MainWindow window(state);
-    const ScriptEditor editor(state, window, {});
+    const ScriptEditor editor(state, window, editParameters);
     shown = {&state, &window};
     std::unique_ptr<QSocketNotifier> asked;
     if (listener && listener->descriptor() >= 0) {
