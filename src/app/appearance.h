@@ -3,8 +3,6 @@
 
 #include <QPalette>
 
-class QApplication;
-
 namespace quendra {
 
 enum class Appearance {
