@@ -3,6 +3,7 @@
 #include "app/placement.h"
 #include "app/symbol_icon.h"
 #include "app/ui_text.h"
+#include "dialogs/input_note.h"
 
 #include <QAccessible>
 #include <QApplication>
@@ -23,14 +24,10 @@ namespace {
 
 constexpr StringId cancelText = 10167;
 constexpr StringId requiredText = 13744;
-constexpr StringId foreignCharacterText = 16001;
-constexpr StringId lengthText = 16002;
-constexpr StringId hiddenLengthText = 16003;
-constexpr StringId rangeTextId = 16004;
 constexpr StringId outOfRangeText = 16005;
 
 constexpr int pictureSide = 32;
-/// Wide enough for every note in one line.
+/// Wide enough for most texts.
 constexpr int bodyCharacters = 52;
 
 // Painted when it is shown, so that it follows the palette and every scale.
@@ -80,7 +77,7 @@ ParameterDialog::ParameterDialog(const DialogContext& context, const EditTarget&
     picture_->setObjectName(QStringLiteral("commandPicture"));
     body_ = new QVBoxLayout;
     body_->setSpacing(6);
-    body_->addStrut(fontMetrics().averageCharWidth() * bodyCharacters);
+    body_->addStrut(std::max(fontMetrics().averageCharWidth() * bodyCharacters, widestNote()));
 
     auto* top = new QHBoxLayout;
     top->setSpacing(16);
@@ -95,6 +92,19 @@ ParameterDialog::ParameterDialog(const DialogContext& context, const EditTarget&
 
 QString ParameterDialog::text(StringId id) const {
     return qtText(libraryText(context_.state.language, id));
+}
+
+// A note that comes up must not make the dialog wider.
+int ParameterDialog::widestNote() const {
+    LanguageLibrary& language = context_.state.language;
+    int widest = 0;
+    for (const InputFault& fault :
+         {InputFault{InputFault::Kind::Character, QStringLiteral("W")},
+          InputFault{InputFault::Kind::Length, {}, maxPromptLength},
+          InputFault{InputFault::Kind::HiddenLength, {}, maxHiddenTextLength}}) {
+        widest = std::max(widest, fontMetrics().horizontalAdvance(faultNote(language, fault)));
+    }
+    return widest;
 }
 
 QGridLayout* ParameterDialog::addGrid() {
@@ -138,7 +148,6 @@ void ParameterDialog::addButtons(const QString& okText) {
 
     auto* ok = new QPushButton(okText);
     ok->setObjectName(QStringLiteral("ok"));
-    ok->setDefault(true);
     auto* cancel = new QPushButton(text(cancelText));
     cancel->setObjectName(QStringLiteral("cancel"));
     auto* buttons = new QDialogButtonBox;
@@ -148,6 +157,8 @@ void ParameterDialog::addButtons(const QString& okText) {
     connect(buttons, &QDialogButtonBox::accepted, this, &ParameterDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &ParameterDialog::reject);
     all.addWidget(buttons);
+    // Only now that the dialog holds it does it hear of its default button.
+    ok->setDefault(true);
 }
 
 void ParameterDialog::registerField(QWidget* field, const char* name) {
@@ -197,9 +208,7 @@ QString ParameterDialog::rangeText(const QWidget* field) const {
     const NumberRange* range = nullptr;
     if (const auto* number = qobject_cast<const NumberEdit*>(field)) range = &number->range();
     if (const auto* spin = qobject_cast<const SpinEdit*>(field)) range = &spin->range();
-    if (range == nullptr) return {};
-    return qtText(libraryText(context_.state.language, rangeTextId,
-                              {std::to_string(range->smallest), std::to_string(range->largest)}));
+    return range == nullptr ? QString() : rangeNote(context_.state.language, *range);
 }
 
 void ParameterDialog::showRange() {
@@ -207,21 +216,8 @@ void ParameterDialog::showRange() {
 }
 
 void ParameterDialog::showFault(const QWidget* field, const InputFault& fault) {
-    LanguageLibrary& language = context_.state.language;
-    const std::string limit = std::to_string(fault.limit);
-    switch (fault.kind) {
-        case InputFault::Kind::Character:
-            showNote(qtText(
-                libraryText(language, foreignCharacterText, {fault.character.toStdString()})));
-            break;
-        case InputFault::Kind::Length:
-            showNote(qtText(libraryText(language, lengthText, {limit})));
-            break;
-        case InputFault::Kind::HiddenLength:
-            showNote(qtText(libraryText(language, hiddenLengthText, {limit})));
-            break;
-        case InputFault::Kind::Number: showNote(rangeText(field)); break;
-    }
+    const QString note = faultNote(context_.state.language, fault);
+    showNote(note.isEmpty() ? rangeText(field) : note);
     QApplication::beep();
 }
 

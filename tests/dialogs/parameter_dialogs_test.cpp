@@ -22,6 +22,14 @@ TEST_F(DialogTest, ReturnIsOkAndTheFirstFieldIsSelectedAtTheStart) {
     EXPECT_EQ(textOf(slotFields(entry, Slot::Entry)), "new");
 }
 
+TEST_F(DialogTest, ReturnIsOkBesideABrowseButtonToo) {
+    openNew(CommandCode::Run);
+    typeText(widget<QLineEdit>("file"), QStringLiteral("a.exe"));
+    QTest::keyClick(&widget<QLineEdit>("file"), Qt::Key_Return);
+    EXPECT_TRUE(endedWithOk());
+    EXPECT_TRUE(answers.fileDialogs.empty());
+}
+
 TEST_F(DialogTest, TheCloseBoxIsCancel) {
     openNew(CommandCode::Wait);
     retype("number", QStringLiteral("9"));
