@@ -157,7 +157,7 @@ void ParameterDialog::addButtons(const QString& okText) {
     connect(buttons, &QDialogButtonBox::accepted, this, &ParameterDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &ParameterDialog::reject);
     all.addWidget(buttons);
-    // Only now that the dialog holds it does it hear of its default button.
+    // Not before the button is in the dialog, which would else take the first one, such as Browse.
     ok->setDefault(true);
 }
 
@@ -216,8 +216,8 @@ void ParameterDialog::showRange() {
 }
 
 void ParameterDialog::showFault(const QWidget* field, const InputFault& fault) {
-    const QString note = faultNote(context_.state.language, fault);
-    showNote(note.isEmpty() ? rangeText(field) : note);
+    const bool isNumber = fault.kind == InputFault::Kind::Number;
+    showNote(isNumber ? rangeText(field) : faultNote(context_.state.language, fault));
     QApplication::beep();
 }
 

@@ -22,7 +22,7 @@ TEST_F(DialogTest, ReturnIsOkAndTheFirstFieldIsSelectedAtTheStart) {
     EXPECT_EQ(textOf(slotFields(entry, Slot::Entry)), "new");
 }
 
-TEST_F(DialogTest, ReturnIsOkBesideABrowseButtonToo) {
+TEST_F(DialogTest, ReturnInAFieldIsOkWhereAnotherButtonComesBeforeIt) {
     openNew(CommandCode::Run);
     typeText(widget<QLineEdit>("file"), QStringLiteral("a.exe"));
     QTest::keyClick(&widget<QLineEdit>("file"), Qt::Key_Return);
