@@ -309,6 +309,11 @@ TEST_F(TextEditTest, NoCopyOfAHiddenTextOutlivesTheDialog) {
     dialog.reset();
     entry = ScriptEntry();
     EXPECT_FALSE(memoryHoldsTheSecret()) << "shown";
+
+    // Last, for this leaves copies behind: what a line edit holds in the clear is found.
+    openNew(CommandCode::Type);
+    typeSecret(edit());
+    EXPECT_TRUE(memoryHoldsTheSecret()) << "in the clear";
 }
 
 }  // namespace
