@@ -58,21 +58,24 @@ TEST_P(TransferLook, EveryCaptionHasAKeyOfItsOwn) {
     });
 }
 
+void expectKeysLead(OpenSheet& sheet) {
+    for (const auto& [key, target] : mnemonics(sheet)) {
+        if (!target->isEnabled()) continue;
+        // "Alt+X": the last character is the key.
+        QTest::keyClick(sheet.dialog.focusWidget(), key.back().toLatin1(), Qt::AltModifier);
+        // A push button goes down without taking the focus.
+        const auto* button = qobject_cast<QPushButton*>(target);
+        const bool pressed = button != nullptr && button->isDown();
+        EXPECT_TRUE(pressed || target->hasFocus()) << key.toStdString();
+    }
+}
+
 TEST_P(TransferLook, KeysLeadToTheirFields) {
     for (host = 0; host < 3; ++host) {
         for (int page : {0, 1}) {
             open([page](OpenSheet& sheet) {
                 sheet.showPage(page);
-                for (const auto& [key, target] : mnemonics(sheet)) {
-                    if (!target->isEnabled()) continue;
-                    // "Alt+X": the last character is the key.
-                    QTest::keyClick(sheet.dialog.focusWidget(), key.back().toLatin1(),
-                                    Qt::AltModifier);
-                    // A push button goes down without taking the focus.
-                    const auto* button = qobject_cast<QPushButton*>(target);
-                    const bool pressed = button != nullptr && button->isDown();
-                    EXPECT_TRUE(pressed || target->hasFocus()) << key.toStdString();
-                }
+                expectKeysLead(sheet);
             });
         }
     }
@@ -106,7 +109,7 @@ TEST_P(TransferLook, NothingIsCutOffAndTheSheetKeepsItsSize) {
 }
 
 TEST_P(TransferLook, NotesHaveRoom) {
-    open([this](OpenSheet& sheet) {
+    open([](OpenSheet& sheet) {
         const auto& note = sheet.widget<QLabel>(QStringLiteral("note"));
         const auto expectShown = [&note] {
             EXPECT_FALSE(note.text().isEmpty());
