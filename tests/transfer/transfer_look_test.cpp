@@ -81,6 +81,28 @@ TEST_P(TransferLook, KeysLeadToTheirFields) {
     }
 }
 
+TEST_P(TransferLook, TabGoesThroughTheFieldsAsTheyStand) {
+    constexpr const char* orders[] = {
+        "transferHost0 hostFileName fileType fileMode pcFileName browse binary0 crlf append "
+        "useLocalTranslateTables packetSizeIndex autoEraseInput showSettingsBeforeTransfer ok "
+        "cancel ",
+        "recordFormat0 recordLength transferProgramName additionalParameters arabicProcessing "
+        "pcCodePageIndex ok cancel "};
+    open([&](OpenSheet& sheet) {
+        for (int page : {0, 1}) {
+            sheet.showPage(page);
+            const auto* first = page == 0 ? "transferHost0" : "recordFormat0";
+            sheet.widget<QWidget>(QLatin1String(first)).setFocus();
+            std::string order;
+            do {
+                order += sheet.dialog.focusWidget()->objectName().toStdString() + ' ';
+                QTest::keyClick(sheet.dialog.focusWidget(), Qt::Key_Tab);
+            } while (!order.ends_with("cancel ") && order.size() < 500);
+            EXPECT_EQ(order, orders[page]);
+        }
+    });
+}
+
 void expectRoom(OpenSheet& sheet) {
     for (auto* widget : sheet.dialog.findChildren<QWidget*>()) {
         const bool hasText = qobject_cast<QLabel*>(widget) != nullptr ||

@@ -232,6 +232,20 @@ TEST_F(TransferSheetTest, AdvancedLooksAtTheSettingsAgainEachTimeButForTheBidiOp
     });
 }
 
+TEST_F(TransferSheetTest, LookingAgainAtForeignValuesStoresNothing) {
+    open([&](OpenSheet& sheet) {
+        sheet.showPage(advancedPage);
+        EXPECT_TRUE(sheet.isChecked("recordFormat0"));
+        sheet.showPage(settingsPage);
+        settings.bytes.fill(0xE9);
+        const FileTransferSettings foreign = settings;
+        sheet.showPage(advancedPage);
+        EXPECT_FALSE(sheet.isChecked("recordFormat0"));
+        EXPECT_FALSE(sheet.isChecked("includeLeftParenthesis"));
+        EXPECT_EQ(settings, foreign);
+    });
+}
+
 TEST_F(TransferSheetTest, ChoosingAHostLooksAtTheSettingsAgain) {
     open([&](OpenSheet& sheet) {
         setTransferText(settings, transfer::hostFileName, "NEW");
