@@ -3,13 +3,17 @@
 #include "transfer/transfer_sheet_driver.h"
 
 #include <QAbstractButton>
+#include <QApplication>
 #include <QComboBox>
+#include <QDir>
+#include <QFileDialog>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QScreen>
 #include <QTabWidget>
 #include <QTest>
+#include <QTimer>
 
 namespace quendra::test {
 namespace {
@@ -277,6 +281,47 @@ TEST_F(TransferSheetTest, BrowseAsksForAnExistingFileAndTakesIt) {
     EXPECT_EQ(request.extension, "");
     EXPECT_EQ(request.initialFolder, editor.folder / "Transfer");
     EXPECT_EQ(request.initialFile, "old.txt");
+}
+
+struct StartRow {
+    const char* stored;
+    const char* folder;
+    QString offered;
+};
+
+TEST_F(TransferSheetTest, TheRealFileDialogStartsAtTheStoredName) {
+    const auto& base = editor.folder.path();
+    std::filesystem::create_directories(base / "Transfer");
+    std::filesystem::create_directories(base / "Other");
+    state.settings.transferDir = base / "Transfer";
+    const std::string elsewhere = (base / "Other/b.txt").string();
+    const StartRow rows[] = {
+        {"", "Transfer", {}},
+        {"a.txt", "Transfer", QStringLiteral("a.txt")},
+        {elsewhere.c_str(), "Other", QStringLiteral("b.txt")},
+    };
+    const FileDialogHandler recorder = replaceFileDialogHandler({});
+    for (const StartRow& row : rows) {
+        setTransferText(settings, transfer::pcFileName, row.stored);
+        bool looked = false;
+        open([&](OpenSheet& sheet) {
+            QTimer::singleShot(0, qApp, [&] {
+                auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+                if (dialog == nullptr) return;
+                looked = true;
+                EXPECT_EQ(dialog->directory().absolutePath(),
+                          qtText(pathText(std::filesystem::canonical(base) / row.folder)));
+                const auto* name = dialog->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+                EXPECT_EQ(name->text(), row.offered);
+                EXPECT_EQ(dialog->fileMode(), QFileDialog::ExistingFile);
+                dialog->reject();
+            });
+            sheet.click("browse");
+        });
+        EXPECT_TRUE(looked) << row.stored;
+        EXPECT_EQ(stored(transfer::pcFileName), row.stored);
+    }
+    replaceFileDialogHandler(recorder);
 }
 
 TEST_F(TransferSheetTest, PathsThatDoNotFitAreRefusedWithANote) {
