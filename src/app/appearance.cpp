@@ -115,9 +115,9 @@ QPalette appearancePalette(Appearance appearance) {
     return paletteOf(appearance == Appearance::Dark ? darkColours : lightColours);
 }
 
-void applyAppearance(QApplication& application, Appearance appearance) {
+void applyAppearance(Appearance appearance) {
     if (appearance == Appearance::Platform) {
-        appearance = isDark(application.palette()) ? Appearance::Dark : Appearance::Light;
+        appearance = isDark(QApplication::palette()) ? Appearance::Dark : Appearance::Light;
     }
     QApplication::setStyle(new EditorStyle);
     const QPalette palette = appearancePalette(appearance);

@@ -27,13 +27,13 @@ struct CommandFacts {
 [[nodiscard]] CommandFacts commandFacts(const ApplicationState& state, const EditorPane& pane);
 
 /// True for every command that has no condition.
-[[nodiscard]] bool isCommandEnabled(int command, const CommandFacts& facts);
+[[nodiscard]] bool isCommandEnabled(int id, const CommandFacts& facts);
 
-[[nodiscard]] std::string commandToolTip(int command, const CommandFacts& facts,
+[[nodiscard]] std::string commandToolTip(int id, const CommandFacts& facts,
                                          LanguageLibrary& language);
 
 /// The menu text of a command whose text says what it would do: of Undo and Redo; none for others.
-[[nodiscard]] std::optional<std::string> commandMenuText(int command, const CommandFacts& facts,
+[[nodiscard]] std::optional<std::string> commandMenuText(int id, const CommandFacts& facts,
                                                          LanguageLibrary& language);
 
 /// "Delete 3 entries": tool tip, and with a question mark the confirmation.

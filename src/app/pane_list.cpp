@@ -126,6 +126,7 @@ void PaneList::paintEvent(QPaintEvent* event) {
 void PaneList::focusInEvent(QFocusEvent* event) {
     // The base class would focus the first row of a list that has none focused; here, having none
     // means something: what is inserted goes to the end.
+    // NOLINTNEXTLINE(bugprone-parent-virtual-call)
     QAbstractScrollArea::focusInEvent(event);
     viewport()->update();
 }
