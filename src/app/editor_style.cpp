@@ -4,6 +4,7 @@
 #include <QGuiApplication>
 #include <QIconEngine>
 #include <QPainter>
+#include <QPlainTextEdit>
 #include <QStyleFactory>
 #include <QStyleOption>
 
@@ -94,6 +95,19 @@ QIcon extensionIcon() {
     }));
 }
 
+// Fusion derives its edges from the window's colour, and on dark they drown in it. A copy of the
+// option with another window colour makes it draw edges that show; nothing else of these parts has
+// that colour.
+template <class Option>
+Option withVisibleEdge(const Option& option, QPalette::ColorRole edge) {
+    constexpr int darkening = 140;
+    Option visible = option;
+    if (isDark(option.palette)) {
+        visible.palette.setColor(QPalette::Window, option.palette.color(edge).lighter(darkening));
+    }
+    return visible;
+}
+
 void drawListEdge(const QStyleOption& option, QPainter& painter, bool focused) {
     const QPalette& palette = option.palette;
     const QPalette::ColorRole plain = isDark(palette) ? QPalette::Light : QPalette::Mid;
@@ -127,8 +141,39 @@ void EditorStyle::drawControl(ControlElement element, const QStyleOption* option
         return;
     }
     QProxyStyle::drawControl(element, option, painter, widget);
-    if (element == CE_ShapedFrame && qobject_cast<const QAbstractItemView*>(widget)) {
-        drawListEdge(*option, *painter, !unfocusedList);
+    if (element == CE_ShapedFrame && (qobject_cast<const QAbstractItemView*>(widget) ||
+                                      qobject_cast<const QPlainTextEdit*>(widget))) {
+        drawListEdge(*option, *painter, widget->hasFocus());
+    }
+}
+
+void EditorStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option,
+                                QPainter* painter, const QWidget* widget) const {
+    const auto* box = qstyleoption_cast<const QStyleOptionButton*>(option);
+    const auto* frame = qstyleoption_cast<const QStyleOptionFrame*>(option);
+    if (box && (element == PE_IndicatorCheckBox || element == PE_IndicatorRadioButton)) {
+        const auto visible = withVisibleEdge(*box, QPalette::PlaceholderText);
+        QProxyStyle::drawPrimitive(element, &visible, painter, widget);
+    } else if (frame && element == PE_FrameLineEdit) {
+        const auto visible = withVisibleEdge(*frame, QPalette::Light);
+        QProxyStyle::drawPrimitive(element, &visible, painter, widget);
+    } else {
+        QProxyStyle::drawPrimitive(element, option, painter, widget);
+    }
+}
+
+void EditorStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
+                                     QPainter* painter, const QWidget* widget) const {
+    const auto* spin = qstyleoption_cast<const QStyleOptionSpinBox*>(option);
+    const auto* combo = qstyleoption_cast<const QStyleOptionComboBox*>(option);
+    if (spin && control == CC_SpinBox) {
+        const auto visible = withVisibleEdge(*spin, QPalette::Light);
+        QProxyStyle::drawComplexControl(control, &visible, painter, widget);
+    } else if (combo && control == CC_ComboBox) {
+        const auto visible = withVisibleEdge(*combo, QPalette::Light);
+        QProxyStyle::drawComplexControl(control, &visible, painter, widget);
+    } else {
+        QProxyStyle::drawComplexControl(control, option, painter, widget);
     }
 }
 

@@ -5,10 +5,10 @@
 
 namespace quendra {
 
-/// Lists have an edge that shows on dark too, show that they have the focus, and show their
-/// selection quietly when they have not. Buttons have no pictures, messages have plain ones, the
-/// toolbar no line of its own, since the pane below draws one, and a hidden text is asterisks, as
-/// in the script list.
+/// Lists and fields have an edge that shows on dark too. Lists show that they have the focus, and
+/// show their selection quietly when they have not. Buttons have no pictures, messages have plain
+/// ones, the toolbar no line of its own, since the pane below draws one, and a hidden text is
+/// asterisks, as in the script list.
 class EditorStyle : public QProxyStyle {
     Q_OBJECT
 
@@ -17,6 +17,10 @@ class EditorStyle : public QProxyStyle {
 
     void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
                      const QWidget* widget) const override;
+    void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                       const QWidget* widget) const override;
+    void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
+                            QPainter* painter, const QWidget* widget) const override;
     int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                   QStyleHintReturn* returnData) const override;
     QIcon standardIcon(StandardPixmap standardIcon, const QStyleOption* option,

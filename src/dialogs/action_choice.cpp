@@ -34,12 +34,13 @@ bool askForParameters(const DialogContext& context, const EditTarget& target) {
                      : editParameters(context, target);
 }
 
-void openTransfer(const DialogContext& context, const SlotFields& action,
+void openTransfer(const DialogContext& context, const EditTarget& target,
                   const ActionChoice& choice) {
+    const SlotFields action = slotFields(target.entry, target.slot);
     const std::uint32_t commandId = firstMenuCommand + static_cast<std::uint32_t>(choice.row);
     context.state.workingTransfer.settings = action.transferSettings;
     if (editTransfer(context, action, commandId)) {
-        applyChoice(action, choice, luFunctions(context));
+        applyChoice(target.entry, target.slot, choice, luFunctions(context));
     }
 }
 
@@ -64,17 +65,16 @@ std::optional<Message> refusalOf(const DialogContext& context, const EditTarget&
 
 bool acceptChoice(const DialogContext& context, const EditTarget& target,
                   const ActionChoice& choice) {
-    const SlotFields action = slotFields(target.entry, target.slot);
-    applyChoice(action, choice, luFunctions(context));
-    return !lacksParameters(action) || askForParameters(context, target);
+    applyChoice(target.entry, target.slot, choice, luFunctions(context));
+    return !lacksParameters(slotFields(target.entry, target.slot)) ||
+           askForParameters(context, target);
 }
 
 void openChoice(const DialogContext& context, const EditTarget& target,
                 const ActionChoice& choice) {
-    const SlotFields action = slotFields(target.entry, target.slot);
     switch (doubleClickAct(choice)) {
         case DoubleClickAct::Nothing: return;
-        case DoubleClickAct::EditTransfer: openTransfer(context, action, choice); return;
+        case DoubleClickAct::EditTransfer: openTransfer(context, target, choice); return;
         case DoubleClickAct::ChooseAndEdit: break;
     }
     if (const auto refusal = refusalOf(context, target, choice)) {
@@ -83,7 +83,7 @@ void openChoice(const DialogContext& context, const EditTarget& target,
         if (tells) showMessage(context.window, *refusal);
         return;
     }
-    applyChoice(action, choice, luFunctions(context));
+    applyChoice(target.entry, target.slot, choice, luFunctions(context));
     static_cast<void>(askForParameters(context, target));
 }
 

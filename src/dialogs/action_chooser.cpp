@@ -3,6 +3,7 @@
 #include "dialogs/action_choice.h"
 
 #include <QLabel>
+#include <QScreen>
 #include <QVBoxLayout>
 
 namespace quendra {
@@ -29,6 +30,8 @@ void ActionChooser::addLists() {
 }
 
 void ActionChooser::load() {
+    // Left to itself, a window takes no more than two thirds of the screen.
+    resize(sizeHint().boundedTo(screen()->availableSize() * 9 / 10));
     ApplicationState& state = context().state;
     lists_->select(choiceOf(actionFields(), state.luCatalogues.of(state.currentHostType)));
 }

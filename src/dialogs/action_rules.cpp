@@ -54,6 +54,14 @@ void dropHiddenText(const SlotFields& action) {
     action.hidden = 0;
 }
 
+void startSearch(ScriptEntry& entry) {
+    if (entry.searchRow != 0) return;
+    entry.searchRow = 1;
+    entry.searchColumn = 1;
+    entry.exactPosition = 0;
+    entry.caseSensitive = 1;
+}
+
 bool lacksTransferFiles(const FileTransferSettings& settings) {
     return transferText(settings, transfer::hostFileName).empty() ||
            transferText(settings, transfer::pcFileName).empty();
@@ -118,8 +126,10 @@ std::string actionCaption(const ActionPlace& place) {
     return otherwise ? "Wait_For Not Found Action" : "Wait_For Found Action";
 }
 
-void applyChoice(const SlotFields& action, const ActionChoice& choice,
+void applyChoice(ScriptEntry& entry, Slot slot, const ActionChoice& choice,
                  const LuCatalogue& luFunctions) {
+    const SlotFields action = slotFields(entry, slot);
+    const bool wasWaitFor = action.code == CommandCode::WaitFor;
     const bool wasHidden = isHiddenText(action);
     switch (choice.list) {
         case ActionList::ScriptEvents: setCode(action, eventOf(choice)); break;
@@ -136,6 +146,7 @@ void applyChoice(const SlotFields& action, const ActionChoice& choice,
             break;
     }
     if (wasHidden && action.code != CommandCode::Type) dropHiddenText(action);
+    if (action.code == CommandCode::WaitFor && !wasWaitFor) startSearch(entry);
 }
 
 bool lacksParameters(const ConstSlotFields& action) {

@@ -54,11 +54,12 @@ enum class ActionRefusal : std::uint8_t { NothingSelected, CarriesActions, NotIn
 /// The title of the Action dialog; none for Watch_For, which chooses in a dialog of its own.
 [[nodiscard]] std::string actionCaption(const ActionPlace& place);
 
-/// Makes the action what was chosen: its code, and key or menu command. Every other field stays, so
-/// a text or number from before serves the new command too; only a hidden text goes when its Type
-/// does, since another command would show it and store it in clear. `choice` is one that is not
-/// refused, and its row exists.
-void applyChoice(const SlotFields& action, const ActionChoice& choice,
+/// Makes an action what was chosen: its code, and key or menu command. Every other field stays, so
+/// a text or number from before serves the new command too. But a hidden text goes when its Type
+/// does, since another command would show it and store it in clear; and a Wait_For that has no
+/// place to search at starts as any new one does. `choice` is one that is not refused, and its row
+/// exists.
+void applyChoice(ScriptEntry& entry, Slot slot, const ActionChoice& choice,
                  const LuCatalogue& luFunctions);
 
 /// True when the action is of a command whose parameters it does not have yet, so that accepting it

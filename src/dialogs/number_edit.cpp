@@ -44,8 +44,15 @@ NumberEdit::NumberEdit(std::uint32_t largest, QWidget* parent)
     : QLineEdit(parent), range_{0, largest} {
     setValidator(new NumberValidator(largest, this));
     setInputMethodHints(Qt::ImhDigitsOnly);
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     connect(this, &QLineEdit::inputRejected, this,
             [this] { Q_EMIT refused({InputFault::Kind::Number}); });
+}
+
+QSize NumberEdit::sizeHint() const {
+    constexpr int digitsToSpare = 3;
+    const int digits = static_cast<int>(QString::number(range_.largest).size()) + digitsToSpare;
+    return {fontMetrics().horizontalAdvance(u'0') * digits, QLineEdit::sizeHint().height()};
 }
 
 std::optional<std::uint32_t> NumberEdit::number() const {

@@ -30,6 +30,9 @@ class NumberEdit : public QLineEdit {
     [[nodiscard]] std::optional<std::uint32_t> number() const;
     [[nodiscard]] const NumberRange& range() const { return range_; }
 
+    /// As wide as the largest number.
+    [[nodiscard]] QSize sizeHint() const override;
+
   Q_SIGNALS:
     void refused(const quendra::InputFault& fault);
 

@@ -27,7 +27,7 @@ constexpr StringId requiredText = 13744;
 constexpr StringId outOfRangeText = 16005;
 
 constexpr int pictureSide = 32;
-/// Wide enough for every note in one line.
+/// Wide enough for most texts.
 constexpr int bodyCharacters = 52;
 
 // Painted when it is shown, so that it follows the palette and every scale.
@@ -77,7 +77,7 @@ ParameterDialog::ParameterDialog(const DialogContext& context, const EditTarget&
     picture_->setObjectName(QStringLiteral("commandPicture"));
     body_ = new QVBoxLayout;
     body_->setSpacing(6);
-    body_->addStrut(fontMetrics().averageCharWidth() * bodyCharacters);
+    body_->addStrut(std::max(fontMetrics().averageCharWidth() * bodyCharacters, widestNote()));
 
     auto* top = new QHBoxLayout;
     top->setSpacing(16);
@@ -92,6 +92,19 @@ ParameterDialog::ParameterDialog(const DialogContext& context, const EditTarget&
 
 QString ParameterDialog::text(StringId id) const {
     return qtText(libraryText(context_.state.language, id));
+}
+
+// A note that comes up must not make the dialog wider.
+int ParameterDialog::widestNote() const {
+    LanguageLibrary& language = context_.state.language;
+    int widest = 0;
+    for (const InputFault& fault :
+         {InputFault{InputFault::Kind::Character, QStringLiteral("W")},
+          InputFault{InputFault::Kind::Length, {}, maxPromptLength},
+          InputFault{InputFault::Kind::HiddenLength, {}, maxHiddenTextLength}}) {
+        widest = std::max(widest, fontMetrics().horizontalAdvance(faultNote(language, fault)));
+    }
+    return widest;
 }
 
 QGridLayout* ParameterDialog::addGrid() {

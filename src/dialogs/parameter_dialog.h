@@ -114,6 +114,7 @@ class ParameterDialog : public QDialog {
     void showFault(const QWidget* field, const InputFault& fault);
     void showRange();
     [[nodiscard]] QString rangeText(const QWidget* field) const;
+    [[nodiscard]] int widestNote() const;
     void focusFirstField();
 
     DialogContext context_;

@@ -160,7 +160,7 @@ void TextEdit::insertMasked(QStringView text) {
     const auto at = static_cast<std::size_t>(removed > 0 ? selectionStart() : cursorPosition());
     const auto added = static_cast<std::size_t>(line.size());
     const std::size_t limit = std::min(lengthLimit(), maxHiddenTextLength);
-    if (secret_.size() - removed + added > limit) {
+    if (added > 0 && secret_.size() - removed + added > limit) {
         const auto kind =
             limit < maxHiddenTextLength ? InputFault::Kind::Length : InputFault::Kind::HiddenLength;
         Q_EMIT refused({kind, {}, limit});

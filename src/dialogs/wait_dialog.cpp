@@ -2,6 +2,9 @@
 #include "app/ui_text.h"
 #include "dialogs/command_dialogs.h"
 
+#include <QLabel>
+#include <QVBoxLayout>
+
 #include <limits>
 
 namespace quendra {
@@ -18,7 +21,8 @@ class WaitDialog : public ParameterDialog {
                           commandKeyword(slotFields(target.entry, target.slot).code)) {
         setWindowTitle(caption());
         number_ = named(new NumberEdit(std::numeric_limits<std::uint32_t>::max()), "number");
-        addLabelled("numberLabel", label(), number_);
+        body().addWidget(makeLabel("numberLabel", label(), number_));
+        body().addWidget(number_, 0, Qt::AlignLeft);
         addButtons();
     }
 

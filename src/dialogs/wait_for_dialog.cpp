@@ -46,15 +46,6 @@ std::uint8_t byteOf(const SpinEdit& field) {
     return static_cast<std::uint8_t>(field.number().value_or(0));
 }
 
-// A Watch_For has no search options of its own, so its new Wait_For starts as any new one does.
-void setNewActionOptions(ScriptEntry& entry) {
-    if (entry.thenTextLength != 0 || entry.searchRow != 0) return;
-    entry.searchRow = 1;
-    entry.searchColumn = 1;
-    entry.exactPosition = 0;
-    entry.caseSensitive = 1;
-}
-
 class WaitForDialog : public ParameterDialog {
   public:
     WaitForDialog(const DialogContext& context, const EditTarget& target)
@@ -174,7 +165,8 @@ class WaitForDialog : public ParameterDialog {
 };
 
 // On a copy: the dialogs of the actions change it before this one ends.
-bool runOnCopy(const DialogContext& context, ScriptEntry& entry, ScriptEntry& working, Slot slot) {
+bool editCopy(const DialogContext& context, ScriptEntry& entry, Slot slot) {
+    ScriptEntry working = entry;
     WaitForDialog dialog(context, {working, slot, ActionOwner::WaitForOrWatchFor});
     if (!dialog.run()) return false;
     entry = working;
@@ -184,14 +176,11 @@ bool runOnCopy(const DialogContext& context, ScriptEntry& entry, ScriptEntry& wo
 }  // namespace
 
 bool editWaitFor(const DialogContext& context, ScriptEntry& entry) {
-    ScriptEntry working = entry;
-    return runOnCopy(context, entry, working, Slot::Entry);
+    return editCopy(context, entry, Slot::Entry);
 }
 
 bool editWatchedWaitFor(const DialogContext& context, ScriptEntry& entry) {
-    ScriptEntry working = entry;
-    setNewActionOptions(working);
-    return runOnCopy(context, entry, working, Slot::Then);
+    return editCopy(context, entry, Slot::Then);
 }
 
 }  // namespace quendra

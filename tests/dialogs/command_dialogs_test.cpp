@@ -79,7 +79,7 @@ const TextRow textRows[] = {
 class DialogTexts : public DialogTest, public ::testing::WithParamInterface<TextRow> {};
 
 TEST_P(DialogTexts, ComeFromTheLanguageLibrary) {
-    useLanguage("qdstring_de");
+    useLanguage(state, "qdstring_de");
     entry = newEntry(GetParam().code);
     entry.commandId = GetParam().commandId;
     open();
@@ -98,7 +98,7 @@ INSTANTIATE_TEST_SUITE_P(Commands, DialogTexts, ::testing::ValuesIn(textRows),
                          [](const auto& row) { return row.param.name; });
 
 TEST_F(DialogTest, WaitOfAnElseActionAsksInItsOwnWords) {
-    useLanguage("qdstring_de");
+    useLanguage(state, "qdstring_de");
     entry.commandCode = CommandCode::WaitFor;
     entry.elseCode = CommandCode::Wait;
     open(Slot::Else);
@@ -150,7 +150,7 @@ class EmptyFields : public DialogTest,
                     public ::testing::WithParamInterface<std::tuple<RefusalRow, Slot>> {};
 
 TEST_P(EmptyFields, AreRefusedOneByOneAndGetTheFocus) {
-    useLanguage("qdstring_de");
+    useLanguage(state, "qdstring_de");
     const auto& [row, slot] = GetParam();
     entry = newEntry(CommandCode::WaitFor);
     slotFields(entry, slot).code = row.code;

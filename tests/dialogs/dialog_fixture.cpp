@@ -57,6 +57,16 @@ void pasteInto(QWidget& widget, const QString& text) {
     QTest::keyClick(&widget, Qt::Key_V, Qt::ControlModifier);
 }
 
+void useLanguage(ApplicationState& state, const std::string& name) {
+    const auto& settings = state.settings;
+    std::ofstream(settings.configDir / "language.ini") << "[Language]\nLanguage=" << name << '\n';
+    const auto notice =
+        state.language.load({settings.programDir, settings.configDir, settings.installDir});
+    if (notice) throw std::runtime_error(notice->text);
+    state.luCatalogues = buildLuCatalogues(state.language.textSource());
+    state.menuCommands = buildMenuCommandCatalogue(state.language.textSource());
+}
+
 void DialogTest::open(Slot slot, ActionOwner owner) {
     dialog = makeCommandDialog({state, nullptr}, {entry, slot, owner});
     if (dialog == nullptr) throw std::runtime_error("the command has no dialog");
@@ -69,15 +79,6 @@ void DialogTest::open(Slot slot, ActionOwner owner) {
 void DialogTest::openNew(CommandCode code) {
     entry = newEntry(code);
     open();
-}
-
-void DialogTest::useLanguage(const std::string& name) {
-    std::ofstream(state.settings.configDir / "language.ini")
-        << "[Language]\nLanguage=" << name << '\n';
-    const auto& settings = state.settings;
-    const auto notice =
-        state.language.load({settings.programDir, settings.configDir, settings.installDir});
-    if (notice) throw std::runtime_error(notice->text);
 }
 
 std::string DialogTest::focused() const {

@@ -31,6 +31,9 @@ void typeText(QWidget& widget, const QString& text);
 void clickOn(QWidget& widget);
 void pasteInto(QWidget& widget, const QString& text);
 
+/// Takes every text from another library from now on.
+void useLanguage(ApplicationState& state, const std::string& name);
+
 class DialogTest : public ::testing::Test {
   protected:
     DialogTest() : state(editor.state) {}
@@ -39,8 +42,6 @@ class DialogTest : public ::testing::Test {
     /// the entry.
     void open(Slot slot = Slot::Entry, ActionOwner owner = ActionOwner::None);
     void openNew(CommandCode code);
-    /// Takes every text from another library from now on.
-    void useLanguage(const std::string& name);
 
     template <class T>
     [[nodiscard]] T& widget(const char* name) {

@@ -57,7 +57,7 @@ using LookParameter = std::tuple<LookRow, std::string>;
 
 class DialogLook : public DialogTest, public ::testing::WithParamInterface<LookParameter> {
   protected:
-    DialogLook() { useLanguage(std::get<1>(GetParam())); }
+    DialogLook() { useLanguage(state, std::get<1>(GetParam())); }
 
     void openRow() {
         const LookRow& row = std::get<0>(GetParam());

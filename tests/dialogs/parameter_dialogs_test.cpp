@@ -27,6 +27,7 @@ TEST_F(DialogTest, ReturnInAFieldIsOkWhereAnotherButtonComesBeforeIt) {
     typeText(widget<QLineEdit>("file"), QStringLiteral("a.exe"));
     QTest::keyClick(&widget<QLineEdit>("file"), Qt::Key_Return);
     EXPECT_TRUE(endedWithOk());
+    EXPECT_TRUE(answers.fileDialogs.empty());
 }
 
 TEST_F(DialogTest, TheCloseBoxIsCancel) {

@@ -382,5 +382,22 @@ TEST_F(WatchForTest, RefusesInTheWordsOfTheLibraryAndOnlyAtOk) {
     EXPECT_EQ(entry.column, 7);
 }
 
+TEST_F(WatchForTest, AnActionThatCannotBeReadSurvivesAnEditOfTheText) {
+    startNew(CommandCode::WatchFor);
+    setText(slotFields(entry, Slot::Entry), "ERROR");
+    entry.thenCode = CommandCode::Type;
+    entry.hidden = 1;
+    entry.thenKept = {1, 2, 3};
+    ScriptEntry expected = entry;
+    setText(slotFields(expected, Slot::Entry), "OTHER");
+    steps.in("watchForDialog", [](const OpenDialog& d) {
+        EXPECT_EQ(d.selected("scriptEventsList"), "Type");
+        d.retype("text", "OTHER");
+        d.click("ok");
+    });
+    ASSERT_TRUE(run());
+    EXPECT_EQ(entry, expected);
+}
+
 }  // namespace
 }  // namespace quendra::test

@@ -2,8 +2,6 @@
 #include "dialogs/look_checks.h"
 #include "dialogs/search_fixture.h"
 
-#include <fstream>
-
 namespace quendra::test {
 namespace {
 
@@ -67,16 +65,7 @@ using LookParameter = std::tuple<LookRow, std::string>;
 
 class SearchLook : public SearchDialogTest, public ::testing::WithParamInterface<LookParameter> {
   protected:
-    SearchLook() {
-        const auto& settings = state.settings;
-        std::ofstream(editor.folder / "language.ini")
-            << "[Language]\nLanguage=" << std::get<1>(GetParam()) << '\n';
-        const auto notice =
-            state.language.load({settings.programDir, settings.configDir, settings.installDir});
-        if (notice) throw std::runtime_error(notice->text);
-        state.luCatalogues = buildLuCatalogues(state.language.textSource());
-        state.menuCommands = buildMenuCommandCatalogue(state.language.textSource());
-    }
+    SearchLook() { useLanguage(state, std::get<1>(GetParam())); }
 
     /// Runs the dialog, and looks at it before Cancel.
     void show(const std::function<void(QDialog&)>& look) {

@@ -165,9 +165,9 @@ TEST(ParameterRuleTest, AHiddenTextThatTheKeyDoesNotOpenIsNotLacking) {
     entry.thenKept = {1, 2, 3};
     const SlotFields action = slotFields(entry, Slot::Then);
     EXPECT_FALSE(lacksParameters(action));
-    applyChoice(action, event(CommandCode::Type), {});
+    applyChoice(entry, Slot::Then, event(CommandCode::Type), {});
     EXPECT_TRUE(entry.thenKept) << "choosing the same command again replaces nothing";
-    applyChoice(action, event(CommandCode::Goto), {});
+    applyChoice(entry, Slot::Then, event(CommandCode::Goto), {});
     EXPECT_FALSE(entry.thenKept);
     EXPECT_TRUE(lacksParameters(action));
 }
@@ -245,7 +245,7 @@ TEST(ActionChoiceTest, WhatWasChosenIsFoundAgain) {
               menuCommand(254), event(CommandCode::Beep)}) {
             ScriptEntry entry;
             const LuCatalogue& keys = catalogues().of(HostType::Mainframe);
-            applyChoice(slotFields(entry, slot), choice, keys);
+            applyChoice(entry, slot, choice, keys);
             EXPECT_EQ(choiceOf(slotFields(entry, slot), keys), choice);
             const Slot other = slot == Slot::Then ? Slot::Else : Slot::Then;
             EXPECT_EQ(slotFields(entry, other).code, CommandCode::None);
@@ -262,7 +262,7 @@ TEST(ActionChoiceTest, AHiddenTextIsNotHandedOnToACommandThatShowsIt) {
         action.code = CommandCode::Type;
         action.hidden = 1;
         setText(action, "secret");
-        applyChoice(action, choice, catalogues().of(HostType::Mainframe));
+        applyChoice(entry, Slot::Else, choice, catalogues().of(HostType::Mainframe));
         EXPECT_EQ(textOf(action), "");
         EXPECT_EQ(action.text, TextField{});
         EXPECT_EQ(action.hidden, 0);
@@ -271,8 +271,25 @@ TEST(ActionChoiceTest, AHiddenTextIsNotHandedOnToACommandThatShowsIt) {
     const SlotFields action = slotFields(open, Slot::Else);
     action.code = CommandCode::Type;
     setText(action, "hello");
-    applyChoice(action, event(CommandCode::Message), {});
+    applyChoice(open, Slot::Else, event(CommandCode::Message), {});
     EXPECT_EQ(textOf(action), "hello");
+}
+
+TEST(ActionChoiceTest, AWaitForThatTakesOverATextSearchesFromTheFirstPlace) {
+    ScriptEntry entry;
+    entry.commandCode = CommandCode::WatchFor;
+    entry.thenCode = CommandCode::Goto;
+    setText(slotFields(entry, Slot::Then), "END");
+    applyChoice(entry, Slot::Then, event(CommandCode::WaitFor), {});
+    EXPECT_FALSE(lacksParameters(slotFields(entry, Slot::Then)));
+    EXPECT_EQ(entry.searchRow, 1);
+    EXPECT_EQ(entry.searchColumn, 1);
+    EXPECT_EQ(entry.caseSensitive, 1);
+    // What a file holds stays when the same command is chosen again.
+    entry.searchRow = entry.searchColumn = entry.caseSensitive = 0;
+    const ScriptEntry before = entry;
+    applyChoice(entry, Slot::Then, event(CommandCode::WaitFor), {});
+    EXPECT_EQ(entry, before);
 }
 
 TEST(ActionRefusalTest, EveryPlaceRefusesItsCommandsInItsWords) {
