@@ -2,7 +2,7 @@
 // mnemonics, room for every text, and pictures for looking at (QUENDRA_PICTURES=FOLDER;
 // QT_SCALE_FACTOR=2 for the large ones).
 #include "app/appearance.h"
-#include "app/ui_text.h"
+#include "dialogs/dialog_fixture.h"
 #include "transfer/transfer_sheet_driver.h"
 
 #include <QApplication>
@@ -21,7 +21,7 @@ namespace {
 
 class TransferLook : public TransferSheetTest, public ::testing::WithParamInterface<const char*> {
   protected:
-    TransferLook() { speak(GetParam()); }
+    TransferLook() { useLanguage(state, GetParam()); }
 };
 
 /// What the key of each caption on the shown page leads to.
@@ -178,7 +178,7 @@ TEST_F(TransferPictures, AreDrawnOnDemand) {
     for (const auto& [appearance, look] : appearances) {
         applyAppearance(appearance);
         for (const char* language : {english, german}) {
-            speak(language);
+            useLanguage(state, language);
             for (host = 0; host < 3; ++host) {
                 draw(QStringLiteral("%1/transfer-%2-%3-host%4-x%5-%6.png")
                          .arg(folder, QLatin1String(look), QLatin1String(language))
