@@ -69,8 +69,9 @@ AdvancedPage::AdvancedPage(TransferSheetModel& model) : BoundPage(model) {
 QGroupBox* AdvancedPage::recordFormatGroup() {
     QGroupBox* box = addGroup("recordFormatGroup", text(10996), VmCmsAndTso);
     auto* grid = new QGridLayout(box);
+    grid->setColumnStretch(2, 1);
     for (std::uint8_t format = 0; format < 4; ++format)
-        grid->addWidget(control(recordFormat, format), format, 0, 1, 2);
+        grid->addWidget(control(recordFormat, format), format, 0, 1, 3);
     addLabelled(*grid, recordLength, 4);
     addLabelled(*grid, blockSize, 5);
     return box;
@@ -79,6 +80,7 @@ QGroupBox* AdvancedPage::recordFormatGroup() {
 QGroupBox* AdvancedPage::spaceGroup() {
     QGroupBox* box = addGroup("spaceGroup", text(11002), Tso);
     auto* grid = new QGridLayout(box);
+    grid->setColumnStretch(2, 1);
     for (std::uint8_t unit = 0; unit < 4; ++unit)
         grid->addWidget(control(spaceUnit, unit), unit, 0);
     grid->addWidget(control(averageBlock), averageBlocks, 1);

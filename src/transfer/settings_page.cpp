@@ -12,8 +12,6 @@
 #include <QRadioButton>
 #include <QVBoxLayout>
 
-#include <algorithm>
-
 namespace quendra {
 
 namespace {
@@ -66,8 +64,7 @@ void addButtons(QGroupBox* box, const std::vector<QWidget*>& buttons) {
 
 }  // namespace
 
-SettingsPage::SettingsPage(TransferSheetModel& model)
-    : BoundPage(model), clearScreen_(text(clearScreenText)), eraseInput_(text(eraseInputText)) {
+SettingsPage::SettingsPage(TransferSheetModel& model) : BoundPage(model) {
     setObjectName(QStringLiteral("settingsPage"));
     makeHosts();
     makeControls(table);
@@ -84,7 +81,7 @@ SettingsPage::SettingsPage(TransferSheetModel& model)
 void SettingsPage::makeHosts() {
     auto* buttons = new QButtonGroup(this);
     buttons->setObjectName(QStringLiteral("transferHostButtons"));
-    for (std::uint8_t host = 0; host < hosts_.size(); ++host) {
+    for (const std::uint8_t host : {transferHostVmCms, transferHostTso, transferHostCics}) {
         auto* radio = new QRadioButton(QLatin1String(hostNames[host]), this);
         radio->setObjectName(QStringLiteral("transferHost%1").arg(host));
         radio->setChecked(model().host == host);
@@ -107,8 +104,8 @@ void SettingsPage::chooseHost(std::uint8_t host) {
 
 void SettingsPage::load() {
     BoundPage::load();
-    auto* erase = static_cast<QCheckBox*>(control(autoEraseInput));
-    erase->setText(model().host == transferHostVmCms ? clearScreen_ : eraseInput_);
+    const StringId caption = model().host == transferHostVmCms ? clearScreenText : eraseInputText;
+    static_cast<QCheckBox*>(control(autoEraseInput))->setText(text(caption));
 }
 
 QGroupBox* SettingsPage::hostSystemGroup() {
@@ -151,15 +148,7 @@ QGroupBox* SettingsPage::transferOptionsGroup() {
     grid->addWidget(control(useLocalTranslateTables), 0, 0);
     grid->setColumnStretch(1, 1);
     addLabelled(*grid, packetSizeIndex, 0, 2);
-    // Wide enough for both of its texts, so that the sheet does not move with the host system.
-    auto* erase = static_cast<QCheckBox*>(control(autoEraseInput));
-    int width = 0;
-    for (const QString& caption : {clearScreen_, eraseInput_}) {
-        erase->setText(caption);
-        width = std::max(width, erase->sizeHint().width());
-    }
-    erase->setMinimumWidth(width);
-    grid->addWidget(erase, 1, 0, 1, 4);
+    grid->addWidget(control(autoEraseInput), 1, 0, 1, 4);
     grid->addWidget(control(showSettingsBeforeTransfer), 2, 0, 1, 4);
     return box;
 }

@@ -31,9 +31,6 @@ class SettingsPage : public BoundPage {
     void choosePcFile();
 
     std::array<QRadioButton*, 3> hosts_ = {};
-    /// The texts of the check box that erases first: on VM/CMS, and elsewhere.
-    QString clearScreen_;
-    QString eraseInput_;
 };
 
 }  // namespace quendra

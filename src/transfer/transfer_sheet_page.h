@@ -9,8 +9,9 @@
 namespace quendra {
 
 /// Opens the sheet on the state's working settings and the given host system. Every change goes
-/// into the working settings at once and stays there after Cancel. True on OK; then `host` is the
-/// host system chosen.
+/// into the working settings at once and stays there after Cancel; `direction` becomes theirs. True
+/// on OK; then `host` is the host system chosen. A sheet that cannot be made is reported to the
+/// user and gives false.
 [[nodiscard]] bool editTransferSettings(const DialogContext& context, std::uint8_t& host,
                                         TransferDirection direction);
 

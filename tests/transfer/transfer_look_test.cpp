@@ -2,7 +2,7 @@
 // mnemonics, room for every text, and pictures for looking at (QUENDRA_PICTURES=FOLDER;
 // QT_SCALE_FACTOR=2 for the large ones).
 #include "app/appearance.h"
-#include "app/ui_text.h"
+#include "dialogs/dialog_fixture.h"
 #include "transfer/transfer_sheet_driver.h"
 
 #include <QApplication>
@@ -21,7 +21,7 @@ namespace {
 
 class TransferLook : public TransferSheetTest, public ::testing::WithParamInterface<const char*> {
   protected:
-    TransferLook() { speak(GetParam()); }
+    TransferLook() { useLanguage(state, GetParam()); }
 };
 
 /// What the key of each caption on the shown page leads to.
@@ -58,24 +58,49 @@ TEST_P(TransferLook, EveryCaptionHasAKeyOfItsOwn) {
     });
 }
 
+void expectKeysLead(OpenSheet& sheet) {
+    for (const auto& [key, target] : mnemonics(sheet)) {
+        if (!target->isEnabled()) continue;
+        // "Alt+X": the last character is the key.
+        QTest::keyClick(sheet.dialog.focusWidget(), key.back().toLatin1(), Qt::AltModifier);
+        // A push button goes down without taking the focus.
+        const auto* button = qobject_cast<QPushButton*>(target);
+        const bool pressed = button != nullptr && button->isDown();
+        EXPECT_TRUE(pressed || target->hasFocus()) << key.toStdString();
+    }
+}
+
 TEST_P(TransferLook, KeysLeadToTheirFields) {
     for (host = 0; host < 3; ++host) {
         for (int page : {0, 1}) {
             open([page](OpenSheet& sheet) {
                 sheet.showPage(page);
-                for (const auto& [key, target] : mnemonics(sheet)) {
-                    if (!target->isEnabled()) continue;
-                    // "Alt+X": the last character is the key.
-                    QTest::keyClick(sheet.dialog.focusWidget(), key.back().toLatin1(),
-                                    Qt::AltModifier);
-                    // A push button goes down without taking the focus.
-                    const auto* button = qobject_cast<QPushButton*>(target);
-                    const bool pressed = button != nullptr && button->isDown();
-                    EXPECT_TRUE(pressed || target->hasFocus()) << key.toStdString();
-                }
+                expectKeysLead(sheet);
             });
         }
     }
+}
+
+TEST_P(TransferLook, TabGoesThroughTheFieldsAsTheyStand) {
+    constexpr const char* orders[] = {
+        "transferHost0 hostFileName fileType fileMode pcFileName browse binary0 crlf append "
+        "useLocalTranslateTables packetSizeIndex autoEraseInput showSettingsBeforeTransfer ok "
+        "cancel ",
+        "recordFormat0 recordLength transferProgramName additionalParameters arabicProcessing "
+        "pcCodePageIndex ok cancel "};
+    open([&](OpenSheet& sheet) {
+        for (int page : {0, 1}) {
+            sheet.showPage(page);
+            const auto* first = page == 0 ? "transferHost0" : "recordFormat0";
+            sheet.widget<QWidget>(QLatin1String(first)).setFocus();
+            std::string order;
+            do {
+                order += sheet.dialog.focusWidget()->objectName().toStdString() + ' ';
+                QTest::keyClick(sheet.dialog.focusWidget(), Qt::Key_Tab);
+            } while (!order.ends_with("cancel ") && order.size() < 500);
+            EXPECT_EQ(order, orders[page]);
+        }
+    });
 }
 
 void expectRoom(OpenSheet& sheet) {
@@ -106,7 +131,7 @@ TEST_P(TransferLook, NothingIsCutOffAndTheSheetKeepsItsSize) {
 }
 
 TEST_P(TransferLook, NotesHaveRoom) {
-    open([this](OpenSheet& sheet) {
+    open([](OpenSheet& sheet) {
         const auto& note = sheet.widget<QLabel>(QStringLiteral("note"));
         const auto expectShown = [&note] {
             EXPECT_FALSE(note.text().isEmpty());
@@ -153,7 +178,7 @@ TEST_F(TransferPictures, AreDrawnOnDemand) {
     for (const auto& [appearance, look] : appearances) {
         applyAppearance(appearance);
         for (const char* language : {english, german}) {
-            speak(language);
+            useLanguage(state, language);
             for (host = 0; host < 3; ++host) {
                 draw(QStringLiteral("%1/transfer-%2-%3-host%4-x%5-%6.png")
                          .arg(folder, QLatin1String(look), QLatin1String(language))

@@ -12,8 +12,6 @@
 #include <QTabWidget>
 #include <QTimer>
 
-#include <fstream>
-
 namespace quendra::test {
 
 bool OpenSheet::isEnabled(const char* name) {
@@ -75,14 +73,6 @@ bool TransferSheetTest::open(const std::function<void(OpenSheet&)>& work) {
         if (dialog->isVisible()) dialog->reject();
     });
     return editTransferSettings({state, nullptr}, host, TransferDirection::Send);
-}
-
-void TransferSheetTest::speak(const char* language) {
-    std::ofstream(state.settings.configDir / "language.ini")
-        << "[language]\nLanguage=" << language << "\n";
-    const auto notice = state.language.load(
-        {state.settings.programDir, state.settings.configDir, state.settings.installDir});
-    ASSERT_FALSE(notice) << notice->text;
 }
 
 std::string TransferSheetTest::stored(const TransferField& field) const {

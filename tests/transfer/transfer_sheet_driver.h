@@ -48,7 +48,6 @@ class TransferSheetTest : public ::testing::Test {
     /// a sheet that is still open behind that is cancelled. Gives the result, and the host system
     /// in `host`.
     bool open(const std::function<void(OpenSheet&)>& work);
-    void speak(const char* language);
 
     [[nodiscard]] std::string stored(const TransferField& field) const;
     [[nodiscard]] std::uint32_t number(const TransferField& field) const;
