@@ -80,8 +80,12 @@ TEST(WipeApplication, LetsGoOfEverything) {
     const EntryHandle entry = storeRecord(bytesOf("\x04"));
     state.script.entries.assign(3, entry);
     state.entryClipboard.assign(2, entry);
+    state.document.saved = state.script;
+    state.history.record({}, {state.script, {}}, "Insert");
     wipeApplication(state);
     EXPECT_TRUE(state.script.entries.empty());
+    EXPECT_TRUE(state.document.saved.entries.empty()) << "it would keep the records alive";
+    EXPECT_FALSE(state.history.canUndo());
     EXPECT_TRUE(state.entryClipboard.empty());
     EXPECT_TRUE(state.luCatalogues.of(HostType::Mainframe).rows.empty());
     EXPECT_EQ(state.menuCommands.names.front(), "");
