@@ -2593,6 +2593,91 @@
         <extracomment>Message: hidden text that cannot be enciphered; the entry follows</extracomment>
         <translation>The hidden text of this entry cannot be enciphered: there is no usable key.</translation>
     </message>
+    <message id="15319">
+        <source>Copy as Te&amp;xt</source>
+        <extracomment>Menu: Edit, Copy as Text</extracomment>
+        <translation>Copy as Te&amp;xt</translation>
+    </message>
+    <message id="15320">
+        <source>Copy as Text</source>
+        <extracomment>Tooltip: Copy as Text</extracomment>
+        <translation>Copy as Text</translation>
+    </message>
+    <message id="15321">
+        <source>Copies the lines of the selected entries for other programs; hidden texts stay hidden.</source>
+        <extracomment>Status bar: Copy as Text</extracomment>
+        <translation>Copies the lines of the selected entries for other programs; hidden texts stay hidden.</translation>
+    </message>
+    <message id="15322">
+        <source>Insert Sc&amp;ript...</source>
+        <extracomment>Menu: Entry, Insert Script</extracomment>
+        <translation>Insert Sc&amp;ript...</translation>
+    </message>
+    <message id="15323">
+        <source>Insert Script</source>
+        <extracomment>Tooltip: Insert Script; also the title of its file dialog, and its name as a step that Undo and Redo name</extracomment>
+        <translation>Insert Script</translation>
+    </message>
+    <message id="15324">
+        <source>Inserts all entries of another script file; that file stays as it is.</source>
+        <extracomment>Status bar: Insert Script</extracomment>
+        <translation>Inserts all entries of another script file; that file stays as it is.</translation>
+    </message>
+    <message id="15325">
+        <source>%d of %d entries inserted: the script is full</source>
+        <extracomment>Status bar after Insert Script: number of inserted entries, number of entries in the file</extracomment>
+        <translation>%d of %d entries inserted: the script is full</translation>
+    </message>
+    <message id="15326">
+        <source>&amp;Find...</source>
+        <extracomment>Menu: Edit, Find</extracomment>
+        <translation>&amp;Find...</translation>
+    </message>
+    <message id="15327">
+        <source>Find</source>
+        <extracomment>Tooltip: Find; also the empty search field</extracomment>
+        <translation>Find</translation>
+    </message>
+    <message id="15328">
+        <source>Finds entries by their texts.</source>
+        <extracomment>Status bar: Find</extracomment>
+        <translation>Finds entries by their texts.</translation>
+    </message>
+    <message id="15329">
+        <source>Previous match</source>
+        <extracomment>Find bar: button</extracomment>
+        <translation>Previous match</translation>
+    </message>
+    <message id="15330">
+        <source>Next match</source>
+        <extracomment>Find bar: button</extracomment>
+        <translation>Next match</translation>
+    </message>
+    <message id="15331">
+        <source>%d of %d</source>
+        <extracomment>Find bar: number of the current match, number of matches</extracomment>
+        <translation>%d of %d</translation>
+    </message>
+    <message id="15332">
+        <source>Not found</source>
+        <extracomment>Find bar: there is no match</extracomment>
+        <translation>Not found</translation>
+    </message>
+    <message id="15333">
+        <source>%d found</source>
+        <extracomment>Find bar: number of matches, none of them current</extracomment>
+        <translation>%d found</translation>
+    </message>
+    <message id="15334">
+        <source>Close</source>
+        <extracomment>Find bar: button</extracomment>
+        <translation>Close</translation>
+    </message>
+    <message id="15335">
+        <source>The inserted script was written for %s: check its LU functions</source>
+        <extracomment>Status bar after Insert Script; %s is the mode of the inserted script, as “VT”</extracomment>
+        <translation>The inserted script was written for %s: check its LU functions</translation>
+    </message>
     <message id="16001">
         <source>The character %s cannot be stored in a script.</source>
         <extracomment>Note under a field: a character that scripts cannot hold was typed or pasted</extracomment>

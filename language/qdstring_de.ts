@@ -2593,6 +2593,91 @@
         <extracomment>Message: hidden text that cannot be enciphered; the entry follows</extracomment>
         <translation>Der verborgene Text dieses Eintrags kann nicht verschlüsselt werden: Es gibt keinen brauchbaren Schlüssel.</translation>
     </message>
+    <message id="15319">
+        <source>Copy as Te&amp;xt</source>
+        <extracomment>Menu: Edit, Copy as Text</extracomment>
+        <translation>Als &amp;Text kopieren</translation>
+    </message>
+    <message id="15320">
+        <source>Copy as Text</source>
+        <extracomment>Tooltip: Copy as Text</extracomment>
+        <translation>Als Text kopieren</translation>
+    </message>
+    <message id="15321">
+        <source>Copies the lines of the selected entries for other programs; hidden texts stay hidden.</source>
+        <extracomment>Status bar: Copy as Text</extracomment>
+        <translation>Kopiert die Zeilen der ausgewählten Einträge für andere Programme; verborgene Texte bleiben verborgen.</translation>
+    </message>
+    <message id="15322">
+        <source>Insert Sc&amp;ript...</source>
+        <extracomment>Menu: Entry, Insert Script</extracomment>
+        <translation>S&amp;kript einfügen...</translation>
+    </message>
+    <message id="15323">
+        <source>Insert Script</source>
+        <extracomment>Tooltip: Insert Script; also the title of its file dialog, and its name as a step that Undo and Redo name</extracomment>
+        <translation>Skript einfügen</translation>
+    </message>
+    <message id="15324">
+        <source>Inserts all entries of another script file; that file stays as it is.</source>
+        <extracomment>Status bar: Insert Script</extracomment>
+        <translation>Fügt alle Einträge einer anderen Skriptdatei ein; diese Datei bleibt, wie sie ist.</translation>
+    </message>
+    <message id="15325">
+        <source>%d of %d entries inserted: the script is full</source>
+        <extracomment>Status bar after Insert Script: number of inserted entries, number of entries in the file</extracomment>
+        <translation>%d von %d Einträgen eingefügt: Das Skript ist voll</translation>
+    </message>
+    <message id="15326">
+        <source>&amp;Find...</source>
+        <extracomment>Menu: Edit, Find</extracomment>
+        <translation>&amp;Suchen...</translation>
+    </message>
+    <message id="15327">
+        <source>Find</source>
+        <extracomment>Tooltip: Find; also the empty search field</extracomment>
+        <translation>Suchen</translation>
+    </message>
+    <message id="15328">
+        <source>Finds entries by their texts.</source>
+        <extracomment>Status bar: Find</extracomment>
+        <translation>Findet Einträge nach ihren Texten.</translation>
+    </message>
+    <message id="15329">
+        <source>Previous match</source>
+        <extracomment>Find bar: button</extracomment>
+        <translation>Vorheriger Treffer</translation>
+    </message>
+    <message id="15330">
+        <source>Next match</source>
+        <extracomment>Find bar: button</extracomment>
+        <translation>Nächster Treffer</translation>
+    </message>
+    <message id="15331">
+        <source>%d of %d</source>
+        <extracomment>Find bar: number of the current match, number of matches</extracomment>
+        <translation>%d von %d</translation>
+    </message>
+    <message id="15332">
+        <source>Not found</source>
+        <extracomment>Find bar: there is no match</extracomment>
+        <translation>Nicht gefunden</translation>
+    </message>
+    <message id="15333">
+        <source>%d found</source>
+        <extracomment>Find bar: number of matches, none of them current</extracomment>
+        <translation>%d gefunden</translation>
+    </message>
+    <message id="15334">
+        <source>Close</source>
+        <extracomment>Find bar: button</extracomment>
+        <translation>Schließen</translation>
+    </message>
+    <message id="15335">
+        <source>The inserted script was written for %s: check its LU functions</source>
+        <extracomment>Status bar after Insert Script; %s is the mode of the inserted script, as “VT”</extracomment>
+        <translation>Das eingefügte Skript ist für %s geschrieben: Prüfen Sie seine LU-Funktionen</translation>
+    </message>
     <message id="16001">
         <source>The character %s cannot be stored in a script.</source>
         <extracomment>Note under a field: a character that scripts cannot hold was typed or pasted</extracomment>

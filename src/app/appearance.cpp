@@ -115,7 +115,7 @@ QPalette appearancePalette(Appearance appearance) {
     return paletteOf(appearance == Appearance::Dark ? darkColours : lightColours);
 }
 
-void applyAppearance(QApplication& application, Appearance appearance) {
+void applyAppearance(Appearance appearance) {
     if (appearance == Appearance::Platform) {
         appearance = isDark(QApplication::palette()) ? Appearance::Dark : Appearance::Light;
     }

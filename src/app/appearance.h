@@ -15,7 +15,7 @@ enum class Appearance {
 };
 
 /// Sets style and palette of the application; called once, before the first widget.
-void applyAppearance(QApplication& application, Appearance appearance);
+void applyAppearance(Appearance appearance);
 
 /// The palettes, for those who want to test contrasts. Never Platform.
 [[nodiscard]] QPalette appearancePalette(Appearance appearance);

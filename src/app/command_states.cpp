@@ -56,8 +56,10 @@ bool isCommandEnabled(int id, const CommandFacts& facts) {
     switch (id) {
         case command::save:
         case command::saveAs: return facts.entryCount > 0;
+        case command::find: return facts.entryCount > 0;
         case command::cut:
         case command::copy:
+        case command::copyAsText:
         case command::deleteEntries: return facts.selectedCount > 0;
         case command::paste: return facts.clipboardCount > 0;
         case command::insertScriptEvent: return facts.selectedEvent.has_value();

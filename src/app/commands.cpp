@@ -34,12 +34,16 @@ constexpr CommandInfo table[] = {
     {about, 11202, 11206, 13699, ""},
     {undo, 15301, 15305, 15309, "Ctrl+Z"},
     {redo, 15303, 15307, 15310, "Ctrl+Shift+Z; Ctrl+Y"},
+    {find, 15326, 15327, 15328, "Ctrl+F"},
+    {copyAsText, 15319, 15320, 15321, "Ctrl+Shift+C"},
+    {insertScript, 15322, 15323, 15324, "Ctrl+Shift+O"},
 };
 
 constexpr int fileItems[] = {newScript, open, save, saveAs, separator, command::exit};
-constexpr int editItems[] = {undo, redo, separator, cut, copy, paste};
-constexpr int entryItems[] = {insertScriptEvent, insertLuFunction, insertMenuCommand, separator,
-                              editEntry,         separator,        deleteEntries};
+constexpr int editItems[] = {undo, redo, separator, cut, copy, copyAsText, paste, separator, find};
+constexpr int entryItems[] = {
+    insertScriptEvent, insertLuFunction, insertMenuCommand, command::insertScript,
+    separator,         editEntry,        separator,         deleteEntries};
 constexpr int modeItems[] = {313, 314, 315, 316, 317, 318};
 constexpr int helpItems[] = {help, separator, about};
 

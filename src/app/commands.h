@@ -32,6 +32,9 @@ inline constexpr int help = 319;
 inline constexpr int about = 320;
 inline constexpr int undo = 321;
 inline constexpr int redo = 322;
+inline constexpr int find = 323;
+inline constexpr int copyAsText = 324;
+inline constexpr int insertScript = 325;
 /// Stands for a separator in menus and toolbar.
 inline constexpr int separator = 0;
 }  // namespace command

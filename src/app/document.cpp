@@ -188,6 +188,14 @@ OpenOutcome openDocumentAtStart(ApplicationState& state, const fs::path& path) {
     return outcome;
 }
 
+OtherScript readOtherScript(ApplicationState& state, const fs::path& path) {
+    LoadedScript loaded = loadScriptFile(path);
+    if (auto refusal = openRefusal(state, path, loaded)) return {{}, {}, std::move(refusal), {}};
+    std::string note = loadNote(state, loaded.read, std::nullopt);
+    return {std::move(loaded.read.script), loaded.read.signature.hostType, std::nullopt,
+            std::move(note)};
+}
+
 std::vector<Message> questionsBeforeSave(ApplicationState& state, const fs::path& path) {
     std::vector<Message> questions;
     if (changedOnDisk(state.document, path)) {

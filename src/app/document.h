@@ -46,6 +46,20 @@ struct OpenOutcome {
 [[nodiscard]] OpenOutcome openDocumentAtStart(ApplicationState& state,
                                               const std::filesystem::path& path);
 
+/// The entries of a script file that is not opened for it.
+struct OtherScript {
+    Script script;
+    HostType hostType = HostType::Mainframe;
+    /// The file was refused, and there are no entries.
+    std::optional<Message> refusal;
+    /// For the status bar; empty when there is nothing to tell.
+    std::string note;
+};
+
+/// Reads a script file of any version, and leaves file and document as they are.
+[[nodiscard]] OtherScript readOtherScript(ApplicationState& state,
+                                          const std::filesystem::path& path);
+
 /// What has to be answered with Yes, in this order, before the script may be saved at `path`: the
 /// file has changed on disk since it was loaded; the host type cannot store some entries.
 [[nodiscard]] std::vector<Message> questionsBeforeSave(ApplicationState& state,

@@ -19,6 +19,8 @@ struct EditingCommands {
     std::function<void()> insertMenuCommand;
     std::function<void()> editCurrentEntry;
     std::function<void()> deleteEntries;
+    std::function<void()> copyAsText;
+    std::function<void()> insertScript;
 };
 
 }  // namespace quendra

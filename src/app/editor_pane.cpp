@@ -205,9 +205,11 @@ void EditorPane::Private::rebuild() {
     list.doItemsLayout();
     list.verticalScrollBar()->setValue(scrolled);
     const QModelIndex current = scriptModel_->index(state_.currentIndex, 0);
-    if (!current.isValid()) return;
-    list.selectionModel()->setCurrentIndex(current, QItemSelectionModel::ClearAndSelect);
-    list.scrollTo(current);
+    if (current.isValid()) {
+        list.selectionModel()->setCurrentIndex(current, QItemSelectionModel::ClearAndSelect);
+        list.scrollTo(current);
+    }
+    Q_EMIT pane_.listRebuilt();
 }
 
 void EditorPane::Private::select(std::span<const std::size_t> entries, int focused) {
@@ -372,6 +374,10 @@ int EditorPane::focusedEntry() const {
 
 void EditorPane::selectEntries(std::span<const std::size_t> entries, int focused) {
     d_->select(entries, focused);
+}
+
+void EditorPane::markEntries(std::vector<std::size_t> entries) {
+    d_->scriptModel_->markRows(std::move(entries));
 }
 
 int EditorPane::selectedRow(Palette palette) const {

@@ -37,6 +37,8 @@ class EditorPane : public QWidget {
     /// Selects exactly these entries in one change and focuses `focused` (-1 for none), scrolled
     /// into view.
     void selectEntries(std::span<const std::size_t> entries, int focused);
+    /// Marks these entries (ascending), and no others, as found by a search.
+    void markEntries(std::vector<std::size_t> entries);
     /// The selected row of a palette, -1 for none.
     [[nodiscard]] int selectedRow(Palette palette) const;
     [[nodiscard]] QString paletteText(Palette palette, int row) const;
@@ -55,6 +57,8 @@ class EditorPane : public QWidget {
     void commandRequested(int command);
     /// A selection or the focused entry changed in any of the four lists.
     void selectionChanged();
+    /// The script list shows the script anew; its marks stand where they stood.
+    void listRebuilt();
     /// A drag or Ctrl with an arrow key is going to move entries.
     void entriesAboutToMove();
     /// It has moved them; script, selection and currentIndex are as they end.

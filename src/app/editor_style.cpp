@@ -135,6 +135,7 @@ void EditorStyle::drawControl(ControlElement element, const QStyleOption* option
 int EditorStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                            QStyleHintReturn* returnData) const {
     if (hint == SH_DialogButtonBox_ButtonsHaveIcons) return 0;
+    if (hint == SH_LineEdit_PasswordCharacter) return '*';
     return QProxyStyle::styleHint(hint, option, widget, returnData);
 }
 

@@ -6,8 +6,9 @@
 namespace quendra {
 
 /// Lists have an edge that shows on dark too, show that they have the focus, and show their
-/// selection quietly when they have not. Buttons have no pictures, messages have plain ones, and
-/// the toolbar no line of its own, since the pane below draws one.
+/// selection quietly when they have not. Buttons have no pictures, messages have plain ones, the
+/// toolbar no line of its own, since the pane below draws one, and a hidden text is asterisks, as
+/// in the script list.
 class EditorStyle : public QProxyStyle {
     Q_OBJECT
 

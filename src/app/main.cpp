@@ -63,7 +63,7 @@ void applyCommandLine(MainWindow& window, const CommandLine& line) {
 int runWindow(ApplicationState& state, ShownWindow& shown, EditorListener* listener,
               const CommandLine& line, const PictureOptions& picture) {
     MainWindow window(state);
-    const ScriptEditor editor(state, window, {});
+    const ScriptEditor editor(state, window, editParameters);
     shown = {&state, &window};
     std::unique_ptr<QSocketNotifier> asked;
     if (listener && listener->descriptor() >= 0) {
@@ -93,7 +93,7 @@ int runEditor(int& argc, char** argv, const CommandLine& line, const PictureOpti
     prepareToolkit(inputs.environment, picture);
     QApplication application(argc, argv);
     QGuiApplication::setDesktopFileName(QStringLiteral("quendra-script-editor"));
-    applyAppearance(application, picture.appearance);
+    applyAppearance(picture.appearance);
 
     const StartupSettings settings = readStartupSettings(inputs);
     useToolkitLanguage(settings.configDir);

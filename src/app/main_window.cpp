@@ -4,6 +4,7 @@
 #include "app/command_states.h"
 #include "app/commands.h"
 #include "app/file_dialogs.h"
+#include "app/find_bar.h"
 #include "app/placement.h"
 #include "app/status_line.h"
 #include "app/symbol_icon.h"
@@ -49,7 +50,7 @@ void runIfSet(const std::function<void()>& operation) {
 // Qt's own buttons for what a narrow window has no room for.
 void nameExtensionButtons(QWidget& window) {
     for (const char* name : {"qt_toolbar_ext_button", "qt_menubar_ext_button"}) {
-        if (auto* button = window.findChild<QWidget*>(QLatin1String(name))) {
+        for (auto* button : window.findChildren<QWidget*>(QLatin1String(name))) {
             button->setAccessibleName(QStringLiteral("More commands"));
         }
     }
@@ -66,9 +67,12 @@ MainWindow::MainWindow(ApplicationState& state, QWidget* parent)
     buildMenus();
     buildToolBar();
     buildStatusBar();
-    nameExtensionButtons(*this);
     pane_ = new EditorPane(state_, this);
     setCentralWidget(pane_);
+    findBar_ = new FindBar(state_, *pane_, this);
+    addToolBar(Qt::BottomToolBarArea, findBar_);
+    findBar_->hide();
+    nameExtensionButtons(*this);
     connect(pane_, &EditorPane::commandRequested, this, &MainWindow::runCommand);
     connect(pane_, &EditorPane::selectionChanged, this, &MainWindow::updateCommandStates);
     connect(
@@ -157,11 +161,14 @@ void MainWindow::placeOnScreen() {
 
 void MainWindow::runCommand(int command) {
     if (!refusedAtLimit(command)) dispatch(command);
-    pane_->takeFocus();
+    // Find is typed into its bar.
+    if (command != command::find) pane_->takeFocus();
 }
 
 bool MainWindow::refusedAtLimit(int command) {
-    if (command < command::paste || command > command::insertMenuCommand) return false;
+    const bool inserts = (command >= command::paste && command <= command::insertMenuCommand) ||
+                         command == command::insertScript;
+    if (!inserts) return false;
     if (!state_.script.isFull()) return false;
     // The insert that would have used it up does not come.
     state_.dropPending = false;
@@ -180,6 +187,7 @@ void MainWindow::dispatch(int command) {
         case command::saveAs: saveAs(); return;
         case command::exit: QMetaObject::invokeMethod(this, "close", Qt::QueuedConnection); return;
         case command::help: return runIfSet(showHelp_);
+        case command::find: return findBar_->open();
         case command::about: AboutBox(state_.language, this).exec(); return;
         default: return dispatchEditing(command);
     }
@@ -197,6 +205,8 @@ void MainWindow::dispatchEditing(int command) {
         case command::insertMenuCommand: return runIfSet(editing_.insertMenuCommand);
         case command::editEntry: return runIfSet(editing_.editCurrentEntry);
         case command::deleteEntries: return runIfSet(editing_.deleteEntries);
+        case command::copyAsText: return runIfSet(editing_.copyAsText);
+        case command::insertScript: return runIfSet(editing_.insertScript);
         default: return;
     }
 }

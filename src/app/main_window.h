@@ -19,6 +19,7 @@ class QToolBar;
 
 namespace quendra {
 
+class FindBar;
 class StatusLine;
 
 class MainWindow : public QMainWindow {
@@ -98,6 +99,7 @@ class MainWindow : public QMainWindow {
     std::map<int, QAction*> actions_;
     QToolBar* toolBar_ = nullptr;
     EditorPane* pane_ = nullptr;
+    FindBar* findBar_ = nullptr;
     StatusLine* statusLine_ = nullptr;
     std::string note_;
 };

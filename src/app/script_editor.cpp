@@ -2,10 +2,14 @@
 
 #include "app/command_states.h"
 #include "app/document.h"
+#include "app/file_dialogs.h"
 #include "app/main_window.h"
 #include "app/message_box.h"
 #include "app/ui_text.h"
 #include "platform/text_encoding.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
 
 #include <utility>
 
@@ -18,6 +22,9 @@ constexpr StringId deleteStep = 15312;
 constexpr StringId cutStep = 15313;
 constexpr StringId pasteStep = 15314;
 constexpr StringId moveStep = 15315;
+constexpr StringId insertScriptText = 15323;
+constexpr StringId scriptFullText = 15325;
+constexpr StringId otherModeText = 15335;
 
 // "Insert Script Event %s" and its like, by palette.
 constexpr StringId insertSteps[] = {13701, 13702, 13703};
@@ -65,6 +72,8 @@ EditingCommands ScriptEditor::commands() {
                [this] { return libraryText(state_.language, editStep); });
     };
     commands.deleteEntries = [this] { removeSelected(deleteStep, quendra::deleteEntries); };
+    commands.copyAsText = [this] { copyAsText(); };
+    commands.insertScript = [this] { insertOtherScript(); };
     return commands;
 }
 
@@ -94,6 +103,48 @@ void ScriptEditor::paste() {
     const std::size_t before = state_.script.entryCount();
     change([this] { return quendra::pasteEntries(state_, *this); },
            [&] { return countedName(pasteStep, state_.script.entryCount() - before); });
+}
+
+void ScriptEditor::copyAsText() {
+    QString text;
+    for (const std::size_t entry : selectedEntries()) {
+        text += window_.pane().entryText(static_cast<int>(entry)) + u'\n';
+    }
+    if (!text.isEmpty()) QGuiApplication::clipboard()->setText(text);
+}
+
+void ScriptEditor::insertOtherScript() {
+    const auto path =
+        chooseFile(&window_, {FileDialogMode::Open, libraryText(state_.language, insertScriptText),
+                              "Quendra Script Files(*.qds)", "qds", state_.settings.scriptsDir});
+    if (!path) return;
+    const OtherScript other = readOtherScript(state_, *path);
+    if (other.refusal) return showMessage(&window_, *other.refusal);
+    std::size_t inserted = 0;
+    change(
+        [&] {
+            inserted = quendra::insertScript(state_, *this, other.script.entries);
+            return inserted > 0;
+        },
+        [this] { return libraryText(state_.language, insertScriptText); });
+    window_.showNote(insertedNote(other, inserted));
+}
+
+std::string ScriptEditor::insertedNote(const OtherScript& other, std::size_t inserted) const {
+    std::string note = other.note;
+    const auto add = [&note](const std::string& text) {
+        note += (note.empty() ? "" : "; ") + text;
+    };
+    const std::size_t count = other.script.entryCount();
+    if (inserted < count) {
+        add(libraryText(state_.language, scriptFullText,
+                        {std::to_string(inserted), std::to_string(count)}));
+    }
+    if (other.hostType != state_.currentHostType) {
+        add(libraryText(state_.language, otherModeText,
+                        {std::string(hostTypeInfo(other.hostType).name)}));
+    }
+    return note;
 }
 
 void ScriptEditor::removeSelected(StringId name, bool (*operation)(EditingState&, EditingView&)) {

@@ -14,6 +14,7 @@
 namespace quendra {
 
 class MainWindow;
+struct OtherScript;
 
 /// Opens the dialog of a command, as editParameters does. An empty one answers Cancel.
 using EditParameters = std::function<bool(const DialogContext&, const EditTarget&)>;
@@ -47,9 +48,12 @@ class ScriptEditor : public QObject, private EditingView {
     void insert(Palette palette, bool (*operation)(EditingState&, EditingView&));
     void copy();
     void paste();
+    void copyAsText();
+    void insertOtherScript();
     void removeSelected(StringId name, bool (*operation)(EditingState&, EditingView&));
     void takeStep(std::optional<EntrySelection> (UndoHistory::*step)(Script&));
     void recordMove();
+    [[nodiscard]] std::string insertedNote(const OtherScript& other, std::size_t inserted) const;
     [[nodiscard]] ScriptView currentView() const;
     [[nodiscard]] std::string countedName(StringId name, std::size_t count) const;
 

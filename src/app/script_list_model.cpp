@@ -4,12 +4,26 @@
 #include "platform/text_encoding.h"
 #include "scriptfile/entry_codec.h"
 
+#include <QBrush>
+#include <QGuiApplication>
+#include <QPalette>
+
+#include <algorithm>
+#include <utility>
+
 namespace quendra {
 namespace {
 
 QString lineOf(const ScriptEntry& entry, const ApplicationState& state) {
     return QString::fromStdString(
         escapeControlCharacters(formatEntryLine(entry, state.displayNames())));
+}
+
+// Faint enough for the text of either palette to stay readable on it.
+QBrush markBrush() {
+    QColor colour = accentColor(QGuiApplication::palette());
+    colour.setAlpha(56);
+    return colour;
 }
 
 }  // namespace
@@ -25,6 +39,12 @@ void ScriptListModel::reload() {
     endResetModel();
 }
 
+void ScriptListModel::markRows(std::vector<std::size_t> rows) {
+    if (rows == marked_) return;
+    marked_ = std::move(rows);
+    if (rows_ > 0) Q_EMIT dataChanged(index(0), index(rows_ - 1), {Qt::BackgroundRole});
+}
+
 int ScriptListModel::rowCount(const QModelIndex& parent) const {
     return parent.isValid() ? 0 : rows_;
 }
@@ -32,6 +52,9 @@ int ScriptListModel::rowCount(const QModelIndex& parent) const {
 QVariant ScriptListModel::data(const QModelIndex& index, int role) const {
     const auto row = static_cast<std::size_t>(index.row());
     if (!index.isValid() || row >= state_.script.entryCount()) return {};
+    if (role == Qt::BackgroundRole) {
+        return std::ranges::binary_search(marked_, row) ? QVariant(markBrush()) : QVariant();
+    }
     if (role != Qt::DisplayRole && role != Qt::DecorationRole && role != Qt::ToolTipRole) return {};
     const ScriptEntry entry = unpackEntry(state_.script.entries[row], state_.cipher);
     switch (role) {

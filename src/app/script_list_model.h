@@ -5,6 +5,8 @@
 
 #include <QAbstractListModel>
 
+#include <vector>
+
 namespace quendra {
 
 class ScriptListModel : public QAbstractListModel {
@@ -18,6 +20,9 @@ class ScriptListModel : public QAbstractListModel {
     /// whatever happens to the script.
     void reload();
 
+    /// Marks these rows (ascending), and no others, with a background of their own.
+    void markRows(std::vector<std::size_t> rows);
+
     [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
     /// The display text is one line, with control characters escaped; the tool tip is the same
     /// text, ready to wrap.
@@ -26,6 +31,7 @@ class ScriptListModel : public QAbstractListModel {
   private:
     const ApplicationState& state_;
     int rows_ = 0;
+    std::vector<std::size_t> marked_;
 };
 
 /// A tool tip that shows exactly this text, wrapped where it is too long for one line.

@@ -3,6 +3,7 @@
 #include "app/placement.h"
 #include "app/symbol_icon.h"
 #include "app/ui_text.h"
+#include "dialogs/input_note.h"
 
 #include <QAccessible>
 #include <QApplication>
@@ -23,10 +24,6 @@ namespace {
 
 constexpr StringId cancelText = 10167;
 constexpr StringId requiredText = 13744;
-constexpr StringId foreignCharacterText = 16001;
-constexpr StringId lengthText = 16002;
-constexpr StringId hiddenLengthText = 16003;
-constexpr StringId rangeTextId = 16004;
 constexpr StringId outOfRangeText = 16005;
 
 constexpr int pictureSide = 32;
@@ -138,7 +135,6 @@ void ParameterDialog::addButtons(const QString& okText) {
 
     auto* ok = new QPushButton(okText);
     ok->setObjectName(QStringLiteral("ok"));
-    ok->setDefault(true);
     auto* cancel = new QPushButton(text(cancelText));
     cancel->setObjectName(QStringLiteral("cancel"));
     auto* buttons = new QDialogButtonBox;
@@ -148,6 +144,8 @@ void ParameterDialog::addButtons(const QString& okText) {
     connect(buttons, &QDialogButtonBox::accepted, this, &ParameterDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &ParameterDialog::reject);
     all.addWidget(buttons);
+    // Not before the button is in the dialog, which would else take the first one, such as Browse.
+    ok->setDefault(true);
 }
 
 void ParameterDialog::registerField(QWidget* field, const char* name) {
@@ -197,9 +195,7 @@ QString ParameterDialog::rangeText(const QWidget* field) const {
     const NumberRange* range = nullptr;
     if (const auto* number = qobject_cast<const NumberEdit*>(field)) range = &number->range();
     if (const auto* spin = qobject_cast<const SpinEdit*>(field)) range = &spin->range();
-    if (range == nullptr) return {};
-    return qtText(libraryText(context_.state.language, rangeTextId,
-                              {std::to_string(range->smallest), std::to_string(range->largest)}));
+    return range == nullptr ? QString() : rangeNote(context_.state.language, *range);
 }
 
 void ParameterDialog::showRange() {
@@ -207,21 +203,8 @@ void ParameterDialog::showRange() {
 }
 
 void ParameterDialog::showFault(const QWidget* field, const InputFault& fault) {
-    LanguageLibrary& language = context_.state.language;
-    const std::string limit = std::to_string(fault.limit);
-    switch (fault.kind) {
-        case InputFault::Kind::Character:
-            showNote(qtText(
-                libraryText(language, foreignCharacterText, {fault.character.toStdString()})));
-            break;
-        case InputFault::Kind::Length:
-            showNote(qtText(libraryText(language, lengthText, {limit})));
-            break;
-        case InputFault::Kind::HiddenLength:
-            showNote(qtText(libraryText(language, hiddenLengthText, {limit})));
-            break;
-        case InputFault::Kind::Number: showNote(rangeText(field)); break;
-    }
+    const bool isNumber = fault.kind == InputFault::Kind::Number;
+    showNote(isNumber ? rangeText(field) : faultNote(context_.state.language, fault));
     QApplication::beep();
 }
 

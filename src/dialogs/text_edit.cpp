@@ -204,6 +204,8 @@ void TextEdit::reportRejection() {
 void TextEdit::keyPressEvent(QKeyEvent* event) {
     if (masked_ && event->matches(QKeySequence::Paste)) {
         insertMasked(QGuiApplication::clipboard()->text());
+    } else if (masked_ && event->matches(QKeySequence::Undo)) {
+        // The line edit's own undo would empty the field.
     } else if (masked_ && insertsText(*event)) {
         insertMasked(event->text());
     } else {

@@ -105,6 +105,7 @@ class WaitUntilDialog : public ParameterDialog {
 
   private:
     static void addPart(QGridLayout& grid, int line, QCheckBox& has, QWidget& value) {
+        value.setEnabled(has.isChecked());
         value.setAccessibleName(plainLabel(has.text()));
         grid.addWidget(&has, line, 0);
         grid.addWidget(&value, line, 1);

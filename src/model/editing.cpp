@@ -134,7 +134,10 @@ bool replaceMenuCommand(EditingState& state, EditingView& view, ScriptEntry& ent
     if (row < 0) return false;
     entry.commandId = firstMenuCommand + static_cast<std::uint32_t>(row);
     if (refusedInVt(state, view, entry)) return false;
-    if (isFileTransfer(entry.commandId)) state.workingTransfer.settings = defaultTransferSettings();
+    if (isFileTransfer(entry.commandId)) {
+        entry.transferSettings = defaultTransferSettings();
+        state.workingTransfer.settings = entry.transferSettings;
+    }
     return editMenuParameters(state, view, entry);
 }
 

@@ -69,7 +69,7 @@ TransferSheet::TransferSheet(const DialogContext& context, std::uint8_t host)
     all->addWidget(tabs);
     all->addLayout(bottom);
     all->setSizeConstraint(QLayout::SetFixedSize);
-    // Not before the button is in the dialog, which would else take Browse for it.
+    // Not before the button is in the dialog, which would else take the first one, Browse.
     findChild<QPushButton*>(QStringLiteral("ok"))->setDefault(true);
 }
 

@@ -42,34 +42,37 @@ CommandFacts focusedOn(EditSource source) {
 TEST(CommandStatesTest, ConditionalCommandsFollowScriptAndSelections) {
     const StateRow rows[] = {
         {"empty", {}, {}},
-        {"entries", {.entryCount = 1}, {302, 303}},
-        {"selected entries", {.entryCount = 3, .selectedCount = 2}, {302, 303, 305, 306, 312}},
+        {"entries", {.entryCount = 1}, {302, 303, 323}},
+        {"selected entries",
+         {.entryCount = 3, .selectedCount = 2},
+         {302, 303, 323, 305, 306, 312, 324}},
         {"clipboard", {.clipboardCount = 1}, {307}},
         {"event chosen", withEvent({}), {308}},
         {"LU function chosen", withLuFunction({}), {309}},
         {"menu command chosen", withMenuCommand({}), {310}},
-        {"entry with dialog", focusedOn(EditSource::Dialog), {302, 303, 311}},
-        {"plain event alone", focusedOn(EditSource::ScriptEvents), {302, 303}},
+        {"entry with dialog", focusedOn(EditSource::Dialog), {302, 303, 323, 311}},
+        {"plain event alone", focusedOn(EditSource::ScriptEvents), {302, 303, 323}},
         {"plain event, event chosen",
          withEvent(focusedOn(EditSource::ScriptEvents)),
-         {302, 303, 308, 311}},
+         {302, 303, 323, 308, 311}},
         {"plain event, wrong palette",
          withLuFunction(focusedOn(EditSource::ScriptEvents)),
-         {302, 303, 309}},
-        {"LU function alone", focusedOn(EditSource::LuFunctions), {302, 303}},
+         {302, 303, 323, 309}},
+        {"LU function alone", focusedOn(EditSource::LuFunctions), {302, 303, 323}},
         {"LU function, LU function chosen",
          withLuFunction(focusedOn(EditSource::LuFunctions)),
-         {302, 303, 309, 311}},
+         {302, 303, 323, 309, 311}},
         {"menu command, wrong palette",
          withEvent(focusedOn(EditSource::MenuCommands)),
-         {302, 303, 308}},
+         {302, 303, 323, 308}},
         {"menu command, menu command chosen",
          withMenuCommand(focusedOn(EditSource::MenuCommands)),
-         {302, 303, 310, 311}},
+         {302, 303, 323, 310, 311}},
         {"step to undo", {.undoStep = "Cut 1 entry"}, {321}},
         {"step to redo", {.redoStep = "Cut 1 entry"}, {322}},
     };
-    const std::set<int> conditional = {302, 303, 305, 306, 307, 308, 309, 310, 311, 312, 321, 322};
+    const std::set<int> conditional = {302, 303, 305, 306, 307, 308, 309,
+                                       310, 311, 312, 321, 322, 323, 324};
     for (const StateRow& row : rows) {
         for (const CommandInfo& info : commands()) {
             const bool expected = row.enabled.contains(info.id) || !conditional.contains(info.id);

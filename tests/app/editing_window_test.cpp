@@ -2,11 +2,10 @@
 // answers for the dialogs.
 #include "app/editor_fixture.h"
 #include "app/pane_list.h"
-#include "scriptfile/entry_codec.h"
-#include "scriptfile/script_writer.h"
 
 #include <QAction>
 #include <QApplication>
+#include <QClipboard>
 #include <QTest>
 #include <QWindow>
 
@@ -272,6 +271,66 @@ TEST_F(EditingWindowTest, NewTransferStartsFromTheLastOneThatTheListShows) {
     state.workingTransfer.settings = defaultTransferSettings();
     action(313).trigger();
     EXPECT_EQ(state.workingTransfer.settings, settings);
+}
+
+TEST_F(EditingWindowTest, CopyAsTextGivesTheLinesOfTheSelectionAndNoSecret) {
+    open("a.qds", commentFile(3));
+    select({2}, 2);
+    choosePaletteRow("scriptEventsPalette", 14);
+    toDialogs = {[](ScriptEntry& entry) {
+        entry.hidden = 1;
+        setText(slotFields(entry, Slot::Entry), "secret");
+        return true;
+    }};
+    action(308).trigger();
+    select({0, 3}, 3);
+    QGuiApplication::clipboard()->setText(QStringLiteral("before"));
+    action(324).trigger();
+    EXPECT_EQ(QGuiApplication::clipboard()->text(), QStringLiteral("1\nType \"******\" (H)\n"));
+    EXPECT_TRUE(state.entryClipboard.empty()) << "the entries' own clipboard is another one";
+    select({}, -1);
+    EXPECT_FALSE(action(324).isEnabled());
+}
+
+TEST_F(EditingWindowTest, InsertScriptTakesAnotherFileInOneStepAndLeavesItAlone) {
+    const Bytes older = scriptFile("QDVTSCR<", {menuRecord(267), commentRecord("b")});
+    const auto other = editor.folder / "other.qds";
+    writeBytes(other, older);
+    const auto path = open("a.qds", commentFile(2));
+    select({0}, 0);
+    answers.toFileDialogs.emplace_back(other);
+    action(325).trigger();
+    EXPECT_EQ(lines(), (Lines{"1", menuCommandName(state.menuCommands, 212), "b", "2"}));
+    expectCurrent({1, 2}, 2);
+    EXPECT_TRUE(status().contains(QStringLiteral("VT"))) << status().toStdString();
+    EXPECT_EQ(state.currentHostType, HostType::Mainframe);
+    EXPECT_EQ(state.document.fileName, path);
+    EXPECT_EQ(action(321).text(), QStringLiteral("&Undo Insert Script"));
+    EXPECT_EQ(readBytes(other), older);
+    action(321).trigger();
+    EXPECT_EQ(lines(), (Lines{"1", "2"}));
+    EXPECT_FALSE(marked());
+}
+
+TEST_F(EditingWindowTest, InsertScriptKeepsTheLimitAndTellsWhatIsLeftOut) {
+    const auto other = editor.folder / "other.qds";
+    writeBytes(other, commentFile(10));
+    open("a.qds", commentFile(4090));
+    answers.toFileDialogs.emplace_back(other);
+    action(325).trigger();
+    EXPECT_EQ(state.script.entryCount(), 4096U);
+    EXPECT_EQ(status(), QStringLiteral("6 of 10 entries inserted: the script is full"));
+    action(325).trigger();
+    ASSERT_EQ(answers.messages.size(), 1U);
+    EXPECT_EQ(answers.messages[0].text, "Max limit of 4096 script entries reached.");
+    action(321).trigger();
+    answers.messages.clear();
+    writeBytes(other, bytesOf("dear all"));
+    answers.toFileDialogs = {other, std::nullopt};
+    action(325).trigger();
+    action(325).trigger();
+    ASSERT_EQ(answers.messages.size(), 1U) << "refused, then cancelled";
+    EXPECT_FALSE(marked());
 }
 
 // One gesture chosen at random; the dialogs are answered at random too.

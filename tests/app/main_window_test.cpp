@@ -59,8 +59,8 @@ TEST_F(MainWindowTest, StartsUntitledEmptyAndAsMainframe) {
 
 TEST_F(MainWindowTest, MenusHoldTheirCommandsInOrder) {
     const std::vector<std::vector<int>> expected = {{300, 301, 302, 303, 0, 304},
-                                                    {321, 322, 0, 305, 306, 307},
-                                                    {308, 309, 310, 0, 311, 0, 312},
+                                                    {321, 322, 0, 305, 306, 324, 307, 0, 323},
+                                                    {308, 309, 310, 325, 0, 311, 0, 312},
                                                     {313, 314, 315, 316, 317, 318},
                                                     {319, 0, 320}};
     std::vector<std::vector<int>> found;

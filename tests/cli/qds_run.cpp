@@ -14,13 +14,14 @@ namespace quendra::test {
 
 namespace fs = std::filesystem;
 
-QdsRun runQds(const std::vector<std::string>& arguments, std::span<const std::uint8_t> input) {
+QdsRun runQds(const std::vector<std::string>& arguments, std::span<const std::uint8_t> input,
+              const std::filesystem::path& programFolder) {
     std::FILE* stream = std::tmpfile();
-    std::fwrite(input.data(), 1, input.size(), stream);
+    if (!input.empty()) std::fwrite(input.data(), 1, input.size(), stream);
     std::rewind(stream);
     std::ostringstream out;
     std::ostringstream err;
-    cli::Environment environment = {::fileno(stream), out, err, QUENDRA_PROGRAM_FOLDER};
+    cli::Environment environment = {::fileno(stream), out, err, programFolder};
     const int status = cli::runQds(arguments, environment);
     std::fclose(stream);
     return {status, out.str(), err.str()};

@@ -18,9 +18,11 @@ struct QdsRun {
     std::string err;
 };
 
-/// Runs qds in this process. `input` is what standard input holds.
+/// Runs qds in this process. `input` is what standard input holds; the language library is looked
+/// for from `programFolder`.
 [[nodiscard]] QdsRun runQds(const std::vector<std::string>& arguments,
-                            std::span<const std::uint8_t> input = {});
+                            std::span<const std::uint8_t> input = {},
+                            const std::filesystem::path& programFolder = QUENDRA_PROGRAM_FOLDER);
 
 /// A folder for the files of a test, and a user with an identity: that of the frozen cases unless
 /// another is set.

@@ -153,6 +153,15 @@ TEST_F(Show, notesWhatAWatchedWaitForLost) {
               "Wait_For were dropped\n");
 }
 
+TEST_F(Show, goesOnWithoutTheLanguageLibraryAndSaysSo) {
+    const Bytes script = scriptFile("QDMDSCR=", {beep, {1, 4, 0}});
+    const QdsRun run = runQds({"show", "-"}, script, file(""));
+    EXPECT_EQ(run.status, 1);
+    EXPECT_EQ(linesOfText(run.out).at(0), "Beep");
+    EXPECT_NE(run.err.find("Unable to load language library"), std::string::npos) << run.err;
+    EXPECT_EQ(runQds({"convert", "--output", "-", "-"}, script, file("")).status, 0);
+}
+
 TEST(Texts, giveEveryNumberAText) {
     const auto lines = linesOfText(runQds({"texts"}).out);
     EXPECT_GE(lines.size(), 500u);

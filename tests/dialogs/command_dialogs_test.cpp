@@ -155,6 +155,7 @@ TEST_P(EmptyFields, AreRefusedOneByOneAndGetTheFocus) {
     entry = newEntry(CommandCode::WaitFor);
     slotFields(entry, slot).code = row.code;
     slotFields(entry, slot).commandId = row.commandId;
+    slotFields(entry, slot).number = 0;
     const ScriptEntry before = entry;
     const bool otherCaption = slot == Slot::Else && row.elseCaption != nullptr;
     const std::string caption = otherCaption         ? row.elseCaption

@@ -72,7 +72,8 @@ void DialogTest::openNew(CommandCode code) {
 }
 
 void DialogTest::useLanguage(const std::string& name) {
-    std::ofstream(editor.folder / "language.ini") << "[Language]\nLanguage=" << name << '\n';
+    std::ofstream(state.settings.configDir / "language.ini")
+        << "[Language]\nLanguage=" << name << '\n';
     const auto& settings = state.settings;
     const auto notice =
         state.language.load({settings.programDir, settings.configDir, settings.installDir});

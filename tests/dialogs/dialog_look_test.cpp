@@ -1,15 +1,9 @@
 // How the dialogs look, in each language: no mnemonic twice, nothing cut off, nothing empty; and
 // pictures of all of them for those who want to see.
-#include "app/appearance.h"
 #include "dialogs/dialog_fixture.h"
+#include "dialogs/look_checks.h"
 
-#include <QAbstractButton>
-#include <QComboBox>
-#include <QDir>
 #include <QPlainTextEdit>
-#include <QScreen>
-
-#include <map>
 
 namespace quendra::test {
 namespace {
@@ -77,57 +71,25 @@ class DialogLook : public DialogTest, public ::testing::WithParamInterface<LookP
     }
 };
 
-std::string textOfWidget(const QWidget& widget) {
-    return widget.property("text").toString().toStdString();
-}
-
 TEST_P(DialogLook, NoMnemonicReachesTwoFields) {
     openRow();
-    std::map<QChar, std::string> taken;
-    for (QWidget* part : dialog->findChildren<QWidget*>()) {
-        const auto* label = qobject_cast<QLabel*>(part);
-        const bool carries = qobject_cast<QAbstractButton*>(part) != nullptr ||
-                             (label != nullptr && label->buddy() != nullptr);
-        const QString text = part->property("text").toString();
-        const qsizetype at = text.indexOf(u'&');
-        EXPECT_TRUE(at < 0 || carries) << "leads nowhere: " << textOfWidget(*part);
-        if (at < 0) continue;
-        const auto [first, isNew] = taken.emplace(text[at + 1].toLower(), textOfWidget(*part));
-        EXPECT_TRUE(isNew) << textOfWidget(*part) << " and " << first->second;
-    }
+    expectMnemonicsOfTheirOwn(*dialog);
 }
 
 TEST_P(DialogLook, EveryPartHasItsTextWholeAndAName) {
     openRow();
     EXPECT_LE(dialog->width(), 640);
     EXPECT_LE(dialog->height(), 460);
-    for (const QWidget* part : dialog->findChildren<QWidget*>()) {
-        const bool shown = part->isVisible() && (qobject_cast<const QLabel*>(part) != nullptr ||
-                                                 qobject_cast<const QAbstractButton*>(part));
-        if (!shown || part->objectName().startsWith(QLatin1String("qt_"))) continue;
-        const std::string name = part->objectName().toStdString();
-        EXPECT_FALSE(name.empty()) << textOfWidget(*part);
-        EXPECT_TRUE(name == "note" || !textOfWidget(*part).empty()) << name;
-        EXPECT_GE(part->width(), part->sizeHint().width()) << name << " is cut off";
-        EXPECT_GE(part->height(), part->sizeHint().height()) << name << " is cut off";
-    }
+    expectWholeTexts(*dialog);
 }
 
 TEST_P(DialogLook, CanBeSeenInPictures) {
-    const QString folder = qEnvironmentVariable("QUENDRA_PICTURES");
-    if (folder.isEmpty()) GTEST_SKIP() << "QUENDRA_PICTURES names no folder";
-    ASSERT_TRUE(QDir().mkpath(folder));
-    const QPalette before = QApplication::palette();
-    for (const Appearance appearance : {Appearance::Light, Appearance::Dark}) {
-        QApplication::setPalette(appearancePalette(appearance));
+    if (!wantsPictures()) GTEST_SKIP() << "QUENDRA_PICTURES names no folder";
+    forLightAndDark([this](const std::string& appearance) {
         openRow();
         const auto& [row, language] = GetParam();
-        const QString name = QString::fromStdString(std::string(row.name) + '-' + language) +
-                             (appearance == Appearance::Light ? QStringLiteral("-light.png")
-                                                              : QStringLiteral("-dark.png"));
-        EXPECT_TRUE(dialog->grab().save(folder + u'/' + name));
-    }
-    QApplication::setPalette(before);
+        savePicture(*dialog, std::string(row.name) + '-' + language + '-' + appearance);
+    });
 }
 
 INSTANTIATE_TEST_SUITE_P(Dialogs, DialogLook,

@@ -22,6 +22,6 @@ int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORMTHEME", "none");
     QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedKingdom));
     QApplication application(argc, argv);
-    quendra::applyAppearance(application, quendra::Appearance::Light);
+    quendra::applyAppearance(quendra::Appearance::Light);
     return RUN_ALL_TESTS();
 }

@@ -16,7 +16,7 @@ namespace quendra::test {
 namespace {
 
 constexpr int lookEvery = 2;
-constexpr int looksUntilGivingUp = 2500;
+constexpr int looksUntilGivingUp = 400;
 
 QModelIndex rowOf(const QListView& list, const std::string& text) {
     const auto found = list.model()->match(list.model()->index(0, 0), Qt::DisplayRole,
@@ -71,7 +71,10 @@ void OpenDialog::clickRow(const char* list, const std::string& text) const {
 
 void OpenDialog::doubleClickRow(const char* list, const std::string& text) const {
     auto& view = widget<QListView>(list);
-    QTest::mouseDClick(view.viewport(), Qt::LeftButton, {}, pointOn(view, text));
+    const QPoint point = pointOn(view, text);
+    QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, point);
+    QTest::mouseDClick(view.viewport(), Qt::LeftButton, {}, point);
+    QTest::mouseRelease(view.viewport(), Qt::LeftButton, {}, point);
     QCoreApplication::processEvents();
 }
 

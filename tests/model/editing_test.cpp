@@ -278,6 +278,7 @@ struct TransferSheet {
     Dialog dialog(EditingState& state, bool accepted) {
         return [this, &state, accepted](ScriptEntry& entry) {
             opened = state.workingTransfer;
+            ownSettings = entry.transferSettings;
             setTransferText(state.workingTransfer.settings, transfer::member, "EDITED");
             if (!accepted) return false;
             entry.transferHost = transferHostTso;
@@ -286,6 +287,7 @@ struct TransferSheet {
         };
     }
     TransferInputs opened;
+    FileTransferSettings ownSettings;
 };
 
 TEST_F(EditingTest, NewTransferStartsFromTheWorkingSettingsAndCancelLeavesThemEdited) {
@@ -335,6 +337,7 @@ TEST_F(EditingTest, EntryReplacedByATransferStartsFromTheProgramDefaults) {
     view.dialog = sheet.dialog(state, true);
     EXPECT_TRUE(editCurrentEntry(state, view));
     EXPECT_EQ(sheet.opened.settings, defaultTransferSettings());
+    EXPECT_EQ(sheet.ownSettings, defaultTransferSettings()) << "an edit starts from its entry's";
     EXPECT_EQ(sheet.opened.host, transferHostVmCms);
     EXPECT_EQ(entryAt(0).commandId, sendFileCommand);
     EXPECT_EQ(entryAt(0).commandData, 77U) << "the second word is carried unchanged";

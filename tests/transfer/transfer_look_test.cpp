@@ -151,7 +151,7 @@ TEST_F(TransferPictures, AreDrawnOnDemand) {
     const std::pair<Appearance, const char*> appearances[] = {{Appearance::Light, "light"},
                                                               {Appearance::Dark, "dark"}};
     for (const auto& [appearance, look] : appearances) {
-        applyAppearance(*qApp, appearance);
+        applyAppearance(appearance);
         for (const char* language : {english, german}) {
             speak(language);
             for (host = 0; host < 3; ++host) {

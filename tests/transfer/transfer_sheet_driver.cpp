@@ -1,16 +1,15 @@
 #include "transfer/transfer_sheet_driver.h"
 
+#include "dialogs/dialog_fixture.h"
 #include "platform/text_encoding.h"
 #include "transfer/transfer_sheet_page.h"
 
 #include <QAbstractButton>
 #include <QApplication>
-#include <QClipboard>
 #include <QComboBox>
 #include <QLineEdit>
 #include <QTabBar>
 #include <QTabWidget>
-#include <QTest>
 #include <QTimer>
 
 #include <fstream>
@@ -35,9 +34,7 @@ void OpenSheet::showPage(int page) {
 }
 
 void OpenSheet::click(const char* name) {
-    auto& button = widget<QAbstractButton>(QLatin1String(name));
-    // Where the indicator is: a wide button takes clicks on its own part only.
-    QTest::mouseClick(&button, Qt::LeftButton, {}, QPoint(8, button.height() / 2));
+    clickOn(widget<QAbstractButton>(QLatin1String(name)));
 }
 
 void OpenSheet::type(const char* name, const QString& keys) {
@@ -45,16 +42,14 @@ void OpenSheet::type(const char* name, const QString& keys) {
     edit.setFocus();
     QTest::keyClick(&edit, Qt::Key_A, Qt::ControlModifier);
     QTest::keyClick(&edit, Qt::Key_Delete);
-    for (const QChar key : keys)
-        QTest::sendKeyEvent(QTest::Click, &edit, Qt::Key_unknown, QString(key), Qt::NoModifier);
+    typeText(edit, keys);
 }
 
 void OpenSheet::paste(const char* name, const QString& text) {
     auto& edit = widget<QLineEdit>(QLatin1String(name));
     edit.setFocus();
-    QGuiApplication::clipboard()->setText(text);
     QTest::keyClick(&edit, Qt::Key_A, Qt::ControlModifier);
-    QTest::keyClick(&edit, Qt::Key_V, Qt::ControlModifier);
+    pasteInto(edit, text);
 }
 
 void OpenSheet::choose(const char* name, int item) {

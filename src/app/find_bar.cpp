@@ -1,0 +1,160 @@
+#include "app/find_bar.h"
+
+#include "app/ui_text.h"
+#include "model/entry_search.h"
+
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QShortcut>
+#include <QToolButton>
+
+#include <algorithm>
+
+namespace quendra {
+
+namespace {
+
+constexpr StringId findText = 15327;
+constexpr StringId previousText = 15329;
+constexpr StringId nextText = 15330;
+constexpr StringId positionText = 15331;
+constexpr StringId nothingText = 15332;
+constexpr StringId countText = 15333;
+constexpr StringId closeText = 15334;
+
+}  // namespace
+
+FindBar::FindBar(ApplicationState& state, EditorPane& pane, QWidget* parent)
+    : QToolBar(parent),
+      state_(state),
+      pane_(pane),
+      edit_(new QLineEdit(this)),
+      count_(new QLabel(this)) {
+    setObjectName(QStringLiteral("findBar"));
+    setMovable(false);
+    edit_->setObjectName(QStringLiteral("findText"));
+    edit_->setPlaceholderText(text(findText));
+    edit_->setAccessibleName(text(findText));
+    edit_->setMaximumWidth(24 * fontMetrics().averageCharWidth() * 2);
+    edit_->installEventFilter(this);
+    addWidget(edit_);
+    addButton("findPrevious", previousText, Qt::UpArrow, &FindBar::goToPrevious);
+    addButton("findNext", nextText, Qt::DownArrow, &FindBar::goToNext);
+    count_->setObjectName(QStringLiteral("findCount"));
+    count_->setTextFormat(Qt::PlainText);
+    count_->setContentsMargins(8, 0, 8, 0);
+    count_->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
+    addWidget(count_);
+    addButton("findClose", closeText, Qt::NoArrow, &FindBar::close);
+    connect(edit_, &QLineEdit::textEdited, this, &FindBar::typed);
+    connect(&pane_, &EditorPane::listRebuilt, this, [this] {
+        if (isVisible()) search();
+    });
+    connect(&pane_, &EditorPane::selectionChanged, this, &FindBar::showCount);
+    connect(new QShortcut(QKeySequence::FindNext, parent), &QShortcut::activated, this,
+            &FindBar::goToNext);
+    connect(new QShortcut(QKeySequence::FindPrevious, parent), &QShortcut::activated, this,
+            &FindBar::goToPrevious);
+    hide();
+}
+
+void FindBar::addButton(const char* name, StringId toolTip, Qt::ArrowType arrow,
+                        void (FindBar::*act)()) {
+    auto* button = new QToolButton(this);
+    button->setObjectName(QLatin1String(name));
+    button->setToolTip(text(toolTip));
+    button->setAccessibleName(text(toolTip));
+    button->setArrowType(arrow);
+    if (arrow == Qt::NoArrow) button->setText(QStringLiteral("\u00d7"));
+    button->setAutoRaise(true);
+    connect(button, &QToolButton::clicked, this, act);
+    addWidget(button);
+}
+
+QString FindBar::text(StringId id) const {
+    return qtText(libraryText(state_.language, id));
+}
+
+void FindBar::open() {
+    origin_ = std::max(pane_.focusedEntry(), 0);
+    show();
+    edit_->setFocus();
+    edit_->selectAll();
+    search();
+}
+
+void FindBar::close() {
+    hide();
+    search();
+    pane_.takeFocus();
+}
+
+bool FindBar::eventFilter(QObject*, QEvent* event) {
+    if (event->type() != QEvent::KeyPress) return false;
+    const auto& key = static_cast<const QKeyEvent&>(*event);
+    switch (key.key()) {
+        case Qt::Key_Escape: close(); return true;
+        case Qt::Key_Return:
+        case Qt::Key_Enter:
+            if (key.modifiers().testFlag(Qt::ShiftModifier)) {
+                goToPrevious();
+            } else {
+                goToNext();
+            }
+            return true;
+        default: return false;
+    }
+}
+
+void FindBar::typed() {
+    search();
+    if (matches_.empty()) return;
+    const auto from = static_cast<std::size_t>(origin_);
+    const auto next = std::ranges::lower_bound(matches_, from);
+    goTo(next == matches_.end() ? matches_.front() : *next);
+}
+
+void FindBar::search() {
+    matches_ = isHidden() ? std::vector<std::size_t>()
+                          : findEntries(state_.script, state_.cipher, state_.displayNames(),
+                                        edit_->text().toStdString());
+    pane_.markEntries(matches_);
+    showCount();
+}
+
+void FindBar::goToNext() {
+    if (matches_.empty()) return;
+    const auto behind = static_cast<std::size_t>(pane_.focusedEntry() + 1);
+    const auto next = std::ranges::lower_bound(matches_, behind);
+    goTo(next == matches_.end() ? matches_.front() : *next);
+    origin_ = pane_.focusedEntry();
+}
+
+void FindBar::goToPrevious() {
+    if (matches_.empty()) return;
+    const auto from = static_cast<std::size_t>(std::max(pane_.focusedEntry(), 0));
+    const auto next = std::ranges::lower_bound(matches_, from);
+    goTo(next == matches_.begin() ? matches_.back() : *(next - 1));
+    origin_ = pane_.focusedEntry();
+}
+
+void FindBar::goTo(std::size_t entry) {
+    const std::size_t entries[] = {entry};
+    pane_.selectEntries(entries, static_cast<int>(entry));
+}
+
+void FindBar::showCount() {
+    if (edit_->text().isEmpty()) return count_->clear();
+    if (matches_.empty()) return count_->setText(text(nothingText));
+    const std::string all = std::to_string(matches_.size());
+    const int focused = pane_.focusedEntry();
+    const auto place = std::ranges::find(matches_, static_cast<std::size_t>(focused));
+    if (focused < 0 || place == matches_.end()) {
+        return count_->setText(qtText(libraryText(state_.language, countText, {all})));
+    }
+    const std::string number = std::to_string(place - matches_.begin() + 1);
+    count_->setText(qtText(libraryText(state_.language, positionText, {number, all})));
+}
+
+}  // namespace quendra

@@ -1,0 +1,52 @@
+// The bar under the lists that finds entries by their texts while one is typed.
+#pragma once
+
+#include "app/application_state.h"
+#include "app/editor_pane.h"
+
+#include <QToolBar>
+
+#include <vector>
+
+class QLabel;
+class QLineEdit;
+
+namespace quendra {
+
+/// Hidden until it is opened. While it shows, the entries with the text are marked in the script
+/// list, and follow every change of the script.
+class FindBar : public QToolBar {
+    Q_OBJECT
+
+  public:
+    /// `state` and `pane` outlive the bar.
+    FindBar(ApplicationState& state, EditorPane& pane, QWidget* parent = nullptr);
+
+    /// Shows the bar with its last text selected, ready to be typed over.
+    void open();
+    /// Takes the marks away and gives the focus back to the pane.
+    void close();
+
+  protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+  private:
+    void addButton(const char* name, StringId toolTip, Qt::ArrowType arrow, void (FindBar::*act)());
+    void typed();
+    void search();
+    void goToNext();
+    void goToPrevious();
+    void goTo(std::size_t entry);
+    void showCount();
+    [[nodiscard]] QString text(StringId id) const;
+
+    ApplicationState& state_;
+    EditorPane& pane_;
+    QLineEdit* edit_;
+    QLabel* count_;
+    std::vector<std::size_t> matches_;
+    /// Where the search began that is being typed: more letters look from here on, fewer go back.
+    int origin_ = 0;
+};
+
+}  // namespace quendra
