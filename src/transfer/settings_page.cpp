@@ -84,7 +84,8 @@ SettingsPage::SettingsPage(TransferSheetModel& model)
 void SettingsPage::makeHosts() {
     auto* buttons = new QButtonGroup(this);
     buttons->setObjectName(QStringLiteral("transferHostButtons"));
-    for (std::uint8_t host = 0; host < hosts_.size(); ++host) {
+    const auto count = static_cast<std::uint8_t>(hosts_.size());
+    for (std::uint8_t host = 0; host < count; ++host) {
         auto* radio = new QRadioButton(QLatin1String(hostNames[host]), this);
         radio->setObjectName(QStringLiteral("transferHost%1").arg(host));
         radio->setChecked(model().host == host);

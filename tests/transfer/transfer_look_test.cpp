@@ -106,7 +106,7 @@ TEST_P(TransferLook, NothingIsCutOffAndTheSheetKeepsItsSize) {
 }
 
 TEST_P(TransferLook, NotesHaveRoom) {
-    open([this](OpenSheet& sheet) {
+    open([](OpenSheet& sheet) {
         const auto& note = sheet.widget<QLabel>(QStringLiteral("note"));
         const auto expectShown = [&note] {
             EXPECT_FALSE(note.text().isEmpty());
