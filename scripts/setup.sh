@@ -9,7 +9,7 @@ export CMAKE_BUILD_PARALLEL_LEVEL="${CMAKE_BUILD_PARALLEL_LEVEL:-$(nproc)}"
 declare -A packages=(
     [build]="g++ cmake ninja-build ccache
         qt6-base-dev qt6-svg-dev qt6-tools-dev qt6-l10n-tools
-        libssl-dev libcli11-dev nlohmann-json3-dev libgtest-dev libbenchmark-dev"
+        libssl-dev libcli11-dev nlohmann-json3-dev libgtest-dev libgmock-dev libbenchmark-dev"
     # qt6-qpa-plugins holds both xcb and offscreen, and Qt's own package only recommends it; without a font
     # offscreen windows show no text.
     [runtime]="qt6-qpa-plugins hicolor-icon-theme fonts-dejavu-core"

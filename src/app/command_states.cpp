@@ -55,7 +55,7 @@ CommandFacts commandFacts(const ApplicationState& state, const EditorPane& pane)
 bool isCommandEnabled(int id, const CommandFacts& facts) {
     switch (id) {
         case command::save:
-        case command::saveAs: return facts.entryCount > 0;
+        case command::saveAs:
         case command::find: return facts.entryCount > 0;
         case command::cut:
         case command::copy:

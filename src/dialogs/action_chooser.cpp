@@ -47,7 +47,9 @@ void ActionChooser::accept() {
         return;
     }
     store();
-    if (acceptChoice(overThis(), action_, lists_->choice())) QDialog::accept();
+    if (!acceptChoice(overThis(), action_, lists_->choice())) return;
+    // The base would check and store a second time.
+    QDialog::accept();  // NOLINT(bugprone-parent-virtual-call)
 }
 
 }  // namespace quendra

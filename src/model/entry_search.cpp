@@ -1,9 +1,8 @@
 #include "model/entry_search.h"
 
 #include "platform/text_encoding.h"
+#include "platform/text_folding.h"
 #include "scriptfile/entry_codec.h"
-
-#include <QString>
 
 #include <algorithm>
 
@@ -14,8 +13,7 @@ namespace {
 class Searcher {
   public:
     Searcher(std::string_view text, const DisplayNames& names)
-        : text_(QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()))),
-          names_(names) {}
+        : text_(foldedText(text)), names_(names) {}
 
     [[nodiscard]] bool isIn(const ScriptEntry& entry) const {
         return isInUtf8(formatEntryLine(entry, names_)) || isInField(compareTextOf(entry)) ||
@@ -43,11 +41,11 @@ class Searcher {
         return !windows1252.empty() && isInUtf8(utf8FromWindows1252(windows1252));
     }
 
-    [[nodiscard]] bool isInUtf8(const std::string& utf8) const {
-        return QString::fromStdString(utf8).contains(text_, Qt::CaseInsensitive);
+    [[nodiscard]] bool isInUtf8(std::string_view utf8) const {
+        return foldedText(utf8).find(text_) != std::u16string::npos;
     }
 
-    QString text_;
+    std::u16string text_;
     const DisplayNames& names_;
 };
 

@@ -17,7 +17,7 @@ namespace {
 using Lines = std::vector<std::string>;
 
 // Types a text into the dialog and presses OK.
-DialogAnswer typing(std::string text) {
+DialogAnswer typing(const std::string& text) {
     return [text](ScriptEntry& entry) {
         setText(slotFields(entry, Slot::Entry), text);
         return true;
@@ -65,7 +65,7 @@ class EditingWindowTest : public EditorTest {
         return result;
     }
     [[nodiscard]] bool marked() const { return title().endsWith(QStringLiteral(" *")); }
-    void expectCurrent(std::vector<std::size_t> selected, int focused) {
+    void expectCurrent(const std::vector<std::size_t>& selected, int focused) {
         EXPECT_EQ(window.pane().selectedEntries(), selected);
         EXPECT_EQ(window.pane().focusedEntry(), focused);
         EXPECT_EQ(state.currentIndex, focused);

@@ -71,9 +71,10 @@ class OtherProcess {
 // An editor in a process of its own. It writes "l" when it listens and "r" for each raise.
 class OtherEditor {
   public:
-    OtherEditor(const fs::path& folder, const std::string& class_, const fs::path& shown)
+    OtherEditor(const fs::path& folder, const std::string& windowClass, const fs::path& shown)
         : process_([&] {
-              EditorListener listener(folder, {class_, [&] { return shown; }, [&] { note('r'); }});
+              EditorListener listener(folder,
+                                      {windowClass, [&] { return shown; }, [&] { note('r'); }});
               if (listener.failure()) return;
               note('l');
               serveFor(listener, std::chrono::minutes(1));
@@ -118,8 +119,8 @@ class EditorWindowsTest : public testing::Test {
         std::ofstream(script) << "x";
     }
 
-    [[nodiscard]] bool raise(const fs::path& path, const char* class_ = className) const {
-        return raiseEditorShowing(folder, path, class_);
+    [[nodiscard]] bool raise(const fs::path& path, const char* windowClass = className) const {
+        return raiseEditorShowing(folder, path, windowClass);
     }
 
     // A socket in the folder that nobody answers on, or that nobody listens on any more.
