@@ -6,9 +6,9 @@
 #include "scriptfile/entry_codec.h"
 #include "scriptfile/script_files.h"
 #include "scriptfile/script_writer.h"
+#include "work_folder.h"
 
 #include <benchmark/benchmark.h>
-#include <cstdlib>
 #include <cstring>
 #include <fcntl.h>
 #include <filesystem>
@@ -32,24 +32,6 @@ const HiddenTextCipher& cipher() {
 
 void require(bool done, const char* what) {
     if (!done) throw std::runtime_error(what);
-}
-
-// A folder on the disk of the temporary folder, gone at the end of the run.
-const fs::path& workFolder() {
-    struct Folder {
-        fs::path path;
-        Folder() {
-            std::string pattern = fs::temp_directory_path() / "quendra-bench-XXXXXX";
-            require(mkdtemp(pattern.data()) != nullptr, "mkdtemp");
-            path = pattern;
-        }
-        ~Folder() {
-            std::error_code ignored;
-            fs::remove_all(path, ignored);
-        }
-    };
-    static const Folder folder;
-    return folder.path;
 }
 
 void rawWrite(const fs::path& path, const Bytes& bytes) {

@@ -2510,7 +2510,7 @@
     </message>
     <message id="15302">
         <source>&amp;Undo %s</source>
-        <extracomment>Menu: Edit, Undo; %s is the step, as “Delete 3 entries”</extracomment>
+        <extracomment>Menu: Edit, Undo; %s is the step, as “Delete 3 Entries”</extracomment>
         <translation>&amp;Undo %s</translation>
     </message>
     <message id="15303">
@@ -2520,7 +2520,7 @@
     </message>
     <message id="15304">
         <source>&amp;Redo %s</source>
-        <extracomment>Menu: Edit, Redo; %s is the step, as “Delete 3 entries”</extracomment>
+        <extracomment>Menu: Edit, Redo; %s is the step, as “Delete 3 Entries”</extracomment>
         <translation>&amp;Redo %s</translation>
     </message>
     <message id="15305">
@@ -2530,7 +2530,7 @@
     </message>
     <message id="15306">
         <source>Undo %s</source>
-        <extracomment>Tooltip: Undo; %s is the step, as “Delete 3 entries”</extracomment>
+        <extracomment>Tooltip: Undo; %s is the step, as “Delete 3 Entries”</extracomment>
         <translation>Undo %s</translation>
     </message>
     <message id="15307">
@@ -2540,7 +2540,7 @@
     </message>
     <message id="15308">
         <source>Redo %s</source>
-        <extracomment>Tooltip: Redo; %s is the step, as “Delete 3 entries”</extracomment>
+        <extracomment>Tooltip: Redo; %s is the step, as “Delete 3 Entries”</extracomment>
         <translation>Redo %s</translation>
     </message>
     <message id="15309">
@@ -2554,28 +2554,28 @@
         <translation>Makes the change again that was undone last.</translation>
     </message>
     <message id="15311">
-        <source>Edit entry</source>
+        <source>Edit Entry</source>
         <extracomment>Step that Undo and Redo name: an entry was edited or replaced</extracomment>
-        <translation>Edit entry</translation>
+        <translation>Edit Entry</translation>
     </message>
     <message id="15312">
         <source>Delete %s</source>
-        <extracomment>Step that Undo and Redo name; %s is “1 entry” or “3 entries”</extracomment>
+        <extracomment>Step that Undo and Redo name; %s is “1 Entry” or “3 Entries”</extracomment>
         <translation>Delete %s</translation>
     </message>
     <message id="15313">
         <source>Cut %s</source>
-        <extracomment>Step that Undo and Redo name; %s is “1 entry” or “3 entries”</extracomment>
+        <extracomment>Step that Undo and Redo name; %s is “1 Entry” or “3 Entries”</extracomment>
         <translation>Cut %s</translation>
     </message>
     <message id="15314">
         <source>Paste %s</source>
-        <extracomment>Step that Undo and Redo name; %s is “1 entry” or “3 entries”</extracomment>
+        <extracomment>Step that Undo and Redo name; %s is “1 Entry” or “3 Entries”</extracomment>
         <translation>Paste %s</translation>
     </message>
     <message id="15315">
         <source>Move %s</source>
-        <extracomment>Step that Undo and Redo name; %s is “1 entry” or “3 entries”</extracomment>
+        <extracomment>Step that Undo and Redo name; %s is “1 Entry” or “3 Entries”</extracomment>
         <translation>Move %s</translation>
     </message>
     <message id="15316">
@@ -2677,6 +2677,191 @@
         <source>The inserted script was written for %s: check its LU functions</source>
         <extracomment>Status bar after Insert Script; %s is the mode of the inserted script, as “VT”</extracomment>
         <translation>The inserted script was written for %s: check its LU functions</translation>
+    </message>
+    <message id="15340">
+        <source>Help on Se&amp;lection</source>
+        <extracomment>Menu: Help, Help on Selection</extracomment>
+        <translation>Help on Se&amp;lection</translation>
+    </message>
+    <message id="15341">
+        <source>Help on Selection</source>
+        <extracomment>Tool tip of Help on Selection</extracomment>
+        <translation>Help on Selection</translation>
+    </message>
+    <message id="15342">
+        <source>Opens the manual at the selected command, entry or host type</source>
+        <extracomment>Status bar: Help on Selection</extracomment>
+        <translation>Opens the manual at the selected command, entry or host type</translation>
+    </message>
+    <message id="15343">
+        <source>%s - Quendra Script Editor Help</source>
+        <extracomment>Help window: title, with that of the page</extracomment>
+        <translation>%s - Quendra Script Editor Help</translation>
+    </message>
+    <message id="15344">
+        <source>Back</source>
+        <extracomment>Help window: button to the page before</extracomment>
+        <translation>Back</translation>
+    </message>
+    <message id="15345">
+        <source>Forward</source>
+        <extracomment>Help window: button to the page that Back left</extracomment>
+        <translation>Forward</translation>
+    </message>
+    <message id="15346">
+        <source>Start page</source>
+        <extracomment>Help window: button to the first page</extracomment>
+        <translation>Start page</translation>
+    </message>
+    <message id="15347">
+        <source>Contents</source>
+        <extracomment>Help window: name of the tree of pages</extracomment>
+        <translation>Contents</translation>
+    </message>
+    <message id="15348">
+        <source>Search the manual</source>
+        <extracomment>Help window: in the empty field for words to search for</extracomment>
+        <translation>Search the manual</translation>
+    </message>
+    <message id="15349">
+        <source>Search results</source>
+        <extracomment>Help window: name of the list of found pages</extracomment>
+        <translation>Search results</translation>
+    </message>
+    <message id="15350">
+        <source>Found on %d pages</source>
+        <extracomment>Help window: above the list of found pages</extracomment>
+        <translation>Found on %d pages</translation>
+    </message>
+    <message id="15351">
+        <source>Found on 1 page</source>
+        <extracomment>Help window: above the list of found pages</extracomment>
+        <translation>Found on 1 page</translation>
+    </message>
+    <message id="15352">
+        <source>Not found</source>
+        <extracomment>Help window: above the empty list of found pages</extracomment>
+        <translation>Not found</translation>
+    </message>
+    <message id="15353">
+        <source>Page not found</source>
+        <extracomment>Help window: heading in place of a page</extracomment>
+        <translation>Page not found</translation>
+    </message>
+    <message id="15354">
+        <source>The manual has no page “%s”.</source>
+        <extracomment>Help window: in place of a page that is missing</extracomment>
+        <translation>The manual has no page “%s”.</translation>
+    </message>
+    <message id="15355">
+        <source>The manual is not installed: there are no pages in %s.</source>
+        <extracomment>Help window: in place of a page when there is no manual at all; the folder</extracomment>
+        <translation>The manual is not installed: there are no pages in %s.</translation>
+    </message>
+    <message id="15356">
+        <source>Page</source>
+        <extracomment>Help window: name of the part with the page</extracomment>
+        <translation>Page</translation>
+    </message>
+    <message id="15357">
+        <source>Larger text</source>
+        <extracomment>Help window: button for larger text</extracomment>
+        <translation>Larger text</translation>
+    </message>
+    <message id="15358">
+        <source>Smaller text</source>
+        <extracomment>Help window: button for smaller text</extracomment>
+        <translation>Smaller text</translation>
+    </message>
+    <message id="15380">
+        <source>The file “%s” has been changed by another program since it was loaded.
+
+Replace it? The changed file is kept as a backup beside it.</source>
+        <extracomment>Question when saving; %s is the path of the script</extracomment>
+        <translation>The file “%s” has been changed by another program since it was loaded.
+
+Replace it? The changed file is kept as a backup beside it.</translation>
+    </message>
+    <message id="15381">
+        <source>A VT script file cannot store these entries as they are:
+
+%s
+Save, and lose what the file cannot store?</source>
+        <extracomment>Question when saving as VT; %s is the numbered lines of the entries, each with its line end</extracomment>
+        <translation>A VT script file cannot store these entries as they are:
+
+%s
+Save, and lose what the file cannot store?</translation>
+    </message>
+    <message id="15382">
+        <source>%s loaded: the file ends inside an entry (byte %d)
+%s loaded: unknown command code (byte %d)
+%s loaded: an Input prompt is longer than 1023 characters (byte %d)
+%s loaded: actions are nested too deep (byte %d)
+%s loaded: the file has more than 4096 entries (byte %d)
+%s loaded: the file is longer than any script (byte %d)</source>
+        <extracomment>Status bar: a file was not read whole. Six reasons in this order, one in each line; %s is the number of entries, as “12 entries”, %d the place in the file</extracomment>
+        <translation>%s loaded: the file ends inside an entry (byte %d)
+%s loaded: unknown command code (byte %d)
+%s loaded: an Input prompt is longer than 1023 characters (byte %d)
+%s loaded: actions are nested too deep (byte %d)
+%s loaded: the file has more than 4096 entries (byte %d)
+%s loaded: the file is longer than any script (byte %d)</translation>
+    </message>
+    <message id="15383">
+        <source>The old file is kept as %s</source>
+        <extracomment>Status bar after saving; %s is a file name</extracomment>
+        <translation>The old file is kept as %s</translation>
+    </message>
+    <message id="15384">
+        <source>More commands</source>
+        <extracomment>For screen readers: the button with the commands that a narrow window has no room for</extracomment>
+        <translation>More commands</translation>
+    </message>
+    <message id="15385">
+        <source>Script</source>
+        <extracomment>For screen readers: the list with the entries of the script</extracomment>
+        <translation>Script</translation>
+    </message>
+    <message id="15386">
+        <source>converted from an older version, which is kept as %s</source>
+        <extracomment>Status bar after opening, behind the number of entries; %s is a file name</extracomment>
+        <translation>converted from an older version, which is kept as %s</translation>
+    </message>
+    <message id="15387">
+        <source>the file keeps its older version until it is saved: %s</source>
+        <extracomment>Status bar after opening, behind the number of entries; %s is the system's reason</extracomment>
+        <translation>the file keeps its older version until it is saved: %s</translation>
+    </message>
+    <message id="15388">
+        <source>a watched Wait_For has no timeout and no actions: left out in entry %s</source>
+        <extracomment>Status bar after opening, behind the number of entries; %s is the numbers of the entries</extracomment>
+        <translation>a watched Wait_For has no timeout and no actions: left out in entry %s</translation>
+    </message>
+    <message id="15389">
+        <source>changes that were not saved are kept as %s</source>
+        <extracomment>Status bar after opening, behind the number of entries; %s is a file name</extracomment>
+        <translation>changes that were not saved are kept as %s</translation>
+    </message>
+    <message id="15390">
+        <source>1 Entry</source>
+        <extracomment>One entry in a step that Undo and Redo name: “Delete 1 Entry”</extracomment>
+        <translation>1 Entry</translation>
+    </message>
+    <message id="15391">
+        <source>%d Entries</source>
+        <extracomment>Several entries in a step that Undo and Redo name: “Delete 3 Entries”</extracomment>
+        <translation>%d Entries</translation>
+    </message>
+    <message id="15392">
+        <source>%s %s</source>
+        <extracomment>Tooltip of Delete Entry and, with “?” behind it, the question before deleting: “Delete”, then “3 entries”</extracomment>
+        <translation>%s %s</translation>
+    </message>
+    <message id="15393">
+        <source>Actions need a timeout: first select “Timeout in Seconds”.</source>
+        <extracomment>Wait_For dialog: tooltip of the action buttons while they are off</extracomment>
+        <translation>Actions need a timeout: first select “Timeout in Seconds”.</translation>
     </message>
     <message id="16001">
         <source>The character %s cannot be stored in a script.</source>

@@ -386,7 +386,7 @@
     <message id="11212">
         <source>Select the date and time to wait until:</source>
         <extracomment>Wait_Until dialog: label of the date and time</extracomment>
-        <translation>Wählen Sie das Datum und die Uhrzeit aus, bis zu denen gewartet werden soll:</translation>
+        <translation>Warten bis zu diesem Datum und dieser Uhrzeit:</translation>
     </message>
     <message id="11214">
         <source>Select the action to perform:</source>
@@ -2231,12 +2231,12 @@
     <message id="13751">
         <source>&amp;Enter the text or &lt;Lu Function&gt; to wait for:</source>
         <extracomment>Wait_For dialog: label of the string; &lt;Lu Function&gt; stays as it is</extracomment>
-        <translation>Geben Sie den &amp;Text oder die &lt;Lu Function&gt; ein, worauf gewartet werden soll:</translation>
+        <translation>Geben Sie den &amp;Text oder die &lt;Lu Function&gt; ein, auf die gewartet werden soll:</translation>
     </message>
     <message id="13752">
         <source>&amp;Enter the text or &lt;Lu Function&gt; to watch for:</source>
         <extracomment>Watch_For dialog: label of the string; &lt;Lu Function&gt; stays as it is</extracomment>
-        <translation>Geben Sie den &amp;Text oder die &lt;Lu Function&gt; ein, worauf geachtet werden soll:</translation>
+        <translation>Geben Sie den &amp;Text oder die &lt;Lu Function&gt; ein, auf die geachtet werden soll:</translation>
     </message>
     <message id="13753">
         <source>&amp;Enter time to Wait(seconds):</source>
@@ -2246,7 +2246,7 @@
     <message id="13754">
         <source>&amp;Enter the number of Keyboard Restores to wait for:</source>
         <extracomment>Wait dialog: label for Wait_Ready</extracomment>
-        <translation>Geben Sie die &amp;Anzahl der Tastaturfreigaben ein, auf die gewartet werden soll:</translation>
+        <translation>Geben Sie die &amp;Anzahl der abzuwartenden Tastaturfreigaben ein:</translation>
     </message>
     <message id="13757">
         <source>Watch_For</source>
@@ -2436,7 +2436,7 @@
     <message id="14834">
         <source>Enter the screen area to copy to the clipboard:</source>
         <extracomment>Copy dialog: heading</extracomment>
-        <translation>Geben Sie den Bildschirmbereich ein, der in die Zwischenablage kopiert werden soll:</translation>
+        <translation>Geben Sie den zu kopierenden Bildschirmbereich ein:</translation>
     </message>
     <message id="14835">
         <source>&amp;Start Row, Column:</source>
@@ -2456,7 +2456,7 @@
     <message id="14838">
         <source>Enter the screen position to paste the clipboard to:</source>
         <extracomment>Paste dialog: heading</extracomment>
-        <translation>Geben Sie die Bildschirmposition ein, an der die Zwischenablage eingefügt werden soll:</translation>
+        <translation>Geben Sie die Bildschirmposition zum Einfügen ein:</translation>
     </message>
     <message id="14839">
         <source>&amp;Paste Row, Column:</source>
@@ -2510,7 +2510,7 @@
     </message>
     <message id="15302">
         <source>&amp;Undo %s</source>
-        <extracomment>Menu: Edit, Undo; %s is the step, as “Delete 3 entries”</extracomment>
+        <extracomment>Menu: Edit, Undo; %s is the step, as “Delete 3 Entries”</extracomment>
         <translation>&amp;Rückgängig: %s</translation>
     </message>
     <message id="15303">
@@ -2520,7 +2520,7 @@
     </message>
     <message id="15304">
         <source>&amp;Redo %s</source>
-        <extracomment>Menu: Edit, Redo; %s is the step, as “Delete 3 entries”</extracomment>
+        <extracomment>Menu: Edit, Redo; %s is the step, as “Delete 3 Entries”</extracomment>
         <translation>&amp;Wiederherstellen: %s</translation>
     </message>
     <message id="15305">
@@ -2530,7 +2530,7 @@
     </message>
     <message id="15306">
         <source>Undo %s</source>
-        <extracomment>Tooltip: Undo; %s is the step, as “Delete 3 entries”</extracomment>
+        <extracomment>Tooltip: Undo; %s is the step, as “Delete 3 Entries”</extracomment>
         <translation>Rückgängig: %s</translation>
     </message>
     <message id="15307">
@@ -2540,7 +2540,7 @@
     </message>
     <message id="15308">
         <source>Redo %s</source>
-        <extracomment>Tooltip: Redo; %s is the step, as “Delete 3 entries”</extracomment>
+        <extracomment>Tooltip: Redo; %s is the step, as “Delete 3 Entries”</extracomment>
         <translation>Wiederherstellen: %s</translation>
     </message>
     <message id="15309">
@@ -2554,28 +2554,28 @@
         <translation>Nimmt die zuletzt rückgängig gemachte Änderung wieder vor.</translation>
     </message>
     <message id="15311">
-        <source>Edit entry</source>
+        <source>Edit Entry</source>
         <extracomment>Step that Undo and Redo name: an entry was edited or replaced</extracomment>
         <translation>Eintrag bearbeiten</translation>
     </message>
     <message id="15312">
         <source>Delete %s</source>
-        <extracomment>Step that Undo and Redo name; %s is “1 entry” or “3 entries”</extracomment>
+        <extracomment>Step that Undo and Redo name; %s is “1 Entry” or “3 Entries”</extracomment>
         <translation>%s löschen</translation>
     </message>
     <message id="15313">
         <source>Cut %s</source>
-        <extracomment>Step that Undo and Redo name; %s is “1 entry” or “3 entries”</extracomment>
+        <extracomment>Step that Undo and Redo name; %s is “1 Entry” or “3 Entries”</extracomment>
         <translation>%s ausschneiden</translation>
     </message>
     <message id="15314">
         <source>Paste %s</source>
-        <extracomment>Step that Undo and Redo name; %s is “1 entry” or “3 entries”</extracomment>
+        <extracomment>Step that Undo and Redo name; %s is “1 Entry” or “3 Entries”</extracomment>
         <translation>%s einfügen</translation>
     </message>
     <message id="15315">
         <source>Move %s</source>
-        <extracomment>Step that Undo and Redo name; %s is “1 entry” or “3 entries”</extracomment>
+        <extracomment>Step that Undo and Redo name; %s is “1 Entry” or “3 Entries”</extracomment>
         <translation>%s verschieben</translation>
     </message>
     <message id="15316">
@@ -2678,6 +2678,191 @@
         <extracomment>Status bar after Insert Script; %s is the mode of the inserted script, as “VT”</extracomment>
         <translation>Das eingefügte Skript ist für %s geschrieben: Prüfen Sie seine LU-Funktionen</translation>
     </message>
+    <message id="15340">
+        <source>Help on Se&amp;lection</source>
+        <extracomment>Menu: Help, Help on Selection</extracomment>
+        <translation>Hilfe zur Aus&amp;wahl</translation>
+    </message>
+    <message id="15341">
+        <source>Help on Selection</source>
+        <extracomment>Tool tip of Help on Selection</extracomment>
+        <translation>Hilfe zur Auswahl</translation>
+    </message>
+    <message id="15342">
+        <source>Opens the manual at the selected command, entry or host type</source>
+        <extracomment>Status bar: Help on Selection</extracomment>
+        <translation>Öffnet das Handbuch beim gewählten Befehl, Eintrag oder Hosttyp</translation>
+    </message>
+    <message id="15343">
+        <source>%s - Quendra Script Editor Help</source>
+        <extracomment>Help window: title, with that of the page</extracomment>
+        <translation>%s - Hilfe zum Quendra Script Editor</translation>
+    </message>
+    <message id="15344">
+        <source>Back</source>
+        <extracomment>Help window: button to the page before</extracomment>
+        <translation>Zurück</translation>
+    </message>
+    <message id="15345">
+        <source>Forward</source>
+        <extracomment>Help window: button to the page that Back left</extracomment>
+        <translation>Vorwärts</translation>
+    </message>
+    <message id="15346">
+        <source>Start page</source>
+        <extracomment>Help window: button to the first page</extracomment>
+        <translation>Startseite</translation>
+    </message>
+    <message id="15347">
+        <source>Contents</source>
+        <extracomment>Help window: name of the tree of pages</extracomment>
+        <translation>Inhalt</translation>
+    </message>
+    <message id="15348">
+        <source>Search the manual</source>
+        <extracomment>Help window: in the empty field for words to search for</extracomment>
+        <translation>Handbuch durchsuchen</translation>
+    </message>
+    <message id="15349">
+        <source>Search results</source>
+        <extracomment>Help window: name of the list of found pages</extracomment>
+        <translation>Suchergebnisse</translation>
+    </message>
+    <message id="15350">
+        <source>Found on %d pages</source>
+        <extracomment>Help window: above the list of found pages</extracomment>
+        <translation>Auf %d Seiten gefunden</translation>
+    </message>
+    <message id="15351">
+        <source>Found on 1 page</source>
+        <extracomment>Help window: above the list of found pages</extracomment>
+        <translation>Auf 1 Seite gefunden</translation>
+    </message>
+    <message id="15352">
+        <source>Not found</source>
+        <extracomment>Help window: above the empty list of found pages</extracomment>
+        <translation>Nicht gefunden</translation>
+    </message>
+    <message id="15353">
+        <source>Page not found</source>
+        <extracomment>Help window: heading in place of a page</extracomment>
+        <translation>Seite nicht gefunden</translation>
+    </message>
+    <message id="15354">
+        <source>The manual has no page “%s”.</source>
+        <extracomment>Help window: in place of a page that is missing</extracomment>
+        <translation>Das Handbuch hat keine Seite „%s“.</translation>
+    </message>
+    <message id="15355">
+        <source>The manual is not installed: there are no pages in %s.</source>
+        <extracomment>Help window: in place of a page when there is no manual at all; the folder</extracomment>
+        <translation>Das Handbuch ist nicht installiert: In %s sind keine Seiten.</translation>
+    </message>
+    <message id="15356">
+        <source>Page</source>
+        <extracomment>Help window: name of the part with the page</extracomment>
+        <translation>Seite</translation>
+    </message>
+    <message id="15357">
+        <source>Larger text</source>
+        <extracomment>Help window: button for larger text</extracomment>
+        <translation>Text größer</translation>
+    </message>
+    <message id="15358">
+        <source>Smaller text</source>
+        <extracomment>Help window: button for smaller text</extracomment>
+        <translation>Text kleiner</translation>
+    </message>
+    <message id="15380">
+        <source>The file “%s” has been changed by another program since it was loaded.
+
+Replace it? The changed file is kept as a backup beside it.</source>
+        <extracomment>Question when saving; %s is the path of the script</extracomment>
+        <translation>Die Datei „%s“ wurde seit dem Laden von einem anderen Programm geändert.
+
+Soll sie ersetzt werden? Die geänderte Datei bleibt als Sicherungskopie daneben erhalten.</translation>
+    </message>
+    <message id="15381">
+        <source>A VT script file cannot store these entries as they are:
+
+%s
+Save, and lose what the file cannot store?</source>
+        <extracomment>Question when saving as VT; %s is the numbered lines of the entries, each with its line end</extracomment>
+        <translation>Eine VT-Skriptdatei kann diese Einträge nicht so speichern, wie sie sind:
+
+%s
+Speichern und verlieren, was die Datei nicht aufnehmen kann?</translation>
+    </message>
+    <message id="15382">
+        <source>%s loaded: the file ends inside an entry (byte %d)
+%s loaded: unknown command code (byte %d)
+%s loaded: an Input prompt is longer than 1023 characters (byte %d)
+%s loaded: actions are nested too deep (byte %d)
+%s loaded: the file has more than 4096 entries (byte %d)
+%s loaded: the file is longer than any script (byte %d)</source>
+        <extracomment>Status bar: a file was not read whole. Six reasons in this order, one in each line; %s is the number of entries, as “12 entries”, %d the place in the file</extracomment>
+        <translation>%s geladen: die Datei endet mitten in einem Eintrag (Byte %d)
+%s geladen: unbekannter Befehlscode (Byte %d)
+%s geladen: eine Input-Aufforderung ist länger als 1023 Zeichen (Byte %d)
+%s geladen: Aktionen sind zu tief verschachtelt (Byte %d)
+%s geladen: die Datei hat mehr als 4096 Einträge (Byte %d)
+%s geladen: die Datei ist länger als jedes Skript (Byte %d)</translation>
+    </message>
+    <message id="15383">
+        <source>The old file is kept as %s</source>
+        <extracomment>Status bar after saving; %s is a file name</extracomment>
+        <translation>Die alte Datei bleibt als %s erhalten</translation>
+    </message>
+    <message id="15384">
+        <source>More commands</source>
+        <extracomment>For screen readers: the button with the commands that a narrow window has no room for</extracomment>
+        <translation>Weitere Befehle</translation>
+    </message>
+    <message id="15385">
+        <source>Script</source>
+        <extracomment>For screen readers: the list with the entries of the script</extracomment>
+        <translation>Skript</translation>
+    </message>
+    <message id="15386">
+        <source>converted from an older version, which is kept as %s</source>
+        <extracomment>Status bar after opening, behind the number of entries; %s is a file name</extracomment>
+        <translation>aus einer älteren Version umgewandelt, die als %s erhalten bleibt</translation>
+    </message>
+    <message id="15387">
+        <source>the file keeps its older version until it is saved: %s</source>
+        <extracomment>Status bar after opening, behind the number of entries; %s is the system's reason</extracomment>
+        <translation>die Datei behält ihre ältere Version, bis sie gespeichert wird: %s</translation>
+    </message>
+    <message id="15388">
+        <source>a watched Wait_For has no timeout and no actions: left out in entry %s</source>
+        <extracomment>Status bar after opening, behind the number of entries; %s is the numbers of the entries</extracomment>
+        <translation>ein überwachtes Wait_For hat weder Zeitlimit noch Aktionen: weggelassen in Eintrag %s</translation>
+    </message>
+    <message id="15389">
+        <source>changes that were not saved are kept as %s</source>
+        <extracomment>Status bar after opening, behind the number of entries; %s is a file name</extracomment>
+        <translation>nicht gespeicherte Änderungen sind als %s erhalten</translation>
+    </message>
+    <message id="15390">
+        <source>1 Entry</source>
+        <extracomment>One entry in a step that Undo and Redo name: “Delete 1 Entry”</extracomment>
+        <translation>1 Eintrag</translation>
+    </message>
+    <message id="15391">
+        <source>%d Entries</source>
+        <extracomment>Several entries in a step that Undo and Redo name: “Delete 3 Entries”</extracomment>
+        <translation>%d Einträge</translation>
+    </message>
+    <message id="15392">
+        <source>%s %s</source>
+        <extracomment>Tooltip of Delete Entry and, with “?” behind it, the question before deleting: “Delete”, then “3 entries”</extracomment>
+        <translation>%s: %s</translation>
+    </message>
+    <message id="15393">
+        <source>Actions need a timeout: first select “Timeout in Seconds”.</source>
+        <extracomment>Wait_For dialog: tooltip of the action buttons while they are off</extracomment>
+        <translation>Aktionen brauchen ein Zeitlimit: Wählen Sie zuerst „Zeitlimit in Sekunden“ aus.</translation>
+    </message>
     <message id="16001">
         <source>The character %s cannot be stored in a script.</source>
         <extracomment>Note under a field: a character that scripts cannot hold was typed or pasted</extracomment>
@@ -2686,7 +2871,7 @@
     <message id="16002">
         <source>At most %d characters fit here.</source>
         <extracomment>Note under a field: the text would be too long</extracomment>
-        <translation>Hier passen höchstens %d Zeichen hinein.</translation>
+        <translation>Dieses Feld fasst höchstens %d Zeichen.</translation>
     </message>
     <message id="16003">
         <source>A hidden text can have at most %d characters.</source>

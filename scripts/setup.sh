@@ -4,18 +4,24 @@
 
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd -P)
 export CMAKE_BUILD_PARALLEL_LEVEL="${CMAKE_BUILD_PARALLEL_LEVEL:-$(nproc)}"
+# Checkouts of the same text share what ccache keeps, wherever they lie.
+export CCACHE_BASEDIR="${CCACHE_BASEDIR:-$root}" CCACHE_NOHASHDIR="${CCACHE_NOHASHDIR:-1}"
 
 # One list per purpose, so that ./run does not install what only the checks need.
 declare -A packages=(
     [build]="g++ cmake ninja-build ccache
-        qt6-base-dev qt6-svg-dev qt6-tools-dev qt6-l10n-tools
+        qt6-base-dev qt6-svg-dev qt6-tools-dev qt6-l10n-tools libfontconfig-dev
         libssl-dev libcli11-dev nlohmann-json3-dev libgtest-dev libgmock-dev libbenchmark-dev"
     # qt6-qpa-plugins holds both xcb and offscreen, and Qt's own package only recommends it; without a font
-    # offscreen windows show no text.
-    [runtime]="qt6-qpa-plugins hicolor-icon-theme fonts-dejavu-core"
-    [test]="xvfb xauth xdotool openbox"
+    # offscreen windows show no text. qt6-translations-l10n has the buttons of message boxes and the file dialogs
+    # in other languages.
+    [runtime]="qt6-qpa-plugins qt6-translations-l10n hicolor-icon-theme fonts-dejavu-core"
+    [test]="xvfb xauth xdotool openbox gdb"
     # clang-tidy 14 cannot read the ranges of g++ 12's library; 16 can.
     [check]="clang-format-14 clang-tidy-16 shellcheck"
+    # What looks at the package: validators, what detects types and completes words, and a clean system to install into.
+    [package]="dpkg-dev file lintian appstream desktop-file-utils shared-mime-info libglib2.0-bin xdg-utils
+        man-db bsdextrautils mandoc bash-completion git ca-certificates mmdebstrap"
     [fuzz]="clang-14 libclang-rt-14-dev"
 )
 

@@ -2,6 +2,7 @@
 
 #include "platform/files.h"
 #include "platform/registry.h"
+#include "platform/secret_memory.h"
 
 namespace quendra {
 
@@ -30,6 +31,9 @@ void wipeApplication(ApplicationState& state) {
     state.document.saved = {};
     state.history.clear();
     state.entryClipboard.clear();
+    // It may hold the password of a host file.
+    auto& transfer = state.workingTransfer.settings.bytes;
+    wipeMemory(transfer.data(), transfer.size());
     state.luCatalogues = {};
     state.menuCommands = {};
     state.language.unload();

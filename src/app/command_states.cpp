@@ -113,7 +113,8 @@ std::optional<std::string> commandMenuText(int id, const CommandFacts& facts,
 }
 
 std::string deleteText(LanguageLibrary& language, std::size_t count) {
-    return formatText("%s %s", {libraryText(language, 12159), entryCountText(language, count)});
+    return libraryText(language, 15392,
+                       {libraryText(language, 12159), entryCountText(language, count)});
 }
 
 }  // namespace quendra

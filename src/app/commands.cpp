@@ -37,6 +37,7 @@ constexpr CommandInfo table[] = {
     {find, 15326, 15327, 15328, "Ctrl+F"},
     {copyAsText, 15319, 15320, 15321, "Ctrl+Shift+C"},
     {insertScript, 15322, 15323, 15324, "Ctrl+Shift+O"},
+    {helpOnSelection, 15340, 15341, 15342, "Shift+F1"},
 };
 
 constexpr int fileItems[] = {newScript, open, save, saveAs, separator, command::exit};
@@ -45,7 +46,7 @@ constexpr int entryItems[] = {
     insertScriptEvent, insertLuFunction, insertMenuCommand, command::insertScript,
     separator,         editEntry,        separator,         deleteEntries};
 constexpr int modeItems[] = {313, 314, 315, 316, 317, 318};
-constexpr int helpItems[] = {help, separator, about};
+constexpr int helpItems[] = {help, helpOnSelection, separator, about};
 
 constexpr MenuInfo menuTable[] = {
     {10000, "fileMenu", fileItems},   {10018, "editMenu", editItems},

@@ -35,6 +35,7 @@ inline constexpr int redo = 322;
 inline constexpr int find = 323;
 inline constexpr int copyAsText = 324;
 inline constexpr int insertScript = 325;
+inline constexpr int helpOnSelection = 326;
 /// Stands for a separator in menus and toolbar.
 inline constexpr int separator = 0;
 }  // namespace command

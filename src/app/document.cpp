@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <sys/stat.h>
 #include <utility>
 
 namespace quendra {
@@ -59,28 +60,53 @@ std::string entryNumbers(const std::vector<std::size_t>& entries) {
     return entries.size() > shown ? text + ", ..." : text;
 }
 
-// What there is to tell about a loaded file behind the number of its entries; empty for an ordinary
-// one.
+// The text holds one line for each reason, in the order of ReadStop.
+std::string stopText(ApplicationState& state, const ReadResult& read) {
+    const std::string lines = libraryText(state.language, 15382);
+    std::size_t start = 0;
+    for (auto left = static_cast<int>(read.stop) - 1; left > 0; --left)
+        start = std::min(lines.find('\n', start), lines.size() - 1) + 1;
+    return formatText(lines.substr(start, lines.find('\n', start) - start),
+                      {entryCountText(state.language, read.script.entryCount()),
+                       std::to_string(read.stopOffset)});
+}
+
+// What there is to tell about a loaded file; empty for an ordinary one. `unsaved` is the name of a
+// copy with changes that were not saved, empty for none.
 std::string loadNote(ApplicationState& state, const ReadResult& read,
-                     const std::optional<ReplaceResult>& upgrade) {
+                     const std::optional<ReplaceResult>& upgrade, const fs::path& unsaved) {
     std::string remarks;
-    if (!read.isWhole()) {
-        remarks +=
-            " loaded: " + describe(read.stop) + " (byte " + std::to_string(read.stopOffset) + ")";
-    }
-    if (!read.droppedActions.empty()) {
-        remarks += "; a watched Wait_For has no timeout and no actions: left out in entry " +
-                   entryNumbers(read.droppedActions);
-    }
-    if (upgrade && upgrade->failure) {
-        remarks +=
-            "; the file keeps its older version until it is saved: " + upgrade->failure->message;
-    } else if (upgrade) {
-        remarks += "; converted from an older version, which is kept as " +
-                   pathText(upgrade->backup.filename());
-    }
+    const auto add = [&](StringId id, const std::string& what) {
+        remarks += "; " + libraryText(state.language, id, {what});
+    };
+    if (!read.droppedActions.empty()) add(15388, entryNumbers(read.droppedActions));
+    if (upgrade && upgrade->failure) add(15387, upgrade->failure->message);
+    if (upgrade && !upgrade->failure) add(15386, pathText(upgrade->backup.filename()));
+    if (!unsaved.empty()) add(15389, pathText(unsaved));
+    if (!read.isWhole()) return stopText(state, read) + remarks;
     if (remarks.empty()) return {};
     return entryCountText(state.language, read.script.entryCount()) + remarks;
+}
+
+// Where changes go that were not saved: "login (unsaved).qds", "login (unsaved 2).qds", ...
+fs::path unsavedName(const fs::path& script, int number) {
+    const std::string mark = number == 1 ? "" : " " + std::to_string(number);
+    fs::path name = script.parent_path() / script.stem();
+    name += " (unsaved" + mark + ").qds";
+    return name;
+}
+
+// The name of the latest such copy that is newer than the script itself; empty for none.
+fs::path newerUnsavedCopy(const fs::path& script) {
+    std::error_code error;
+    const auto saved = fs::last_write_time(script, error);
+    fs::path newest;
+    for (int number = 1; !error; ++number) {
+        const fs::path copy = unsavedName(script, number);
+        const auto kept = fs::last_write_time(copy, error);
+        if (!error && kept > saved) newest = copy.filename();
+    }
+    return newest;
 }
 
 // The document takes over what was loaded. From here on nothing can fail.
@@ -123,14 +149,12 @@ std::string shortEntryLine(const ApplicationState& state, std::size_t index) {
 
 Message lossQuestion(ApplicationState& state, const std::vector<std::size_t>& entries) {
     constexpr std::size_t shown = 10;
-    std::string text = "A VT script file cannot store these entries as they are:\n\n";
+    std::string lines;
     for (std::size_t i = 0; i < std::min(entries.size(), shown); ++i) {
-        text += shortEntryLine(state, entries[i]) + "\n";
+        lines += shortEntryLine(state, entries[i]) + "\n";
     }
-    if (entries.size() > shown) {
-        text += "and " + std::to_string(entries.size() - shown) + " more\n";
-    }
-    text += "\nSave, and lose what the file cannot store?";
+    if (entries.size() > shown) lines += "...\n";
+    const std::string text = libraryText(state.language, 15381, {lines});
     return {text, libraryText(state.language, 13730), MessageIcon::Question, MessageButtons::YesNo,
             true};
 }
@@ -168,8 +192,10 @@ void newDocument(ApplicationState& state) {
 OpenOutcome openDocument(ApplicationState& state, const fs::path& path) {
     LoadedScript loaded = loadScriptFile(path);
     if (auto refusal = openRefusal(state, path, loaded)) return {false, std::move(refusal), {}};
+    // Asked before the upgrade, which makes the script itself the newer one.
+    const fs::path unsaved = newerUnsavedCopy(path);
     const auto upgrade = upgradeScriptFile(path, loaded);
-    std::string note = loadNote(state, loaded.read, upgrade);
+    std::string note = loadNote(state, loaded.read, upgrade, unsaved);
     takeOver(state, path, std::move(loaded), upgrade);
     return {true, std::nullopt, std::move(note)};
 }
@@ -191,7 +217,7 @@ OpenOutcome openDocumentAtStart(ApplicationState& state, const fs::path& path) {
 OtherScript readOtherScript(ApplicationState& state, const fs::path& path) {
     LoadedScript loaded = loadScriptFile(path);
     if (auto refusal = openRefusal(state, path, loaded)) return {{}, {}, std::move(refusal), {}};
-    std::string note = loadNote(state, loaded.read, std::nullopt);
+    std::string note = loadNote(state, loaded.read, std::nullopt, {});
     return {std::move(loaded.read.script), loaded.read.signature.hostType, std::nullopt,
             std::move(note)};
 }
@@ -199,9 +225,7 @@ OtherScript readOtherScript(ApplicationState& state, const fs::path& path) {
 std::vector<Message> questionsBeforeSave(ApplicationState& state, const fs::path& path) {
     std::vector<Message> questions;
     if (changedOnDisk(state.document, path)) {
-        questions.push_back({"The file \"" + pathText(path) +
-                                 "\" has been changed by another program since it was loaded.\n\n"
-                                 "Replace it? The changed file is kept as a backup beside it.",
+        questions.push_back({libraryText(state.language, 15380, {pathText(path)}),
                              libraryText(state.language, 13730), MessageIcon::Question,
                              MessageButtons::YesNo, true});
     }
@@ -222,7 +246,31 @@ SaveOutcome saveDocument(ApplicationState& state, const fs::path& path) {
     state.document = {path, false, result.stamp, false, state.script};
     backupSavedScript(state.settings, path);
     if (result.backup.empty()) return {true, std::nullopt, {}};
-    return {true, std::nullopt, "The old file is kept as " + pathText(result.backup.filename())};
+    return {true, std::nullopt,
+            libraryText(state.language, 15383, {pathText(result.backup.filename())})};
+}
+
+std::optional<fs::path> keepUnsavedScript(const ApplicationState& state) {
+    if (!state.document.modified || state.script.entryCount() == 0) return std::nullopt;
+    // A VT file cannot store every entry; there is nobody to ask, and the others can.
+    const bool storable = unstorableEntries(state.script, state.currentHostType).empty();
+    const HostType hostType = storable ? state.currentHostType : HostType::Mainframe;
+    const fs::path& own = state.document.fileName;
+    const fs::path script = own.empty() ? state.settings.scriptsDir / "Untitled.qds" : own;
+    for (const fs::path& folder : {script.parent_path(), state.settings.scriptsDir}) {
+        std::error_code ignored;
+        int number = 1;
+        const fs::path name = folder / script.filename();
+        while (fs::exists(fs::symlink_status(unsavedName(name, number), ignored)))
+            ++number;
+        fs::path copy = unsavedName(name, number);
+        // Nobody else has been allowed to read it.
+        const mode_t mask = ::umask(077);
+        const auto result = saveScriptFile(copy, state.script, hostType, OldFile::KeepAsBackup);
+        ::umask(mask);
+        if (!result.failure) return copy;
+    }
+    return std::nullopt;
 }
 
 }  // namespace quendra

@@ -76,4 +76,11 @@ struct SaveOutcome {
 /// lose (another file's, or those that the editor could not read whole) stay beside it as a backup.
 [[nodiscard]] SaveOutcome saveDocument(ApplicationState& state, const std::filesystem::path& path);
 
+/// Keeps the changes of a script that is going without having been saved, when the desktop's
+/// session ends or an untitled one was to be saved and got no name: a copy "NAME (unsaved).qds"
+/// beside the script, or in the scripts folder for an untitled one and where that fails. Opening
+/// the script tells of it. Gives the copy; none when there is nothing to keep or no place for it.
+/// Script, document and their file stay as they are.
+[[nodiscard]] std::optional<std::filesystem::path> keepUnsavedScript(const ApplicationState& state);
+
 }  // namespace quendra

@@ -46,7 +46,49 @@ MovePlan planMove(std::span<const std::size_t> selected, int focused, int target
     return plan;
 }
 
+namespace {
+
+// No step moves an entry that another one has moved or will move: each goes the same way as the one
+// before it and stays on the same side of it.
+bool isOneSweep(std::span<const MoveStep> steps, int entryCount) {
+    const bool up = !steps.empty() && steps.front().to <= steps.front().from;
+    for (std::size_t k = 0; k < steps.size(); ++k) {
+        const auto [from, to] = steps[k];
+        if (to < 0 || to >= entryCount || (up ? to > from : to < from)) return false;
+        if (k == 0) continue;
+        const auto [fromBefore, toBefore] = steps[k - 1];
+        const bool behind =
+            up ? from > fromBefore && to > toBefore : from < fromBefore && to < toBefore;
+        if (!behind) return false;
+    }
+    return true;
+}
+
+// The order after one sweep: the moved entries stand where they were moved to, and the others fill
+// the places between them. In one pass, while a step at a time costs the distance of each.
+std::vector<std::size_t> orderAfterSweep(std::span<const MoveStep> steps, int entryCount) {
+    constexpr auto unused = static_cast<std::size_t>(-1);
+    std::vector<std::size_t> order(static_cast<std::size_t>(entryCount), unused);
+    std::vector<bool> moved(order.size());
+    for (const MoveStep& step : steps) {
+        order[static_cast<std::size_t>(step.to)] = static_cast<std::size_t>(step.from);
+        moved[static_cast<std::size_t>(step.from)] = true;
+    }
+    std::size_t next = 0;
+    for (std::size_t& place : order) {
+        if (place != unused) continue;
+        while (moved[next]) {
+            ++next;
+        }
+        place = next++;
+    }
+    return order;
+}
+
+}  // namespace
+
 std::vector<std::size_t> orderAfter(std::span<const MoveStep> steps, int entryCount) {
+    if (isOneSweep(steps, entryCount)) return orderAfterSweep(steps, entryCount);
     std::vector<std::size_t> order(static_cast<std::size_t>(entryCount));
     std::iota(order.begin(), order.end(), std::size_t{0});
     for (const MoveStep& step : steps) {

@@ -122,7 +122,8 @@ EditorPane::Private::Private(EditorPane& pane, ApplicationState& state)
       scriptModel_(new ScriptListModel(state, &pane)),
       luModel_(
           new PaletteModel(luFunctionRows(state.luCatalogues.of(state.currentHostType)), &pane)) {
-    lists_[0] = addList("scriptList", QStringLiteral("Script"), scriptModel_);
+    lists_[0] =
+        addList("scriptList", QString::fromStdString(state.language.loadText(15385)), scriptModel_);
     lists_[0]->setSelectionMode(QAbstractItemView::ExtendedSelection);
     addPalette(0, new PaletteModel(scriptEventRows(), &pane));
     addPalette(1, luModel_);
@@ -383,6 +384,14 @@ void EditorPane::markEntries(std::vector<std::size_t> entries) {
 int EditorPane::selectedRow(Palette palette) const {
     const std::vector<std::size_t> rows = d_->listOf(palette).selectedRows();
     return rows.empty() ? -1 : static_cast<int>(rows.front());
+}
+
+std::optional<Palette> EditorPane::focusedPalette() const {
+    for (const Palette palette :
+         {Palette::ScriptEvents, Palette::LuFunctions, Palette::MenuCommands}) {
+        if (&d_->listOf(palette) == d_->lastFocused_) return palette;
+    }
+    return std::nullopt;
 }
 
 QString EditorPane::paletteText(Palette palette, int row) const {

@@ -7,6 +7,7 @@
 #include <QWidget>
 
 #include <memory>
+#include <optional>
 #include <span>
 #include <vector>
 
@@ -41,6 +42,8 @@ class EditorPane : public QWidget {
     void markEntries(std::vector<std::size_t> entries);
     /// The selected row of a palette, -1 for none.
     [[nodiscard]] int selectedRow(Palette palette) const;
+    /// The palette that has the focus or had it last; none while that is the script list.
+    [[nodiscard]] std::optional<Palette> focusedPalette() const;
     [[nodiscard]] QString paletteText(Palette palette, int row) const;
     [[nodiscard]] QString entryText(int entry) const;
     /// Gives the keyboard focus back to the list of the pane that had it last (the script list at

@@ -7,6 +7,7 @@
 #include <QPlainTextEdit>
 #include <QStyleFactory>
 #include <QStyleOption>
+#include <QToolBar>
 
 #include <algorithm>
 #include <functional>
@@ -175,6 +176,21 @@ void EditorStyle::drawComplexControl(ComplexControl control, const QStyleOptionC
     } else {
         QProxyStyle::drawComplexControl(control, option, painter, widget);
     }
+}
+
+// The whole toolbar is seen in a window that is as wide as it opens.
+int EditorStyle::pixelMetric(PixelMetric metric, const QStyleOption* option,
+                             const QWidget* widget) const {
+    if (metric == PM_ToolBarItemSpacing) return 0;
+    return QProxyStyle::pixelMetric(metric, option, widget);
+}
+
+QSize EditorStyle::sizeFromContents(ContentsType type, const QStyleOption* option,
+                                    const QSize& contents, const QWidget* widget) const {
+    const QSize size = QProxyStyle::sizeFromContents(type, option, contents, widget);
+    const bool inToolBar =
+        type == CT_ToolButton && widget && qobject_cast<QToolBar*>(widget->parentWidget());
+    return inToolBar ? size - QSize(4, 0) : size;
 }
 
 int EditorStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,

@@ -7,7 +7,8 @@ namespace quendra {
 
 /// Lists and fields have an edge that shows on dark too. Lists show that they have the focus, and
 /// show their selection quietly when they have not. Buttons have no pictures, messages have plain
-/// ones, the toolbar no line of its own, since the pane below draws one, and a hidden text is
+/// ones, the toolbar no line of its own, since the pane below draws one, and its buttons are
+/// close together, and a hidden text is
 /// asterisks, as in the script list.
 class EditorStyle : public QProxyStyle {
     Q_OBJECT
@@ -21,6 +22,10 @@ class EditorStyle : public QProxyStyle {
                        const QWidget* widget) const override;
     void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
                             QPainter* painter, const QWidget* widget) const override;
+    int pixelMetric(PixelMetric metric, const QStyleOption* option,
+                    const QWidget* widget) const override;
+    QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& contents,
+                           const QWidget* widget) const override;
     int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                   QStyleHintReturn* returnData) const override;
     QIcon standardIcon(StandardPixmap standardIcon, const QStyleOption* option,

@@ -124,6 +124,10 @@ constexpr IconRow rows[] = {
     {323, "command-find"},
     {324, "command-copy-as-text"},
     {325, "command-insert-script"},
+    {326, "command-help-on-selection"},
+    {401, "help-back"},
+    {402, "help-forward"},
+    {403, "help-start"},
 };
 
 static_assert(std::ranges::is_sorted(rows, std::ranges::less_equal{}, &IconRow::bitmapId));
@@ -134,10 +138,13 @@ std::span<const IconRow> iconCatalogue() {
     return rows;
 }
 
-QString iconFile(int bitmapId) {
+const Drawing* iconDrawing(int bitmapId) {
     const auto* row = std::ranges::lower_bound(rows, bitmapId, {}, &IconRow::bitmapId);
-    if (row == std::end(rows) || row->bitmapId != bitmapId) return {};
-    return QStringLiteral(":/icons/%1.svg").arg(QLatin1String(row->name));
+    if (row == std::end(rows) || row->bitmapId != bitmapId) return nullptr;
+    const std::span<const Drawing> all = drawings();
+    const std::string_view name = row->name;
+    const auto drawing = std::ranges::lower_bound(all, name, {}, &Drawing::name);
+    return drawing != all.end() && drawing->name == name ? &*drawing : nullptr;
 }
 
 }  // namespace quendra

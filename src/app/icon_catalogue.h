@@ -2,7 +2,7 @@
 // by number only.
 #pragma once
 
-#include <QString>
+#include "app/drawing.h"
 
 #include <span>
 
@@ -15,11 +15,11 @@ struct IconRow {
 };
 
 // All drawings by ascending bitmap id: 102 the program, 103 an LU function, 110..129 the Script
-// Events in code order, 201..268 the menu commands, 300..325 the editor's own commands. The table
-// lives as long as the program.
+// Events in code order, 201..268 the menu commands, 300..326 the editor's own commands, 401..403
+// the buttons of the help window. The table lives as long as the program.
 [[nodiscard]] std::span<const IconRow> iconCatalogue();
 
-// The resource path of a drawing, empty for an id that has none.
-[[nodiscard]] QString iconFile(int bitmapId);
+// The drawing of an id, which lives as long as the program; null for an id that has none.
+[[nodiscard]] const Drawing* iconDrawing(int bitmapId);
 
 }  // namespace quendra

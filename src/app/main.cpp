@@ -3,18 +3,26 @@
 #include "app/application_life.h"
 #include "app/command_line.h"
 #include "app/commands.h"
+#include "app/crash_reporter.h"
+#include "app/document.h"
+#include "app/end_signals.h"
+#include "app/font_search.h"
+#include "app/help/editor_help.h"
 #include "app/main_window.h"
 #include "app/message_box.h"
 #include "app/screenshot.h"
 #include "app/script_editor.h"
 #include "app/startup.h"
+#include "app/symbol_icon.h"
 #include "app/toolkit_language.h"
 #include "platform/editor_windows.h"
 
 #include <QApplication>
 #include <QSocketNotifier>
 
+#include <clocale>
 #include <cstdio>
+#include <optional>
 
 namespace quendra {
 
@@ -37,44 +45,73 @@ struct ShownWindow {
     MainWindow* window = nullptr;
 };
 
-EditorWindow describeWindow(const ShownWindow& shown, const std::string& className) {
-    return {
-        className,
-        [&shown] { return shown.state ? shown.state->document.fileName : std::filesystem::path(); },
-        [&shown] {
-            if (shown.window) shown.window->comeToFront();
-        }};
+void comeToFront(const ShownWindow& shown) {
+    if (shown.window) return shown.window->comeToFront();
+    // A message at start-up stands in for the window that is to come.
+    if (QWidget* message = QApplication::activeModalWidget()) {
+        message->raise();
+        message->activateWindow();
+    }
+}
+
+// `script` is what the window will show.
+EditorWindow describeWindow(const ShownWindow& shown, const std::string& className,
+                            const std::filesystem::path& script) {
+    return {className,
+            [&shown, script] { return shown.state ? shown.state->document.fileName : script; },
+            [&shown] { comeToFront(shown); }};
+}
+
+// Answers other editors from the event loop, as long as the result lives. `listener` may be null.
+std::unique_ptr<QSocketNotifier> answerOthers(EditorListener* listener) {
+    if (!listener || listener->descriptor() < 0) return nullptr;
+    auto asked = std::make_unique<QSocketNotifier>(listener->descriptor(), QSocketNotifier::Read);
+    QObject::connect(asked.get(), &QSocketNotifier::activated, asked.get(),
+                     [listener] { listener->serve(); });
+    return asked;
 }
 
 void showNotices(const std::vector<StartupNotice>& notices) {
     for (const StartupNotice& notice : notices) {
+        QApplication::setWindowIcon(programIcon());
         if (notice.beep) QApplication::beep();
         showMessage(nullptr, {notice.text, notice.caption, MessageIcon::Exclamation,
                               MessageButtons::Ok, false});
     }
 }
 
-void applyCommandLine(MainWindow& window, const CommandLine& line) {
-    if (line.hostType) window.runCommand(hostTypeInfo(*line.hostType).modeCommand);
-    if (!line.script.empty()) window.openAtStart(std::filesystem::absolute(line.script));
+// Before there is a window, so that it is built for the script that it is going to show.
+std::optional<OpenOutcome> applyCommandLine(ApplicationState& state, const CommandLine& line) {
+    if (line.hostType) state.currentHostType = *line.hostType;
+    if (line.script.empty()) return std::nullopt;
+    // There is no absolute path when the current folder has been removed.
+    std::error_code error;
+    const std::filesystem::path script = std::filesystem::absolute(line.script, error);
+    return openDocumentAtStart(state, error ? line.script : script);
 }
 
-// The run from the first window to the last. `listener` may be null.
-int runWindow(ApplicationState& state, ShownWindow& shown, EditorListener* listener,
-              const CommandLine& line, const PictureOptions& picture) {
-    MainWindow window(state);
+// The run from the first window to the last.
+int runWindow(ApplicationState& state, ShownWindow& shown, const CommandLine& line,
+              const PictureOptions& picture, const FontSettings& fontSettings) {
+    const std::optional<OpenOutcome> opening = applyCommandLine(state, line);
+    MainWindow window(state, [&fontSettings] { fontSettings.wait(); });
     const ScriptEditor editor(state, window, editParameters);
+    const EditorHelp help(state, window);
     shown = {&state, &window};
-    std::unique_ptr<QSocketNotifier> asked;
-    if (listener && listener->descriptor() >= 0) {
-        asked = std::make_unique<QSocketNotifier>(listener->descriptor(), QSocketNotifier::Read);
-        QObject::connect(asked.get(), &QSocketNotifier::activated, &window,
-                         [listener] { listener->serve(); });
-    }
+    bool ended = false;
+    const EndSignals endSignals([&] {
+        ended = true;
+        window.endSession();
+        QApplication::exit();
+    });
     window.show();
-    applyCommandLine(window, line);
-    const int status =
-        picture.file.isEmpty() ? QApplication::exec() : (savePicture(window, picture) ? 0 : 1);
+    if (opening) window.showOpened(*opening);
+    int status = 0;
+    if (!picture.file.isEmpty()) {
+        status = savePicture(window, picture) ? 0 : 1;
+    } else if (!ended) {
+        status = QApplication::exec();
+    }
     shown = {};
     return status;
 }
@@ -87,24 +124,31 @@ int runEditor(int& argc, char** argv, const CommandLine& line, const PictureOpti
     if (picture.file.isEmpty()) {
         const std::string className = readProgramSettings(inputs).windowClassName;
         admission = admitEditor(editorSocketFolder(inputs.environment), line.script,
-                                describeWindow(shown, className));
+                                describeWindow(shown, className, line.script));
         if (admission.raisedOther) return 0;
     }
     prepareToolkit(inputs.environment, picture);
+    // As the application object is going to, but before another thread is there to notice.
+    std::setlocale(LC_ALL, "");
+    const FontSettings fontSettings;
     QApplication application(argc, argv);
+    const auto asked = answerOthers(admission.listener.get());
     QGuiApplication::setDesktopFileName(QStringLiteral("quendra-script-editor"));
+    const FontSearch fonts(fontSettings);
     applyAppearance(picture.appearance);
 
     const StartupSettings settings = readStartupSettings(inputs);
+    installCrashReporter(inputs.programFile, settings.workingDir);
     useToolkitLanguage(settings.configDir);
     ApplicationState state;
     showNotices(loadApplication(state, settings, inputs.environment));
-    const int status = runWindow(state, shown, admission.listener.get(), line, picture);
+    const int status = runWindow(state, shown, line, picture, fontSettings);
     wipeApplication(state);
     return status;
 }
 
 int start(int& argc, char** argv) {
+    if (const auto status = reportCrash(argc, argv)) return *status;
     std::vector<std::string> arguments(argv + 1, argv + argc);
     const auto picture = takePictureOptions(arguments);
     if (!picture) {

@@ -12,12 +12,13 @@
 
 #include <QAction>
 #include <QActionGroup>
+#include <QApplication>
 #include <QCloseEvent>
-#include <QGuiApplication>
 #include <QMenuBar>
 #include <QScreen>
 #include <QSessionManager>
 #include <QStatusBar>
+#include <QTimer>
 #include <QToolBar>
 
 #include <algorithm>
@@ -27,8 +28,7 @@ namespace quendra {
 
 namespace {
 
-constexpr QSize comfortableSize{940, 640};
-constexpr QSize smallestSize{626, 410};
+constexpr QSize firstSize{626, 410};
 
 // Qt replaces "[*]" in a title by its own mark.
 QString asWindowTitle(const std::string& title) {
@@ -48,47 +48,63 @@ void runIfSet(const std::function<void()>& operation) {
 }
 
 // Qt's own buttons for what a narrow window has no room for.
-void nameExtensionButtons(QWidget& window) {
+void nameExtensionButtons(QWidget& window, const QString& text) {
     for (const char* name : {"qt_toolbar_ext_button", "qt_menubar_ext_button"}) {
         for (auto* button : window.findChildren<QWidget*>(QLatin1String(name))) {
-            button->setAccessibleName(QStringLiteral("More commands"));
+            button->setAccessibleName(text);
         }
     }
 }
 
 }  // namespace
 
-MainWindow::MainWindow(ApplicationState& state, QWidget* parent)
-    : QMainWindow(parent), state_(state) {
+MainWindow::MainWindow(ApplicationState& state, const std::function<void()>& beforeText)
+    : state_(state) {
     setObjectName(QStringLiteral("mainWindow"));
-    setWindowIcon(programIcon());
     setContextMenuPolicy(Qt::NoContextMenu);
     buildActions();
-    buildMenus();
     buildToolBar();
+    beforeText();
+    buildMenus();
     buildStatusBar();
     pane_ = new EditorPane(state_, this);
     setCentralWidget(pane_);
     findBar_ = new FindBar(state_, *pane_, this);
     addToolBar(Qt::BottomToolBarArea, findBar_);
     findBar_->hide();
-    nameExtensionButtons(*this);
+    nameExtensionButtons(*this, qtText(libraryText(state_.language, 15384)));
     connect(pane_, &EditorPane::commandRequested, this, &MainWindow::runCommand);
     connect(pane_, &EditorPane::selectionChanged, this, &MainWindow::updateCommandStates);
-    connect(
-        qGuiApp, &QGuiApplication::commitDataRequest, this, [this] { endSession(); },
-        Qt::DirectConnection);
+    watchSession();
     showHostType();
     showDocument();
     placeOnScreen();
+}
+
+void MainWindow::watchSession() {
+    // Its manager waits for the answer, so both run at once.
+    connect(
+        qGuiApp, &QGuiApplication::commitDataRequest, this, [this] { endSession(); },
+        Qt::DirectConnection);
+    connect(
+        qGuiApp, &QGuiApplication::saveStateRequest, this,
+        [this](QSessionManager& session) {
+            QStringList command(QCoreApplication::applicationFilePath());
+            const std::filesystem::path& script = state_.document.fileName;
+            if (!script.empty()) {
+                command << QStringLiteral("--") << QFile::decodeName(script.c_str());
+            }
+            session.setRestartCommand(command);
+        },
+        Qt::DirectConnection);
 }
 
 void MainWindow::setEditingCommands(EditingCommands commands) {
     editing_ = std::move(commands);
 }
 
-void MainWindow::setHelpCommand(std::function<void()> showHelp) {
-    showHelp_ = std::move(showHelp);
+void MainWindow::setHelpCommands(HelpCommands commands) {
+    help_ = std::move(commands);
 }
 
 void MainWindow::buildActions() {
@@ -133,16 +149,26 @@ void MainWindow::buildToolBar() {
     toolBar_->setFloatable(false);
     toolBar_->setIconSize({24, 24});
     toolBar_->setToolButtonStyle(Qt::ToolButtonIconOnly);
+    CommandFacts begun;
+    begun.entryCount = state_.script.entryCount();
+    begun.selectedCount = begun.entryCount > 0 ? 1 : 0;
     for (const int id : toolbarCommands()) {
         if (id == command::separator) {
             toolBar_->addSeparator();
             continue;
         }
         toolBar_->addAction(actions_.at(id));
+        drawAhead(actions_.at(id)->icon(), isCommandEnabled(id, begun));
         toolBar_->widgetForAction(actions_.at(id))
             ->setObjectName(QStringLiteral("toolButton%1").arg(id));
     }
     addToolBar(toolBar_);
+}
+
+// So that the first painting finds the drawing done.
+void MainWindow::drawAhead(const QIcon& icon, bool enabled) const {
+    static_cast<void>(icon.pixmap(toolBar_->iconSize(), devicePixelRatio(),
+                                  enabled ? QIcon::Normal : QIcon::Disabled));
 }
 
 void MainWindow::buildStatusBar() {
@@ -154,12 +180,13 @@ void MainWindow::buildStatusBar() {
 }
 
 void MainWindow::placeOnScreen() {
-    setMinimumSize(smallestSize.width() * 3 / 4, smallestSize.height() * 3 / 4);
-    resize(comfortableSize.boundedTo(screen()->availableSize()));
+    setMinimumSize(firstSize * 3 / 4);
+    resize(firstSize.boundedTo(screen()->availableSize()));
     centreOnScreen(*this);
 }
 
 void MainWindow::runCommand(int command) {
+    sessionEnds_ = false;
     if (!refusedAtLimit(command)) dispatch(command);
     // Find is typed into its bar.
     if (command != command::find) pane_->takeFocus();
@@ -171,7 +198,7 @@ bool MainWindow::refusedAtLimit(int command) {
     if (!inserts) return false;
     if (!state_.script.isFull()) return false;
     // The insert that would have used it up does not come.
-    state_.dropPending = false;
+    if (std::exchange(state_.dropPending, false)) state_.currentIndex = pane_->focusedEntry();
     showMessage(
         this, {formatText("Max limit of %d script entries reached.", {std::to_string(maxEntries)}),
                "Quendra Script Editor", MessageIcon::Information, MessageButtons::Ok, false});
@@ -186,7 +213,8 @@ void MainWindow::dispatch(int command) {
         case command::save: save(); return;
         case command::saveAs: saveAs(); return;
         case command::exit: QMetaObject::invokeMethod(this, "close", Qt::QueuedConnection); return;
-        case command::help: return runIfSet(showHelp_);
+        case command::help: return runIfSet(help_.showHelp);
+        case command::helpOnSelection: return runIfSet(help_.helpOnSelection);
         case command::find: return findBar_->open();
         case command::about: AboutBox(state_.language, this).exec(); return;
         default: return dispatchEditing(command);
@@ -233,8 +261,7 @@ void MainWindow::openScript() {
     showDocument();
 }
 
-void MainWindow::openAtStart(const std::filesystem::path& path) {
-    const OpenOutcome outcome = openDocumentAtStart(state_, path);
+void MainWindow::showOpened(const OpenOutcome& outcome) {
     note_ = outcome.note;
     showHostType();
     showDocument();
@@ -273,7 +300,11 @@ bool MainWindow::agreedToAll(const std::vector<Message>& questions) {
 bool MainWindow::mayDiscardChanges(DiscardingCommand command) {
     if (!state_.document.modified) return true;
     switch (askMessage(this, savePrompt(state_, command))) {
-        case MessageAnswer::Yes: return save();
+        case MessageAnswer::Yes:
+            if (!save()) return false;
+            // The name was refused to Save As, and the command goes on all the same.
+            if (state_.document.modified) static_cast<void>(keepUnsavedScript(state_));
+            return true;
         case MessageAnswer::No: return true;
         default: return false;
     }
@@ -300,6 +331,7 @@ void MainWindow::showDocument() {
 }
 
 void MainWindow::scriptChanged() {
+    sessionEnds_ = false;
     state_.document.modified = state_.script != state_.document.saved;
     note_.clear();
     updateTitle();
@@ -335,15 +367,28 @@ void MainWindow::updateCommandStates() {
 void MainWindow::comeToFront() {
     setWindowState(windowState() & ~Qt::WindowMinimized);
     raise();
-    activateWindow();
+    // An open dialog has the keyboard. Not every window manager hands it on from the window behind.
+    QWidget* dialog = QApplication::activeModalWidget();
+    QWidget& front = dialog ? *dialog : *this;
+    front.raise();
+    front.activateWindow();
 }
 
 void MainWindow::endSession() {
-    state_.document.modified = false;
-    updateTitle();
+    // Asked twice on the way out, it keeps one copy.
+    if (!sessionEnds_) static_cast<void>(keepUnsavedScript(state_));
+    sessionEnds_ = true;
+}
+
+// The desktop takes the icon in every size at once, which can wait until the window is seen.
+void MainWindow::paintEvent(QPaintEvent* event) {
+    QMainWindow::paintEvent(event);
+    if (testAttribute(Qt::WA_SetWindowIcon)) return;
+    QTimer::singleShot(0, this, [this] { setWindowIcon(programIcon()); });
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {
+    if (sessionEnds_) state_.document.modified = false;
     event->setAccepted(mayDiscardChanges(DiscardingCommand::Exit));
 }
 

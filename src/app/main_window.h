@@ -22,18 +22,27 @@ namespace quendra {
 class FindBar;
 class StatusLine;
 
+/// What the help commands do; a command whose function is empty does nothing.
+struct HelpCommands {
+    std::function<void()> showHelp;
+    std::function<void()> helpOnSelection;
+};
+
 class MainWindow : public QMainWindow {
     Q_OBJECT
 
   public:
     /// `state` outlives the window. Its language is loaded and its catalogues are built.
-    explicit MainWindow(ApplicationState& state, QWidget* parent = nullptr);
+    /// `beforeText` is called before the first text is measured, which needs the fonts: a start
+    /// that is still finding them has the icons drawn meanwhile.
+    explicit MainWindow(
+        ApplicationState& state, const std::function<void()>& beforeText = [] {});
 
     /// The commands that change the script run these from now on.
     void setEditingCommands(EditingCommands commands);
 
-    /// The Help command runs this from now on.
-    void setHelpCommand(std::function<void()> showHelp);
+    /// The help commands run these from now on.
+    void setHelpCommands(HelpCommands commands);
 
     /// Runs a command as its menu item does, whether it is enabled or not.
     void runCommand(int command);
@@ -42,8 +51,8 @@ class MainWindow : public QMainWindow {
     /// modified by it.
     void setHostType(HostType hostType);
 
-    /// Opens the script that the command line names.
-    void openAtStart(const std::filesystem::path& path);
+    /// The script that the command line names has been opened: shows it, and what there is to tell.
+    void showOpened(const OpenOutcome& outcome);
 
     /// The script has been changed: marks the document as modified when it differs from the saved
     /// one, and brings title, status bar and command states up to date. The list itself is the
@@ -61,20 +70,26 @@ class MainWindow : public QMainWindow {
     /// Restores the window if it is minimised and brings it in front of all others.
     void comeToFront();
 
-    /// The desktop session ends: the window closes without a question from now on.
+    /// The desktop's session ends, and nobody is there to be asked: changes that are not saved go
+    /// into a copy beside the script, and the window closes without a question. Whoever works on,
+    /// since the end was called off, is asked again.
     void endSession();
 
     [[nodiscard]] EditorPane& pane() { return *pane_; }
 
   protected:
+    void paintEvent(QPaintEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
 
   private:
     void buildActions();
     void buildMenus();
     void buildToolBar();
+    void drawAhead(const QIcon& icon, bool enabled) const;
     void buildStatusBar();
     void placeOnScreen();
+    /// Follows the end of the desktop's session and has its next one open the script again.
+    void watchSession();
 
     void dispatch(int command);
     void dispatchEditing(int command);
@@ -95,13 +110,14 @@ class MainWindow : public QMainWindow {
 
     ApplicationState& state_;
     EditingCommands editing_;
-    std::function<void()> showHelp_;
+    HelpCommands help_;
     std::map<int, QAction*> actions_;
     QToolBar* toolBar_ = nullptr;
     EditorPane* pane_ = nullptr;
     FindBar* findBar_ = nullptr;
     StatusLine* statusLine_ = nullptr;
     std::string note_;
+    bool sessionEnds_ = false;
 };
 
 }  // namespace quendra

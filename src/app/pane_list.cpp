@@ -19,6 +19,25 @@ constexpr int lineThickness = 2;
 /// Right of the text of a row that is painted only as wide as its text.
 constexpr int textMargin = 4;
 
+/// How many characters at the start of a text fill `width`; all of them if they do not.
+qsizetype filling(const QString& text, const QFontMetrics& metrics, int width) {
+    qsizetype count = 0;
+    for (int advance = 0; count < text.size() && advance <= width; ++count) {
+        advance += metrics.horizontalAdvance(text.at(count));
+    }
+    return count;
+}
+
+/// Leaves more of the text than fits, so that the ellipsis stands where it would anyway: the text
+/// has the row's width less that of the icon, by far more than kerning may save.
+void cutToWidth(QStyleOptionViewItem& row) {
+    const qsizetype most = filling(row.text, row.fontMetrics, row.rect.width());
+    if (row.text.size() <= most) return;
+    const bool splitsPair = row.text.at(most - 1).isHighSurrogate();
+    row.text.truncate(splitsPair ? most - 1 : most);
+    row.text += QChar(0x2026);
+}
+
 class RowDelegate : public QStyledItemDelegate {
   public:
     using QStyledItemDelegate::QStyledItemDelegate;
@@ -28,6 +47,16 @@ class RowDelegate : public QStyledItemDelegate {
     [[nodiscard]] QSize sizeHint(const QStyleOptionViewItem& option,
                                  const QModelIndex& /*index*/) const override {
         return {0, std::max(option.decorationSize.height(), option.fontMetrics.height()) + 3};
+    }
+
+    /// Lines can be thousands of characters long, of which a row shows a few dozen: what cannot be
+    /// seen is cut off before the text is laid out.
+    void paint(QPainter* painter, const QStyleOptionViewItem& option,
+               const QModelIndex& index) const override {
+        QStyleOptionViewItem row = option;
+        initStyleOption(&row, index);
+        cutToWidth(row);
+        row.widget->style()->drawControl(QStyle::CE_ItemViewItem, &row, painter, row.widget);
     }
 
     [[nodiscard]] int neededWidth(const QStyleOptionViewItem& option,
@@ -101,6 +130,14 @@ void PaneList::setLandingLines(std::vector<int> rows) {
     if (rows == landingLines_) return;
     landingLines_ = std::move(rows);
     viewport()->update();
+}
+
+// A clicked row is in sight. The base class would bring it there half a second later, though the
+// wheel has moved on since, and the next click would hit another row than the one aimed at.
+void PaneList::mousePressEvent(QMouseEvent* event) {
+    setAutoScroll(false);
+    QListView::mousePressEvent(event);
+    setAutoScroll(true);
 }
 
 void PaneList::paintEvent(QPaintEvent* event) {

@@ -32,6 +32,7 @@ class PaneList : public QListView {
     [[nodiscard]] const std::vector<int>& landingLines() const { return landingLines_; }
 
   protected:
+    void mousePressEvent(QMouseEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
     void changeEvent(QEvent* event) override;

@@ -25,6 +25,8 @@ constexpr StringId moveStep = 15315;
 constexpr StringId insertScriptText = 15323;
 constexpr StringId scriptFullText = 15325;
 constexpr StringId otherModeText = 15335;
+constexpr StringId oneEntryText = 15390;
+constexpr StringId entriesText = 15391;
 
 // "Insert Script Event %s" and its like, by palette.
 constexpr StringId insertSteps[] = {13701, 13702, 13703};
@@ -174,7 +176,12 @@ ScriptView ScriptEditor::currentView() const {
 }
 
 std::string ScriptEditor::countedName(StringId name, std::size_t count) const {
-    return libraryText(state_.language, name, {entryCountText(state_.language, count)});
+    LanguageLibrary& language = state_.language;
+    // A step's name stands in a menu: in English with capitals, unlike the count in a sentence.
+    const std::string entries = count == 1
+                                    ? libraryText(language, oneEntryText)
+                                    : libraryText(language, entriesText, {std::to_string(count)});
+    return libraryText(language, name, {entries});
 }
 
 std::vector<std::size_t> ScriptEditor::selectedEntries() const {

@@ -15,9 +15,6 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr std::size_t maxSettingLength = 260;
-// The vendor's server; a name that is reserved for examples, so that nobody's server is asked until
-// an installation names its own ("WebHelpUrl").
-constexpr const char* webHelpServer = "https://www.quendra.example";
 
 // The number of bytes that the first `count` characters take.
 std::size_t lengthOfCharacters(std::string_view text, std::size_t count) {
@@ -177,7 +174,7 @@ void applyBackupDir(const StartupInputs& inputs, StartupSettings& settings) {
 
 void readHelpSettings(StartupSettings& settings) {
     settings.useWebHelp = settings.webDeployed;
-    settings.webHelpBase = std::string(webHelpServer) + "/help/v61";
+    settings.webHelpBase = builtInWebHelpBase;
     settings.helpFilePath = settings.installDir / "quendra.chm";
     auto global = readProfileFile(settings.installDir / "global.ini");
     if (!global) global = readProfileFile(settings.workingDir / "global.ini");

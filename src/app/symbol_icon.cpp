@@ -1,32 +1,25 @@
 // A QIconEngine that renders single-colour drawings in the colours of the palette.
 #include "app/symbol_icon.h"
 
+#include "app/drawing.h"
 #include "app/icon_catalogue.h"
 
-#include <QFile>
 #include <QGuiApplication>
 #include <QHash>
 #include <QIconEngine>
 #include <QPainter>
 #include <QPalette>
 #include <QPixmap>
-#include <QSvgRenderer>
 
 #include <algorithm>
 #include <cmath>
-
-// Must stand outside any namespace: the drawings lie in a static library, whose resources nobody
-// else would register.
-static void registerDrawings() {
-    Q_INIT_RESOURCE(quendra_icons);
-}
 
 namespace quendra {
 namespace {
 
 constexpr int programIconId = 102;
 constexpr int firstCommandId = 300;
-constexpr int lastCommandId = 325;
+constexpr int lastCommandId = 326;
 
 struct Colours {
     QRgb ink;
@@ -51,36 +44,47 @@ size_t qHash(const RenderKey& key, size_t seed = 0) {
                       key.colours.accent);
 }
 
-QByteArray readDrawing(int bitmapId) {
-    const QString path = iconFile(bitmapId);
-    if (path.isEmpty()) return {};
-    registerDrawings();
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) return {};
-    return file.readAll();
+QColor inColours(QRgb drawn, Colours colours) {
+    if (drawn == inkMarker) return colours.ink;
+    return drawn == accentMarker ? colours.accent : drawn;
 }
 
-QByteArray colourAttribute(QRgb colour) {
-    return "color=\"" + QColor(colour).name(QColor::HexRgb).toLatin1() + '"';
+QPen penOf(const DrawnShape& shape, Colours colours) {
+    if (shape.outline == noColour) return Qt::NoPen;
+    return {inColours(shape.outline, colours), shape.outlineWidth, Qt::SolidLine, shape.cap,
+            shape.join};
 }
 
-// The drawings stroke with "currentColor"; elements of class "accent" inherit that stroke from the
-// root element, so they must name it again beside their own colour.
-QByteArray inColours(QByteArray drawing, Colours colours) {
-    drawing.replace("<svg ", "<svg " + colourAttribute(colours.ink) + ' ');
-    drawing.replace("class=\"accent\"",
-                    colourAttribute(colours.accent) + " stroke=\"currentColor\"");
-    return drawing;
+QPainterPath pathOf(const DrawnShape& shape) {
+    QPainterPath path;
+    path.setFillRule(shape.fillRule);
+    for (auto step = shape.path.begin(); step != shape.path.end(); ++step) {
+        switch (step->type) {
+            case QPainterPath::MoveToElement: path.moveTo(step->x, step->y); break;
+            case QPainterPath::LineToElement: path.lineTo(step->x, step->y); break;
+            case QPainterPath::CurveToElement:
+                path.cubicTo(step[0].x, step[0].y, step[1].x, step[1].y, step[2].x, step[2].y);
+                break;
+            case QPainterPath::CurveToDataElement: break;  // taken with the curve that it ends
+        }
+    }
+    return path;
 }
 
-QPixmap render(const QByteArray& drawing, QSize pixels) {
+QPixmap render(const Drawing& drawing, QSize pixels, Colours colours) {
     QPixmap pixmap(pixels);
     pixmap.fill(Qt::transparent);
-    QSvgRenderer renderer(drawing);
     QPainter painter(&pixmap);
+    painter.setRenderHint(QPainter::Antialiasing);
     const int side = std::min(pixels.width(), pixels.height());
-    const QPoint corner((pixels.width() - side) / 2, (pixels.height() - side) / 2);
-    renderer.render(&painter, QRectF(QRect(corner, QSize(side, side))));
+    painter.translate(QPoint((pixels.width() - side) / 2, (pixels.height() - side) / 2));
+    painter.scale(side / drawing.side, side / drawing.side);
+    for (const DrawnShape& shape : drawing.shapes) {
+        painter.setPen(penOf(shape, colours));
+        painter.setBrush(shape.filling == noColour ? QBrush()
+                                                   : QBrush(inColours(shape.filling, colours)));
+        painter.drawPath(pathOf(shape));
+    }
     return pixmap;
 }
 
@@ -88,8 +92,8 @@ enum class HotForm { No, Yes };
 
 class SymbolIconEngine : public QIconEngine {
   public:
-    SymbolIconEngine(QByteArray drawing, HotForm hotForm)
-        : drawing_(std::move(drawing)), hotForm_(hotForm) {}
+    SymbolIconEngine(const Drawing& drawing, HotForm hotForm)
+        : drawing_(drawing), hotForm_(hotForm) {}
 
     void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State state) override;
     QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
@@ -105,7 +109,7 @@ class SymbolIconEngine : public QIconEngine {
   private:
     Colours coloursFor(QIcon::Mode mode) const;
 
-    QByteArray drawing_;
+    const Drawing& drawing_;
     HotForm hotForm_;
     QHash<RenderKey, QPixmap> rendered_;
 };
@@ -126,7 +130,7 @@ QPixmap SymbolIconEngine::scaledPixmap(const QSize& size, QIcon::Mode mode, QIco
     if (size.isEmpty()) return {};
     const RenderKey key{size, scale, coloursFor(mode)};
     if (const auto found = rendered_.constFind(key); found != rendered_.constEnd()) return *found;
-    QPixmap pixmap = render(inColours(drawing_, key.colours), size);
+    QPixmap pixmap = render(drawing_, size, key.colours);
     pixmap.setDevicePixelRatio(scale);
     if (rendered_.size() >= keptPixmaps) rendered_.clear();
     rendered_.insert(key, pixmap);
@@ -147,18 +151,25 @@ Colours SymbolIconEngine::coloursFor(QIcon::Mode mode) const {
 }
 
 QIcon symbolIcon(int bitmapId, HotForm hotForm) {
-    const QByteArray drawing = readDrawing(bitmapId);
-    if (drawing.isEmpty()) return {};
-    return QIcon(new SymbolIconEngine(drawing, hotForm));
+    const Drawing* drawing = iconDrawing(bitmapId);
+    return drawing ? QIcon(new SymbolIconEngine(*drawing, hotForm)) : QIcon();
 }
 
-QIcon fullColourIcon(int bitmapId) {
-    QIcon icon;
-    const QByteArray drawing = readDrawing(bitmapId);
-    for (const int side : {16, 24, 32, 48, 64, 128, 256})
-        icon.addPixmap(render(drawing, {side, side}));
-    return icon;
-}
+// The desktop takes all sizes that a window's icon offers; nothing is rendered before it does.
+class ProgramIconEngine : public SymbolIconEngine {
+  public:
+    ProgramIconEngine() : SymbolIconEngine(*iconDrawing(programIconId), HotForm::No) {}
+
+    QIconEngine* clone() const override { return new ProgramIconEngine(*this); }
+    QList<QSize> availableSizes(QIcon::Mode, QIcon::State) override {
+        QList<QSize> sizes;
+        for (const int side : {16, 24, 32, 48, 64, 128, 256}) {
+            // Pixels of the screen; the pixmaps are asked for in those of the program.
+            sizes.append((QSizeF(side, side) / qApp->devicePixelRatio()).toSize());
+        }
+        return sizes;
+    }
+};
 
 // Every icon handed out so far. Pixmaps must not outlive the application object, so it empties this
 // when it ends.
@@ -212,7 +223,7 @@ QIcon toolbarIcon(int commandId) {
 
 QIcon programIcon() {
     QIcon& icon = iconStore().program;
-    if (icon.isNull()) icon = fullColourIcon(programIconId);
+    if (icon.isNull()) icon = QIcon(new ProgramIconEngine);
     return icon;
 }
 

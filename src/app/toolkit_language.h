@@ -1,10 +1,15 @@
-// The texts that the toolkit itself shows, such as the buttons of message boxes, in the language of
-// the user interface.
+// The language of the user interface, and the texts that the toolkit itself shows in it, such as
+// the buttons of message boxes.
 #pragma once
 
 #include <filesystem>
+#include <string>
 
 namespace quendra {
+
+/// The language of the library that "language.ini" in `configDir` names: "de" for "qdstring_de",
+/// empty for "qdstring".
+[[nodiscard]] std::string interfaceLanguage(const std::filesystem::path& configDir);
 
 /// Has the running application speak the language of the library that "language.ini" in `configDir`
 /// names: the toolkit's own texts for "de" when the library is called "qdstring_de". They stay

@@ -2,6 +2,7 @@
 
 #include "app/script_list_model.h"
 #include "app/ui_text.h"
+#include "platform/text_encoding.h"
 
 #include <QGridLayout>
 #include <QHelpEvent>
@@ -16,6 +17,7 @@ namespace quendra {
 namespace {
 
 constexpr StringId groupTitle = 14300;
+constexpr StringId needsTimeoutText = 15393;
 constexpr int preferredCharacters = 48;
 constexpr int fewestCharacters = 20;
 
@@ -56,6 +58,14 @@ class ActionLine : public QLabel {
     }
 };
 
+// As with the lines of the script, a new transfer starts from the one that was shown last.
+void loadTransfer(ApplicationState& state, const ConstSlotFields& action) {
+    if (action.code != CommandCode::MenuCommand || !isFileTransfer(action.commandId)) return;
+    state.workingTransfer = {
+        action.transferSettings, action.transferHost,
+        action.commandId == sendFileCommand ? TransferDirection::Send : TransferDirection::Receive};
+}
+
 }  // namespace
 
 ActionPair::ActionPair(ApplicationState& state, ScriptEntry& entry, ActionOwner owner,
@@ -91,13 +101,17 @@ void ActionPair::choose(Slot slot) {
 void ActionPair::refresh() {
     const bool compares = owner_ == ActionOwner::IfInputIs;
     const ActionSummaries lines = actionSummaries(entry_, compares, state_.displayNames());
-    then_.line->setText(qtText(lines.thenLine));
-    if (lines.elseLine) else_.line->setText(qtText(*lines.elseLine));
+    then_.line->setText(qtText(escapeControlCharacters(lines.thenLine)));
+    if (lines.elseLine) else_.line->setText(qtText(escapeControlCharacters(*lines.elseLine)));
+    for (const Slot slot : {Slot::Then, Slot::Else})
+        loadTransfer(state_, slotFields(entry_, slot));
 }
 
 void ActionPair::setActionsEnabled(bool enabled) {
+    const QString reason = qtText(libraryText(state_.language, needsTimeoutText));
     for (const Row& row : {then_, else_}) {
         row.button->setEnabled(enabled);
+        row.button->setToolTip(enabled ? QString() : reason);
         row.line->setEnabled(enabled);
     }
 }

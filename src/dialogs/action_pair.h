@@ -29,7 +29,8 @@ class ActionPair : public QGroupBox {
 
     /// Shows what the entry's actions are now.
     void refresh();
-    /// The buttons and lines, not the group: its title stays as it is.
+    /// The buttons and lines, not the group: its title stays as it is. Buttons that are off say in
+    /// their tool tips that actions need a timeout.
     void setActionsEnabled(bool enabled);
 
   private:

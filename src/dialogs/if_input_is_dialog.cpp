@@ -48,6 +48,7 @@ class IfInputIsDialog : public ParameterDialog {
         second_ = makeBox("secondOperand", "secondOperandText");
         addLabelled("operandsLabel", text(operandsLabel), first_.box);
         body().addWidget(second_.box);
+        body().addSpacing(4);
         body().addWidget(actions_);
         addButtons(text(okText));
     }
@@ -75,6 +76,8 @@ class IfInputIsDialog : public ParameterDialog {
   private:
     OperandBox makeBox(const char* name, const char* textName) {
         OperandBox made = {named(new QComboBox, name), new TextEdit};
+        // The label leads to the first box only.
+        made.box->setAccessibleName(plainLabel(text(operandsLabel)));
         made.box->setEditable(true);
         made.box->setLineEdit(made.text);
         made.box->setInsertPolicy(QComboBox::NoInsert);

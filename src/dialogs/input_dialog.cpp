@@ -23,6 +23,9 @@ constexpr StringId hideText = 11221;
 constexpr StringId storeAsText = 15242;
 
 constexpr NumberRange lengthRange = {2, 255};
+constexpr std::uint8_t singleCharacter = 0;
+/// A string whose length nobody has chosen yet.
+constexpr std::uint8_t stringOfAnyLength = 1;
 constexpr int promptLines = 4;
 
 class InputDialog : public ParameterDialog {
@@ -39,9 +42,8 @@ class InputDialog : public ParameterDialog {
     void load() override {
         title_->setBytes(textOf(fields()));
         prompt_->setBytes(promptOf(fields()));
-        // 0 is a single character, 1 a string whose length nobody has chosen yet.
         const std::uint8_t length = fields().maxLength;
-        (length == 0 ? character_ : string_)->setChecked(true);
+        (length == singleCharacter ? character_ : string_)->setChecked(true);
         length_->setNumber(length < lengthRange.smallest ? lengthRange.largest : length);
         enableLength();
         hide_->setChecked(fields().hidden != 0);
@@ -64,7 +66,7 @@ class InputDialog : public ParameterDialog {
         storeText(*title_);
         fields().maxLength = string_->isChecked()
                                  ? static_cast<std::uint8_t>(length_->number().value_or(0))
-                                 : std::uint8_t{0};
+                                 : singleCharacter;
         setPrompt(fields(), prompt_->bytes());
         fields().hidden = hide_->isChecked() ? 1 : 0;
         const int variable = variable_->currentIndex();
@@ -95,6 +97,12 @@ class InputDialog : public ParameterDialog {
         grid.addWidget(lengthLabel_, 0, 1);
         grid.addWidget(length_, 0, 2);
         connect(string_, &QRadioButton::toggled, this, &InputDialog::enableLength);
+        // This choice counts at once; only the dialog of the command itself takes it back.
+        connect(character_, &QRadioButton::clicked, this,
+                [this] { fields().maxLength = singleCharacter; });
+        connect(string_, &QRadioButton::clicked, this, [this] {
+            if (fields().maxLength == singleCharacter) fields().maxLength = stringOfAnyLength;
+        });
     }
 
     void addRest() {

@@ -4,6 +4,7 @@
 #include "app/symbol_icon.h"
 #include "app/ui_text.h"
 #include "dialogs/input_note.h"
+#include "dialogs/mnemonics.h"
 
 #include <QAccessible>
 #include <QApplication>
@@ -71,7 +72,8 @@ ParameterDialog::ParameterDialog(const DialogContext& context, const EditTarget&
     : QDialog(context.window), context_(context), target_(target) {
     setObjectName(QLatin1String(name));
     setProperty("helpPage", qtText(helpPage));
-    setModal(true);
+    // The editor waits for the dialog, the help window stays usable.
+    setWindowModality(Qt::WindowModal);
 
     picture_ = new CommandPicture(bitmapIdOf(fields().code, fields().commandId));
     picture_->setObjectName(QStringLiteral("commandPicture"));
@@ -138,13 +140,7 @@ void ParameterDialog::setPicture(int bitmapId) {
 
 void ParameterDialog::addButtons(const QString& okText) {
     auto& all = static_cast<QVBoxLayout&>(*layout());
-    note_ = makeLabel("note", {});
-    // One line always stays free for it, so that the fields do not move while something is typed.
-    note_->setMinimumHeight(fontMetrics().lineSpacing());
-    auto* noteRow = new QHBoxLayout;
-    noteRow->addSpacing(pictureSide + 16);
-    noteRow->addWidget(note_, 1);
-    all.addLayout(noteRow);
+    if (hasTypedFields()) addNoteLine(all);
 
     auto* ok = new QPushButton(okText);
     ok->setObjectName(QStringLiteral("ok"));
@@ -159,6 +155,24 @@ void ParameterDialog::addButtons(const QString& okText) {
     all.addWidget(buttons);
     // Not before the button is in the dialog, which would else take the first one, such as Browse.
     ok->setDefault(true);
+    actAtOnceOnMnemonics(*this);
+}
+
+bool ParameterDialog::hasTypedFields() const {
+    return std::any_of(fields_.begin(), fields_.end(), [](const QWidget* field) {
+        return qobject_cast<const QLineEdit*>(field) != nullptr ||
+               qobject_cast<const QSpinBox*>(field) != nullptr;
+    });
+}
+
+void ParameterDialog::addNoteLine(QBoxLayout& all) {
+    note_ = makeLabel("note", {});
+    // One line always stays free for it, so that the fields do not move while something is typed.
+    note_->setMinimumHeight(fontMetrics().lineSpacing());
+    auto* row = new QHBoxLayout;
+    row->addSpacing(pictureSide + 16);
+    row->addWidget(note_, 1);
+    all.addLayout(row);
 }
 
 void ParameterDialog::registerField(QWidget* field, const char* name) {
@@ -252,7 +266,11 @@ void ParameterDialog::showEvent(QShowEvent* event) {
 
 bool ParameterDialog::run() {
     load();
-    return exec() == Accepted;
+    const bool accepted = exec() == Accepted;
+    // When this and the dialog above it close at once, a window manager may give the focus to the
+    // one that is just going, and then nothing has it.
+    if (parentWidget() != nullptr) parentWidget()->window()->activateWindow();
+    return accepted;
 }
 
 void ParameterDialog::accept() {

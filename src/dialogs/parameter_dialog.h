@@ -32,8 +32,8 @@ struct Refusal {
 };
 
 /// A modal dialog with the command's picture at the top left, the fields beside it, one line for
-/// notes on what is typed, and OK and Cancel. Return is OK, Escape is Cancel. A derived class
-/// builds its fields in its constructor, each through add...() or named(), and ends that with
+/// notes where something is typed, and OK and Cancel. Return is OK, Escape is Cancel. A derived
+/// class builds its fields in its constructor, each through add...() or named(), and ends that with
 /// addButtons().
 class ParameterDialog : public QDialog {
     Q_OBJECT
@@ -111,6 +111,8 @@ class ParameterDialog : public QDialog {
 
   private:
     void registerField(QWidget* field, const char* name);
+    [[nodiscard]] bool hasTypedFields() const;
+    void addNoteLine(QBoxLayout& all);
     void showFault(const QWidget* field, const InputFault& fault);
     void showRange();
     [[nodiscard]] QString rangeText(const QWidget* field) const;

@@ -25,10 +25,10 @@ struct DialogContext {
     QWidget* window = nullptr;
 };
 
-/// Opens the dialog of the target's command and gives true on OK, when the target's fields were
-/// stored. On Cancel the target is as it was and the result is false. Commands without parameters,
-/// LU functions and menu commands without parameters give true at once. A file transfer edits the
-/// state's working settings and takes them over on OK.
+/// Opens the command's dialog; true on OK, when the target's fields were stored. After Cancel the
+/// target is as it was, but an Input keeps the choice of character or string. Commands without
+/// parameters, LU functions and menu commands without parameters give true at once. A file transfer
+/// edits the state's working settings and takes them over on OK.
 [[nodiscard]] bool editParameters(const DialogContext& context, const EditTarget& target);
 
 /// The dialogs of the three commands that carry actions; editParameters opens them for an entry.

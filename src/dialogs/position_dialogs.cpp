@@ -89,14 +89,17 @@ class AreaDialog : public ParameterDialog {
         }
         NumberEdit* first = positions_[positions_.size() - names.size()];
         const QByteArray labelName = QByteArray(*names.begin()) + "Label";
-        grid.addWidget(makeLabel(labelName, label, first), line, 0);
+        labels_.push_back(makeLabel(labelName, label, first));
+        grid.addWidget(labels_.back(), line, 0);
     }
 
-    void addInstead(const QString& label, const char* name) {
-        instead_ = named(new QCheckBox(label), name);
+    void addInstead(const QString& text, const char* name) {
+        instead_ = named(new QCheckBox(text), name);
         connect(instead_, &QCheckBox::toggled, this, [this](bool checked) {
             for (NumberEdit* field : positions_)
                 field->setEnabled(!checked);
+            for (QLabel* beside : labels_)
+                beside->setEnabled(!checked);
         });
         body().addWidget(instead_);
     }
@@ -116,6 +119,7 @@ class AreaDialog : public ParameterDialog {
 
   private:
     std::vector<NumberEdit*> positions_;
+    std::vector<QLabel*> labels_;
     QCheckBox* instead_ = nullptr;
 };
 

@@ -1,7 +1,6 @@
 #include "dialogs/secret_text.h"
 
 #include "model/script_entry.h"
-#include "platform/secret_memory.h"
 
 #include <algorithm>
 #include <cstring>
@@ -9,34 +8,33 @@
 
 namespace quendra {
 
-SecretText::SecretText() : bytes_(static_cast<char*>(allocateSecretMemory(maxTextLength))) {}
+SecretText::SecretText() : pages_(maxTextLength) {}
 
 SecretText::SecretText(std::string_view bytes) : SecretText() {
     replace(0, 0, bytes);
 }
 
 SecretText::SecretText(SecretText&& other) noexcept
-    : bytes_(std::exchange(other.bytes_, nullptr)), size_(std::exchange(other.size_, 0)) {}
+    : pages_(std::move(other.pages_)), size_(std::exchange(other.size_, 0)) {}
 
 SecretText& SecretText::operator=(SecretText&& other) noexcept {
-    std::swap(bytes_, other.bytes_);
+    std::swap(pages_, other.pages_);
     std::swap(size_, other.size_);
     return *this;
 }
 
 SecretText::~SecretText() {
-    if (bytes_ == nullptr) return;
-    wipeMemory(bytes_, maxTextLength);
-    freeSecretMemory(bytes_, maxTextLength);
+    if (pages_.data()) wipeMemory(pages_.data(), maxTextLength);
 }
 
 void SecretText::replace(std::size_t at, std::size_t removed, std::string_view bytes) {
     const std::size_t kept = size_ - removed;
     const std::size_t added = std::min(bytes.size(), maxTextLength - kept);
-    std::memmove(bytes_ + at + added, bytes_ + at + removed, kept - at);
-    std::copy_n(bytes.begin(), added, bytes_ + at);
+    std::uint8_t* const start = pages_.data();
+    std::memmove(start + at + added, start + at + removed, kept - at);
+    std::copy_n(bytes.begin(), added, start + at);
     const std::size_t size = kept + added;
-    if (size < size_) wipeMemory(bytes_ + size, size_ - size);
+    if (size < size_) wipeMemory(start + size, size_ - size);
     size_ = size;
 }
 

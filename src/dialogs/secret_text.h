@@ -1,6 +1,8 @@
 // A short text that may be a secret.
 #pragma once
 
+#include "platform/secret_memory.h"
+
 #include <cstddef>
 #include <string_view>
 
@@ -19,7 +21,9 @@ class SecretText {
     ~SecretText();
 
     /// Valid until the text is changed.
-    [[nodiscard]] std::string_view view() const { return {bytes_, size_}; }
+    [[nodiscard]] std::string_view view() const {
+        return {reinterpret_cast<const char*>(pages_.data()), size_};
+    }
     [[nodiscard]] std::size_t size() const { return size_; }
 
     /// Puts `bytes` in the place of `removed` bytes at `at`, both within the text. What does not
@@ -27,7 +31,7 @@ class SecretText {
     void replace(std::size_t at, std::size_t removed, std::string_view bytes);
 
   private:
-    char* bytes_ = nullptr;
+    SecretPages pages_;
     std::size_t size_ = 0;
 };
 

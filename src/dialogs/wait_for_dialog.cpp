@@ -53,6 +53,7 @@ class WaitForDialog : public ParameterDialog {
           text_(named(new TextEdit, "text")) {
         setWindowTitle(QStringLiteral("Wait_For"));
         addLabelled("textLabel", text(textLabel), text_);
+        body().addSpacing(4);
         auto* groups = new QHBoxLayout;
         groups->addWidget(makeFindGroup(), 1);
         if (target.slot == Slot::Entry) groups->addWidget(makeTimeoutGroup(), 1);

@@ -51,11 +51,12 @@ bool storeAt(EditingState& state, EditingView& view, const ScriptEntry& entry, s
 // One palette insert; `make` gives the entry, or none when the user has thought better of it.
 template <class Make>
 bool insertMade(EditingState& state, EditingView& view, const Make& make) {
+    const bool dropped = state.dropPending;
     const std::size_t at = insertionPoint(state, view);
     const std::optional<ScriptEntry> entry = make();
     if (entry && storeAt(state, view, *entry, at)) return true;
     // A drop has moved the current position to its target, and now nothing comes to lie there.
-    if (const int focused = view.focusedEntry(); focused >= 0) state.currentIndex = focused;
+    if (dropped) state.currentIndex = view.focusedEntry();
     return false;
 }
 

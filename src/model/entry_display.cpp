@@ -186,8 +186,9 @@ ActionSummaries actionSummaries(const ScriptEntry& entry, bool isCompare,
 
 std::optional<TransferInputs> lastTransferShown(const Script& script,
                                                 const HiddenTextCipher& cipher) {
+    TransferSearch transfer;
     for (auto entry = script.entries.rbegin(); entry != script.entries.rend(); ++entry) {
-        if (entry->code() != CommandCode::MenuCommand && !ownsActions(entry->code())) continue;
+        if (!transfer.isIn(*entry)) continue;
         if (auto inputs = lastTransferOf(unpackEntry(*entry, cipher))) return inputs;
     }
     return std::nullopt;

@@ -1,21 +1,29 @@
 #include "model/entry_handle.h"
 
-#include "platform/secret_memory.h"
-
 #include <algorithm>
 #include <cstring>
 #include <new>
 
 namespace quendra {
 
+// Lies at the start of its own pages.
 struct EntryHandle::Chunk {
+    SecretPages pages;
+    /// The file whose records lie in place; null in a chunk of stored ones.
+    SecretPages file;
     std::size_t size;
     std::size_t used;
-    std::size_t liveRecords;
+    /// Records and others that hold the chunk.
+    std::size_t holders;
+
+    static Chunk* make(std::size_t size, SecretPages file = {});
+    Header* place(std::size_t bytes);
+    void letGo() noexcept;
 };
 
 struct EntryHandle::Header {
     Chunk* chunk;
+    std::uint8_t* bytes;
     std::uint32_t references;
     std::uint32_t length;
 };
@@ -46,7 +54,7 @@ EntryHandle::~EntryHandle() {
 
 std::span<const std::uint8_t> EntryHandle::record() const {
     if (!header_) return {};
-    return {reinterpret_cast<const std::uint8_t*>(header_ + 1), header_->length};
+    return {header_->bytes, header_->length};
 }
 
 CommandCode EntryHandle::code() const {
@@ -62,42 +70,69 @@ EntryHandle::Chunk*& EntryHandle::currentChunk() {
     return current;
 }
 
-void EntryHandle::release(Header* header) noexcept {
-    Chunk* chunk = header->chunk;
-    wipeMemory(header + 1, header->length);
-    if (--chunk->liveRecords > 0) return;
-    if (chunk == currentChunk()) {
-        chunk->used = aligned(sizeof(Chunk));
-    } else {
-        freeSecretMemory(chunk, chunk->size);
-    }
+EntryHandle::Chunk* EntryHandle::Chunk::make(std::size_t size, SecretPages file) {
+    size += aligned(sizeof(Chunk));
+    SecretPages pages(size);
+    void* start = pages.data();
+    return new (start) Chunk{std::move(pages), std::move(file), size, aligned(sizeof(Chunk)), 0};
 }
 
-void reserveRecords(std::size_t count, std::size_t bytes) {
-    using Chunk = EntryHandle::Chunk;
-    const std::size_t needed = bytes + count * (sizeof(EntryHandle::Header) + alignment);
-    Chunk*& current = EntryHandle::currentChunk();
-    if (current && current->size - current->used >= needed) return;
-    const std::size_t size = std::max(smallestChunk, needed + aligned(sizeof(Chunk)));
-    auto* chunk = new (allocateSecretMemory(size)) Chunk{size, aligned(sizeof(Chunk)), 0};
-    if (current && current->liveRecords == 0) freeSecretMemory(current, current->size);
-    current = chunk;
+// The caller has seen that there is room.
+EntryHandle::Header* EntryHandle::Chunk::place(std::size_t bytes) {
+    auto* header = reinterpret_cast<Header*>(reinterpret_cast<std::uint8_t*>(this) + used);
+    used += bytes;
+    ++holders;
+    return header;
+}
+
+void EntryHandle::Chunk::letGo() noexcept {
+    if (--holders > 0) return;
+    if (this == currentChunk()) {
+        used = aligned(sizeof(Chunk));
+        return;
+    }
+    const SecretPages freedLast = std::move(pages);
+    this->~Chunk();
+}
+
+void EntryHandle::release(Header* header) noexcept {
+    wipeMemory(header->bytes, header->length);
+    header->chunk->letGo();
 }
 
 EntryHandle storeRecord(std::span<const std::uint8_t> record) {
+    using Chunk = EntryHandle::Chunk;
     using Header = EntryHandle::Header;
     const std::size_t size = sizeof(Header) + aligned(record.size());
-    EntryHandle::Chunk* chunk = EntryHandle::currentChunk();
-    if (!chunk || chunk->size - chunk->used < size) {
-        reserveRecords(1, record.size());
-        chunk = EntryHandle::currentChunk();
+    Chunk*& current = EntryHandle::currentChunk();
+    if (!current || current->size - current->used < size) {
+        // Before the other goes, which stays if there is no memory.
+        Chunk* next = Chunk::make(std::max(smallestChunk, size));
+        if (current) ++current->holders;
+        Chunk* full = std::exchange(current, next);
+        if (full) full->letGo();
     }
-    auto* place = reinterpret_cast<std::uint8_t*>(chunk) + chunk->used;
-    auto* header = new (place) Header{chunk, 1, static_cast<std::uint32_t>(record.size())};
-    std::memcpy(header + 1, record.data(), record.size());
-    chunk->used += size;
-    ++chunk->liveRecords;
-    return EntryHandle(header);
+    Header* place = current->place(size);
+    auto* bytes = reinterpret_cast<std::uint8_t*>(place + 1);
+    std::memcpy(bytes, record.data(), record.size());
+    return EntryHandle(new (place)
+                           Header{current, bytes, 1, static_cast<std::uint32_t>(record.size())});
+}
+
+RecordsInPlace::RecordsInPlace(SecretPages bytes, std::size_t mostRecords)
+    : chunk_(
+          EntryHandle::Chunk::make(mostRecords * sizeof(EntryHandle::Header), std::move(bytes))) {
+    chunk_->holders = 1;
+}
+
+RecordsInPlace::~RecordsInPlace() {
+    chunk_->letGo();
+}
+
+EntryHandle RecordsInPlace::record(std::size_t start, std::size_t length) {
+    using Header = EntryHandle::Header;
+    return EntryHandle(new (chunk_->place(sizeof(Header))) Header{
+        chunk_, chunk_->file.data() + start, 1, static_cast<std::uint32_t>(length)});
 }
 
 }  // namespace quendra

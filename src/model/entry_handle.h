@@ -7,6 +7,7 @@
 #pragma once
 
 #include "model/command_catalogue.h"
+#include "platform/secret_memory.h"
 
 #include <cstdint>
 #include <span>
@@ -41,7 +42,7 @@ class EntryHandle {
     static void release(Header* header) noexcept;
 
     friend EntryHandle storeRecord(std::span<const std::uint8_t> record);
-    friend void reserveRecords(std::size_t count, std::size_t bytes);
+    friend class RecordsInPlace;
 
     Header* header_ = nullptr;
 };
@@ -50,8 +51,22 @@ class EntryHandle {
 /// has made sure that it is a whole record; nothing later checks again.
 [[nodiscard]] EntryHandle storeRecord(std::span<const std::uint8_t> record);
 
-/// Makes room for `count` records of `bytes` bytes in all in one piece, so that loading a file
-/// costs one allocation.
-void reserveRecords(std::size_t count, std::size_t bytes);
+/// The bytes of a file whose records become entries where they lie: what is loaded is not copied.
+/// The bytes live as long as this or any of the entries; those of an entry that goes are wiped.
+class RecordsInPlace {
+  public:
+    /// Takes over `bytes`, in which there are up to `mostRecords` records.
+    RecordsInPlace(SecretPages bytes, std::size_t mostRecords);
+    RecordsInPlace(const RecordsInPlace&) = delete;
+    RecordsInPlace& operator=(const RecordsInPlace&) = delete;
+    ~RecordsInPlace();
+
+    /// The first handle to the record at `start`, as storeRecord gives it; at most `mostRecords`,
+    /// and no two that overlap.
+    [[nodiscard]] EntryHandle record(std::size_t start, std::size_t length);
+
+  private:
+    EntryHandle::Chunk* chunk_;
+};
 
 }  // namespace quendra

@@ -26,7 +26,9 @@ std::optional<Sha1Hash> paddedHash(const Sha1Hash& hash, std::uint8_t filler) {
     for (std::size_t i = 0; i < hash.size(); ++i) {
         block[i] = static_cast<std::uint8_t>(block[i] ^ hash[i]);
     }
-    return sha1(block);
+    const auto padded = sha1(block);
+    wipeMemory(block.data(), block.size());
+    return padded;
 }
 
 struct FreeContext {
@@ -53,6 +55,7 @@ std::optional<std::vector<std::uint8_t>> runCipher(EVP_CIPHER_CTX* context,
         return std::nullopt;
     }
     std::vector<std::uint8_t> output(input.size() + 8);
+    const SecretMark mark(output.data(), output.size());
     int written = 0;
     int last = 0;
     const bool done = EVP_CipherUpdate(context, output.data(), &written, input.data(),
@@ -70,14 +73,17 @@ std::optional<std::vector<std::uint8_t>> runCipher(EVP_CIPHER_CTX* context,
 
 std::optional<TripleDesKey> deriveTripleDesKey(std::string_view material) {
     const auto* bytes = reinterpret_cast<const std::uint8_t*>(material.data());
-    const auto hash = sha1({bytes, material.size()});
+    auto hash = sha1({bytes, material.size()});
     if (!hash) return std::nullopt;
-    const auto first = paddedHash(*hash, 0x36);
-    const auto second = paddedHash(*hash, 0x5C);
+    auto first = paddedHash(*hash, 0x36);
+    auto second = paddedHash(*hash, 0x5C);
+    wipeMemory(hash->data(), hash->size());
     if (!first || !second) return std::nullopt;
     TripleDesKey key{};
     auto* end = std::ranges::copy(*first, key.begin()).out;
     std::copy_n(second->begin(), key.size() - first->size(), end);
+    wipeMemory(first->data(), first->size());
+    wipeMemory(second->data(), second->size());
     return key;
 }
 

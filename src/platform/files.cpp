@@ -58,16 +58,16 @@ ssize_t readFully(int descriptor, std::uint8_t* buffer, std::size_t size) {
 bool readGrowing(int descriptor, std::size_t firstSize, std::size_t maxBytes,
                  FileContent& content) {
     std::size_t capacity = std::min(firstSize, maxBytes);
-    content.storage = std::make_unique_for_overwrite<std::uint8_t[]>(capacity);
+    content.storage = SecretPages(capacity);
     for (;;) {
         const ssize_t got =
-            readFully(descriptor, content.storage.get() + content.size, capacity - content.size);
+            readFully(descriptor, content.storage.data() + content.size, capacity - content.size);
         if (got < 0) return false;
         content.size += static_cast<std::size_t>(got);
         if (content.size < capacity || capacity == maxBytes) return true;
         const std::size_t larger = std::min(capacity * 2, maxBytes);
-        auto storage = std::make_unique_for_overwrite<std::uint8_t[]>(larger);
-        std::memcpy(storage.get(), content.storage.get(), content.size);
+        SecretPages storage(larger);
+        std::memcpy(storage.data(), content.storage.data(), content.size);
         content.storage = std::move(storage);
         capacity = larger;
     }
@@ -149,10 +149,13 @@ std::optional<fs::path> keepBackup(const fs::path& target, mode_t mode) {
 }
 
 // Where a chain of symbolic links ends, so that the link stays and its target is replaced.
+// Absolute: a bare name of a file that is not there yet would have no folder to synchronise.
 fs::path linkTarget(const fs::path& path) {
     std::error_code error;
-    fs::path target = fs::weakly_canonical(path, error);
-    return error ? fs::absolute(path) : target;
+    const fs::path absolute = fs::absolute(path, error);
+    if (error) return path;
+    fs::path target = fs::weakly_canonical(absolute, error);
+    return error ? absolute : target;
 }
 
 }  // namespace

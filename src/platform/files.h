@@ -1,9 +1,10 @@
 // Whole files: read at once, replaced at once.
 #pragma once
 
+#include "platform/secret_memory.h"
+
 #include <cstdint>
 #include <filesystem>
-#include <memory>
 #include <optional>
 #include <span>
 #include <string>
@@ -30,12 +31,12 @@ struct FileFailure {
 
 /// The content of a file, or why it could not be read.
 struct FileContent {
-    std::unique_ptr<std::uint8_t[]> storage;
+    SecretPages storage;
     std::size_t size = 0;
     FileStamp stamp;
     std::optional<FileFailure> failure;
 
-    [[nodiscard]] std::span<const std::uint8_t> bytes() const { return {storage.get(), size}; }
+    [[nodiscard]] std::span<const std::uint8_t> bytes() const { return {storage.data(), size}; }
 };
 
 /// Reads a file from its start, at most `maxBytes` of it.

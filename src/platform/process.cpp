@@ -4,9 +4,18 @@
 #include <QProcess>
 #include <QStringList>
 
+#include <unistd.h>
+
 namespace quendra {
 
 namespace {
+
+// Our own descriptors stay here anyway. Those that this process was started with do too from now
+// on: a viewer that outlives the editor would keep a pipe or a lock of whoever started it.
+void keepDescriptors() {
+    constexpr unsigned firstBehindStandard = 3;
+    ::close_range(firstBehindStandard, ~0U, CLOSE_RANGE_CLOEXEC);
+}
 
 QString fromSystem(const std::string& text) {
     return QFile::decodeName(QByteArray::fromStdString(text));
@@ -25,6 +34,7 @@ std::optional<std::string> startDetached(const std::string& program,
     process.setStandardInputFile(QProcess::nullDevice());
     process.setStandardOutputFile(QProcess::nullDevice());
     process.setStandardErrorFile(QProcess::nullDevice());
+    keepDescriptors();
     if (process.startDetached()) return std::nullopt;
     return process.errorString().toStdString();
 }

@@ -8,9 +8,9 @@
 namespace quendra {
 
 /// Starts a program, looked for on $PATH when its name holds no "/", with its arguments. It runs in
-/// a session of its own in the current directory with this process's variables, reads from and
-/// writes to nothing, and lives on when this process ends; nobody waits for it. Gives none once the
-/// program runs, or the system's words for why it does not.
+/// a session of its own in the current directory with this process's variables and none of its open
+/// files, reads from and writes to nothing, and lives on when this process ends; nobody waits for
+/// it. Gives none once the program runs, or the system's words for why it does not.
 [[nodiscard]] std::optional<std::string> startDetached(const std::string& program,
                                                        const std::vector<std::string>& arguments);
 

@@ -19,4 +19,11 @@ ScriptEntry unpackEntry(const EntryHandle& entry, const HiddenTextCipher& cipher
     return unpacked;
 }
 
+bool TransferSearch::isIn(const EntryHandle& entry) {
+    if (entry.code() != CommandCode::MenuCommand && !ownsActions(entry.code())) return false;
+    RecordScanner scanner(entry.record(), 0, memoryForm);
+    layout::record(scanner, passedOver_, Slot::Entry);
+    return scanner.holdsTransfer();
+}
+
 }  // namespace quendra

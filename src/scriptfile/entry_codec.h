@@ -26,4 +26,15 @@ struct PackResult {
 /// that packing gives the same record again.
 [[nodiscard]] ScriptEntry unpackEntry(const EntryHandle& entry, const HiddenTextCipher& cipher);
 
+/// Looks for file transfers in many entries, without unpacking them.
+class TransferSearch {
+  public:
+    /// Whether the entry or one of its actions is a file transfer.
+    [[nodiscard]] bool isIn(const EntryHandle& entry);
+
+  private:
+    /// Kept from one entry to the next: it is large, and made anew is zeroed and wiped each time.
+    ScriptEntry passedOver_;
+};
+
 }  // namespace quendra

@@ -2,28 +2,42 @@
 #pragma once
 
 #include "platform/cipher.h"
+#include "platform/secret_memory.h"
 
+#include <array>
+#include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <span>
-#include <string>
 #include <string_view>
 #include <vector>
 
 namespace quendra {
 
-/// A deciphered text. `exact` is false when enciphering it again would not give the same bytes, as
-/// with another user's key that passes the padding check by chance: then the enciphered bytes have
-/// to be kept.
-struct DecipheredText {
-    std::string text;
-    bool exact = false;
-
+/// A deciphered text of at most 255 bytes, wiped when it goes. `exact` is false when enciphering it
+/// again would not give the same bytes, as with another user's key that passes the padding check by
+/// chance: then the enciphered bytes have to be kept.
+class DecipheredText {
+  public:
+    /// Takes what deciphering gave: the text, its closing NUL, and nothing else when it is exact.
+    explicit DecipheredText(std::span<const std::uint8_t> plain);
+    DecipheredText(const DecipheredText&) = default;
+    DecipheredText& operator=(const DecipheredText&) = default;
     ~DecipheredText();
+
+    [[nodiscard]] std::string_view text() const { return {bytes_.data(), size_}; }
+    [[nodiscard]] bool exact() const { return exact_; }
+
+  private:
+    std::array<char, 255> bytes_ = {};
+    std::size_t size_ = 0;
+    bool exact_ = false;
+    SecretMark mark_{this, sizeof(DecipheredText)};
 };
 
-/// Enciphers and deciphers under the key of one user identity; the key is derived once, when it is
-/// made.
+/// Enciphers and deciphers under the key of one user identity. The key is derived once, at the
+/// first text: most scripts hide none, and setting up the cipher would hold up every start of the
+/// editor. For one thread.
 class HiddenTextCipher {
   public:
     /// `keyMaterial` is the identity's text, of which the first 63 bytes count; empty material
@@ -39,7 +53,23 @@ class HiddenTextCipher {
         std::span<const std::uint8_t> enciphered) const;
 
   private:
-    std::optional<TripleDesCbc> cipher_;
+    /// Null when no key could be made.
+    [[nodiscard]] const TripleDesCbc* cipher() const;
+
+    struct KeyMaterial {
+        explicit KeyMaterial(std::string_view material);
+        KeyMaterial(const KeyMaterial&) = default;
+        KeyMaterial& operator=(const KeyMaterial&) = default;
+        ~KeyMaterial();
+
+        std::array<char, 63> bytes{};
+        std::size_t size = 0;
+        SecretMark mark{this, sizeof(KeyMaterial)};
+    };
+
+    KeyMaterial material_;
+    mutable bool isDerived_ = false;
+    mutable std::optional<TripleDesCbc> cipher_;
 };
 
 }  // namespace quendra

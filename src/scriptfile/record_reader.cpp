@@ -61,8 +61,8 @@ void RecordReader::typeText(const SlotFields& f) {
         return;
     }
     const auto plain = cipher_ ? cipher_->decipher(taken) : std::nullopt;
-    setText(f, plain ? plain->text : std::string());
-    if (!plain || !plain->exact) f.kept.emplace(taken.begin(), taken.end());
+    setText(f, plain ? plain->text() : std::string_view());
+    if (!plain || !plain->exact()) f.kept.emplace(taken.begin(), taken.end());
 }
 
 void RecordReader::transferBlock(std::uint8_t& host, FileTransferSettings& settings) {
@@ -101,6 +101,7 @@ void RecordScanner::menuCommand(std::uint32_t& commandId) {
 }
 
 void RecordScanner::transferBlock(std::uint8_t&, FileTransferSettings&) {
+    holdsTransfer_ = true;
     if (takeByte() != transferBlockMark) isMemoryForm_ = false;
     static_cast<void>(take(1 + format_.storedTransferSettings()));
 }

@@ -122,10 +122,13 @@ class RecordScanner : public RecordCursor {
         position_ = position;
         fault_ = RecordFault::None;
         isMemoryForm_ = true;
+        holdsTransfer_ = false;
     }
 
     /// False once a record was met that has to be read and written anew to become memory form.
     [[nodiscard]] bool isMemoryForm() const { return isMemoryForm_; }
+    /// True once a file transfer was met, also in an action.
+    [[nodiscard]] bool holdsTransfer() const { return holdsTransfer_; }
 
     void menuCommand(std::uint32_t& commandId);
     void text(std::uint8_t&, TextField&) { static_cast<void>(takeText()); }
@@ -140,6 +143,7 @@ class RecordScanner : public RecordCursor {
 
   private:
     bool isMemoryForm_ = true;
+    bool holdsTransfer_ = false;
 };
 
 /// First byte of a transfer block; readers pass over whatever stands there.

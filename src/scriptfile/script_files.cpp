@@ -2,6 +2,8 @@
 
 #include "scriptfile/script_writer.h"
 
+#include <utility>
+
 namespace quendra {
 
 LoadedScript loadScriptFile(const std::filesystem::path& path) {
@@ -12,7 +14,7 @@ LoadedScript loadScriptFile(const std::filesystem::path& path) {
     if (content.failure) {
         loaded.failure = std::move(content.failure);
     } else {
-        loaded.read = readScript(content.bytes());
+        loaded.read = readScript(std::move(content.storage), content.size);
     }
     return loaded;
 }

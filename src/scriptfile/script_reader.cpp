@@ -6,6 +6,7 @@
 #include "scriptfile/record_writer.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace quendra {
 
@@ -26,14 +27,16 @@ ReadStop stopOf(RecordFault fault) {
 // other is taken apart under its own version and written anew.
 class ScriptLoad {
   public:
-    ScriptLoad(std::span<const std::uint8_t> bytes, ReadResult& result)
-        : bytes_(bytes), result_(result), format_(recordFormat(result.signature)) {}
+    /// `inPlace` takes records of `bytes` where they lie; null when they have to be copied.
+    ScriptLoad(std::span<const std::uint8_t> bytes, RecordsInPlace* inPlace, ReadResult& result)
+        : bytes_(bytes),
+          inPlace_(inPlace),
+          result_(result),
+          format_(recordFormat(result.signature)) {}
 
     void run() {
         std::size_t position = signatureSize;
-        const std::size_t mostEntries = std::min(maxEntries, bytes_.size() - position);
-        reserveRecords(mostEntries, bytes_.size());
-        result_.script.entries.reserve(mostEntries);
+        result_.script.entries.reserve(std::min(maxEntries, bytes_.size() - position));
         while (position < bytes_.size() && result_.stop == ReadStop::None) {
             if (result_.script.isFull()) {
                 stop(ReadStop::TooManyEntries, position);
@@ -60,7 +63,9 @@ class ScriptLoad {
         }
         if (!scanner_.isMemoryForm()) return storeConverted(start);
         const std::size_t end = scanner_.position();
-        result_.script.entries.push_back(storeRecord(bytes_.subspan(start, end - start)));
+        const std::size_t length = end - start;
+        result_.script.entries.push_back(inPlace_ ? inPlace_->record(start, length)
+                                                  : storeRecord(bytes_.subspan(start, length)));
         return end;
     }
 
@@ -82,6 +87,7 @@ class ScriptLoad {
     }
 
     std::span<const std::uint8_t> bytes_;
+    RecordsInPlace* inPlace_;
     ReadResult& result_;
     RecordFormat format_;
     RecordScanner scanner_{bytes_, 0, format_};
@@ -89,26 +95,42 @@ class ScriptLoad {
     RecordWriter writer_{memoryForm, nullptr};
 };
 
-}  // namespace
-
-ReadResult readScript(std::span<const std::uint8_t> bytes) {
+// What the signature says, without any entries.
+ReadResult readSignature(std::span<const std::uint8_t> bytes) {
     ReadResult result;
     if (bytes.size() < signatureSize) {
         result.refusal = ReadRefusal::TooShort;
-        return result;
-    }
-    const auto signature = recogniseSignature(bytes);
-    if (!signature) {
+    } else if (const auto signature = recogniseSignature(bytes)) {
+        result.signature = *signature;
+    } else {
         result.refusal = ReadRefusal::UnknownSignature;
-        return result;
     }
-    result.signature = *signature;
+    return result;
+}
+
+void readEntries(std::span<const std::uint8_t> bytes, RecordsInPlace* inPlace, ReadResult& result) {
     const bool tooLong = bytes.size() > maxScriptFileSize;
-    ScriptLoad(bytes.first(tooLong ? maxScriptFileSize : bytes.size()), result).run();
+    ScriptLoad(bytes.first(tooLong ? maxScriptFileSize : bytes.size()), inPlace, result).run();
     if (tooLong && (result.stop == ReadStop::None || result.stop == ReadStop::EndInsideRecord)) {
         result.stop = ReadStop::FileTooLong;
         result.stopOffset = maxScriptFileSize;
     }
+}
+
+}  // namespace
+
+ReadResult readScript(std::span<const std::uint8_t> bytes) {
+    ReadResult result = readSignature(bytes);
+    if (!result.refusal) readEntries(bytes, nullptr, result);
+    return result;
+}
+
+ReadResult readScript(SecretPages pages, std::size_t size) {
+    const std::span<const std::uint8_t> bytes(pages.data(), size);
+    ReadResult result = readSignature(bytes);
+    if (result.refusal) return result;
+    RecordsInPlace inPlace(std::move(pages), std::min(maxEntries, size));
+    readEntries(bytes, &inPlace, result);
     return result;
 }
 

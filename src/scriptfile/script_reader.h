@@ -2,6 +2,7 @@
 #pragma once
 
 #include "model/script.h"
+#include "platform/secret_memory.h"
 #include "scriptfile/format_version.h"
 
 #include <cstdint>
@@ -51,5 +52,9 @@ inline constexpr std::size_t maxScriptFileSize = std::size_t{16} * 1024 * 1024;
 /// are looked at. Needs no key: hidden texts stay enciphered. Any bytes at all are fine; it takes
 /// time in proportion to their number.
 [[nodiscard]] ReadResult readScript(std::span<const std::uint8_t> bytes);
+
+/// The same for the `size` bytes of a file that was read into pages of its own: they are taken
+/// over, so that a current script is not copied.
+[[nodiscard]] ReadResult readScript(SecretPages pages, std::size_t size);
 
 }  // namespace quendra

@@ -3,6 +3,7 @@
 #include "app/message_box.h"
 #include "app/placement.h"
 #include "app/ui_text.h"
+#include "dialogs/mnemonics.h"
 #include "transfer/advanced_page.h"
 #include "transfer/settings_page.h"
 
@@ -51,7 +52,8 @@ TransferSheet::TransferSheet(const DialogContext& context, std::uint8_t host)
     setObjectName(QStringLiteral("transferSheet"));
     setProperty("helpPage", QStringLiteral("File_Transfer_Settings"));
     setWindowTitle(text(11998));
-    setModal(true);
+    // The editor waits for the sheet, the help window stays usable.
+    setWindowModality(Qt::WindowModal);
     auto* tabs = new QTabWidget;
     tabs->setObjectName(QStringLiteral("tabs"));
     settings_ = new SettingsPage(model_);
@@ -71,6 +73,7 @@ TransferSheet::TransferSheet(const DialogContext& context, std::uint8_t host)
     all->setSizeConstraint(QLayout::SetFixedSize);
     // Not before the button is in the dialog, which would else take the first one, Browse.
     findChild<QPushButton*>(QStringLiteral("ok"))->setDefault(true);
+    actAtOnceOnMnemonics(*this);
 }
 
 void TransferSheet::addPage(QTabWidget& tabs, BoundPage* page, StringId title) {

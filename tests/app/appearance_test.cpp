@@ -1,5 +1,4 @@
-// Everything that is read can be read: contrast of the colours that lie on each other, in both
-// palettes.
+// Everything that is read can be read: the contrast of colours that lie on each other.
 #include "app/appearance.h"
 
 #include <QColor>
@@ -7,6 +6,7 @@
 #include <algorithm>
 #include <cmath>
 #include <gtest/gtest.h>
+#include <tuple>
 
 namespace quendra {
 namespace {
@@ -24,40 +24,27 @@ double contrast(const QColor& a, const QColor& b) {
     return (light + 0.05) / (dark + 0.05);
 }
 
-struct Pair {
-    const char* name;
-    QPalette::ColorGroup group;
-    QPalette::ColorRole text;
-    QPalette::ColorRole ground;
-    double least;
-};
-
 TEST(AppearanceTest, TextsStandOutFromTheirGround) {
+    using P = QPalette;
     constexpr double readable = 4.5;
     constexpr double discernible = 2.2;
-    const Pair pairs[] = {
-        {"list", QPalette::Active, QPalette::Text, QPalette::Base, readable},
-        {"label", QPalette::Active, QPalette::WindowText, QPalette::Window, readable},
-        {"button", QPalette::Active, QPalette::ButtonText, QPalette::Button, readable},
-        {"tool tip", QPalette::Active, QPalette::ToolTipText, QPalette::ToolTipBase, readable},
-        {"selection", QPalette::Active, QPalette::HighlightedText, QPalette::Highlight, readable},
-        {"quiet selection", QPalette::Inactive, QPalette::HighlightedText, QPalette::Highlight,
-         readable},
+    const std::tuple<P::ColorGroup, P::ColorRole, P::ColorRole, double> rows[] = {
+        {P::Active, P::Text, P::Base, readable},
+        {P::Active, P::Link, P::Window, readable},
+        {P::Active, P::ButtonText, P::Button, readable},
+        {P::Active, P::ToolTipText, P::ToolTipBase, readable},
+        {P::Active, P::HighlightedText, P::Highlight, readable},
+        {P::Inactive, P::HighlightedText, P::Highlight, readable},
         // Icons take the active colour on every selection.
-        {"icon on a quiet selection", QPalette::Inactive, QPalette::BrightText, QPalette::Highlight,
-         readable},
-        {"disabled button", QPalette::Disabled, QPalette::ButtonText, QPalette::Button,
-         discernible},
-        {"disabled list", QPalette::Disabled, QPalette::Text, QPalette::Base, discernible},
-        {"link", QPalette::Active, QPalette::Link, QPalette::Window, readable},
+        {P::Inactive, P::BrightText, P::Highlight, readable},
+        {P::Disabled, P::ButtonText, P::Button, discernible},
+        {P::Disabled, P::Text, P::Base, discernible},
     };
     for (const Appearance appearance : {Appearance::Light, Appearance::Dark}) {
-        const QPalette palette = appearancePalette(appearance);
-        for (const Pair& pair : pairs) {
-            EXPECT_GE(contrast(palette.color(pair.group, pair.text),
-                               palette.color(pair.group, pair.ground)),
-                      pair.least)
-                << (appearance == Appearance::Dark ? "dark " : "light ") << pair.name;
+        const P palette = appearancePalette(appearance);
+        for (const auto& [group, text, ground, least] : rows) {
+            EXPECT_GE(contrast(palette.color(group, text), palette.color(group, ground)), least)
+                << (appearance == Appearance::Dark ? "dark " : "light ") << group << ' ' << text;
         }
     }
 }

@@ -2,12 +2,12 @@
 
 #include "app/ui_text.h"
 
-#include <QAction>
 #include <QApplication>
 #include <QLabel>
-#include <QListView>
 
+#include <algorithm>
 #include <fstream>
+#include <iterator>
 
 namespace quendra::test {
 
@@ -42,10 +42,8 @@ Bytes scriptFile(std::string_view signature, std::initializer_list<Bytes> record
 
 Bytes commentFile(std::size_t count) {
     Bytes file = bytesOf("QDMDSCR=");
-    for (std::size_t i = 1; i <= count; ++i) {
-        const Bytes record = commentRecord(std::to_string(i));
-        file.insert(file.end(), record.begin(), record.end());
-    }
+    for (std::size_t i = 1; i <= count; ++i)
+        std::ranges::copy(commentRecord(std::to_string(i)), std::back_inserter(file));
     return file;
 }
 
@@ -104,8 +102,7 @@ EditorTest::~EditorTest() {
 std::filesystem::path EditorTest::open(const std::string& name, const Bytes& bytes) {
     const auto path = editor.folder / name;
     writeBytes(path, bytes);
-    answers.toFileDialogs.emplace_back(path);
-    action(301).trigger();
+    run(301, path);
     return path;
 }
 
@@ -114,7 +111,7 @@ void EditorTest::select(std::initializer_list<std::size_t> entries, int focused)
 }
 
 void EditorTest::choosePaletteRow(const char* list, int row) {
-    auto& view = widget<QListView>(list);
+    auto& view = widget<PaneList>(list);
     view.setCurrentIndex(view.model()->index(row, 0));
 }
 
@@ -122,8 +119,39 @@ QAction& EditorTest::action(int command) {
     return widget<QAction>(("command" + std::to_string(command)).c_str());
 }
 
-QString EditorTest::status() const {
-    return window.findChild<QLabel*>(QStringLiteral("statusLine"))->text();
+void EditorTest::run(int command, MessageAnswer answer) {
+    answers.toMessages.push_back(answer);
+    run(command);
+}
+
+void EditorTest::run(int command, std::optional<std::filesystem::path> choice) {
+    answers.toFileDialogs.push_back(std::move(choice));
+    run(command);
+}
+
+void EditorTest::deleteFirstEntry() {
+    select({0}, 0);
+    run(312, MessageAnswer::Yes);
+    answers.messages.clear();
+}
+
+std::string EditorTest::status() const {
+    return window.findChild<QLabel*>(QStringLiteral("statusLine"))->text().toStdString();
+}
+
+std::string EditorTest::lines() {
+    std::string all;
+    for (int row = 0; row < script().model()->rowCount(); ++row)
+        all += (row > 0 ? "|" : "") + window.pane().entryText(row).toStdString();
+    return all;
+}
+
+void EditorTest::expectScript(const std::string& expected, const std::vector<std::size_t>& selected,
+                              int focused) {
+    EXPECT_EQ(lines(), expected);
+    EXPECT_EQ(window.pane().selectedEntries(), selected);
+    EXPECT_EQ(window.pane().focusedEntry(), focused);
+    EXPECT_EQ(state.currentIndex, focused);
 }
 
 }  // namespace quendra::test

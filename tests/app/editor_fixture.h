@@ -5,14 +5,16 @@
 #include "app/file_dialogs.h"
 #include "app/main_window.h"
 #include "app/message_box.h"
+#include "app/pane_list.h"
 #include "app/script_editor.h"
 #include "support/fixtures.h"
 #include "support/temporary_folder.h"
 
+#include <QAction>
+
 #include <deque>
 #include <functional>
 #include <gtest/gtest.h>
-#include <memory>
 #include <string>
 #include <vector>
 
@@ -68,14 +70,29 @@ class EditorTest : public ::testing::Test {
     void select(std::initializer_list<std::size_t> entries, int focused);
     void choosePaletteRow(const char* list, int row);
     [[nodiscard]] QAction& action(int command);
-    [[nodiscard]] QString title() const { return window.windowTitle(); }
-    [[nodiscard]] QString status() const;
+    [[nodiscard]] bool isEnabled(int command) { return action(command).isEnabled(); }
+    void run(int command) { action(command).trigger(); }
+    /// The same with an answer prepared for the question that it asks.
+    void run(int command, MessageAnswer answer);
+    /// The same with a choice prepared for the file dialog that it opens, none for Cancel.
+    void run(int command, std::optional<std::filesystem::path> choice);
+    /// Through the menu command; its question is answered, and not kept.
+    void deleteFirstEntry();
+    [[nodiscard]] std::string title() const { return window.windowTitle().toStdString(); }
+    [[nodiscard]] bool isMarked() const { return title().ends_with(" *"); }
+    [[nodiscard]] std::string status() const;
+    [[nodiscard]] std::string lines();
+    /// These lines, with "|" between them, and this selection.
+    void expectScript(const std::string& expected, const std::vector<std::size_t>& selected,
+                      int focused);
     template <class T>
     [[nodiscard]] T& widget(const char* name) {
         T* found = window.findChild<T*>(QLatin1String(name));
         if (found == nullptr) throw std::runtime_error(std::string("no widget ") + name);
         return *found;
     }
+    [[nodiscard]] PaneList& list(const char* name) { return widget<PaneList>(name); }
+    [[nodiscard]] PaneList& script() { return list("scriptList"); }
 
     EditorState editor;
     ApplicationState& state = editor.state;

@@ -3,8 +3,6 @@
 #include "scriptfile/entry_codec.h"
 
 #include <QApplication>
-#include <QTest>
-#include <QWindow>
 
 namespace quendra {
 
@@ -27,6 +25,7 @@ PaneFixture::PaneFixture() {
     events = pane->findChild<PaneList*>(QStringLiteral("scriptEventsPalette"));
     luFunctions = pane->findChild<PaneList*>(QStringLiteral("luFunctionsPalette"));
     menuCommands = pane->findChild<PaneList*>(QStringLiteral("menuCommandsPalette"));
+    lists = {{{script, 311}, {events, 308}, {luFunctions, 309}, {menuCommands, 310}}};
     QObject::connect(pane, &EditorPane::commandRequested, pane,
                      [this](int command) { commands.push_back(command); });
     QObject::connect(pane, &EditorPane::selectionChanged, pane, [this] { ++selectionChanges; });
@@ -39,69 +38,40 @@ PaneFixture::PaneFixture() {
 }
 
 void PaneFixture::fillScript(int entries) {
+    std::vector<std::string> texts;
+    for (int i = 0; i < entries; ++i)
+        texts.push_back("e" + std::to_string(i));
+    showRemarks(texts);
+}
+
+void PaneFixture::showRemarks(const std::vector<std::string>& texts) {
     state.script.entries.clear();
-    for (int i = 0; i < entries; ++i) {
-        state.script.entries.push_back(remark("e" + std::to_string(i), state.cipher));
-    }
+    for (const std::string& text : texts)
+        state.script.entries.push_back(remark(text, state.cipher));
     state.currentIndex = -1;
     pane->rebuildScriptList();
+    selectionChanges = moves = 0;
 }
 
 std::string PaneFixture::lines() const {
     std::string all;
-    for (int row = 0; row < script->model()->rowCount(); ++row) {
+    for (int row = 0; row < script->model()->rowCount(); ++row)
         all += (row > 0 ? " " : "") + pane->entryText(row).toStdString();
-    }
     return all;
 }
 
-QPoint PaneFixture::onRow(const PaneList& list, int row) const {
-    return list.viewport()->mapTo(&window, list.rowRect(row).center() - QPoint(40, 0));
+void PaneFixture::expectCurrent(const Rows& entries, int focused) const {
+    EXPECT_EQ(selected(), entries);
+    EXPECT_EQ(pane->focusedEntry(), focused);
+    EXPECT_EQ(state.currentIndex, focused);
 }
 
-QPoint PaneFixture::belowRows(const PaneList& list) const {
-    return list.viewport()->mapTo(&window, list.viewport()->rect().bottomLeft() + QPoint(50, -3));
-}
-
-void PaneFixture::press(QPoint point, Qt::KeyboardModifiers held) {
-    QTest::mousePress(window.windowHandle(), Qt::LeftButton, held, point);
-}
-
-void PaneFixture::moveTo(QPoint point) {
-    QTest::mouseMove(window.windowHandle(), point);
-}
-
-void PaneFixture::release(QPoint point, Qt::KeyboardModifiers held) {
-    QTest::mouseRelease(window.windowHandle(), Qt::LeftButton, held, point);
-}
-
-void PaneFixture::click(QPoint point, Qt::KeyboardModifiers held) {
-    press(point, held);
-    release(point, held);
-}
-
-void PaneFixture::doubleClick(QPoint point) {
-    QTest::mouseDClick(window.windowHandle(), Qt::LeftButton, {}, point);
-}
-
-void PaneFixture::key(int key, Qt::KeyboardModifiers held) {
-    QTest::keyClick(window.windowHandle(), static_cast<Qt::Key>(key), held);
-}
-
-void PaneFixture::drag(QPoint from, QPoint to) {
-    press(from);
+void PaneFixture::drag(QPoint from, QPoint to, Qt::KeyboardModifiers held) {
+    press(from, held);
     moveTo(from + (to - from) / 2);
     moveTo(to);
-    release(to);
+    release(to, held);
     settle();
-}
-
-void PaneFixture::settle() {
-    QApplication::processEvents();
-}
-
-bool PaneFixture::dragShows() const {
-    return pane->findChild<QWidget*>(QStringLiteral("dragImage")) != nullptr;
 }
 
 }  // namespace quendra

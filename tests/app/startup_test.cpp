@@ -1,14 +1,10 @@
 // Where folders, flags and help settings come from, each case in a home folder of its own.
 #include "app/startup.h"
 
-#include "platform/directories.h"
 #include "support/temporary_folder.h"
 
 #include <fstream>
-#include <functional>
 #include <gtest/gtest.h>
-#include <map>
-#include <ostream>
 #include <vector>
 
 namespace quendra::test {
@@ -17,14 +13,24 @@ namespace fs = std::filesystem;
 
 namespace {
 
-constexpr const char* productSection = "[Software\\Quendra\\6.1]\n";
-constexpr const char* webSection = "[Software\\Quendra Web\\6.1]\n";
+constexpr const char* machineRegistry = "etc/quendra/registry.ini";
+constexpr const char* userRegistry = "config/quendra/registry.ini";
+
+// The product key with these values, and that of a program in a cache.
+std::string key(const std::string& values) {
+    return "[Software\\Quendra\\6.1]\n" + values + "\n";
+}
+std::string webKey(const std::string& values) {
+    return "[Software\\Quendra Web\\6.1]\n" + values + "\n";
+}
 
 // A machine with one user, below a temporary folder. In texts, "@" stands for that folder.
 class Machine {
   public:
-    Machine() {
-        inputs.programFile = at("opt/bin/quendra-script-editor");
+    explicit Machine(const std::string& programFolder = "opt/bin") {
+        fs::create_directories(at(programFolder));
+        fs::create_directory(at("current"));
+        inputs.programFile = at(programFolder + "/quendra-script-editor");
         inputs.currentDir = at("current");
         inputs.environment = {{"XDG_CONFIG_HOME", at("config")},
                               {"XDG_CONFIG_DIRS", at("etc")},
@@ -34,36 +40,19 @@ class Machine {
         inputs.folders.commonApplicationData = at("lib");
         inputs.folders.commonDocuments = at("srv");
         inputs.folders.temporary = at("tmp");
-        fs::create_directory(at("current"));
     }
 
     [[nodiscard]] fs::path at(const std::string& name) const { return root_ / name; }
-
-    [[nodiscard]] std::string expanded(std::string text) const {
-        for (std::size_t i = 0; (i = text.find('@', i)) != std::string::npos;) {
-            text.replace(i, 1, root_.path().native());
-        }
-        return text;
-    }
-
-    // The path as the tables have it: below "@".
+    // The path as the tables have it: below the machine's folder.
     [[nodiscard]] std::string shortened(const fs::path& path) const {
-        const std::string& root = root_.path().native();
-        const std::string& text = path.native();
-        return text.starts_with(root) ? "@" + text.substr(root.size()) : text;
+        return path.empty() ? "" : path.lexically_relative(root_.path()).string();
     }
-
-    void write(const std::string& name, const std::string& text) const {
+    void write(const std::string& name, std::string text) const {
+        for (std::size_t i = 0; (i = text.find('@', i)) != std::string::npos;)
+            text.replace(i, 1, root_.path().native());
         fs::create_directories(at(name).parent_path());
-        std::ofstream(at(name)) << expanded(text);
+        std::ofstream(at(name)) << text;
     }
-
-    // The program is in `folder` instead.
-    void moveProgram(const std::string& folder) {
-        fs::create_directories(at(folder));
-        inputs.programFile = at(folder) / "quendra-script-editor";
-    }
-
     [[nodiscard]] StartupSettings start() const { return readStartupSettings(inputs); }
 
     StartupInputs inputs;
@@ -72,146 +61,100 @@ class Machine {
     const TemporaryFolder root_;
 };
 
-struct Row {
+using File = std::pair<const char*, std::string>;
+
+struct FolderRow {
     const char* name;
-    // Files by name, with their text.
-    std::map<std::string, std::string> files;
+    std::string registry;
     const char* installDir;
-    const char* workingDir;
-    bool withSubfolders;
+    // With subfolders; empty where the installation directory is the working directory.
+    std::string workingDir = {};
     const char* programFolder = "opt/bin";
+    File file = {};
 };
 
-std::ostream& operator<<(std::ostream& out, const Row& row) {
-    return out << row.name;
+const std::string machineDir = key("Working Directory=@/w");
+const std::string neither = webKey("Installation Directory=@/i\nWorking Directory=@/w");
+const char* const cache = "tmp/Quendra/6.1";
+const File versions = {"opt/bin/global.ini", "[Quendra]\nAppendVersionToWorkingDir=yes\n"};
+const File desktop = {"tmp/q/default.ini", "[Quendra]\nDesktopMode=Desk.INI\n"};
+const File noDesktop = {"tmp/q/default.ini", "[Quendra]\nDesktopMode=yes\n"};
+
+File userKey(const std::string& base) {
+    return {userRegistry, key("Working Directory=@/user\n" + base)};
 }
 
-std::string machineKey(const std::string& values) {
-    return productSection + values;
-}
-
-const std::map<std::string, std::string> appendVersion = {
-    {"opt/bin/global.ini", "[Quendra]\nAppendVersionToWorkingDir=yes\n"}};
-
-std::map<std::string, std::string> typeFiles(const std::string& type, bool withVersion = false) {
-    std::map<std::string, std::string> files;
-    if (withVersion) files = appendVersion;
-    files["etc/quendra/registry.ini"] =
-        machineKey("WorkingDirType=" + type + "\nWorking Directory=@/work-dir\n");
-    return files;
-}
-
-std::map<std::string, std::string> machineFile(const std::string& text) {
-    return {{"etc/quendra/registry.ini", text}};
-}
-
-// clang-format off
-const std::vector<Row> folderRows = {
-    {"NoSettings", {}, "@/current", "@/current", false},
-    {"KeyWithoutValues", machineFile(machineKey("")), "@/current", "@/current", false},
-    {"InstallationDirectory", machineFile(machineKey("Installation Directory=@/inst\n")),
-     "@/inst", "@/inst", false},
-    {"WorkingDirectory", machineFile(machineKey("Working Directory=@/w\n")), "@/current", "@/w", true},
-    {"TooLongTextIsNoText", machineFile(machineKey("Working Directory=/" + std::string(260, 'x'))),
-     "@/current", "@/current", false},
-    {"Type0", typeFiles("0"), "@/current", "@/work-dir", true},
-    {"Type1", typeFiles("hex:01"), "@/current", "@/home/Documents/Quendra", true},
-    {"Type2", typeFiles("0x02"), "@/current", "@/srv/Quendra", true},
-    {"Type3", typeFiles("3"), "@/current", "@/home/data/Quendra", true},
-    {"Type4", typeFiles("4"), "@/current", "@/lib/Quendra", true},
-    {"Type0HasNoVersion", typeFiles("0", true), "@/current", "@/work-dir", true},
-    {"Type1WithVersion", typeFiles("1", true), "@/current", "@/home/Documents/Quendra/6.1", true},
-    {"Type4WithVersion", typeFiles("4", true), "@/current", "@/lib/Quendra/6.1", true},
-    {"Type5IsNoKey", typeFiles("5"), "@/current", "@/current", false},
-    {"Type255IsNoKey", typeFiles("255"), "@/current", "@/current", false},
-    {"MalformedTypeIs0", typeFiles("hex:01,00"), "@/current", "@/work-dir", true},
-    {"UserKeyAloneIsNotRead",
-     {{"config/quendra/registry.ini", machineKey("Working Directory=@/user\n")}},
-     "@/current", "@/current", false},
-    {"BaseRegistry2OfTheUser",
-     {{"config/quendra/registry.ini", machineKey("BaseRegistry=2\nWorking Directory=@/user\n")},
-      {"etc/quendra/registry.ini", machineKey("Working Directory=@/machine\n")}},
-     "@/current", "@/user", true},
-    {"BaseRegistry2OfTheMachine",
-     {{"config/quendra/registry.ini", machineKey("Working Directory=@/user\n")},
-      {"etc/quendra/registry.ini", machineKey("BaseRegistry=2\nWorking Directory=@/machine\n")}},
-     "@/current", "@/user", true},
-    {"BaseRegistryOfTheUserGoesFirst",
-     {{"config/quendra/registry.ini", machineKey("BaseRegistry=0\nWorking Directory=@/user\n")},
-      {"etc/quendra/registry.ini", machineKey("BaseRegistry=2\nWorking Directory=@/machine\n")}},
-     "@/current", "@/machine", true},
-    {"BaseRegistry1IsTheMachine",
-     {{"config/quendra/registry.ini", machineKey("BaseRegistry=1\nWorking Directory=@/user\n")},
-      {"etc/quendra/registry.ini", machineKey("Working Directory=@/machine\n")}},
-     "@/current", "@/machine", true},
-    {"WebInTheTemporaryFolder", {}, "@/tmp/Quendra/6.1", "@/tmp/Quendra/6.1", false, "tmp/cache"},
-    {"WebInTheUsersData", {}, "@/tmp/Quendra/6.1", "@/tmp/Quendra/6.1", false, "home/data/q"},
-    {"WebInTheCommonData", {}, "@/tmp/Quendra/6.1", "@/tmp/Quendra/6.1", false, "lib/q/bin"},
-    {"WebCacheMode1", machineFile(webSection + std::string("CacheMode=1\n")),
-     "@/home/data/Quendra/6.1", "@/home/data/Quendra/6.1", false, "tmp/cache"},
-    {"WebCacheMode2", machineFile(webSection + std::string("CacheMode=hex:02\n")),
-     "@/lib/Quendra/6.1", "@/lib/Quendra/6.1", false, "tmp/cache"},
-    {"WebCacheMode3", machineFile(webSection + std::string("CacheMode=3\n")),
-     "@/tmp/Quendra/6.1", "@/tmp/Quendra/6.1", false, "tmp/cache"},
-    {"WebReadsNeitherDirectory",
-     machineFile(webSection + std::string("Installation Directory=@/i\nWorking Directory=@/w\n")),
-     "@/tmp/Quendra/6.1", "@/tmp/Quendra/6.1", false, "tmp/cache"},
-    {"WebWithType1", machineFile(webSection + std::string("WorkingDirType=1\n")),
-     "@/tmp/Quendra/6.1", "@/home/Documents/Quendra", true, "tmp/cache"},
-    {"WebHasItsOwnKey", machineFile(machineKey("WorkingDirType=1\n")),
-     "@/tmp/Quendra/6.1", "@/tmp/Quendra/6.1", false, "tmp/cache"},
-    {"DesktopModeIsNotWeb", {{"tmp/cache/default.ini", "[Quendra]\nDesktopMode=Desk.INI\n"}},
-     "@/current", "@/current", false, "tmp/cache"},
-    {"OtherDesktopModeIsWeb", {{"tmp/cache/default.ini", "[Quendra]\nDesktopMode=yes\n"}},
-     "@/tmp/Quendra/6.1", "@/tmp/Quendra/6.1", false, "tmp/cache"},
-    {"AFolderOfSuchANameIsNotWeb", {}, "@/current", "@/current", false, "opt/tmp/q"},
-    {"ALongerNameIsNotWeb", {}, "@/current", "@/current", false, "tmpfiles/q"},
-    {"ProtectedBelowLow", {}, "@/tmp/Low/Quendra/6.1", "@/tmp/Low/Quendra/6.1", false,
-     "home/data/Low/Quendra/bin"},
-    {"ProtectedOutsideOfCaches", {}, "@/current", "@/current", false, "opt/LocalLow/Quendra/bin"},
+const FolderRow folderRows[] = {
+    {"NoSettings", "", "current"},
+    {"InstallationDirectory", key("Installation Directory=@/inst"), "inst"},
+    {"WorkingDirectory", machineDir, "current", "w"},
+    {"TooLong", key("Working Directory=/" + std::string(260, 'x')), "current"},
+    {"Type0", machineDir + "WorkingDirType=0\n", "current", "w"},
+    {"Type1", key("WorkingDirType=hex:01"), "current", "home/Documents/Quendra"},
+    {"Type2", key("WorkingDirType=0x02"), "current", "srv/Quendra"},
+    {"Type3", key("WorkingDirType=3"), "current", "home/data/Quendra"},
+    {"Type4", key("WorkingDirType=4"), "current", "lib/Quendra"},
+    {"Type5IsNoKey", machineDir + "WorkingDirType=5\n", "current"},
+    {"MalformedTypeIs0", machineDir + "WorkingDirType=hex:01,00\n", "current", "w"},
+    {"Type0HasNoVersion", machineDir, "current", "w", "opt/bin", versions},
+    {"Type4Version", key("WorkingDirType=4"), "current", "lib/Quendra/6.1", "opt/bin", versions},
+    {"UserKeyAloneIsNotRead", "", "current", "", "opt/bin", userKey("")},
+    {"Base2OfUser", machineDir, "current", "user", "opt/bin", userKey("BaseRegistry=2")},
+    {"Base2", machineDir + "BaseRegistry=2\n", "current", "user", "opt/bin", userKey("")},
+    {"Base0", machineDir + "BaseRegistry=2\n", "current", "w", "opt/bin",
+     userKey("BaseRegistry=0")},
+    {"Base1", machineDir, "current", "w", "opt/bin", userKey("BaseRegistry=1")},
+    {"WebInTheTemporaryFolder", "", cache, "", "tmp/cache"},
+    {"WebInTheUsersData", "", cache, "", "home/data/q"},
+    {"WebInTheCommonData", "", cache, "", "lib/q/bin"},
+    {"WebCacheMode1", webKey("CacheMode=1"), "home/data/Quendra/6.1", "", "tmp/q"},
+    {"WebCacheMode2", webKey("CacheMode=hex:02"), "lib/Quendra/6.1", "", "tmp/q"},
+    {"WebReadsNeitherDirectory", neither, cache, "", "tmp/q"},
+    {"WebWithType1", webKey("WorkingDirType=1"), cache, "home/Documents/Quendra", "tmp/q"},
+    {"WebHasItsOwnKey", key("WorkingDirType=1"), cache, "", "tmp/q"},
+    {"DesktopModeIsNotWeb", "", "current", "", "tmp/q", desktop},
+    {"OtherDesktopModeIsWeb", "", cache, "", "tmp/q", noDesktop},
+    {"AFolderOfSuchANameIsNotWeb", "", "current", "", "opt/tmp/q"},
+    {"ALongerNameIsNotWeb", "", "current", "", "tmpfiles/q"},
+    {"ProtectedBelowLow", "", "tmp/Low/Quendra/6.1", "", "home/data/Low/Quendra/bin"},
 };
-// clang-format on
 
-class StartupFolders : public testing::TestWithParam<Row> {};
+std::ptrdiff_t filesIn(const fs::path& folder) {
+    return std::distance(fs::directory_iterator(folder), fs::directory_iterator());
+}
 
-TEST_P(StartupFolders, AreFoundAndMade) {
-    Machine machine;
-    machine.moveProgram(GetParam().programFolder);
-    for (const auto& [name, text] : GetParam().files)
-        machine.write(name, text);
-    const StartupSettings settings = machine.start();
-    EXPECT_EQ(machine.shortened(settings.installDir), GetParam().installDir);
-    EXPECT_EQ(machine.shortened(settings.workingDir), GetParam().workingDir);
-    EXPECT_EQ(settings.withSubfolders, GetParam().withSubfolders);
-    const bool sub = settings.withSubfolders;
-    const fs::path& working = settings.workingDir;
-    EXPECT_EQ(settings.scriptsDir, sub ? working / "Scripts" : working);
-    EXPECT_EQ(settings.transferDir, sub ? working / "Transfer" : working);
-    EXPECT_EQ(settings.configDir, sub ? working / "Config" : working);
-    for (const auto& folder : {settings.scriptsDir, settings.transferDir, settings.configDir}) {
-        EXPECT_TRUE(fs::is_directory(folder)) << folder;
+TEST(Startup, FoldersAreFoundAndMade) {
+    for (const FolderRow& row : folderRows) {
+        SCOPED_TRACE(row.name);
+        const Machine machine(row.programFolder);
+        machine.write(machineRegistry, row.registry);
+        if (row.file.first) machine.write(row.file.first, row.file.second);
+        const StartupSettings settings = machine.start();
+        EXPECT_EQ(machine.shortened(settings.installDir), row.installDir);
+        const bool sub = !row.workingDir.empty();
+        EXPECT_EQ(machine.shortened(settings.workingDir), sub ? row.workingDir : row.installDir);
+        EXPECT_EQ(settings.withSubfolders, sub);
+        const auto expectFolder = [&](const fs::path& folder, const char* name) {
+            EXPECT_EQ(folder, sub ? settings.workingDir / name : settings.workingDir);
+            EXPECT_TRUE(fs::is_directory(folder)) << folder;
+        };
+        expectFolder(settings.scriptsDir, "Scripts");
+        expectFolder(settings.transferDir, "Transfer");
+        expectFolder(settings.configDir, "Config");
     }
-    EXPECT_EQ(settings.backupDir, "");
-    EXPECT_FALSE(settings.usingBackupDir);
 }
-
-INSTANTIATE_TEST_SUITE_P(Settings, StartupFolders, testing::ValuesIn(folderRows),
-                         [](const auto& row) { return row.param.name; });
 
 TEST(Startup, FoldersThatAreNotFoundLeaveTheInstallationDirectory) {
     Machine machine;
     machine.inputs.folders.documents.reset();
-    machine.write("etc/quendra/registry.ini",
-                  machineKey("WorkingDirType=1\nInstallation Directory=@/inst"));
+    machine.write(machineRegistry, key("WorkingDirType=1\nInstallation Directory=@/inst"));
     const StartupSettings settings = machine.start();
     EXPECT_EQ(settings.workingDir, machine.at("inst"));
     EXPECT_FALSE(settings.withSubfolders);
-    EXPECT_EQ(settings.workingDirType, 1);
 }
 
 TEST(Startup, FindsAProgramThatLiesInACacheByAnotherName) {
-    Machine machine;
-    machine.moveProgram("disk/cache");
+    const Machine machine("disk/cache");
     fs::create_directory_symlink(machine.at("disk"), machine.at("tmp"));
     const StartupSettings settings = machine.start();
     EXPECT_TRUE(settings.webDeployed);
@@ -220,179 +163,113 @@ TEST(Startup, FindsAProgramThatLiesInACacheByAnotherName) {
 }
 
 TEST(Startup, TellsProtectedFoldersByTheirNames) {
-    const std::pair<const char*, bool> rows[] = {
-        {"a/Low/Quendra/bin", true}, {"a/LocalLow/Quendra", true},   {"a/Low/Quendra2", false},
-        {"a/low/quendra", false},    {"a/Low/other/Quendra", false}, {"a/VeryLow/Quendra/b", false},
-    };
-    for (const auto& [folder, isProtected] : rows) {
-        Machine machine;
-        machine.moveProgram(folder);
-        EXPECT_EQ(machine.start().protectedMode, isProtected) << folder;
-    }
+    for (const char* folder : {"a/Low/Quendra/bin", "a/LocalLow/Quendra"})
+        EXPECT_TRUE(Machine(folder).start().protectedMode) << folder;
+    for (const char* folder :
+         {"a/Low/Quendra2", "a/low/quendra", "a/Low/b/Quendra", "a/VeryLow/Quendra"})
+        EXPECT_FALSE(Machine(folder).start().protectedMode) << folder;
 }
 
 TEST(Startup, FlagsTestTheFirstCharacterOnly) {
-    const struct {
-        const char* value;
-        bool appendVersion;
-        bool crossVersionInterop;
-    } rows[] = {{"Y", true, true},   {"y", true, true},     {"Yes, please", true, true},
-                {"N", false, false}, {"no", false, false},  {"1", false, true},
-                {"", false, true},   {"\"Y\"", true, true}, {"on", false, true}};
-    for (const auto& row : rows) {
-        Machine machine;
-        const std::string value = row.value;
+    for (const std::string value : {"Y", "yes, please", "\"Y\"", "N", "no", "1", "", "on"}) {
+        SCOPED_TRACE(value);
+        const bool isYes = value.find_first_of("Yy") <= 1;
+        const bool isNo = value.find_first_of("Nn") == 0;
+        const Machine machine;
         machine.write("opt/bin/global.ini", "[quendra]\nappendversiontoworkingdir=" + value +
-                                                "\nAllowCrossVersionInterop=" + value + "\n");
+                                                "\nAllowCrossVersionInterop=" + value);
         const StartupSettings settings = readProgramSettings(machine.inputs);
-        EXPECT_EQ(settings.appendVersion, row.appendVersion) << value;
-        EXPECT_EQ(settings.crossVersionInterop, row.crossVersionInterop) << value;
+        EXPECT_EQ(settings.appendVersion, isYes);
+        EXPECT_EQ(settings.crossVersionInterop, !isNo);
         EXPECT_EQ(settings.windowClassName,
-                  row.crossVersionInterop ? "Quendra Script Editor" : "Quendra Script Editor 6.1");
-        EXPECT_EQ(machine.start().windowClassName, settings.windowClassName);
+                  isNo ? "Quendra Script Editor 6.1" : "Quendra Script Editor");
     }
 }
 
-TEST(Startup, TheProgramsFlagsAreNotThoseOfTheInstallationDirectory) {
-    Machine machine;
+TEST(Startup, TheProgramsFlagsAreReadBesideItBeforeAnythingIsMade) {
+    const Machine machine;
+    machine.write(machineRegistry, machineDir);
     machine.write("current/global.ini", "[Quendra]\nAllowCrossVersionInterop=N\n");
+    EXPECT_TRUE(readProgramSettings(machine.inputs).crossVersionInterop);
+    EXPECT_FALSE(fs::exists(machine.at("w")));
     EXPECT_TRUE(machine.start().crossVersionInterop);
 }
 
-TEST(Startup, LookingForAnotherWindowComesBeforeAnythingIsMade) {
-    Machine machine;
-    machine.write("etc/quendra/registry.ini", machineKey("Working Directory=@/w\n"));
-    static_cast<void>(readProgramSettings(machine.inputs));
-    EXPECT_FALSE(fs::exists(machine.at("w")));
-}
-
-// With the working directory "@/w" by the registry, and what "global.ini" of "@/current" says.
-StartupSettings startWithBackup(Machine& machine, const std::string& backup,
-                                const std::string& workingDir = "@/w") {
-    machine.write("etc/quendra/registry.ini", machineKey("Working Directory=" + workingDir));
-    machine.write("current/global.ini", "[Quendra]\nBackupWorkingDir=" + backup + "\n");
-    machine.inputs.environment["SHARE"] = machine.at("share");
-    return machine.start();
-}
-
-TEST(BackupDirectory, IsMadeWithItsSubfoldersAndLeftAlone) {
-    Machine machine;
-    const StartupSettings settings = startWithBackup(machine, "%SHARE%/deep/backup");
-    EXPECT_EQ(settings.backupDir, machine.at("share/deep/backup"));
-    EXPECT_FALSE(settings.usingBackupDir);
-    EXPECT_EQ(settings.workingDir, machine.at("w"));
-    EXPECT_TRUE(fs::is_empty(settings.scriptsDir));
-    for (const char* name : {"Config", "Transfer", "Scripts"}) {
-        EXPECT_TRUE(fs::is_directory(settings.backupDir / name)) << name;
-    }
-    EXPECT_EQ(std::distance(fs::directory_iterator(settings.workingDir), fs::directory_iterator()),
-              3)
-        << "the file of the test is gone again";
-}
-
-TEST(BackupDirectory, TakesThePlaceOfAWorkingDirectoryThatRefusesWrites) {
-    // One that cannot be made, and one that is there and takes no files, not even from root.
-    for (const char* workingDir : {"@/file/w", "/proc/self"}) {
+TEST(BackupDirectory, IsMadeAndTakesThePlaceOfAWorkingDirectoryThatRefusesWrites) {
+    const std::string rest = "b/" + std::string(200, 'x') + "/";
+    const std::string cut = rest + std::string(260 - 7 - rest.size(), 'y');
+    const struct {
+        std::string configured;
+        std::string registry;
+        std::string backupDir;
+        bool used;
+        const char* workingDir;
+        bool withSubfolders = true;
+    } rows[] = {
+        {"%SHARE%/deep/backup", machineDir, "share/deep/backup", false, "w"},
+        {"%SHARE%" + rest + std::string(100, 'y'), machineDir, "share" + cut, false, "w"},
+        {"@/%NO SUCH%/b", machineDir, "%NO SUCH%/b", false, "w"},
+        // One that cannot be made, and one that is there and takes no files, not even from root.
+        {"<SHARE>/b", key("Working Directory=@/file/w"), "share/b", true, "share/b"},
+        {"<SHARE>/b", key("Working Directory=/proc/self"), "share/b", true, "share/b"},
+        {"", key("Working Directory=@/file/w"), "", false, "file/w"},
+        {"@/b", "", "b", false, "current", false},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.configured);
         Machine machine;
+        machine.inputs.environment["SHARE"] = machine.at("share");
         machine.write("file", "");
-        const StartupSettings settings = startWithBackup(machine, "<SHARE>/b", workingDir);
-        EXPECT_TRUE(settings.usingBackupDir) << workingDir;
-        EXPECT_EQ(settings.workingDir, machine.at("share/b"));
-        EXPECT_EQ(settings.scriptsDir, machine.at("share/b/Scripts"));
-        EXPECT_EQ(settings.configDir, machine.at("share/b/Config"));
-        EXPECT_TRUE(settings.withSubfolders);
+        machine.write(machineRegistry, row.registry);
+        machine.write("current/global.ini", "[Quendra]\nBackupWorkingDir=" + row.configured);
+        const StartupSettings settings = machine.start();
+        EXPECT_EQ(machine.shortened(settings.backupDir), row.backupDir);
+        EXPECT_EQ(settings.usingBackupDir, row.used);
+        EXPECT_EQ(machine.shortened(settings.workingDir), row.workingDir);
+        EXPECT_EQ(settings.withSubfolders, row.withSubfolders);
+        const fs::path scripts = row.withSubfolders ? "Scripts" : "";
+        EXPECT_EQ(settings.scriptsDir / "", settings.workingDir / scripts / "");
+        if (row.backupDir.empty()) continue;
+        EXPECT_EQ(filesIn(settings.workingDir), row.withSubfolders ? 3 : 1) << "no test file";
+        EXPECT_EQ(filesIn(settings.backupDir), row.withSubfolders ? 3 : 0);
     }
-}
-
-TEST(BackupDirectory, HasNoSubfoldersWhereTheWorkingDirectoryHasNone) {
-    Machine machine;
-    machine.write("current/global.ini", "[Quendra]\nBackupWorkingDir=@/b\n");
-    const StartupSettings settings = machine.start();
-    EXPECT_EQ(settings.backupDir, machine.at("b"));
-    EXPECT_TRUE(fs::is_empty(settings.backupDir));
-    EXPECT_EQ(settings.workingDir, machine.at("current"));
-}
-
-TEST(BackupDirectory, OfAnUnknownVariableIsUsedAsItStands) {
-    Machine machine;
-    const StartupSettings settings = startWithBackup(machine, "@/%NO SUCH%/b");
-    EXPECT_EQ(settings.backupDir, machine.at("%NO SUCH%/b"));
-    EXPECT_TRUE(fs::is_directory(machine.at("%NO SUCH%/b/Scripts")));
-}
-
-TEST(BackupDirectory, ThatIsNotConfiguredLeavesABrokenWorkingDirectory) {
-    Machine machine;
-    machine.write("file", "");
-    const StartupSettings settings = startWithBackup(machine, "", "@/file/w");
-    EXPECT_EQ(settings.workingDir, machine.at("file/w"));
-    EXPECT_FALSE(settings.usingBackupDir);
-    EXPECT_EQ(settings.backupDir, "");
-}
-
-TEST(BackupDirectory, IsCutAtItsLimit) {
-    Machine machine;
-    machine.inputs.environment["B"] = machine.at("b");
-    const StartupSettings settings =
-        startWithBackup(machine, "%B%/" + std::string(200, 'x') + "/" + std::string(100, 'y'));
-    EXPECT_EQ(settings.backupDir,
-              machine.at("b") / std::string(200, 'x') / std::string(260 - 4 - 201, 'y'));
 }
 
 TEST(HelpSettings, ComeFromTheInstallationDirectoryElseTheWorkingDirectory) {
-    const std::string server = "https://www.quendra.example/help/v61";
+    const std::string longAddress = "WebHelpUrl=" + std::string(261, 'x');
+    constexpr const char* none = nullptr;
     const struct {
-        const char* name;
         const char* installed;
         const char* working;
-        const char* program;
         bool useWebHelp;
         std::string base;
+        const char* program = "opt/bin";
     } rows[] = {
-        {"none", nullptr, nullptr, "opt/bin", false, server},
-        {"on", "UseWebHelp=y\nWebHelpUrl=https://h\n", nullptr, "opt/bin", true, "https://h"},
-        {"no address", "UseWebHelp=Yes\n", nullptr, "opt/bin", true, ""},
-        {"off", "UseWebHelp=N\nWebHelpUrl=x\n", nullptr, "opt/bin", false, "x"},
-        {"working", nullptr, "UseWebHelp=Y\nWebHelpUrl=w\n", "opt/bin", true, "w"},
-        {"both", "WebHelpUrl=i\n", "UseWebHelp=Y\nWebHelpUrl=w\n", "opt/bin", false, "i"},
-        {"web", nullptr, nullptr, "tmp/q", true, server},
-        {"web off", nullptr, "UseWebHelp=N\n", "tmp/q", true, ""},
+        {none, none, false, builtInWebHelpBase},
+        {none, none, true, builtInWebHelpBase, "tmp/q"},
+        {none, "UseWebHelp=N", true, "", "tmp/q"},
+        {"UseWebHelp=y\nWebHelpUrl=https://h", none, true, "https://h"},
+        {"UseWebHelp=\"yonder\"", none, true, ""},
+        {"UseWebHelp=N\nWebHelpUrl=x", none, false, "x"},
+        {none, "UseWebHelp=Y\nWebHelpUrl=w", true, "w"},
+        {"WebHelpUrl=i", "UseWebHelp=Y\nWebHelpUrl=w", false, "i"},
+        {"", "UseWebHelp=Y\nWebHelpUrl=w", false, ""},
+        {none, longAddress.c_str(), false, std::string(260, 'x')},
     };
     for (const auto& row : rows) {
-        Machine machine;
-        machine.moveProgram(row.program);
-        const std::string values = "Installation Directory=@/inst\nWorkingDirType=1\n";
-        machine.write("etc/quendra/registry.ini", productSection + values + webSection + values);
-        const auto writeGlobal = [&](const std::string& folder, const char* text) {
-            if (text) machine.write(folder + "/global.ini", "[Help]\n" + std::string(text));
+        const Machine machine(row.program);
+        const std::string values = "Installation Directory=@/inst\nWorkingDirType=1";
+        machine.write(machineRegistry, key(values) + webKey(values));
+        const auto write = [&](const char* name, const char* text) {
+            if (text) machine.write(name, std::string("[Help]\n") + text);
         };
-        writeGlobal("inst", row.installed);
-        writeGlobal("home/Documents/Quendra", row.working);
+        write("inst/global.ini", row.installed);
+        write("home/Documents/Quendra/global.ini", row.working);
         const StartupSettings settings = machine.start();
-        EXPECT_EQ(settings.useWebHelp, row.useWebHelp) << row.name;
-        EXPECT_EQ(settings.webHelpBase, row.base) << row.name;
-        EXPECT_EQ(settings.helpFilePath, settings.installDir / "quendra.chm") << row.name;
+        EXPECT_EQ(settings.useWebHelp, row.useWebHelp) << &row - rows;
+        EXPECT_EQ(settings.webHelpBase, row.base) << &row - rows;
+        EXPECT_EQ(settings.helpFilePath, settings.installDir / "quendra.chm");
     }
-}
-
-TEST(MakeDirectoryPath, SucceedsWhenTheDirectoryIsThereAfterwards) {
-    const TemporaryFolder folder;
-    std::ofstream(folder / "file") << "x";
-    EXPECT_TRUE(makeDirectoryPath(folder / "a/b/c"));
-    EXPECT_TRUE(makeDirectoryPath(folder / "a/b/c")) << "again";
-    EXPECT_TRUE(makeDirectoryPath(folder / "d/e/")) << "with a separator at its end";
-    EXPECT_FALSE(makeDirectoryPath(folder / "file"));
-    EXPECT_FALSE(makeDirectoryPath(folder / "file/below"));
-    EXPECT_FALSE(makeDirectoryPath(""));
-    EXPECT_FALSE(makeDirectory(folder / "x/y")) << "no parent";
-}
-
-TEST(ProcessStartupInputs, AreThoseOfThisProcess) {
-    const StartupInputs inputs = processStartupInputs();
-    EXPECT_EQ(inputs.programFile.filename(), "startup_tests");
-    EXPECT_TRUE(inputs.programFile.is_absolute());
-    EXPECT_EQ(inputs.currentDir, fs::current_path());
-    EXPECT_FALSE(inputs.folders.temporary.empty());
-    EXPECT_TRUE(inputs.environment.contains("PATH"));
 }
 
 }  // namespace

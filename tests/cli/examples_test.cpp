@@ -7,16 +7,14 @@
 #include <set>
 
 namespace quendra::test {
-
 namespace {
 
 namespace fs = std::filesystem;
 
 std::vector<fs::path> exampleSources() {
     std::vector<fs::path> sources;
-    for (const auto& entry : fs::directory_iterator(QUENDRA_EXAMPLES)) {
+    for (const auto& entry : fs::directory_iterator(QUENDRA_EXAMPLES))
         if (entry.path().extension() == ".json") sources.push_back(entry.path());
-    }
     std::ranges::sort(sources);
     return sources;
 }
@@ -68,20 +66,20 @@ TEST(Examples, showEveryCommandInEveryPlaceWhereItMayStand) {
     const Bytes bytes = readBytes(fs::path(QUENDRA_EXAMPLES) / "every-command.qds");
     const HiddenTextCipher cipher("");
     std::set<CommandCode> entries;
-    std::set<CommandCode> actions[2];
+    std::set<CommandCode> thenActions;
+    std::set<CommandCode> elseActions;
     for (const EntryHandle& handle : readScript(bytes).script.entries) {
         const ScriptEntry entry = unpackEntry(handle, cipher);
         entries.insert(entry.commandCode);
-        actions[0].insert(entry.thenCode);
-        actions[1].insert(entry.elseCode);
+        thenActions.insert(entry.thenCode);
+        elseActions.insert(entry.elseCode);
     }
-    for (int value = 1; value < 24; ++value) {
-        if (!isCommandCode(static_cast<std::uint8_t>(value))) continue;
+    for (std::uint8_t value = 1; value < 24; ++value) {
+        if (!isCommandCode(value)) continue;
         const auto code = static_cast<CommandCode>(value);
-        EXPECT_TRUE(entries.contains(code)) << value;
-        for (const auto& slot : actions) {
-            EXPECT_TRUE(ownsActions(code) || slot.contains(code)) << value;
-        }
+        EXPECT_TRUE(entries.contains(code)) << +value;
+        EXPECT_TRUE(ownsActions(code) || thenActions.contains(code)) << +value;
+        EXPECT_TRUE(ownsActions(code) || elseActions.contains(code)) << +value;
     }
 }
 

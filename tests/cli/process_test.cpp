@@ -8,7 +8,6 @@
 #include <unistd.h>
 
 namespace quendra::test {
-
 namespace {
 
 constexpr int closed = -1;
@@ -18,19 +17,15 @@ constexpr int closed = -1;
 int runProgram(std::vector<std::string> arguments, int in, int out, int err) {
     posix_spawn_file_actions_t actions;
     posix_spawn_file_actions_init(&actions);
-    const std::array streams = {in, out, err};
-    for (int i = 0; i < 3; ++i) {
-        if (streams[static_cast<std::size_t>(i)] == closed) {
-            posix_spawn_file_actions_addclose(&actions, i);
-        } else {
-            posix_spawn_file_actions_adddup2(&actions, streams[static_cast<std::size_t>(i)], i);
-        }
+    for (int i = 0; const int stream : {in, out, err}) {
+        if (stream == closed) posix_spawn_file_actions_addclose(&actions, i);
+        if (stream != closed) posix_spawn_file_actions_adddup2(&actions, stream, i);
+        ++i;
     }
     std::string program = QUENDRA_PROGRAM_FOLDER "/qds";
     std::vector<char*> pointers = {program.data()};
-    for (std::string& argument : arguments) {
+    for (std::string& argument : arguments)
         pointers.push_back(argument.data());
-    }
     pointers.push_back(nullptr);
     pid_t process = 0;
     const int failed =
@@ -49,9 +44,8 @@ const Bytes script = scriptFile("QDMDSCR=", {Bytes(4096, 4)});
 class Process : public QdsTest {
   public:
     ~Process() override {
-        for (const int descriptor : opened_) {
+        for (const int descriptor : opened_)
             ::close(descriptor);
-        }
     }
 
   protected:
@@ -62,28 +56,22 @@ class Process : public QdsTest {
     int newFile(const std::string& name) {
         return openFile(file(name), O_WRONLY | O_CREAT | O_TRUNC);
     }
-    std::string textOf(const std::string& name) const {
-        const Bytes bytes = readBytes(file(name));
-        return {bytes.begin(), bytes.end()};
-    }
 
   private:
     std::vector<int> opened_;
 };
 
-TEST_F(Process, convertsFromAStreamToAStream) {
-    const int in = openFile(file("in.qds", scriptFile("QDMDSCR2", {{4}})));
-    EXPECT_EQ(runProgram({"convert", "--output", "-", "-"}, in, newFile("out"), newFile("err")), 0);
-    EXPECT_EQ(readBytes(file("out")), scriptFile("QDMDSCR=", {{4}}));
-    EXPECT_EQ(textOf("err"), "");
-}
-
-TEST_F(Process, findsTheLanguageLibraryFromAnyFolderAndLocale) {
-    const int in = openFile(file("in.qds", joined({bytesOf("QDMDSCR="), {2}, word(201), word(0)})));
+TEST_F(Process, readsAStreamAndFindsTheLanguageLibraryFromAnyFolderAndLocale) {
+    const Bytes menu = joined({{2}, word(201), word(0)});
+    const std::string in = file("in.qds", scriptFile("QDMDSCR=", {menu}));
     ::setenv("LC_ALL", "C", 1);
-    EXPECT_EQ(runProgram({"show", "-"}, in, newFile("out"), newFile("err")), 0);
-    ::unsetenv("LC_ALL");
+    EXPECT_EQ(runProgram({"show", "-"}, openFile(in), newFile("out"), newFile("err")), 0);
     EXPECT_GT(textOf("out").size(), 1u);
+    EXPECT_EQ(
+        runProgram({"convert", "--output", "-", "-"}, openFile(in), newFile("out"), newFile("err")),
+        0);
+    ::unsetenv("LC_ALL");
+    EXPECT_EQ(readBytes(file("out")), readBytes(in));
     EXPECT_EQ(textOf("err"), "");
 }
 

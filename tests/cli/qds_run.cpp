@@ -49,30 +49,21 @@ std::string QdsTest::file(const std::string& name, std::span<const std::uint8_t>
 
 std::vector<std::string> QdsTest::names() const {
     std::vector<std::string> names;
-    for (const auto& entry : fs::directory_iterator(folder_.path())) {
+    for (const auto& entry : fs::directory_iterator(folder_.path()))
         names.push_back(entry.path().filename().string());
-    }
     std::ranges::sort(names);
     return names;
+}
+
+std::string QdsTest::textOf(const std::string& name) const {
+    const Bytes bytes = readBytes(file(name));
+    return {bytes.begin(), bytes.end()};
 }
 
 Bytes QdsTest::built(const std::string& json) const {
     const QdsRun run = runQds({"build", "-", "--output", "-"}, bytesOf(json));
     EXPECT_EQ(run.status, 0) << run.err;
     return bytesOf(run.out);
-}
-
-const Case& frozenCase(const std::string& name) {
-    return *std::ranges::find(frozenCases(), name, &Case::name);
-}
-
-std::vector<std::string> linesOfText(const std::string& text) {
-    std::istringstream stream(text);
-    std::vector<std::string> lines;
-    for (std::string line; std::getline(stream, line);) {
-        lines.push_back(line);
-    }
-    return lines;
 }
 
 Bytes scriptFile(const char* signature, std::initializer_list<Bytes> records) {

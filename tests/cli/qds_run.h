@@ -42,6 +42,7 @@ class QdsTest : public testing::Test {
                                    std::span<const std::uint8_t> bytes) const;
     /// The names of all files in the folder, sorted.
     [[nodiscard]] std::vector<std::string> names() const;
+    [[nodiscard]] std::string textOf(const std::string& name) const;
 
     /// The script that a JSON form builds; the test fails where it is refused.
     [[nodiscard]] Bytes built(const std::string& json) const;
@@ -53,12 +54,6 @@ class QdsTest : public testing::Test {
 
 /// Names the rows of a table of tests by their `name`.
 inline constexpr auto rowName = [](const auto& row) { return std::string(row.param.name); };
-
-/// The frozen case of this name.
-[[nodiscard]] const Case& frozenCase(const std::string& name);
-
-/// The lines of a text, without their ends.
-[[nodiscard]] std::vector<std::string> linesOfText(const std::string& text);
 
 /// A current script file of a host type: the signature and these records.
 [[nodiscard]] Bytes scriptFile(const char* signature, std::initializer_list<Bytes> records);

@@ -5,7 +5,6 @@
 #include <map>
 
 namespace quendra::test {
-
 namespace {
 
 // What stands for "{12345}" in the frozen lines.
@@ -18,17 +17,12 @@ std::map<std::string, std::string> textsByNumber() {
     return texts;
 }
 
-// A frozen line names at most one library text, at its start or behind a keyword.
 std::string withTexts(std::string line, const std::map<std::string, std::string>& texts) {
     for (auto start = line.find('{'); start != std::string::npos; start = line.find('{', start)) {
-        const auto end = line.find('}', start);
-        const auto found = texts.find(line.substr(start, end - start + 1));
-        if (found == texts.end()) {
-            ++start;
-        } else {
-            line.replace(start, end - start + 1, found->second);
-            start += found->second.size();
-        }
+        const auto size = line.find('}', start) - start + 1;
+        const auto found = texts.find(line.substr(start, size));
+        if (found != texts.end()) line.replace(start, size, found->second);
+        start += found == texts.end() ? 1 : found->second.size();
     }
     return line;
 }
@@ -88,37 +82,30 @@ TEST_F(Show, goesOnAfterAFileThatCannotBeRead) {
                            ": No such file or directory\nqds: " + file(".") + ": Is a directory\n");
 }
 
-struct Damage {
-    const char* name;
-    Bytes bytes;
-    const char* lines;
-    const char* message;
-};
-
-class ShowDamaged : public QdsTest, public testing::WithParamInterface<Damage> {};
-
-TEST_P(ShowDamaged, printsWhatWasReadAndSaysWhereItStopped) {
-    const Damage& damage = GetParam();
-    const std::string name = file("damaged.qds", damage.bytes);
-    const QdsRun run = runQds({"show", name});
-    EXPECT_EQ(run.status, 1);
-    EXPECT_EQ(run.out, damage.lines);
-    EXPECT_EQ(run.err, "qds: " + name + ": " + damage.message + "\n");
+TEST_F(Show, printsWhatWasReadAndSaysWhereItStopped) {
+    const struct {
+        Bytes bytes;
+        const char* lines;
+        const char* message;
+    } rows[] = {
+        {{}, "", "the file is too short to be a script (byte offset 0)"},
+        {bytesOf("QDUDSCR7"), "",
+         "the file has no script signature of a known version (byte offset 0)"},
+        {scriptFile("QDMDSCR=", {beep, {6, 9, 'x'}}), "Beep\n",
+         "the file ends inside an entry, after 1 entry (byte offset 11)"},
+        {scriptFile("QDMDSCR=", {beep, comment, {3}}), "Beep\none\n",
+         "unknown command code, after 2 entries (byte offset 14)"},
+        {scriptFile("QDMDSCR=", {{8, 0}, word(1024)}), "",
+         "an Input prompt is longer than 1023 characters, after 0 entries (byte offset 10)"},
+    };
+    for (const auto& row : rows) {
+        const std::string name = file("damaged.qds", row.bytes);
+        const QdsRun run = runQds({"show", name});
+        EXPECT_EQ(run.status, 1);
+        EXPECT_EQ(run.out, row.lines);
+        EXPECT_EQ(run.err, "qds: " + name + ": " + row.message + "\n");
+    }
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    , ShowDamaged,
-    testing::Values(
-        Damage{"Empty", {}, "", "the file is too short to be a script (byte offset 0)"},
-        Damage{"OldUts", bytesOf("QDUDSCR7"), "",
-               "the file has no script signature of a known version (byte offset 0)"},
-        Damage{"Cut", scriptFile("QDMDSCR=", {beep, {6, 9, 'x'}}), "Beep\n",
-               "the file ends inside an entry, after 1 entry (byte offset 11)"},
-        Damage{"Code", scriptFile("QDMDSCR=", {beep, comment, {3}}), "Beep\none\n",
-               "unknown command code, after 2 entries (byte offset 14)"},
-        Damage{"Prompt", scriptFile("QDMDSCR=", {{8, 0}, word(1024)}), "",
-               "an Input prompt is longer than 1023 characters, after 0 entries (byte offset 10)"}),
-    rowName);
 
 TEST_F(Show, printsAFullScriptAndTellsOfMore) {
     Bytes bytes = scriptFile("QDMDSCR=", {Bytes(4097, 4)});

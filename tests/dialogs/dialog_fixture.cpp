@@ -1,27 +1,22 @@
 #include "dialogs/dialog_fixture.h"
 
-#include <QClipboard>
+#include <QApplication>
 
 #include <fstream>
 
 namespace quendra {
 
-void PrintTo(Slot slot, std::ostream* out) {
-    *out << (slot == Slot::Entry ? "entry" : slot == Slot::Then ? "then" : "else");
-}
-
 void PrintTo(const ScriptEntry& entry, std::ostream* out) {
-    for (const Slot slot : {Slot::Entry, Slot::Then, Slot::Else}) {
+    for (const Slot slot : test::allSlots) {
         const auto f = slotFields(entry, slot);
-        PrintTo(slot, out);
-        *out << ": code " << static_cast<int>(f.code) << " text \"" << textOf(f) << "\" row "
-             << int{f.row} << " column " << int{f.column} << " number " << f.number << " id "
-             << f.commandId << " data " << f.commandData << std::hex << " area " << f.area
-             << std::dec << " length " << int{f.maxLength} << " hidden " << int{f.hidden}
-             << " variable " << int{f.inputVariable} << " prompt \"" << promptOf(f) << "\" until "
-             << f.waitUntil.year << '-' << f.waitUntil.month << '-' << f.waitUntil.day << " ("
-             << f.waitUntil.dayOfWeek << ") " << f.waitUntil.hour << ':' << f.waitUntil.minute
-             << ':' << f.waitUntil.second << '.' << f.waitUntil.milliseconds << '\n';
+        *out << test::slotSuffix(slot) << ": code " << static_cast<int>(f.code) << " text \""
+             << textOf(f) << "\" prompt \"" << promptOf(f) << '"' << std::hex << std::showbase;
+        for (const std::uint32_t number :
+             {f.number, f.commandId, f.area, std::uint32_t{f.row}, std::uint32_t{f.column},
+              std::uint32_t{f.maxLength}, std::uint32_t{f.hidden}, std::uint32_t{f.inputVariable}})
+            *out << ' ' << number;
+        *out << std::dec << " until " << f.waitUntil.year << '-' << f.waitUntil.month << '-'
+             << f.waitUntil.day << ' ' << f.waitUntil.hour << ':' << f.waitUntil.minute << '\n';
     }
 }
 
@@ -35,26 +30,9 @@ ScriptEntry newEntry(CommandCode code) {
     if (code == CommandCode::Copy) entry.commandId = packArea({1, 1, 24, 80});
     if (code == CommandCode::Paste) entry.commandId = packArea({1, 1, 0, 0});
     if (code == CommandCode::Copy || code == CommandCode::Paste) entry.number = 0;
+    if (code == CommandCode::WaitFor)
+        entry.searchRow = entry.searchColumn = entry.caseSensitive = 1;
     return entry;
-}
-
-void typeText(QWidget& widget, const QString& text) {
-    for (const QChar character : text) {
-        const Qt::Key key = character == u'\n' ? Qt::Key_Return : Qt::Key_unknown;
-        const QString keyText = character == u'\n' ? QStringLiteral("\r") : QString(character);
-        QTest::sendKeyEvent(QTest::Click, &widget, key, keyText, Qt::NoModifier);
-    }
-}
-
-void clickOn(QWidget& widget) {
-    const bool isBox = widget.inherits("QCheckBox") || widget.inherits("QRadioButton");
-    const QPoint place = isBox ? QPoint(8, widget.height() / 2) : widget.rect().center();
-    QTest::mouseClick(&widget, Qt::LeftButton, Qt::NoModifier, place);
-}
-
-void pasteInto(QWidget& widget, const QString& text) {
-    QGuiApplication::clipboard()->setText(text);
-    QTest::keyClick(&widget, Qt::Key_V, Qt::ControlModifier);
 }
 
 void useLanguage(ApplicationState& state, const std::string& name) {
@@ -67,12 +45,32 @@ void useLanguage(ApplicationState& state, const std::string& name) {
     state.menuCommands = buildMenuCommandCatalogue(state.language.textSource());
 }
 
+std::string slotSuffix(Slot slot) {
+    return slot == Slot::Entry ? "AsEntry" : slot == Slot::Then ? "AsThen" : "AsElse";
+}
+
+void DialogContextTest::expectTold(const std::string& text, const std::string& caption) {
+    ASSERT_EQ(answers.messages.size(), 1U) << text;
+    EXPECT_EQ(answers.messages[0].text, text);
+    EXPECT_EQ(answers.messages[0].title, caption);
+    EXPECT_EQ(answers.messages[0].icon, MessageIcon::Information);
+    EXPECT_EQ(answers.messages[0].buttons, MessageButtons::Ok);
+    answers.messages.clear();
+}
+
+void DialogContextTest::startWith(CommandCode code, Slot slot, std::uint32_t commandId) {
+    entry = newEntry(slot == Slot::Entry ? code : CommandCode::WaitFor);
+    slotFields(entry, slot).code = code;
+    if (commandId != 0) slotFields(entry, slot).commandId = commandId;
+}
+
 void DialogTest::open(Slot slot, ActionOwner owner) {
-    dialog = makeCommandDialog({state, nullptr}, {entry, slot, owner});
-    if (dialog == nullptr) throw std::runtime_error("the command has no dialog");
-    dialog->load();
+    opened_ = makeCommandDialog({state, nullptr}, {entry, slot, owner});
+    if (opened_ == nullptr) throw std::runtime_error("the command has no dialog");
+    dialog = opened_.get();
+    opened_->load();
     dialog->show();
-    QApplication::setActiveWindow(dialog.get());
+    QApplication::setActiveWindow(dialog);
     QCoreApplication::processEvents();
 }
 
@@ -81,16 +79,35 @@ void DialogTest::openNew(CommandCode code) {
     open();
 }
 
-std::string DialogTest::focused() const {
-    const QWidget* focus = dialog->focusWidget();
-    return focus == nullptr ? "nothing" : focus->objectName().toStdString();
+void SearchDialogTest::startWithTimeout() {
+    entry = newEntry(CommandCode::WaitFor);
+    setText(own(), "READY");
+    entry.hasTimeout = 1;
 }
 
-void DialogTest::retype(const char* name, const QString& text) {
-    auto& edit = widget<QLineEdit>(name);
-    QTest::keyClick(&edit, Qt::Key_A, Qt::ControlModifier);
-    QTest::keyClick(&edit, Qt::Key_Delete);
-    typeText(edit, text);
+void SearchDialogTest::startCompare() {
+    entry = newEntry(CommandCode::IfInputIs);
+    setText(own(), "yes");
+}
+
+bool SearchDialogTest::run(Slot slot) {
+    const EditTarget target = {entry, slot, ActionOwner::WaitForOrWatchFor};
+    return steps.run([&] { return editParameters({state, nullptr}, target); });
+}
+
+bool SearchDialogTest::choose(Slot slot, ActionOwner owner) {
+    return steps.run([&] { return chooseAction({state, nullptr}, {entry, slot, owner}); });
+}
+
+void SearchDialogTest::chooseRow(const char* list, const std::string& text) {
+    steps.in("actionDialog", [list, text](const OpenDialog& d) {
+        d.clickRow(list, text);
+        d.click("ok");
+    });
+}
+
+void SearchDialogTest::click(const char* dialog, const char* button) {
+    steps.in(dialog, [button](const OpenDialog& d) { d.click(button); });
 }
 
 }  // namespace test

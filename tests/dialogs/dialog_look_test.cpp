@@ -3,92 +3,116 @@
 #include "dialogs/dialog_fixture.h"
 #include "dialogs/look_checks.h"
 
-#include <QPlainTextEdit>
+#include <QApplication>
 
 namespace quendra::test {
 namespace {
 
+using Code = CommandCode;
+
+/// A dialog as it opens on `entry`, and what is then done in it.
 struct LookRow {
     const char* name;
-    CommandCode code;
+    Code code;
     std::uint32_t commandId = 0;
+    bool isFilled = false;
+    /// Presses this, or types this into it.
+    const char* field = nullptr;
+    const char* text = nullptr;
     Slot slot = Slot::Entry;
-    void (*arrange)(QWidget& dialog) = nullptr;
+    /// The then action is chosen for this one.
+    ActionOwner chooses = ActionOwner::None;
 };
+
+void fill(ScriptEntry& entry) {
+    for (const Slot slot : {Slot::Entry, Slot::Then}) {
+        setText(slotFields(entry, slot), "TSO LOGON");
+    }
+    entry.hasTimeout = 1;
+    entry.timeoutSeconds = 30;
+    entry.secondOperandKind = 2;
+    if (entry.thenCode == Code::None) entry.thenCode = Code::Goto;
+    entry.elseCode = Code::Message;
+    setText(slotFields(entry, Slot::Else),
+            "The host did not answer within half a minute & the script goes on without it.");
+}
 
 const LookRow lookRows[] = {
-    {"Comment", CommandCode::Comment},
-    {"Goto", CommandCode::Goto},
-    {"Label", CommandCode::Label},
-    {"Message", CommandCode::Message},
-    {"Type", CommandCode::Type},
-    {"TypeHidden", CommandCode::Type, 0, Slot::Entry,
-     [](QWidget& dialog) { dialog.findChild<QCheckBox*>(QStringLiteral("hide"))->click(); }},
-    {"ExpressLogon", CommandCode::ExpressLogon},
-    {"Wait", CommandCode::Wait},
-    {"WaitReady", CommandCode::WaitReady},
-    {"WaitElse", CommandCode::Wait, 0, Slot::Else},
-    {"WaitReadyElse", CommandCode::WaitReady, 0, Slot::Else},
-    {"Run", CommandCode::Run},
-    {"Menu202", CommandCode::MenuCommand, 202},
-    {"Menu204", CommandCode::MenuCommand, 204},
-    {"Menu219", CommandCode::MenuCommand, 219},
-    {"Menu254", CommandCode::MenuCommand, 254},
-    {"Menu257", CommandCode::MenuCommand, 257},
-    {"SetCursor", CommandCode::SetCursor},
-    {"Copy", CommandCode::Copy},
-    {"CopyEntireScreen", CommandCode::Copy, 0, Slot::Entry,
-     [](QWidget& dialog) {
-         dialog.findChild<QCheckBox*>(QStringLiteral("entireScreen"))->click();
-     }},
-    {"Paste", CommandCode::Paste},
-    {"Input", CommandCode::Input, 0, Slot::Entry,
-     [](QWidget& dialog) {
-         auto* prompt = dialog.findChild<QPlainTextEdit*>(QStringLiteral("prompt"));
-         prompt->setPlainText(QStringLiteral("Enter the code of the day.\nIt has six digits."));
-         prompt->setFocus();
-         typeText(*prompt, QStringLiteral(u"\u4e2d"));
-     }},
-    {"WaitUntil", CommandCode::WaitUntil, 0, Slot::Entry,
-     [](QWidget& dialog) { dialog.findChild<QCheckBox*>(QStringLiteral("hasTime"))->click(); }},
+    {"Comment", Code::Comment, 0, true},
+    {"Goto", Code::Goto, 0, true},
+    {"Label", Code::Label, 0, true},
+    {"Message", Code::Message, 0, true},
+    {"Type", Code::Type, 0, true},
+    {"TypeHidden", Code::Type, 0, true, "hide"},
+    {"ExpressLogon", Code::ExpressLogon, 0, true},
+    {"Wait", Code::Wait},
+    {"WaitReady", Code::WaitReady},
+    {.name = "WaitElse", .code = Code::Wait, .slot = Slot::Else},
+    {.name = "WaitReadyElse", .code = Code::WaitReady, .slot = Slot::Else},
+    {"Run", Code::Run, 0, true},
+    {"Menu202", Code::MenuCommand, 202, true},
+    {"Menu204", Code::MenuCommand, 204, true},
+    {"Menu219", Code::MenuCommand, 219, true},
+    {"Menu254", Code::MenuCommand, 254, true},
+    {"Menu257", Code::MenuCommand, 257, true},
+    {"SetCursor", Code::SetCursor},
+    {"Copy", Code::Copy},
+    {"CopyEntireScreen", Code::Copy, 0, false, "entireScreen"},
+    {"Paste", Code::Paste},
+    {"Input", Code::Input, 0, false, "prompt", "Code of the day.\nIt has six digits.\u4e2d"},
+    {"WaitUntil", Code::WaitUntil, 0, false, "hasTime"},
+    {"WaitForNew", Code::WaitFor},
+    {"WaitFor", Code::WaitFor, 0, true},
+    {"WaitForFault", Code::WaitFor, 0, true, "row", "70"},
+    {.name = "WatchedWaitFor", .code = Code::WaitFor, .isFilled = true, .slot = Slot::Then},
+    {"IfInputIsNew", Code::IfInputIs},
+    {"IfInputIs", Code::IfInputIs, 0, true},
+    {"WatchForNew", Code::WatchFor},
+    {"WatchFor", Code::WatchFor, 0, true},
+    {.name = "ActionNew", .code = Code::WaitFor, .chooses = ActionOwner::WaitForOrWatchFor},
+    {"Action", Code::IfInputIs, 0, true, nullptr, nullptr, {}, ActionOwner::IfInputIs},
 };
 
-using LookParameter = std::tuple<LookRow, std::string>;
-
-class DialogLook : public DialogTest, public ::testing::WithParamInterface<LookParameter> {
+class DialogLook : public SearchDialogTest,
+                   public ::testing::WithParamInterface<std::tuple<LookRow, std::string>> {
   protected:
     DialogLook() { useLanguage(state, std::get<1>(GetParam())); }
 
-    void openRow() {
+    /// Runs the dialog, and looks at it before Cancel.
+    void show(const std::function<void(QDialog&)>& look) {
         const LookRow& row = std::get<0>(GetParam());
-        entry = newEntry(row.slot == Slot::Entry ? row.code : CommandCode::WaitFor);
-        slotFields(entry, row.slot).code = row.code;
-        if (row.commandId != 0) slotFields(entry, row.slot).commandId = row.commandId;
-        if (row.code != CommandCode::Input) setText(slotFields(entry, row.slot), "TSO LOGON");
-        open(row.slot, ActionOwner::WaitForOrWatchFor);
-        if (row.arrange != nullptr) row.arrange(*dialog);
-        QCoreApplication::processEvents();
+        startWith(row.code, row.slot, row.commandId);
+        if (row.isFilled) fill(entry);
+        if (row.slot == Slot::Then) entry.commandCode = Code::WatchFor;
+        steps.in(anyDialog, [&](const OpenDialog& d) {
+            if (row.field && row.text) d.retype(row.field, row.text);
+            if (row.field && !row.text) d.click(row.field);
+            QCoreApplication::processEvents();
+            look(*d.dialog);
+            d.click("cancel");
+        });
+        EXPECT_FALSE(row.chooses == ActionOwner::None ? run(row.slot)
+                                                      : choose(Slot::Then, row.chooses));
     }
 };
 
-TEST_P(DialogLook, NoMnemonicReachesTwoFields) {
-    openRow();
-    expectMnemonicsOfTheirOwn(*dialog);
-}
-
-TEST_P(DialogLook, EveryPartHasItsTextWholeAndAName) {
-    openRow();
-    EXPECT_LE(dialog->width(), 640);
-    EXPECT_LE(dialog->height(), 460);
-    expectWholeTexts(*dialog);
+TEST_P(DialogLook, NoMnemonicReachesTwoFieldsAndEveryTextIsWhole) {
+    show([](QDialog& dialog) {
+        expectMnemonicsOfTheirOwn(dialog);
+        expectWholeTexts(dialog, "thenLine elseLine");
+        EXPECT_FALSE(dialog.property("helpPage").toString().isEmpty());
+        const QSize room = dialog.isSizeGripEnabled() ? QSize(1024, 768) : QSize(640, 460);
+        EXPECT_EQ(dialog.size().boundedTo(room), dialog.size());
+    });
 }
 
 TEST_P(DialogLook, CanBeSeenInPictures) {
     if (!wantsPictures()) GTEST_SKIP() << "QUENDRA_PICTURES names no folder";
     forLightAndDark([this](const std::string& appearance) {
-        openRow();
-        const auto& [row, language] = GetParam();
-        savePicture(*dialog, std::string(row.name) + '-' + language + '-' + appearance);
+        show([&](QDialog& dialog) {
+            const auto& [row, language] = GetParam();
+            savePicture(dialog, std::string(row.name) + '-' + language + '-' + appearance);
+        });
     });
 }
 

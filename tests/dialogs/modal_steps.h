@@ -2,55 +2,23 @@
 // the code under test runs.
 #pragma once
 
-#include <QDialog>
-#include <QListView>
-#include <QObject>
+#include "dialogs/open_dialog.h"
 
 #include <deque>
 #include <functional>
-#include <stdexcept>
 #include <string>
 
 namespace quendra::test {
 
-/// One modal dialog on the screen.
-struct OpenDialog {
-    QDialog& dialog;
-
-    template <class T>
-    [[nodiscard]] T& widget(const char* name) const {
-        T* found = dialog.findChild<T*>(QLatin1String(name));
-        if (found == nullptr) throw std::runtime_error(std::string("no widget ") + name);
-        return *found;
-    }
-
-    void click(const char* button) const;
-    /// A key to the widget that has the focus.
-    void press(Qt::Key key) const;
-    /// Keys (of ASCII) to the widget that has the focus.
-    void type(const char* keys) const;
-    /// Types over what a line edit or a spin box shows.
-    void retype(const char* name, const std::string& keys) const;
-    void clickRow(const char* list, const std::string& text) const;
-    void doubleClickRow(const char* list, const std::string& text) const;
-
-    [[nodiscard]] std::string title() const;
-    /// What a label, a line edit, a spin box or a combo box shows.
-    [[nodiscard]] std::string shown(const char* name) const;
-    [[nodiscard]] bool isChecked(const char* button) const;
-    [[nodiscard]] bool isEnabled(const char* name) const;
-    [[nodiscard]] bool has(const char* name) const;
-    /// The selected row's text; empty for none.
-    [[nodiscard]] std::string selected(const char* list) const;
-    [[nodiscard]] std::string focused() const;
-};
+/// In the place of a dialog's name.
+inline constexpr const char* anyDialog = "*";
 
 /// Every step waits until its dialog is the active modal one. Steps that are left when the test
 /// ends, and a dialog that is left open, fail it.
-class ModalSteps : public QObject {
+class ModalSteps {
   public:
     ModalSteps();
-    ~ModalSteps() override;
+    ~ModalSteps();
     ModalSteps(const ModalSteps&) = delete;
     ModalSteps& operator=(const ModalSteps&) = delete;
 
@@ -63,13 +31,11 @@ class ModalSteps : public QObject {
         std::string dialog;
         std::function<void(const OpenDialog&)> act;
     };
-    void watch();
     void look();
     void giveUp();
 
     std::deque<Step> steps_;
     int idleLooks_ = 0;
-    bool running_ = false;
 };
 
 }  // namespace quendra::test

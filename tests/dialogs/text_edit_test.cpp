@@ -1,6 +1,11 @@
 // The line edit of all texts: its limits, and how it hides a text.
+#include "dialogs/text_edit.h"
+
 #include "dialogs/dialog_fixture.h"
 #include "platform/secret_memory.h"
+
+#include <QApplication>
+#include <QtTest>
 
 #include <array>
 #include <cstdio>
@@ -14,58 +19,56 @@ namespace {
 class TextEditTest : public DialogTest {
   protected:
     [[nodiscard]] TextEdit& edit() { return widget<TextEdit>("text"); }
-    [[nodiscard]] std::string stored() const {
-        return std::string(textOf(slotFields(entry, Slot::Entry)));
-    }
+    [[nodiscard]] std::string stored() { return std::string(textOf(own())); }
     [[nodiscard]] std::string held() { return std::string(edit().bytes().view()); }
+    [[nodiscard]] std::string displayed() { return edit().displayText().toStdString(); }
+    void typeText(const std::string& text) { typeInto(edit(), text); }
+    void paste(const std::string& text) { pasteInto(edit(), text); }
+    void key(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+        QTest::keyClick(&edit(), key, modifiers);
+    }
     void openHidden(std::string_view text) {
         entry = newEntry(CommandCode::Type);
         entry.hidden = 1;
-        setText(slotFields(entry, Slot::Entry), text);
+        setText(own(), text);
         state.editing = true;
         open();
-    }
-    void key(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
-        QTest::keyClick(&edit(), key, modifiers);
     }
 };
 
 TEST_F(TextEditTest, APasteOf300CharactersIsCutTo255AndMoreCannotBeTyped) {
     openNew(CommandCode::Comment);
-    pasteInto(edit(), QString(300, QChar(0xe4)));
+    pasteInto(edit(), QString(300, QChar(0xe4)).toStdString());
     EXPECT_EQ(edit().text().size(), 255);
     EXPECT_EQ(note(), "At most 255 characters fit here.");
-    typeText(edit(), QStringLiteral("x"));
+    typeText("x");
     EXPECT_EQ(edit().text().size(), 255);
     key(Qt::Key_Backspace);
     EXPECT_EQ(note(), "");
-    typeText(edit(), QStringLiteral("x"));
-    pressOk();
+    typeText("x");
+    click("ok");
     EXPECT_EQ(stored(), std::string(254, '\xe4') + 'x');
 }
 
-TEST_F(TextEditTest, WhatTheEncodingLacksIsRefusedWhereItIsTyped) {
+TEST_F(TextEditTest, FurtherLinesAreDroppedAndWhatTheEncodingLacksIsRefused) {
     openNew(CommandCode::Comment);
-    typeText(edit(), QStringLiteral(u"a\u4e2d"));
-    EXPECT_EQ(edit().text(), QStringLiteral("a"));
-    EXPECT_EQ(note(), "The character \xe4\xb8\xad cannot be stored in a script.");
-    typeText(edit(), QStringLiteral(u"\u20ac"));
-    EXPECT_EQ(edit().text(), QStringLiteral(u"a\u20ac"));
-    EXPECT_EQ(note(), "");
-    pasteInto(edit(), QStringLiteral(u"whole \U0001f511 or not at all"));
-    EXPECT_EQ(edit().text(), QStringLiteral(u"a\u20ac"));
-    EXPECT_EQ(note(), "The character \xf0\x9f\x94\x91 cannot be stored in a script.");
-    pressOk();
-    EXPECT_EQ(stored(), "a\x80");
-}
-
-TEST_F(TextEditTest, OfSeveralPastedLinesTheFirstIsTaken) {
-    openNew(CommandCode::Comment);
-    typeText(edit(), QStringLiteral("[]"));
+    typeText("[]");
     key(Qt::Key_Left);
-    pasteInto(edit(), QStringLiteral("one\r\ntwo"));
-    EXPECT_EQ(edit().text(), QStringLiteral("[one]"));
+    paste("one\r\ntwo");
+    EXPECT_EQ(shown("text"), "[one]") << "the first line";
     EXPECT_EQ(edit().cursorPosition(), 4);
+
+    retype("text", "a\u4e2d");
+    EXPECT_EQ(shown("text"), "a");
+    EXPECT_EQ(note(), "The character \xe4\xb8\xad cannot be stored in a script.");
+    typeText("\u20ac");
+    EXPECT_EQ(shown("text"), "a\u20ac");
+    EXPECT_EQ(note(), "");
+    paste("whole \U0001f511 or not at all");
+    EXPECT_EQ(shown("text"), "a\u20ac");
+    EXPECT_EQ(note(), "The character \xf0\x9f\x94\x91 cannot be stored in a script.");
+    click("ok");
+    EXPECT_EQ(stored(), "a\x80");
 }
 
 TEST_F(TextEditTest, EveryByteOfAFileSurvivesAnEditBesideIt) {
@@ -73,94 +76,73 @@ TEST_F(TextEditTest, EveryByteOfAFileSurvivesAnEditBesideIt) {
     for (int byte = 0; byte < 254; ++byte)
         all += static_cast<char>(byte);
     entry = newEntry(CommandCode::Comment);
-    setText(slotFields(entry, Slot::Entry), all);
+    setText(own(), all);
     open();
     key(Qt::Key_End);
-    typeText(edit(), QStringLiteral("x"));
-    pressOk();
+    typeText("x");
+    click("ok");
     EXPECT_EQ(stored(), all + 'x');
 }
 
 TEST_F(TextEditTest, TheBoxMasksAndUnmasksAtOnce) {
     openNew(CommandCode::Type);
-    EXPECT_FALSE(widget<QCheckBox>("hide").isChecked());
-    typeText(edit(), QStringLiteral("logon"));
-    clickOn(widget<QCheckBox>("hide"));
-    EXPECT_EQ(edit().displayText(), QStringLiteral("*****"));
+    EXPECT_FALSE(isChecked("hide"));
+    typeText("logon");
+    click("hide");
+    EXPECT_EQ(displayed(), "*****");
     EXPECT_EQ(edit().echoMode(), QLineEdit::Password) << "so that screen readers do not read it";
-    typeText(edit(), QStringLiteral("!"));
-    clickOn(widget<QCheckBox>("hide"));
-    EXPECT_EQ(edit().displayText(), QStringLiteral("logon!"));
-    pressOk();
+    typeText("!");
+    click("hide");
+    EXPECT_EQ(displayed(), "logon!");
+    click("ok");
     EXPECT_EQ(entry.hidden, 0) << "checked and unchecked again";
     EXPECT_EQ(stored(), "logon!");
-}
-
-TEST_F(TextEditTest, AHiddenTypeStaysHiddenWithoutABoxToChangeIt) {
-    openNew(CommandCode::Type);
-    typeText(edit(), QStringLiteral("pass"));
-    clickOn(widget<QCheckBox>("hide"));
-    pressOk();
-    EXPECT_EQ(entry.hidden, 1);
-    state.editing = true;
-    open();
-    EXPECT_FALSE(has("hide"));
-    EXPECT_EQ(edit().displayText(), QStringLiteral("****"));
-    typeText(edit(), QStringLiteral("new"));
-    pressOk();
-    EXPECT_EQ(stored(), "new");
-    EXPECT_EQ(entry.hidden, 1);
 }
 
 TEST_F(TextEditTest, OtherTextsAreNeitherMaskedNorOfferedToHide) {
     entry = newEntry(CommandCode::Message);
     entry.hidden = 1;
-    setText(slotFields(entry, Slot::Entry), "seen");
+    setText(own(), "seen");
     open();
     EXPECT_FALSE(has("hide"));
-    EXPECT_EQ(edit().displayText(), QStringLiteral("seen"));
+    EXPECT_EQ(displayed(), "seen");
     EXPECT_TRUE(edit().toolTip().isEmpty());
 }
 
 TEST_F(TextEditTest, AMaskedTextIsEditedLikeAnyOther) {
     openHidden("abcdef");
+    EXPECT_FALSE(has("hide"));
     EXPECT_EQ(edit().selectedText().size(), 6) << "selected when the dialog opens";
     key(Qt::Key_Home);
-    typeText(edit(), QStringLiteral("1"));
-    EXPECT_EQ(held(), "1abcdef");
+    typeText("1");
     key(Qt::Key_Right);
     key(Qt::Key_Delete);
     EXPECT_EQ(held(), "1acdef");
     key(Qt::Key_Backspace);
-    EXPECT_EQ(held(), "1cdef");
     key(Qt::Key_Right, Qt::ShiftModifier);
     key(Qt::Key_Right, Qt::ShiftModifier);
-    typeText(edit(), QStringLiteral(u"\u00fc"));
-    EXPECT_EQ(held(),
-              "1\xfc"
-              "ef");
+    typeText("\u00fc");
+    EXPECT_EQ(held(), std::string("1\xfc") + "ef");
     EXPECT_EQ(edit().cursorPosition(), 2);
-    pasteInto(edit(), QStringLiteral("xyz\nnext"));
+    paste("xyz\nnext");
     EXPECT_EQ(held(), "1\xfcxyzef");
     key(Qt::Key_Left, Qt::ShiftModifier);
     key(Qt::Key_X, Qt::ControlModifier);
-    EXPECT_EQ(held(), "1\xfcxyef");
     edit().backspace();
-    EXPECT_EQ(held(), "1\xfcxef");
-    EXPECT_EQ(edit().displayText(), QStringLiteral("*****"));
+    EXPECT_EQ(displayed(), "*****");
     key(Qt::Key_Z, Qt::ControlModifier);
     EXPECT_EQ(held(), "1\xfcxef") << "nothing to undo";
-    typeText(edit(), QStringLiteral(u"\u4e2d"));
-    EXPECT_EQ(held(), "1\xfcxef");
-    pressOk();
+    typeText("\u4e2d");
+    click("ok");
     EXPECT_EQ(stored(), "1\xfcxef");
+    EXPECT_EQ(entry.hidden, 1);
 }
 
 TEST_F(TextEditTest, AnInputMethodReachesAMaskedText) {
     openHidden("ab");
     QInputMethodEvent compose(QStringLiteral("^"), {});
     QApplication::sendEvent(&edit(), &compose);
-    EXPECT_EQ(edit().displayText(), QStringLiteral("**"));
+    EXPECT_EQ(displayed(), "**");
     QInputMethodEvent commit;
     commit.setCommitString(QStringLiteral(u"\u00ea"));
     QApplication::sendEvent(&edit(), &commit);
@@ -170,33 +152,29 @@ TEST_F(TextEditTest, AnInputMethodReachesAMaskedText) {
 TEST_F(TextEditTest, AMaskedTextTakesWhatCanBeEncipheredAndNoMore) {
     openHidden(std::string(245, 'h'));
     key(Qt::Key_End);
-    typeText(edit(), QStringLiteral("12"));
+    typeText("12");
     EXPECT_EQ(held(), std::string(245, 'h') + '1');
     EXPECT_EQ(note(), "A hidden text can have at most 246 characters.");
     key(Qt::Key_Backspace);
     EXPECT_EQ(note(), "");
-    pasteInto(edit(), QStringLiteral("two"));
+    paste("two");
     EXPECT_EQ(held(), std::string(245, 'h')) << "a secret is not cut unseen";
-    edit().selectAll();
-    pasteInto(edit(), QString(246, u'p'));
-    pressOk();
+    repaste("text", std::string(246, 'p'));
+    click("ok");
     EXPECT_EQ(stored(), std::string(246, 'p'));
 }
 
 TEST_F(TextEditTest, ATextTooLongToHideIsRefusedAtOk) {
     openNew(CommandCode::Type);
-    pasteInto(edit(), QString(250, u'p'));
-    clickOn(widget<QCheckBox>("hide"));
-    pressOk();
-    ASSERT_EQ(answers.messages.size(), 1U);
-    EXPECT_EQ(answers.messages[0].text, "A hidden text can have at most 246 characters.");
-    EXPECT_EQ(answers.messages[0].title, "Type");
+    paste(std::string(247, 'p'));
+    click("hide");
+    click("ok");
+    expectTold("A hidden text can have at most 246 characters.", "Type");
     EXPECT_EQ(focused(), "text");
     EXPECT_EQ(stored(), "");
     key(Qt::Key_End);
-    for (int i = 0; i < 4; ++i)
-        key(Qt::Key_Backspace);
-    pressOk();
+    key(Qt::Key_Backspace);
+    click("ok");
     EXPECT_TRUE(endedWithOk());
     EXPECT_EQ(stored(), std::string(246, 'p'));
 }
@@ -206,32 +184,33 @@ TEST_F(TextEditTest, WhatCouldNotBeDecipheredIsKeptUntilTheTextIsEdited) {
     const std::vector<std::uint8_t> sealed{1, 2, 3, 4, 5, 6, 7, 8};
     entry.kept = sealed;
     open();
-    EXPECT_EQ(edit().placeholderText(), libraryLine(16007));
-    pressOk();
+    EXPECT_EQ(edit().placeholderText().toStdString(), state.language.loadText(16007));
+    click("ok");
     EXPECT_EQ(answers.messages.size(), 1U) << "an empty text is refused";
     EXPECT_EQ(entry.kept, sealed);
-    typeText(edit(), QStringLiteral("new"));
-    pressOk();
+    typeText("new");
+    click("ok");
     EXPECT_FALSE(entry.kept.has_value());
 
     // Deciphered by chance under another key: the bytes stay as long as the text does.
     openHidden("x");
     entry.kept = sealed;
-    pressOk();
+    click("ok");
     EXPECT_EQ(entry.kept, sealed);
 }
 
 TEST_F(TextEditTest, WithoutAnIdentityTheToolTipSaysThatTextsAreOnlyObscured) {
-    openNew(CommandCode::Type);
-    EXPECT_EQ(edit().toolTip(), libraryLine(16006));
-    EXPECT_EQ(widget<QCheckBox>("hide").toolTip(), libraryLine(16006));
+    const auto toolTips = [this] {
+        openNew(CommandCode::Type);
+        return std::pair(edit().toolTip().toStdString(), widget("hide").toolTip().toStdString());
+    };
+    const std::string obscured = state.language.loadText(16006);
+    EXPECT_EQ(toolTips(), std::pair(obscured, obscured));
     const std::filesystem::path folder =
         std::filesystem::path(qgetenv("XDG_CONFIG_HOME").toStdString()) / "quendra";
     std::filesystem::create_directories(folder);
     std::ofstream(folder / "registry.ini") << "[Identities]\nDefault User ID = {1234}\n";
-    openNew(CommandCode::Type);
-    EXPECT_TRUE(edit().toolTip().isEmpty());
-    EXPECT_TRUE(widget<QCheckBox>("hide").toolTip().isEmpty());
+    EXPECT_EQ(toolTips(), std::pair(std::string(), std::string()));
     std::filesystem::remove_all(folder);
 }
 
@@ -280,20 +259,20 @@ bool memoryHoldsTheSecret() {
 
 void typeSecret(QWidget& edit) {
     for (std::size_t i = 0; i < turnedSecret.size(); ++i) {
-        typeText(edit, QString(QLatin1Char(secretCharacter(i))));
+        typeInto(edit, std::string(1, secretCharacter(i)));
     }
 }
 
 TEST_F(TextEditTest, NoCopyOfAHiddenTextOutlivesTheDialog) {
     openNew(CommandCode::Type);
-    clickOn(widget<QCheckBox>("hide"));
+    click("hide");
     typeSecret(edit());
     key(Qt::Key_Backspace);
-    typeText(edit(), QString(QLatin1Char(secretCharacter(turnedSecret.size() - 1))));
-    pressOk();
+    typeText(std::string(1, secretCharacter(turnedSecret.size() - 1)));
+    click("ok");
     ASSERT_EQ(entry.text[3], secretCharacter(3));
     ASSERT_TRUE(memoryHoldsTheSecret()) << "the entry holds it";
-    dialog.reset();
+    close();
     entry = ScriptEntry();
     EXPECT_FALSE(memoryHoldsTheSecret()) << "typed";
 
@@ -304,9 +283,9 @@ TEST_F(TextEditTest, NoCopyOfAHiddenTextOutlivesTheDialog) {
         entry.text[i] = secretCharacter(i);
     open();
     key(Qt::Key_End);
-    typeText(edit(), QStringLiteral("more"));
-    QTest::keyClick(dialog.get(), Qt::Key_Escape);
-    dialog.reset();
+    typeText("more");
+    press(Qt::Key_Escape);
+    close();
     entry = ScriptEntry();
     EXPECT_FALSE(memoryHoldsTheSecret()) << "shown";
 

@@ -4,82 +4,65 @@
 #include "scriptfile/entry_codec.h"
 #include "support/fixtures.h"
 
-#include <functional>
 #include <gtest/gtest.h>
 
 namespace quendra::test {
 namespace {
 
-struct SearchRow {
-    const char* name;
-    CommandCode code;
-    std::function<void(ScriptEntry&)> fill;
-    const char* text;
-    bool found;
-};
+using enum CommandCode;
 
-void putText(ScriptEntry& entry, Slot slot, CommandCode code, std::string_view text) {
-    const SlotFields fields = slotFields(entry, slot);
-    setCode(fields, code);
-    setText(fields, text);
-}
-
-void putTransfer(ScriptEntry& entry, const TransferField& field, std::string_view text) {
-    entry.commandId = sendFileCommand;
-    entry.transferSettings = defaultTransferSettings();
-    setTransferText(entry.transferSettings, field, text);
-}
-
-TEST(EntrySearch, LooksIntoLinesAndFieldsButNeverIntoHiddenTexts) {
-    using enum CommandCode;
-    const auto text = [](const char* value) {
-        return [value](ScriptEntry& entry) { setText(slotFields(entry, Slot::Entry), value); };
-    };
-    const auto hide = [](Slot slot) {
-        return [slot](ScriptEntry& entry) {
-            if (slot != Slot::Entry) entry.hasTimeout = 1;
-            putText(entry, slot, Type, "Secret");
-            slotFields(entry, slot).hidden = 1;
-        };
-    };
-    const SearchRow rows[] = {
-        {"the line", Goto, text("Home"), "goto h", true},
-        {"no regard to case", Comment, text("\xc4rger"), "\xc3\xa4RGER", true},
-        {"absent", Comment, text("Home"), "house", false},
-        {"the empty text", Comment, text("Home"), "", false},
-        {"prompt, which no line shows", Input,
-         [](ScriptEntry& entry) { setPrompt(slotFields(entry, Slot::Entry), "Your name?"); },
-         "your name", true},
-        {"action that no line shows, kept without a timeout", WaitFor,
-         [](ScriptEntry& entry) { putText(entry, Slot::Then, Message, "Found it"); }, "found it",
-         false},
-        {"else action", WaitFor,
-         [](ScriptEntry& entry) {
-             entry.hasTimeout = 1;
-             putText(entry, Slot::Else, Message, "Lost it");
-         },
-         "lost it", true},
-        {"second operand", IfInputIs, [](ScriptEntry& entry) { setCompareText(entry, "Yes"); },
-         "yes", true},
-        {"file of this computer", MenuCommand,
-         [](ScriptEntry& entry) { putTransfer(entry, transfer::pcFileName, "pc.txt"); }, "PC.TXT",
-         true},
-        {"hidden text", Type, hide(Slot::Entry), "secret", false},
-        {"hidden text's first letter", Type, hide(Slot::Entry), "s", false},
-        {"hidden text of a then action", WaitFor, hide(Slot::Then), "secret", false},
-        {"hidden text of an else action", WaitFor, hide(Slot::Else), "secret", false},
-        {"hidden text's mask", Type, hide(Slot::Entry), "******", true},
-    };
-    const HiddenTextCipher cipher("");
-    const NumberedNames names;
-    for (const SearchRow& row : rows) {
+class EntrySearch : public testing::Test {
+  protected:
+    // An entry, in this slot of which is a command with a text.
+    static ScriptEntry with(CommandCode owner, Slot slot, CommandCode code, const char* text) {
         ScriptEntry entry;
-        entry.commandCode = row.code;
-        row.fill(entry);
+        entry.commandCode = owner;
+        entry.hasTimeout = 1;
+        setCode(slotFields(entry, slot), code);
+        setText(slotFields(entry, slot), text);
+        return entry;
+    }
+    static ScriptEntry with(CommandCode code, const char* text) {
+        return with(code, Slot::Entry, code, text);
+    }
+    static bool finds(const ScriptEntry& entry, std::string_view text) {
+        static const NumberedNames names;
+        const HiddenTextCipher cipher("");
         Script script;
         script.entries = {packEntry(entry, cipher).entry};
-        const auto found = findEntries(script, cipher, names.of(HostType::Mainframe), row.text);
-        EXPECT_EQ(found.size(), row.found ? 1U : 0U) << row.name;
+        return findEntries(script, cipher, names.of(HostType::Mainframe), text).size() == 1;
+    }
+};
+
+TEST_F(EntrySearch, LooksIntoLinesAndFieldsWithoutRegardToCase) {
+    EXPECT_TRUE(finds(with(Goto, "Home"), "goto h"));
+    EXPECT_TRUE(finds(with(Comment, "\xc4rger"), "\xc3\xa4RGER"));
+    EXPECT_FALSE(finds(with(Comment, "Home"), "house"));
+    EXPECT_FALSE(finds(with(Comment, "Home"), ""));
+    EXPECT_TRUE(finds(with(WaitFor, Slot::Else, Message, "Lost it"), "lost it"));
+    ScriptEntry entry = with(WaitFor, Slot::Then, Message, "Found it");
+    entry.hasTimeout = 0;
+    EXPECT_FALSE(finds(entry, "found it")) << "kept, but no part of the script";
+    entry = with(Input, "");
+    setPrompt(slotFields(entry, Slot::Entry), "Your name?");
+    EXPECT_TRUE(finds(entry, "your name"));
+    entry = with(IfInputIs, "");
+    setCompareText(entry, "Yes");
+    EXPECT_TRUE(finds(entry, "yes"));
+    entry = with(MenuCommand, "");
+    entry.commandId = sendFileCommand;
+    entry.transferSettings = defaultTransferSettings();
+    setTransferText(entry.transferSettings, transfer::pcFileName, "pc.txt");
+    EXPECT_TRUE(finds(entry, "PC.TXT"));
+}
+
+TEST_F(EntrySearch, NeverLooksIntoHiddenTexts) {
+    for (const Slot slot : {Slot::Entry, Slot::Then, Slot::Else}) {
+        ScriptEntry entry = with(slot == Slot::Entry ? Type : WaitFor, slot, Type, "Secret");
+        slotFields(entry, slot).hidden = 1;
+        EXPECT_FALSE(finds(entry, "secret"));
+        EXPECT_FALSE(finds(entry, "cr"));
+        EXPECT_TRUE(finds(entry, "******")) << "the mask";
     }
 }
 

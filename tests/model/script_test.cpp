@@ -5,12 +5,12 @@
 
 #include <algorithm>
 #include <gtest/gtest.h>
+#include <memory>
 #include <numeric>
 #include <random>
 #include <ranges>
 
 namespace quendra::test {
-
 namespace {
 
 EntryHandle numbered(std::size_t number) {
@@ -19,17 +19,15 @@ EntryHandle numbered(std::size_t number) {
 
 Script numberedScript(std::size_t count) {
     Script script;
-    for (std::size_t i = 0; i < count; ++i) {
+    for (std::size_t i = 0; i < count; ++i)
         script.entries.push_back(numbered(i));
-    }
     return script;
 }
 
 std::vector<std::size_t> someIndexes(std::mt19937& random, std::size_t count) {
     std::vector<std::size_t> indexes;
-    for (std::size_t i = 0; i < count; ++i) {
+    for (std::size_t i = 0; i < count; ++i)
         if (random() % 3 == 0) indexes.push_back(i);
-    }
     return indexes;
 }
 
@@ -52,9 +50,8 @@ TEST(Script, removesAnySelectionLikeOneByOne) {
         Script script = numberedScript(count);
         auto expected = script.entries;
         const auto indexes = someIndexes(random, count);
-        for (const std::size_t index : std::views::reverse(indexes)) {
+        for (const std::size_t index : std::views::reverse(indexes))
             expected.erase(expected.begin() + static_cast<std::ptrdiff_t>(index));
-        }
         removeEntries(script, indexes);
         EXPECT_EQ(script.entries, expected);
     }
@@ -69,26 +66,17 @@ TEST(Script, movesEntriesToTheirPlacesAndKeepsTheOrderOfTheRest) {
         std::iota(to.begin(), to.end(), std::size_t{0});
         std::ranges::shuffle(to, random);
         std::vector<EntryMove> moves;
-        for (std::size_t i = 0; i < from.size(); ++i) {
+        for (std::size_t i = 0; i < from.size(); ++i)
             moves.push_back({from[i], to[i]});
-        }
-        const Script before = script;
+        // Those that stay, with the moved ones put among them from the front to the back.
+        Script expected = script;
+        removeEntries(expected, from);
+        std::ranges::sort(moves, {}, &EntryMove::to);
+        for (const EntryMove& move : moves)
+            insertEntries(expected, move.to, {&script.entries[move.from], 1});
+        std::ranges::shuffle(moves, random);
         moveEntries(script, moves);
-        ASSERT_EQ(script.entryCount(), count);
-        auto rest = before.entries;
-        for (const std::size_t index : std::views::reverse(from)) {
-            rest.erase(rest.begin() + static_cast<std::ptrdiff_t>(index));
-        }
-        std::vector<EntryHandle> others;
-        for (std::size_t i = 0; i < count; ++i) {
-            const auto move = std::ranges::find(moves, i, &EntryMove::to);
-            if (move == moves.end()) {
-                others.push_back(script.entries[i]);
-            } else {
-                EXPECT_EQ(script.entries[i], before.entries[move->from]);
-            }
-        }
-        EXPECT_EQ(others, rest);
+        EXPECT_EQ(script, expected);
     }
 }
 
@@ -106,6 +94,22 @@ TEST(EntryHandle, wipesARecordWithItsLastHandleOnly) {
     // The chunk is still alive through `kept`, so the memory may be looked at.
     EXPECT_EQ(std::count(memory, memory + size, 0), static_cast<std::ptrdiff_t>(size));
     EXPECT_EQ(kept, numbered(1));
+}
+
+TEST(EntryHandle, ofARecordInPlaceKeepsTheBytesAndWipesItsOwn) {
+    const Bytes bytes = joined({{6}, counted("first"), {6}, counted("second")});
+    SecretPages pages(bytes.size());
+    std::ranges::copy(bytes, pages.data());
+    const std::uint8_t* memory = pages.data();
+    auto records = std::make_unique<RecordsInPlace>(std::move(pages), 2);
+    EntryHandle first = records->record(0, 7);
+    const EntryHandle second = records->record(7, 8);
+    records.reset();
+    EXPECT_EQ(first.record().data(), memory) << "not copied";
+    EXPECT_EQ(second, storeRecord(std::span(bytes).subspan(7)));
+    first = EntryHandle();
+    EXPECT_EQ(std::count(memory, memory + 7, 0), 7);
+    EXPECT_EQ(second.record().front(), 6);
 }
 
 }  // namespace quendra::test

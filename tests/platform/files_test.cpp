@@ -14,93 +14,84 @@ namespace quendra::test {
 
 namespace fs = std::filesystem;
 
-namespace {
+class ReplaceFile : public testing::Test {
+  protected:
+    ReplaceFile() { writeBytes(file, bytesOf("old")); }
 
-std::size_t filesIn(const fs::path& folder) {
-    return static_cast<std::size_t>(
-        std::distance(fs::directory_iterator(folder), fs::directory_iterator()));
-}
+    [[nodiscard]] std::size_t files() const {
+        return static_cast<std::size_t>(
+            std::distance(fs::directory_iterator(folder.path()), fs::directory_iterator()));
+    }
+    void expectOldFileAlone() const {
+        EXPECT_EQ(readBytes(file), bytesOf("old"));
+        EXPECT_EQ(files(), 1U);
+    }
 
-}  // namespace
-
-TEST(ReplaceFile, keepsModeAndLinksAndLeavesNothingBehind) {
     const TemporaryFolder folder;
-    const fs::path file = folder / "script.qds";
+    const fs::path file = folder / "a.qds";
+};
+
+TEST_F(ReplaceFile, keepsModeAndLinksAndLeavesNothingBehind) {
     const fs::path link = folder / "link.qds";
-    writeBytes(file, bytesOf("old"));
     ASSERT_EQ(chmod(file.c_str(), 0640), 0);
-    fs::create_symlink("script.qds", link);
+    fs::create_symlink("a.qds", link);
     const ReplaceResult result = replaceFile(link, bytesOf("new content"), OldFile::Drop);
     EXPECT_FALSE(result.failure);
     EXPECT_TRUE(fs::is_symlink(link));
     EXPECT_EQ(readBytes(file), bytesOf("new content"));
     EXPECT_EQ(fs::status(file).permissions(), fs::perms(0640));
     EXPECT_EQ(result.stamp, fileStamp(file));
-    EXPECT_EQ(filesIn(folder.path()), 2u);
+    EXPECT_EQ(files(), 2U);
 }
 
-TEST(ReplaceFile, makesANewFileAsTheUserWouldHaveIt) {
-    const TemporaryFolder folder;
-    const mode_t before = umask(027);
-    EXPECT_FALSE(replaceFile(folder / "new.qds", bytesOf("x"), OldFile::KeepAsBackup).failure);
-    umask(before);
+TEST_F(ReplaceFile, makesANewFileAsTheUserWouldHaveItAlsoOfABareName) {
+    const mode_t maskBefore = umask(027);
+    const fs::path before = fs::current_path();
+    fs::current_path(folder.path());
+    EXPECT_FALSE(replaceFile("new.qds", bytesOf("x"), OldFile::KeepAsBackup).failure);
+    fs::current_path(before);
+    umask(maskBefore);
+    EXPECT_EQ(readBytes(folder / "new.qds"), bytesOf("x"));
     EXPECT_EQ(fs::status(folder / "new.qds").permissions(), fs::perms(0640));
-    EXPECT_EQ(filesIn(folder.path()), 1u);
+    EXPECT_EQ(files(), 2U);
 }
 
-TEST(ReplaceFile, keepsEveryOldFileUnderAFreeName) {
-    const TemporaryFolder folder;
-    const fs::path file = folder / "a.qds";
-    for (const char* content : {"1", "2", "3"}) {
+TEST_F(ReplaceFile, keepsEveryOldFileUnderAFreeName) {
+    for (const char* content : {"2", "3"})
         EXPECT_FALSE(replaceFile(file, bytesOf(content), OldFile::KeepAsBackup).failure);
-    }
-    EXPECT_EQ(readBytes(folder / "a.qds.bak"), bytesOf("1"));
+    EXPECT_EQ(readBytes(folder / "a.qds.bak"), bytesOf("old"));
     EXPECT_EQ(readBytes(folder / "a.qds.bak2"), bytesOf("2"));
     EXPECT_EQ(readBytes(file), bytesOf("3"));
 }
 
-TEST(ReplaceFile, changesNothingWhenTheDiskIsFull) {
-    const TemporaryFolder folder;
-    const fs::path file = folder / "a.qds";
-    writeBytes(file, bytesOf("old"));
+TEST_F(ReplaceFile, changesNothingWhenTheDiskIsFull) {
     for (const OldFile oldFile : {OldFile::Drop, OldFile::KeepAsBackup}) {
         const FullDisk full;
         const ReplaceResult result = replaceFile(file, bytesOf("does not fit"), oldFile);
         ASSERT_TRUE(result.failure);
         EXPECT_EQ(result.failure->code, EFBIG);
     }
-    EXPECT_EQ(readBytes(file), bytesOf("old"));
-    EXPECT_EQ(filesIn(folder.path()), 1u);
+    expectOldFileAlone();
 }
 
-TEST(ReplaceFile, refusesFoldersAndMissingFolders) {
-    const TemporaryFolder folder;
-    fs::create_directory(folder / "a.qds");
-    EXPECT_EQ(replaceFile(folder / "a.qds", bytesOf("x"), OldFile::Drop).failure->code, EISDIR);
-    EXPECT_EQ(replaceFile(folder / "none/a.qds", bytesOf("x"), OldFile::Drop).failure->code,
-              ENOENT);
-    EXPECT_EQ(filesIn(folder.path()), 1u);
-}
-
-TEST(ReplaceFile, leavesAWriteProtectedFileAlone) {
+TEST_F(ReplaceFile, refusesFoldersMissingFoldersAndWriteProtectedFiles) {
+    const auto failure = [&](const fs::path& at) {
+        return replaceFile(at, bytesOf("x"), OldFile::KeepAsBackup).failure->code;
+    };
+    EXPECT_EQ(failure(folder.path()), EISDIR);
+    EXPECT_EQ(failure(folder / "none/a.qds"), ENOENT);
+    expectOldFileAlone();
     if (geteuid() == 0) GTEST_SKIP() << "the superuser may write everything";
-    const TemporaryFolder folder;
-    writeBytes(folder / "script.qds", bytesOf("old"));
-    ASSERT_EQ(chmod((folder / "script.qds").c_str(), 0444), 0);
-    const ReplaceResult result =
-        replaceFile(folder / "script.qds", bytesOf("new"), OldFile::KeepAsBackup);
-    ASSERT_TRUE(result.failure);
-    EXPECT_EQ(result.failure->code, EACCES);
-    EXPECT_EQ(readBytes(folder / "script.qds"), bytesOf("old"));
-    EXPECT_EQ(filesIn(folder.path()), 1U);
+    ASSERT_EQ(chmod(file.c_str(), 0444), 0);
+    EXPECT_EQ(failure(file), EACCES);
+    expectOldFileAlone();
 }
 
 TEST(ReadFile, readsPipesAndBoundsLongFiles) {
     const TemporaryFolder folder;
-    const Bytes content(200'000, 'x');
-    writeBytes(folder / "long", content);
-    EXPECT_EQ(readFile(folder / "long", 1'000'000).size, content.size());
-    EXPECT_EQ(readFile(folder / "long", 1000).size, 1000u);
+    writeBytes(folder / "long", Bytes(200'000, 'x'));
+    EXPECT_EQ(readFile(folder / "long", 1'000'000).size, 200'000U);
+    EXPECT_EQ(readFile(folder / "long", 1000).size, 1000U);
     EXPECT_EQ(readFile(folder / "none", 1000).failure->code, ENOENT);
     EXPECT_EQ(readFile(folder.path(), 1000).failure->code, EISDIR);
     int ends[2] = {};

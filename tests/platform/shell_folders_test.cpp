@@ -17,7 +17,6 @@ TEST(DocumentsFolder, IsWhatUserDirsSays) {
         const char* userDirs;
         const char* documents;  // below the home folder unless it begins with "/"
     } rows[] = {
-        {"XDG_DOCUMENTS_DIR=\"$HOME/Dokumente\"\n", "Dokumente"},
         {"XDG_DOCUMENTS_DIR=\"/srv/eve\"\n", "/srv/eve"},
         {"  XDG_DOCUMENTS_DIR = \"$HOME/My \\\"Docs\\\"\" \n", "My \"Docs\""},
         {"# XDG_DOCUMENTS_DIR=\"$HOME/No\"\nXDG_MUSIC_DIR=\"$HOME/No\"\n", "Documents"},

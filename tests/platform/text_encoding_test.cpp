@@ -9,9 +9,8 @@ namespace quendra::test {
 
 TEST(TextEncoding, keepsEveryByte) {
     std::string all;
-    for (int byte = 0; byte < 256; ++byte) {
+    for (int byte = 0; byte < 256; ++byte)
         all += static_cast<char>(byte);
-    }
     EXPECT_EQ(windows1252FromUtf8(utf8FromWindows1252(all)), all);
     EXPECT_EQ(utf8FromWindows1252("\x80\x81\xE4\xFF"), "\u20AC\u0081\u00E4\u00FF");
 }

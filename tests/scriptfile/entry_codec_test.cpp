@@ -6,11 +6,9 @@
 #include "scriptfile/script_writer.h"
 #include "support/fixtures.h"
 
-#include <functional>
 #include <gtest/gtest.h>
 
 namespace quendra::test {
-
 namespace {
 
 const HiddenTextCipher myCipher("mine");
@@ -103,16 +101,8 @@ TEST(EntryCodec, neverStoresAHiddenTextThatDoesNotFit) {
 TEST(EntryCodec, bringsForeignActionsThroughEditsOfTheirOwner) {
     // An If_Input_Is that owns an If_Input_Is whose else action is a hidden Type of somebody else.
     const auto secret = theirCipher.encipher("x").value();
-    const Bytes inner = joined({{9},
-                                counted("in"),
-                                {0},
-                                counted(""),
-                                {3},
-                                {4},
-                                {15},
-                                {static_cast<std::uint8_t>(secret.size())},
-                                secret,
-                                {1}});
+    const Bytes type = joined({{15}, counted(std::string(secret.begin(), secret.end())), {1}});
+    const Bytes inner = joined({{9}, counted("in"), {0}, counted(""), {3}, {4}, type});
     const Bytes file =
         joined({bytesOf("QDMDSCR="), {9}, counted("out"), {0}, counted("b"), {0}, inner, {12}});
     const ReadResult read = readScript(file);

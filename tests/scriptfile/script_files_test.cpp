@@ -5,23 +5,14 @@
 #include "support/fixtures.h"
 #include "support/temporary_folder.h"
 
-#include <algorithm>
 #include <gtest/gtest.h>
 
 namespace quendra::test {
 
-namespace {
-
-const Case& caseNamed(std::string_view name) {
-    return *std::ranges::find(frozenCases(), name, &Case::name);
-}
-
-}  // namespace
-
 TEST(ScriptFiles, upgradeAnOlderFileOnceAndKeepTheOldBytes) {
     const TemporaryFolder folder;
     const auto path = folder / "old.qds";
-    const Case& old = caseNamed("kinds-iseries-v4");
+    const Case& old = frozenCase("kinds-iseries-v4");
     writeBytes(path, old.file);
     const LoadedScript loaded = loadScriptFile(path);
     ASSERT_TRUE(loaded.ok());
@@ -37,7 +28,7 @@ TEST(ScriptFiles, upgradeAnOlderFileOnceAndKeepTheOldBytes) {
 TEST(ScriptFiles, neverRewriteWhatWasNotReadWholeOrHasChanged) {
     const TemporaryFolder folder;
     const auto path = folder / "cut.qds";
-    const Bytes& file = caseNamed("kinds-iseries-v4").file;
+    const Bytes& file = frozenCase("kinds-iseries-v4").file;
     const Bytes cut(file.begin(), file.end() - 1);
     writeBytes(path, cut);
     EXPECT_FALSE(upgradeScriptFile(path, loadScriptFile(path)));
@@ -45,7 +36,7 @@ TEST(ScriptFiles, neverRewriteWhatWasNotReadWholeOrHasChanged) {
 
     writeBytes(path, file);
     const LoadedScript loaded = loadScriptFile(path);
-    const Bytes newer = caseNamed("kinds-iseries-v5").file;
+    const Bytes newer = frozenCase("kinds-iseries-v5").file;
     writeBytes(path, newer);
     EXPECT_FALSE(upgradeScriptFile(path, loaded));
     EXPECT_EQ(readBytes(path), newer);

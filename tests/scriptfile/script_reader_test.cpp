@@ -5,10 +5,10 @@
 #include "scriptfile/script_writer.h"
 #include "support/fixtures.h"
 
+#include <algorithm>
 #include <gtest/gtest.h>
 
 namespace quendra::test {
-
 namespace {
 
 const Bytes mainframe = bytesOf("QDMDSCR=");
@@ -16,9 +16,8 @@ const Bytes beep = {4};
 
 Bytes repeated(const Bytes& piece, std::size_t count) {
     Bytes all;
-    for (std::size_t i = 0; i < count; ++i) {
+    for (std::size_t i = 0; i < count; ++i)
         all.insert(all.end(), piece.begin(), piece.end());
-    }
     return all;
 }
 
@@ -27,14 +26,6 @@ Bytes nestedCompares(std::size_t depth) {
     const Bytes start = joined({{9}, counted(""), {0}, counted(""), {0}});
     return joined({repeated(start, depth), {0}, repeated({0}, depth)});
 }
-
-struct Damage {
-    std::string name;
-    Bytes file;
-    std::size_t entries;
-    ReadStop stop;
-    std::size_t offset;
-};
 
 }  // namespace
 
@@ -48,52 +39,62 @@ TEST(ScriptReader, refusesWhatIsNoScript) {
 TEST(ScriptReader, stopsAtTheDamageAndSaysWhere) {
     const Bytes longPrompt = joined({{8}, counted("t"), word(1024), Bytes(1024, 'p'), {255, 0, 0}});
     const Bytes fullPrompt = joined({{8}, counted("t"), word(1023), Bytes(1023, 'p'), {255, 0, 0}});
-    const std::vector<Damage> rows = {
-        {"inside a text", joined({mainframe, beep, {6, 5, 'a'}}), 1, ReadStop::EndInsideRecord, 11},
-        {"inside an action", joined({mainframe, beep, {20, 0, 15}}), 1, ReadStop::EndInsideRecord,
-         12},
-        {"before an action", joined({mainframe, {20, 0}}), 0, ReadStop::EndInsideRecord, 10},
-        {"code 3", joined({mainframe, beep, beep, {3}, beep}), 2, ReadStop::UnknownCode, 10},
-        {"code 24", joined({mainframe, {24}}), 0, ReadStop::UnknownCode, 8},
-        {"unknown code of an action", joined({mainframe, beep, {20, 0, 99}}), 1,
-         ReadStop::UnknownCode, 11},
-        {"a code that renumbering lifts out of range", joined({bytesOf("QDMDSCR9"), {23}}), 0,
-         ReadStop::UnknownCode, 8},
-        {"a prompt that does not fit", joined({mainframe, beep, longPrompt, beep}), 1,
-         ReadStop::PromptTooLong, 12},
-        {"a prompt that fits", joined({mainframe, beep, fullPrompt, beep}), 3, ReadStop::None, 0},
-        {"4096 entries", joined({mainframe, repeated(beep, 4096)}), 4096, ReadStop::None, 0},
-        {"one entry more", joined({mainframe, repeated(beep, 4097)}), 4096,
-         ReadStop::TooManyEntries, 8 + 4096},
-        {"more entries than 16 bits count", joined({mainframe, repeated({0}, 70'000)}), 4096,
-         ReadStop::TooManyEntries, 8 + 4096},
-        {"actions a few levels deep", joined({mainframe, nestedCompares(4), beep}), 2,
-         ReadStop::None, 0},
-        {"actions a hundred thousand levels deep",
-         joined({mainframe, beep, nestedCompares(100'000)}), 1, ReadStop::NestedTooDeep, 34},
-        {"a length of four gigabytes", joined({mainframe, {8}, counted(""), word(0xFFFFFFFF)}), 0,
-         ReadStop::PromptTooLong, 10},
+    const Bytes tooDeep = nestedCompares(100'000);
+    using enum ReadStop;
+    const struct {
+        const char* name;
+        std::initializer_list<Bytes> records;
+        std::size_t entries;
+        ReadStop stop;
+        std::size_t offset;
+    } rows[] = {
+        {"inside a text", {beep, {6, 5, 'a'}}, 1, EndInsideRecord, 11},
+        {"inside an action", {beep, {20, 0, 15}}, 1, EndInsideRecord, 12},
+        {"before an action", {{20, 0}}, 0, EndInsideRecord, 10},
+        {"code 3", {beep, beep, {3}, beep}, 2, UnknownCode, 10},
+        {"code 24", {{24}}, 0, UnknownCode, 8},
+        {"unknown code of an action", {beep, {20, 0, 99}}, 1, UnknownCode, 11},
+        {"a prompt that does not fit", {beep, longPrompt, beep}, 1, PromptTooLong, 12},
+        {"a prompt that fits", {beep, fullPrompt, beep}, 3, None, 0},
+        {"a prompt of four gigabytes", {{8, 0}, word(0xFFFFFFFF)}, 0, PromptTooLong, 10},
+        {"4096 entries", {repeated(beep, 4096)}, 4096, None, 0},
+        {"one entry more", {repeated(beep, 4097)}, 4096, TooManyEntries, 8 + 4096},
+        {"more than 16 bits count", {repeated({0}, 70'000)}, 4096, TooManyEntries, 8 + 4096},
+        {"actions a few levels deep", {nestedCompares(4), beep}, 2, None, 0},
+        {"actions very many levels deep", {beep, tooDeep}, 1, NestedTooDeep, 34},
     };
-    for (const Damage& row : rows) {
+    for (const auto& row : rows) {
         SCOPED_TRACE(row.name);
-        const ReadResult read = readScript(row.file);
+        const ReadResult read = readScript(joined({mainframe, joined(row.records)}));
         ASSERT_FALSE(read.refusal);
         EXPECT_EQ(read.script.entryCount(), row.entries);
         EXPECT_EQ(read.stop, row.stop);
         EXPECT_EQ(read.stopOffset, row.offset);
     }
+    // Renumbering lifts this code out of the range.
+    EXPECT_EQ(readScript(bytesOf("QDMDSCR9\x17")).stop, UnknownCode);
+}
+
+// As the bytes of a file are read, which are taken over.
+ReadResult readInPlace(std::span<const std::uint8_t> bytes) {
+    SecretPages pages(bytes.size());
+    std::ranges::copy(bytes, pages.data());
+    return readScript(std::move(pages), bytes.size());
 }
 
 TEST(ScriptReader, loadsTheWholeEntriesOfAFileCutAnywhere) {
-    for (const Case& frozen : frozenCases()) {
-        if (frozen.name != "kinds-mainframe-v2" && frozen.name != "kinds-vt-vD") continue;
-        const Script whole = readScript(frozen.file).script;
-        for (std::size_t size = signatureSize; size < frozen.file.size(); size += 7) {
-            const ReadResult cut = readScript(std::span(frozen.file).first(size));
+    for (const char* name : {"kinds-mainframe-v2", "kinds-mainframe-vD", "kinds-vt-vD"}) {
+        const Bytes& file = frozenCase(name).file;
+        const Script whole = readScript(file).script;
+        for (std::size_t size = signatureSize; size < file.size(); size += 7) {
+            const ReadResult cut = readScript(std::span(file).first(size));
             ASSERT_LE(cut.script.entryCount(), whole.entryCount());
             ASSERT_TRUE(std::equal(cut.script.entries.begin(), cut.script.entries.end(),
                                    whole.entries.begin()));
             ASSERT_TRUE(cut.stop == ReadStop::EndInsideRecord || cut.stop == ReadStop::None);
+            const ReadResult inPlace = readInPlace(std::span(file).first(size));
+            ASSERT_EQ(inPlace.script, cut.script);
+            ASSERT_EQ(inPlace.stopOffset, cut.stopOffset);
         }
     }
 }

@@ -2,13 +2,13 @@
 
 #include "scriptfile/entry_codec.h"
 
+#include <algorithm>
 #include <fstream>
 #include <iterator>
 #include <nlohmann/json.hpp>
 #include <sstream>
 
 namespace quendra::test {
-
 namespace {
 
 // A function, since test parameters are made before the constants of this file would be.
@@ -21,15 +21,6 @@ nlohmann::json manifest() {
     return nlohmann::json::parse(stream);
 }
 
-std::vector<std::string> readLines(const std::filesystem::path& path) {
-    std::ifstream stream(path, std::ios::binary);
-    std::vector<std::string> lines;
-    for (std::string line; std::getline(stream, line);) {
-        lines.push_back(line);
-    }
-    return lines;
-}
-
 // The manifest writes versions as a hexadecimal digit where the file has the ASCII characters
 // behind '9'.
 char versionCharacter(const std::string& digit) {
@@ -40,15 +31,15 @@ Case readCase(const nlohmann::json& row) {
     const auto bytes = [&](const char* key) {
         return readBytes(casesFolder() / row.at(key).get<std::string>());
     };
-    Case result{row.at("name"),
-                hostTypeOfName(row.at("host").get<std::string>()).value(),
-                versionCharacter(row.at("version")),
-                row.at("entries"),
-                bytes("file"),
-                bytes("expected"),
-                readLines(casesFolder() / row.at("lines").get<std::string>()),
-                row.at("openRows")};
-    return result;
+    const Bytes lines = bytes("lines");
+    return {row.at("name"),
+            hostTypeOfName(row.at("host").get<std::string>()).value(),
+            versionCharacter(row.at("version")),
+            row.at("entries"),
+            bytes("file"),
+            bytes("expected"),
+            linesOfText({lines.begin(), lines.end()}),
+            row.at("openRows")};
 }
 
 }  // namespace
@@ -57,12 +48,15 @@ const std::vector<Case>& frozenCases() {
     static const std::vector<Case> cases = [] {
         std::vector<Case> read;
         const nlohmann::json all = manifest();
-        for (const auto& row : all.at("cases")) {
+        for (const auto& row : all.at("cases"))
             read.push_back(readCase(row));
-        }
         return read;
     }();
     return cases;
+}
+
+const Case& frozenCase(std::string_view name) {
+    return *std::ranges::find(frozenCases(), name, &Case::name);
 }
 
 std::string frozenIdentity() {
@@ -84,11 +78,18 @@ Bytes bytesOf(std::string_view text) {
     return {text.begin(), text.end()};
 }
 
+std::vector<std::string> linesOfText(const std::string& text) {
+    std::istringstream stream(text);
+    std::vector<std::string> lines;
+    for (std::string line; std::getline(stream, line);)
+        lines.push_back(line);
+    return lines;
+}
+
 Bytes joined(std::initializer_list<Bytes> pieces) {
     Bytes all;
-    for (const Bytes& piece : pieces) {
+    for (const Bytes& piece : pieces)
         all.insert(all.end(), piece.begin(), piece.end());
-    }
     return all;
 }
 
@@ -115,9 +116,8 @@ std::vector<std::string> linesOf(const Script& script, HostType type,
                                  const HiddenTextCipher& cipher) {
     static const NumberedNames names;
     std::vector<std::string> lines;
-    for (const EntryHandle& entry : script.entries) {
+    for (const EntryHandle& entry : script.entries)
         lines.push_back(formatEntryLine(unpackEntry(entry, cipher), names.of(type)));
-    }
     return lines;
 }
 

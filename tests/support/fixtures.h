@@ -32,6 +32,7 @@ struct Case {
     std::vector<std::size_t> openRows;
 };
 [[nodiscard]] const std::vector<Case>& frozenCases();
+[[nodiscard]] const Case& frozenCase(std::string_view name);
 /// The identity under which the hidden texts of the frozen cases are enciphered.
 [[nodiscard]] std::string frozenIdentity();
 
@@ -41,6 +42,8 @@ void writeBytes(const std::filesystem::path& path, std::span<const std::uint8_t>
 /// Bytes of a text, and of pieces one behind the other.
 [[nodiscard]] Bytes bytesOf(std::string_view text);
 [[nodiscard]] Bytes joined(std::initializer_list<Bytes> pieces);
+/// The lines of a text, without their ends.
+[[nodiscard]] std::vector<std::string> linesOfText(const std::string& text);
 /// A text with its length byte.
 [[nodiscard]] Bytes counted(std::string_view text);
 [[nodiscard]] Bytes word(std::uint32_t value);

@@ -1,182 +1,94 @@
 // The IND$FILE command line for every host, direction and option.
 #include "transfer/command_builder.h"
 
-#include <functional>
+#include <algorithm>
 #include <gtest/gtest.h>
-#include <vector>
+#include <sstream>
 
 namespace quendra::test {
-
 namespace {
 
 using namespace transfer;
-using Texts = std::vector<std::pair<TransferField, std::string>>;
-using Numbers = std::vector<std::pair<TransferField, std::uint32_t>>;
 
-struct Row {
-    std::string name;
-    std::uint8_t host;
-    bool send;
-    Texts texts;
-    Numbers numbers;
-    std::string line;
-};
+// "field=value" for each setting that is not as by default, parted by blanks.
+FileTransferSettings settingsWith(const std::string& changes) {
+    FileTransferSettings settings = defaultTransferSettings();
+    std::istringstream words(changes);
+    for (std::string word; words >> word;) {
+        const std::string name = word.substr(0, word.find('='));
+        const std::string value = word.substr(name.size() + 1);
+        const auto fields = transferFields();
+        const auto field = std::ranges::find(fields, name, &TransferField::name);
+        if (field == fields.end()) throw std::runtime_error("no field " + name);
+        if (field->kind == TransferFieldKind::Text) {
+            setTransferText(settings, *field, value);
+        } else {
+            setTransferNumber(settings, *field, static_cast<std::uint32_t>(std::stoul(value)));
+        }
+    }
+    return settings;
+}
 
+constexpr auto put = TransferDirection::Send;
+constexpr auto get = TransferDirection::Receive;
 const std::string longText(400, 'x');
 
-const std::vector<Row> rows = {
-    {"VM send with all three name parts",
-     0,
-     true,
-     {{hostFileName, "PROFILE"}, {fileType, "EXEC"}, {fileMode, "A"}},
-     {{recordFormat, 1}, {recordLength, 80}},
+const struct {
+    std::uint8_t host;
+    TransferDirection direction;
+    std::string changes;
+    std::string line;
+} rows[] = {
+    // VM/CMS: without any option no parenthesis, a record length opens one for nothing, block size
+    // and space are never written, a record length needs a record format.
+    {0, put, "hostFileName=PROFILE fileType=EXEC fileMode=A recordFormat=1 recordLength=80",
      "IND$FILE PUT PROFILE EXEC A (ASCII CRLF LRECL 80 RECFM V "},
-    {"VM receive with defaults",
-     0,
-     false,
-     {{hostFileName, "DATA"}},
-     {},
-     "IND$FILE GET DATA (ASCII CRLF "},
-    {"VM send without any option has no parenthesis",
-     0,
-     true,
-     {{hostFileName, "F"}, {fileType, "T"}, {fileMode, "M"}},
-     {{binary, 1}, {crlf, 0}},
-     "IND$FILE PUT F T M "},
-    {"VM send with a record format alone",
-     0,
-     true,
-     {{hostFileName, "F"}},
-     {{binary, 1}, {crlf, 0}, {recordFormat, 2}},
-     "IND$FILE PUT F (RECFM F "},
-    {"VM receive with a record format alone",
-     0,
-     false,
-     {{hostFileName, "F"}},
-     {{binary, 1}, {crlf, 0}, {recordFormat, 2}},
-     "IND$FILE GET F "},
-    {"VM receive with a record length opens a parenthesis for nothing",
-     0,
-     false,
-     {{hostFileName, "F"}},
-     {{binary, 1}, {crlf, 0}, {recordLength, 80}},
-     "IND$FILE GET F ("},
-    {"VM append",
-     0,
-     true,
-     {{hostFileName, "F"}},
-     {{append, 1}, {binary, 1}, {crlf, 0}},
-     "IND$FILE PUT F (APPEND "},
-    {"VM never writes block size and space",
-     0,
-     true,
-     {{hostFileName, "F"}},
-     {{blockSize, 5}, {primarySpace, 6}, {spaceUnit, 2}},
+    {0, get, "hostFileName=DATA", "IND$FILE GET DATA (ASCII CRLF "},
+    {0, put, "hostFileName=F fileType=T fileMode=M binary=1 crlf=0", "IND$FILE PUT F T M "},
+    {0, put, "hostFileName=F binary=1 crlf=0 recordFormat=2", "IND$FILE PUT F (RECFM F "},
+    {0, get, "hostFileName=F binary=1 crlf=0 recordFormat=2", "IND$FILE GET F "},
+    {0, get, "hostFileName=F binary=1 crlf=0 recordLength=80", "IND$FILE GET F ("},
+    {0, put, "hostFileName=F append=1 binary=1 crlf=0", "IND$FILE PUT F (APPEND "},
+    {0, put, "hostFileName=F blockSize=5 primarySpace=6 spaceUnit=2",
      "IND$FILE PUT F (ASCII CRLF "},
-    {"a record length needs a record format",
-     0,
-     true,
-     {{hostFileName, "F"}},
-     {{recordLength, 80}},
-     "IND$FILE PUT F (ASCII CRLF "},
-    {"TSO quoted data set with member and space",
-     1,
-     true,
-     {{hostFileName, "'USER.SOURCE'"}, {member, "PROG1"}},
-     {{binary, 1},
-      {crlf, 0},
-      {recordFormat, 2},
-      {recordLength, 80},
-      {blockSize, 3120},
-      {primarySpace, 10},
-      {secondarySpace, 5},
-      {spaceUnit, 3}},
+    {0, put, "hostFileName=F recordLength=80", "IND$FILE PUT F (ASCII CRLF "},
+    {0, get, "transferProgramName= hostFileName=F", " GET F (ASCII CRLF "},
+    {0, put, "hostFileName=" + longText, ("IND$FILE PUT " + longText).substr(0, 255)},
+    // TSO: the member goes inside of the quotes, space is for sending only.
+    {1, put,
+     "hostFileName='USER.SOURCE' member=PROG1 binary=1 crlf=0 recordFormat=2 recordLength=80 "
+     "blockSize=3120 primarySpace=10 secondarySpace=5 spaceUnit=3",
      "IND$FILE PUT 'USER.SOURCE(PROG1)' LRECL(80) RECFM(F) BLKSIZE(3120) SPACE(10,5) TRACKS "},
-    {"TSO receive writes no space",
-     1,
-     false,
-     {{hostFileName, "USER.DATA"}},
-     {{append, 1}, {recordFormat, 3}, {blockSize, 1}, {primarySpace, 1}},
+    {1, get, "hostFileName=USER.DATA append=1 recordFormat=3 blockSize=1 primarySpace=1",
      "IND$FILE GET USER.DATA APPEND ASCII CRLF "},
-    {"TSO member without quotes, password",
-     1,
-     true,
-     {{hostFileName, "USER.SRC"}, {member, "MEM"}, {hostFilePassword, "PW"}},
-     {},
+    {1, put, "hostFileName=USER.SRC member=MEM hostFilePassword=PW",
      "IND$FILE PUT USER.SRC(MEM) /PW ASCII CRLF "},
-    {"TSO average blocks",
-     1,
-     true,
-     {{hostFileName, "D"}},
-     {{primarySpace, 1}, {spaceUnit, 1}, {averageBlock, 4294967295}},
+    {1, put, "hostFileName=D primarySpace=1 spaceUnit=1 averageBlock=4294967295",
      "IND$FILE PUT D ASCII CRLF SPACE(1,0) AVBLOCK(4294967295) "},
-    {"TSO unit without primary space",
-     1,
-     true,
-     {{hostFileName, "D"}},
-     {{spaceUnit, 1}, {averageBlock, 9}},
-     "IND$FILE PUT D ASCII CRLF "},
-    {"TSO unknown record format and unit",
-     1,
-     true,
-     {{hostFileName, "D"}},
-     {{recordFormat, 4}, {recordLength, 80}, {primarySpace, 1}, {spaceUnit, 4}},
+    {1, put, "hostFileName=D primarySpace=1 spaceUnit=2 recordFormat=3",
+     "IND$FILE PUT D ASCII CRLF RECFM(U) SPACE(1,0) CYLINDERS "},
+    {1, put, "hostFileName=D spaceUnit=1 averageBlock=9", "IND$FILE PUT D ASCII CRLF "},
+    {1, put, "hostFileName=D recordFormat=4 recordLength=80 primarySpace=1 spaceUnit=4",
      "IND$FILE PUT D ASCII CRLF SPACE(1,0) "},
-    {"CICS receive with defaults",
-     2,
-     false,
-     {{hostFileName, "MYFILE"}},
-     {},
-     "IND$FILE GET MYFILE (ASCII CRLF "},
-    {"CICS binary with both parentheses",
-     2,
-     true,
-     {{hostFileName, "MYFILE"}},
-     {{binary, 1}, {includeRightParenthesis, 1}},
+    // CICS/VS.
+    {2, get, "hostFileName=MYFILE", "IND$FILE GET MYFILE (ASCII CRLF "},
+    {2, put, "hostFileName=MYFILE binary=1 includeRightParenthesis=1",
      "IND$FILE PUT MYFILE (BINARY NOCRLF) "},
-    {"CICS additional parameters",
-     2,
-     true,
-     {{hostFileName, "F"}, {additionalParameters, "TRACE"}},
-     {{includeLeftParenthesis, 0}},
+    {2, put, "hostFileName=F additionalParameters=TRACE includeLeftParenthesis=0",
      "IND$FILE PUT F ASCII CRLF TRACE"},
-    {"an unknown host gives names only",
-     3,
-     true,
-     {{hostFileName, "F"}, {additionalParameters, "TRACE"}},
-     {},
-     "IND$FILE PUT F"},
-    {"no program name",
-     0,
-     false,
-     {{transferProgramName, ""}, {hostFileName, "F"}},
-     {},
-     " GET F (ASCII CRLF "},
-    {"cut at 255",
-     0,
-     true,
-     {{hostFileName, longText}},
-     {},
-     ("IND$FILE PUT " + longText).substr(0, 255)},
+    // An unknown host gives names only.
+    {3, put, "hostFileName=F additionalParameters=TRACE", "IND$FILE PUT F"},
 };
 
-}  // namespace
-
-TEST(TransferCommand, isBuiltForEveryHostDirectionAndOption) {
-    for (const Row& row : rows) {
-        FileTransferSettings settings = defaultTransferSettings();
-        for (const auto& [field, text] : row.texts) {
-            setTransferText(settings, field, text);
-        }
-        for (const auto& [field, number] : row.numbers) {
-            setTransferNumber(settings, field, number);
-        }
-        const auto direction = row.send ? TransferDirection::Send : TransferDirection::Receive;
-        EXPECT_EQ(buildTransferCommand(settings, row.host, direction), row.line) << row.name;
+TEST(TransferCommand, IsBuiltForEveryHostDirectionAndOption) {
+    for (const auto& row : rows) {
+        EXPECT_EQ(buildTransferCommand(settingsWith(row.changes), row.host, row.direction),
+                  row.line)
+            << "host " << int{row.host} << ": " << row.changes;
     }
 }
 
-TEST(TransferSettings, boundTextsOfForeignFiles) {
+TEST(TransferSettings, BoundTextsOfForeignFiles) {
     FileTransferSettings settings;
     settings.bytes.fill('x');
     EXPECT_EQ(transferText(settings, member), std::string(32, 'x'));
@@ -185,4 +97,5 @@ TEST(TransferSettings, boundTextsOfForeignFiles) {
     EXPECT_EQ(transferText(settings, fileType), std::string(32, 'x'));
 }
 
+}  // namespace
 }  // namespace quendra::test

@@ -1,18 +1,13 @@
 // How the sheet of the transfer settings looks and is reached by keys, in every language:
 // mnemonics, room for every text, and pictures for looking at (QUENDRA_PICTURES=FOLDER;
 // QT_SCALE_FACTOR=2 for the large ones).
-#include "app/appearance.h"
-#include "dialogs/dialog_fixture.h"
-#include "transfer/transfer_sheet_driver.h"
+#include "dialogs/look_checks.h"
+#include "transfer/transfer_fixture.h"
 
-#include <QApplication>
+#include <QAbstractButton>
 #include <QGroupBox>
 #include <QLabel>
-#include <QLineEdit>
-#include <QPixmap>
-#include <QPushButton>
-#include <QTabWidget>
-#include <QTest>
+#include <QtTest>
 
 #include <map>
 
@@ -25,57 +20,46 @@ class TransferLook : public TransferSheetTest, public ::testing::WithParamInterf
 };
 
 /// What the key of each caption on the shown page leads to.
-std::multimap<QString, QWidget*> mnemonics(OpenSheet& sheet) {
+std::multimap<QString, QWidget*> mnemonics(const OpenDialog& d) {
     std::multimap<QString, QWidget*> keys;
-    const auto add = [&keys](const QString& caption, QWidget* target) {
-        const QString key = QKeySequence::mnemonic(caption).toString();
-        if (!key.isEmpty()) keys.emplace(key, target);
-    };
-    for (auto* label : sheet.dialog.findChildren<QLabel*>()) {
-        if (label->isVisible() && label->buddy() != nullptr) add(label->text(), label->buddy());
-    }
-    for (auto* button : sheet.dialog.findChildren<QAbstractButton*>()) {
-        if (button->isVisible()) add(button->text(), button);
-    }
-    for (auto* group : sheet.dialog.findChildren<QGroupBox*>()) {
-        if (group->isVisible()) add(group->title(), group);
+    for (auto* part : d.dialog->findChildren<QWidget*>()) {
+        const auto* label = qobject_cast<QLabel*>(part);
+        const bool isGroup = part->inherits("QGroupBox");
+        const bool leads = isGroup || (label != nullptr && label->buddy() != nullptr) ||
+                           part->inherits("QAbstractButton");
+        const QString text = part->property(isGroup ? "title" : "text").toString();
+        const QString key = QKeySequence::mnemonic(text).toString();
+        if (!part->isVisible() || !leads || key.isEmpty()) continue;
+        keys.emplace(key, label != nullptr ? label->buddy() : part);
     }
     return keys;
 }
 
-TEST_P(TransferLook, EveryCaptionHasAKeyOfItsOwn) {
-    open([](OpenSheet& sheet) {
-        constexpr std::size_t captionsWithKey = 17;
-        for (int page : {0, 1}) {
-            sheet.showPage(page);
-            const auto keys = mnemonics(sheet);
-            EXPECT_EQ(keys.size(), captionsWithKey);
-            for (const auto& [key, target] : keys) {
-                EXPECT_EQ(keys.count(key), 1U)
-                    << key.toStdString() << " for " << target->objectName().toStdString();
-            }
-        }
-    });
-}
-
-void expectKeysLead(OpenSheet& sheet) {
-    for (const auto& [key, target] : mnemonics(sheet)) {
+void expectKeysLead(const OpenDialog& d, Answers& answers) {
+    constexpr std::size_t captionsWithKey = 17;
+    const auto keys = mnemonics(d);
+    EXPECT_EQ(keys.size(), captionsWithKey);
+    for (const auto& [key, target] : keys) {
+        EXPECT_EQ(keys.count(key), 1U) << key.toStdString();
         if (!target->isEnabled()) continue;
+        // The only push button with a key is Browse, which asks for a file at once and leaves the
+        // focus where it was.
+        const bool asks = target->inherits("QPushButton");
+        if (asks) answers.toFileDialogs.emplace_back(std::nullopt);
+        const auto* expected = asks ? d.dialog->focusWidget() : target;
         // "Alt+X": the last character is the key.
-        QTest::keyClick(sheet.dialog.focusWidget(), key.back().toLatin1(), Qt::AltModifier);
-        // A push button goes down without taking the focus.
-        const auto* button = qobject_cast<QPushButton*>(target);
-        const bool pressed = button != nullptr && button->isDown();
-        EXPECT_TRUE(pressed || target->hasFocus()) << key.toStdString();
+        QTest::keyClick(d.dialog->focusWidget(), key.back().toLatin1(), Qt::AltModifier);
+        EXPECT_EQ(d.dialog->focusWidget(), expected) << key.toStdString();
+        EXPECT_TRUE(answers.toFileDialogs.empty()) << key.toStdString();
     }
 }
 
-TEST_P(TransferLook, KeysLeadToTheirFields) {
+TEST_P(TransferLook, EveryCaptionHasAKeyOfItsOwnThatLeadsToItsField) {
     for (host = 0; host < 3; ++host) {
-        for (int page : {0, 1}) {
-            open([page](OpenSheet& sheet) {
-                sheet.showPage(page);
-                expectKeysLead(sheet);
+        for (const int page : {settingsPage, advancedPage}) {
+            open([page, this](const OpenDialog& d) {
+                d.showTab(page);
+                expectKeysLead(d, answers);
             });
         }
     }
@@ -88,106 +72,77 @@ TEST_P(TransferLook, TabGoesThroughTheFieldsAsTheyStand) {
         "cancel ",
         "recordFormat0 recordLength transferProgramName additionalParameters arabicProcessing "
         "pcCodePageIndex ok cancel "};
-    open([&](OpenSheet& sheet) {
-        for (int page : {0, 1}) {
-            sheet.showPage(page);
-            const auto* first = page == 0 ? "transferHost0" : "recordFormat0";
-            sheet.widget<QWidget>(QLatin1String(first)).setFocus();
+    open([&](const OpenDialog& d) {
+        for (const int page : {settingsPage, advancedPage}) {
+            d.showTab(page);
+            d.widget(page == settingsPage ? "transferHost0" : "recordFormat0").setFocus();
             std::string order;
             do {
-                order += sheet.dialog.focusWidget()->objectName().toStdString() + ' ';
-                QTest::keyClick(sheet.dialog.focusWidget(), Qt::Key_Tab);
+                order += d.focused() + ' ';
+                d.press(Qt::Key_Tab);
             } while (!order.ends_with("cancel ") && order.size() < 500);
             EXPECT_EQ(order, orders[page]);
         }
     });
 }
 
-void expectRoom(OpenSheet& sheet) {
-    for (auto* widget : sheet.dialog.findChildren<QWidget*>()) {
-        const bool hasText = qobject_cast<QLabel*>(widget) != nullptr ||
-                             qobject_cast<QAbstractButton*>(widget) != nullptr ||
-                             qobject_cast<QGroupBox*>(widget) != nullptr;
-        const std::string name = widget->objectName().toStdString();
-        if (!hasText || !widget->isVisible() || name == "note") continue;
-        EXPECT_GE(widget->width(), widget->sizeHint().width()) << name;
-        EXPECT_GE(widget->height(), widget->sizeHint().height()) << name;
-        EXPECT_TRUE(widget->parentWidget()->rect().contains(widget->geometry())) << name;
-    }
-}
-
 TEST_P(TransferLook, NothingIsCutOffAndTheSheetKeepsItsSize) {
     QSize size;
     for (host = 0; host < 3; ++host) {
-        open([&](OpenSheet& sheet) {
-            for (int page : {0, 1}) {
-                sheet.showPage(page);
-                expectRoom(sheet);
-                if (!size.isValid()) size = sheet.dialog.size();
-                EXPECT_EQ(sheet.dialog.size(), size);
+        open([&](const OpenDialog& d) {
+            for (const int page : {settingsPage, advancedPage}) {
+                d.showTab(page);
+                expectWholeTexts(*d.dialog);
+                for (const auto* group : d.dialog->findChildren<QGroupBox*>()) {
+                    if (!group->isVisible()) continue;
+                    EXPECT_EQ(group->size().expandedTo(group->sizeHint()), group->size());
+                }
+                if (!size.isValid()) size = d.dialog->size();
+                EXPECT_EQ(d.dialog->size(), size);
             }
         });
     }
 }
 
 TEST_P(TransferLook, NotesHaveRoom) {
-    open([](OpenSheet& sheet) {
-        const auto& note = sheet.widget<QLabel>(QStringLiteral("note"));
-        const auto expectShown = [&note] {
+    open([](const OpenDialog& d) {
+        const auto& note = d.widget<QLabel>("note");
+        const auto expectNoteFor = [&](const char* field, const std::string& keys) {
+            d.retype(field, keys);
             EXPECT_FALSE(note.text().isEmpty());
             EXPECT_LE(note.sizeHint().width(), note.width()) << note.text().toStdString();
         };
-        sheet.type("hostFileName", QStringLiteral("\u0416"));
-        expectShown();
-        sheet.type("hostFileName", QString(256, u'x'));
-        expectShown();
-        sheet.showPage(1);
+        expectNoteFor("hostFileName", "\u0416");
+        expectNoteFor("hostFileName", std::string(256, 'x'));
+        d.showTab(advancedPage);
         EXPECT_TRUE(note.text().isEmpty()) << "the field was left";
-        sheet.type("recordLength", QStringLiteral("x"));
-        expectShown();
+        expectNoteFor("recordLength", "x");
     });
 }
 
-INSTANTIATE_TEST_SUITE_P(, TransferLook, ::testing::Values(english, german),
-                         [](const auto& language) {
-                             return language.param == german ? "German" : "English";
-                         });
-
-class TransferPictures : public TransferSheetTest {
-  protected:
-    void draw(const QString& file) {
-        open([&](OpenSheet& sheet) {
-            sheet.type("hostFileName", QStringLiteral("'USER.SOURCE'"));
-            sheet.type("pcFileName", QStringLiteral("/home/eve/Transfer/\u0416.txt"));
-            for (int page : {0, 1}) {
-                sheet.showPage(page);
-                if (page == 1) sheet.type("recordLength", QStringLiteral("80x"));
-                QTest::qWait(10);
-                EXPECT_TRUE(sheet.dialog.grab().save(file.arg(page)));
-            }
-        });
-    }
-};
-
-TEST_F(TransferPictures, AreDrawnOnDemand) {
-    const QString folder = qEnvironmentVariable("QUENDRA_PICTURES");
-    if (folder.isEmpty()) GTEST_SKIP() << "QUENDRA_PICTURES names no folder";
-    const QString scale = qEnvironmentVariable("QT_SCALE_FACTOR", QStringLiteral("1"));
-    const std::pair<Appearance, const char*> appearances[] = {{Appearance::Light, "light"},
-                                                              {Appearance::Dark, "dark"}};
-    for (const auto& [appearance, look] : appearances) {
-        applyAppearance(appearance);
-        for (const char* language : {english, german}) {
-            useLanguage(state, language);
-            for (host = 0; host < 3; ++host) {
-                draw(QStringLiteral("%1/transfer-%2-%3-host%4-x%5-%6.png")
-                         .arg(folder, QLatin1String(look), QLatin1String(language))
-                         .arg(host)
-                         .arg(scale, QStringLiteral("%1")));
-            }
+TEST_P(TransferLook, CanBeSeenInPictures) {
+    if (!wantsPictures()) GTEST_SKIP() << "QUENDRA_PICTURES names no folder";
+    const std::string scale = qEnvironmentVariable("QT_SCALE_FACTOR", QString(u'1')).toStdString();
+    forLightAndDark([&](const std::string& appearance) {
+        for (host = 0; host < 3; ++host) {
+            open([&](const OpenDialog& d) {
+                d.retype("hostFileName", "'USER.SOURCE'");
+                d.retype("pcFileName", "/home/eve/Transfer/\u0416.txt");
+                for (const int page : {settingsPage, advancedPage}) {
+                    d.showTab(page);
+                    if (page == advancedPage) d.retype("recordLength", "80x");
+                    QTest::qWait(10);
+                    savePicture(*d.dialog, "transfer-" + appearance + '-' + GetParam() + "-host" +
+                                               std::to_string(host) + "-x" + scale + '-' +
+                                               std::to_string(page));
+                }
+            });
         }
-    }
+    });
 }
+
+INSTANTIATE_TEST_SUITE_P(, TransferLook, ::testing::Values("qdstring", "qdstring_de"),
+                         [](const auto& language) { return std::string(language.param); });
 
 }  // namespace
 }  // namespace quendra::test

@@ -1,0 +1,297 @@
+// Edits in the real window, from the command to the finished painting: beside a bare repaint of the
+// script list, within a frame of the screen, and growing with the script rather than with its
+// square. Without QT_QPA_PLATFORM it needs no screen.
+#include "app/appearance.h"
+#include "app/commands.h"
+#include "app/main_window.h"
+#include "app/message_box.h"
+#include "app/script_editor.h"
+#include "app/ui_text.h"
+#include "pair.h"
+#include "sample_scripts.h"
+#include "scriptfile/entry_codec.h"
+
+#include <QApplication>
+#include <QItemSelectionModel>
+#include <QListView>
+#include <QMouseEvent>
+
+#include <benchmark/benchmark.h>
+#include <functional>
+#include <memory>
+#include <numeric>
+#include <stdexcept>
+
+namespace quendra::bench {
+
+namespace {
+
+constexpr double frame = 1e6 / 60;
+constexpr std::size_t fewEntries = 1024;
+
+/// Tells whether a widget has been painted.
+class PaintWatch : public QObject {
+  public:
+    explicit PaintWatch(QWidget& widget) { widget.installEventFilter(this); }
+    bool painted = false;
+
+  protected:
+    bool eventFilter(QObject*, QEvent* event) override {
+        if (event->type() == QEvent::Paint) painted = true;
+        return false;
+    }
+};
+
+/// The editor with a typical script of some length, its window shown and painted.
+class Editor {
+  public:
+    explicit Editor(std::size_t entries);
+
+    /// The whole script, untouched, with its middle in sight.
+    void reset();
+    void run(int command) { window_->runCommand(command); }
+    void select(const std::vector<std::size_t>& entries, std::size_t focused) {
+        window_->pane().selectEntries(entries, static_cast<int>(focused));
+    }
+    void selectAll() { list_->selectAll(); }
+    /// Drags the focused entry, and with it all that are selected, by some rows.
+    void drag(int rows);
+    /// Leaves so many entries of the script, the middle one focused.
+    void shorten(std::size_t entries);
+    void putOnClipboard(std::size_t entries);
+    /// Returns when what the last change made necessary is painted.
+    void waitUntilPainted();
+    void repaintList() { list_->viewport()->repaint(); }
+    [[nodiscard]] const Script& script() const { return state_.script; }
+    [[nodiscard]] std::size_t whole() const { return whole_.entryCount(); }
+
+  private:
+    void showFrom(std::size_t focused);
+    void sendMouse(QEvent::Type type, QPoint at, Qt::MouseButtons buttons);
+
+    ApplicationState state_;
+    Script whole_;
+    std::unique_ptr<MainWindow> window_;
+    std::unique_ptr<ScriptEditor> commands_;
+    QListView* list_ = nullptr;
+    std::unique_ptr<PaintWatch> watch_;
+};
+
+Editor::Editor(std::size_t entries) : whole_(typicalScript(state_.cipher)) {
+    whole_.entries.resize(entries);
+    const std::filesystem::path programs = pathFromQt(QCoreApplication::applicationDirPath());
+    if (state_.language.load({programs, programs, programs})) {
+        throw std::runtime_error("no language library beside the program");
+    }
+    state_.luCatalogues = buildLuCatalogues(state_.language.textSource());
+    state_.menuCommands = buildMenuCommandCatalogue(state_.language.textSource());
+    window_ = std::make_unique<MainWindow>(state_);
+    // Whoever edits an entry changes its text.
+    commands_ = std::make_unique<ScriptEditor>(
+        state_, *window_, [](const DialogContext&, const EditTarget& target) {
+            const SlotFields f = slotFields(target.entry, Slot::Entry);
+            setText(f, textOf(f) == "edited" ? "edited again" : "edited");
+            return true;
+        });
+    list_ = window_->findChild<QListView*>(QStringLiteral("scriptList"));
+    watch_ = std::make_unique<PaintWatch>(*list_->viewport());
+    window_->show();
+    window_->pane().takeFocus();
+    reset();
+}
+
+void Editor::reset() {
+    state_.script = state_.document.saved = whole_;
+    state_.history.clear();
+    showFrom(whole() / 2);
+}
+
+void Editor::shorten(std::size_t entries) {
+    state_.script.entries.resize(entries);
+    state_.document.saved = state_.script;
+    showFrom(entries / 2);
+}
+
+void Editor::showFrom(std::size_t focused) {
+    const std::size_t entries[] = {focused};
+    window_->pane().showScript({{}, -1});
+    window_->pane().selectEntries(entries, static_cast<int>(focused));
+    window_->scriptChanged();
+    waitUntilPainted();
+}
+
+void Editor::putOnClipboard(std::size_t entries) {
+    state_.entryClipboard.assign(whole_.entries.begin(),
+                                 whole_.entries.begin() + static_cast<std::ptrdiff_t>(entries));
+    window_->updateCommandStates();
+}
+
+void Editor::waitUntilPainted() {
+    list_->viewport()->update();
+    watch_->painted = false;
+    while (!watch_->painted) {
+        QCoreApplication::processEvents();
+    }
+}
+
+void Editor::drag(int rows) {
+    const QRect row = list_->visualRect(list_->currentIndex());
+    const QPoint from = row.center();
+    const QPoint to = from + QPoint(0, rows * row.height());
+    sendMouse(QEvent::MouseButtonPress, from, Qt::LeftButton);
+    sendMouse(QEvent::MouseMove, (from + to) / 2, Qt::LeftButton);
+    sendMouse(QEvent::MouseMove, to, Qt::LeftButton);
+    sendMouse(QEvent::MouseButtonRelease, to, Qt::NoButton);
+}
+
+void Editor::sendMouse(QEvent::Type type, QPoint at, Qt::MouseButtons buttons) {
+    const auto button = type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton;
+    QMouseEvent event(type, QPointF(at), QPointF(list_->viewport()->mapToGlobal(at)), button,
+                      buttons, Qt::NoModifier);
+    QCoreApplication::sendEvent(list_->viewport(), &event);
+}
+
+/// One thing that a user does: what has to be there before, and the doing up to the last command.
+struct Action {
+    const char* name;
+    std::function<void(Editor&)> prepare;
+    std::function<void(Editor&)> perform;
+    /// The number of entries of the script that must come of it.
+    std::size_t (*entriesAfter)(std::size_t whole);
+};
+
+void check(const Action& action, const Script& before, const Editor& editor) {
+    if (editor.script().entryCount() != action.entriesAfter(editor.whole()) ||
+        editor.script() == before) {
+        throw std::runtime_error(std::string(action.name) + " did not do what it should");
+    }
+}
+
+// Nearly half of the script: 2,000 of 4,096 entries.
+std::size_t many(std::size_t whole) {
+    return whole * 2000 / maxEntries;
+}
+
+std::vector<std::size_t> rowsAround(const Editor& editor, std::size_t step) {
+    const std::size_t middle = editor.whole() / 2;
+    const std::size_t count = many(editor.whole());
+    std::vector<std::size_t> rows(count);
+    for (std::size_t i = 0; i < count; ++i) {
+        rows[i] = middle + i * step - count / 2 * step;
+    }
+    return rows;
+}
+
+std::size_t allOf(std::size_t whole) {
+    return whole;
+}
+std::size_t noneOf(std::size_t) {
+    return 0;
+}
+std::size_t withoutMany(std::size_t whole) {
+    return whole - many(whole);
+}
+
+void deleteAll(Editor& editor) {
+    editor.selectAll();
+    editor.run(command::deleteEntries);
+}
+
+void preparePaste(Editor& editor) {
+    editor.putOnClipboard(many(editor.whole()));
+    editor.shorten(withoutMany(editor.whole()));
+}
+
+const std::vector<Action>& actions() {
+    const auto undo = [](Editor& editor) { editor.run(command::undo); };
+    const auto paste = [](Editor& editor) { editor.run(command::paste); };
+    const auto drag = [](Editor& editor) { editor.drag(-5); };
+    const auto selectEvery = [](std::size_t step) {
+        return
+            [step](Editor& editor) { editor.select(rowsAround(editor, step), editor.whole() / 2); };
+    };
+    static const std::vector<Action> all = {
+        {"edit", [](Editor&) {}, [](Editor& editor) { editor.run(command::editEntry); }, allOf},
+        {"deleteAll", [](Editor&) {}, deleteAll, noneOf},
+        {"undoDeleteAll", deleteAll, undo, allOf},
+        {"paste", preparePaste, paste, allOf},
+        {"undoPaste",
+         [paste](Editor& editor) {
+             preparePaste(editor);
+             paste(editor);
+         },
+         undo, withoutMany},
+        {"dragBlock", selectEvery(1), drag, allOf},
+        {"dragEverySecond", selectEvery(2), drag, allOf},
+    };
+    return all;
+}
+
+Editor& editorOf(std::size_t entries) {
+    static Editor few(fewEntries);
+    static Editor most(maxEntries);
+    return entries == fewEntries ? few : most;
+}
+
+void prepare(const Action& action, Editor& editor) {
+    editor.reset();
+    action.prepare(editor);
+    editor.waitUntilPainted();
+}
+
+void perform(const Action& action, Editor& editor) {
+    const Script before = editor.script();
+    action.perform(editor);
+    editor.waitUntilPainted();
+    check(action, before, editor);
+}
+
+void untilPainted(benchmark::State& state, const Action& action, Goal goal) {
+    static Editor untouched(maxEntries);
+    Editor& editor = editorOf(maxEntries);
+    comparePair(
+        state, [&] { untouched.repaintList(); }, [&] { perform(action, editor); },
+        [&] { prepare(action, editor); }, goal);
+}
+
+void growth(benchmark::State& state, const Action& action) {
+    Editor& few = editorOf(fewEntries);
+    Editor& most = editorOf(maxEntries);
+    comparePair(
+        state, [&] { perform(action, few); }, [&] { perform(action, most); },
+        [&] {
+            prepare(action, few);
+            prepare(action, most);
+        },
+        {.ratio = 5});
+}
+
+void registerAll() {
+    for (const Action& action : actions()) {
+        const bool isEdit = std::string_view(action.name) == "edit";
+        const Goal goal{.ratio = isEdit ? 1.7 : 0, .microseconds = frame};
+        const std::string name = action.name;
+        benchmark::RegisterBenchmark((name + "/painted").c_str(), [&action,
+                                                                   goal](benchmark::State& state) {
+            untilPainted(state, action, goal);
+        })->UseManualTime();
+        benchmark::RegisterBenchmark((name + "/4096_over_1024").c_str(),
+                                     [&action](benchmark::State& state) { growth(state, action); })
+            ->UseManualTime();
+    }
+}
+
+}  // namespace
+
+}  // namespace quendra::bench
+
+int main(int argc, char** argv) {
+    benchmark::Initialize(&argc, argv);
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QApplication application(argc, argv);
+    quendra::applyAppearance(quendra::Appearance::Light);
+    quendra::replaceMessageHandler(
+        [](QWidget*, const quendra::Message&) { return quendra::MessageAnswer::Yes; });
+    quendra::bench::registerAll();
+    benchmark::RunSpecifiedBenchmarks();
+}

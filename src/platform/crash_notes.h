@@ -1,0 +1,17 @@
+// The part of a core file that tells of threads and files rather than memory.
+#pragma once
+
+#include "platform/crash_mappings.h"
+#include "platform/crash_process.h"
+#include "platform/crash_record.h"
+
+#include <string>
+#include <vector>
+
+namespace quendra {
+
+/// The notes for a dump of `process`, those of the faulting thread first, as debuggers expect.
+[[nodiscard]] std::string crashNotes(const CrashRecord& record, const StoppedProcess& process,
+                                     const std::vector<Mapping>& mappings);
+
+}  // namespace quendra

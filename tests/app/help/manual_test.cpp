@@ -1,0 +1,92 @@
+// Contents, pages by language, and the search.
+#include "app/help/made_up_manual.h"
+
+#include <gtest/gtest.h>
+
+namespace quendra::test {
+
+namespace {
+
+// "Commands(Beep:beep.md Waiting(...))"
+std::string described(const std::vector<ContentsLine>& lines) {
+    std::string text;
+    for (const ContentsLine& line : lines) {
+        if (!text.empty()) text += ' ';
+        text += line.title.toStdString();
+        if (!line.page.isEmpty()) text += ':' + line.page.toStdString();
+        if (!line.lines.empty()) text += '(' + described(line.lines) + ')';
+    }
+    return text;
+}
+
+std::string pagesFound(Manual manual, const char* text) {
+    std::string pages;
+    for (const SearchHit& hit : manual.search(searchWords(QString::fromUtf8(text)))) {
+        pages += hit.page.toStdString() + ' ';
+    }
+    return pages;
+}
+
+TEST(ManualTest, ContentsFollowHeadingsAndLists) {
+    const MadeUpManual pages;
+    EXPECT_EQ(described(pages.read().contents()),
+              "Commands(Beep:beep.md Waiting(Wait_For:wait-for.md Wait:wait.md)) "
+              "Host types(Mainframe:mainframe.md(Keys:keys.md))");
+    EXPECT_EQ(described(pages.read("de").contents()), "Warten auf:wait-for.md Piepsen:beep.md");
+    pages.write("en/index.md",
+                "# T\n\nText.\n\n* [A](a.md)\n* Group\n  * **[B](b.md)** on b\n"
+                "* Empty group\n* [Site](https://quendra.example/)\n\n"
+                "## Nothing below\n");
+    EXPECT_EQ(described(pages.read().contents()), "A:a.md Group(B:b.md)");
+}
+
+TEST(ManualTest, TakesWhatALanguageLacksFromEnglish) {
+    const MadeUpManual pages;
+    const std::string folder = manualFolder(pages.bin()).lexically_normal().string();
+    const struct {
+        const char* language;
+        const char* page;
+        std::string file;
+    } rows[] = {
+        {"", "wait-for.md", "/en/wait-for.md"},
+        {"de", "wait-for.md", "/de/wait-for.md"},
+        {"de", "beep.md", "/en/beep.md"},
+        {"de_AT", "wait-for.md", "/de/wait-for.md"},
+        {"xx", "wait-for.md", "/en/wait-for.md"},
+        {"../en", "beep.md", "/en/beep.md"},
+        {"de", "nowhere.md", ""},
+        {"de", "../en/beep.md", ""},
+        {"de", "", ""},
+    };
+    for (const auto& [language, page, expected] : rows) {
+        const QString file = pages.read(language).fileOf(QLatin1String(page));
+        EXPECT_EQ(file.toStdString(), expected.empty() ? "" : folder + expected) << page;
+    }
+    EXPECT_EQ(pages.read("de").titleOf(QStringLiteral("mainframe.md")).toStdString(), "Mainframe");
+}
+
+TEST(ManualTest, FindsPagesWithEveryWordTitlesFirstAndShowsTheLineWithTheMost) {
+    const MadeUpManual pages;
+    const std::pair<const char*, const char*> rows[] = {
+        // The title, a heading, then the pages in order.
+        {"beep", "beep.md keys.md wait-for.md mainframe.md "},
+        {"BEEP Noise", "beep.md "},
+        {"timeout seconds", "wait-for.md wait.md "},
+        {"  wait_for  \"ready\" ", "wait-for.md "},
+        {"noise nowhere", ""},
+        {"zebra", ""},
+        {" ", ""},
+    };
+    for (const auto& [text, expected] : rows)
+        EXPECT_EQ(pagesFound(pages.read(), text), expected) << text;
+    EXPECT_EQ(pagesFound(pages.read("de"), "ähnliche"), "wait-for.md ");
+    EXPECT_EQ(pagesFound(pages.read("de"), "noise"), "beep.md ") << "an English page";
+    Manual manual = pages.read();
+    const auto hits = manual.search({QStringLiteral("wait_for"), QStringLiteral("text")});
+    ASSERT_EQ(hits.size(), 1U);
+    EXPECT_EQ(hits[0].title.toStdString(), "Wait_For");
+    EXPECT_EQ(hits[0].line.toStdString(), "Waits for a text on the screen.");
+}
+
+}  // namespace
+}  // namespace quendra::test

@@ -1,0 +1,159 @@
+// The log-on script of the examples, built from an empty window by keys alone.
+#include "desktop/editor_process.h"
+#include "hosts/menu_catalogue.h"
+#include "model/command_catalogue.h"
+
+#include <algorithm>
+
+namespace quendra::test {
+namespace {
+
+using Keys = std::vector<std::string>;
+
+// What is pressed while the window of this title has the focus.
+struct Step {
+    std::string window;
+    Keys keys;
+};
+
+std::size_t rowOf(CommandCode code) {
+    return static_cast<std::size_t>(std::ranges::distance(
+        scriptEvents().begin(), std::ranges::find(scriptEvents(), code, &ScriptEventInfo::code)));
+}
+
+std::size_t rowOfEnter() {
+    return NumberedNames().luFunctions.of(HostType::Mainframe).rowOf({4, 0}).value();
+}
+
+std::size_t variableRow(std::string_view name) {
+    return static_cast<std::size_t>(std::ranges::find(inputVariableNames, name) -
+                                    inputVariableNames.begin());
+}
+
+std::string downTo(std::size_t row) {
+    return "Down*" + std::to_string(row);
+}
+std::string downTo(CommandCode code) {
+    return downTo(rowOf(code));
+}
+
+class KeyboardTest : public EditorProcessTest {
+  protected:
+    // Moves the focus among the four lists: 0 is the script, then come the palettes.
+    void goToList(int list) {
+        const int steps = list - list_;
+        press({(steps > 0 ? "Tab*" : "shift+Tab*") + std::to_string(std::abs(steps))});
+        list_ = list;
+    }
+    void insert(int list, std::size_t row, const std::vector<Step>& steps) {
+        if (list != list_) goToList(list);
+        press({"Home", downTo(row), "Return"});
+        for (const Step& step : steps) {
+            waitForTitle(step.window);
+            press(step.keys);
+        }
+        waitForTitle(titleOf("", true));
+    }
+    void event(CommandCode code, const std::vector<Step>& steps = {}) {
+        insert(1, rowOf(code), steps);
+    }
+    // Its only parameter is a text.
+    void event(CommandCode code, const std::string& text) {
+        event(code, {{std::string(commandKeyword(code)), {"=" + text, "Return"}}});
+    }
+    void input(const char* prompt, const Keys& hide, std::size_t variable) {
+        event(CommandCode::Input,
+              {{"Input", {"=TSO logon", "alt+p", std::string("=") + prompt, "alt+m", "=8"}},
+               {"Input", hide},
+               {"Input", {"alt+o", "Home", downTo(variable), "Return"}}});
+    }
+    void enter() { insert(2, enterRow_, {}); }
+    void menu(std::uint32_t commandId, const std::vector<Step>& steps = {}) {
+        insert(3, commandId - firstMenuCommand, steps);
+    }
+
+    void buildFirstHalf();
+    void buildSecondHalf();
+    void expectSaved(const char* key, const char* typed, const char* script) const {
+        press({key});
+        waitForTitle("Save Script As");
+        press({typed, "Return"});
+        waitForTitle(titleOf(script));
+        EXPECT_EQ(readBytes(pathOf(script)), readBytes(QUENDRA_EXAMPLES "/tso-logon.qds"));
+    }
+
+  private:
+    int list_ = 0;
+    std::size_t enterRow_ = rowOfEnter();
+};
+
+void KeyboardTest::buildFirstHalf() {
+    const std::string toGoto = downTo(CommandCode::Goto);
+    event(CommandCode::Comment,
+          "Logs on to TSO, opens the editor and fetches last night's report.");
+    event(CommandCode::WaitFor, {{"Wait_For", {"=ENTER USERID", "alt+m", "Tab", "=30", "alt+n"}},
+                                 {"Wait_For Not Found Action", {"Home", toGoto, "Return"}},
+                                 {"Goto", {"=NoHost", "Return"}},
+                                 {"Wait_For", {"Return"}}});
+    input("Your TSO user id:", {"alt+m"}, variableRow("VarUserId"));
+    event(CommandCode::Type, "VarUserId");
+    enter();
+    event(CommandCode::WaitReady, {{"Wait_Ready", {"Return"}}});
+    event(CommandCode::Label, "AskPassword");
+    input("Your password (not shown):", {"alt+h"}, variableRow("VarPassword"));
+    event(CommandCode::IfInputIs,
+          {{"If_Input_Is", {"ctrl+a", "=VarPassword", "Tab", "ctrl+a", "=quit", "alt+e"}},
+           {"If_Input_Is Equal Action", {"Home", toGoto, "Return"}},
+           {"Goto", {"=Leave", "Return"}},
+           {"If_Input_Is", {"Return"}}});
+    event(CommandCode::SetCursor, {{"Set_Cursor", {"=8", "Tab", "=20", "Return"}}});
+    event(CommandCode::Type, "VarPassword");
+    enter();
+    event(CommandCode::WaitFor,
+          {{"Wait_For", {"=PASSWORD NOT AUTHORIZED", "alt+r", "=2", "alt+m", "Tab", "=3", "alt+f"}},
+           {"Wait_For Found Action", {"Home", toGoto, "Return"}},
+           {"Goto", {"=AskPassword", "Return"}},
+           {"Wait_For", {"Return"}}});
+}
+
+void KeyboardTest::buildSecondHalf() {
+    event(CommandCode::WatchFor,
+          {{"Watch_For", {"=***", "Tab*2", "Home", downTo(rowOfEnter()), "Return"}}});
+    event(CommandCode::WaitFor,
+          {{"Wait_For", {"=READY", "alt+m", "Tab", "=60", "alt+f"}},
+           {"Wait_For Found Action", {"Home", downTo(CommandCode::ClearWatch), "Return"}},
+           {"Wait_For", {"alt+n"}},
+           {"Wait_For Not Found Action", {"Home", downTo(CommandCode::Message), "Return"}},
+           {"Message", {"=TSO did not become ready within a minute.", "Return"}},
+           {"Wait_For", {"Return"}}});
+    menu(237, {{"File Transfer Settings",
+                {"alt+t", "alt+f", "='OPS.NIGHTLY.REPORT'", "alt+m", "=SUMMARY", "alt+n",
+                 "=C:\\Reports\\summary.txt", "Return"}}});
+    event(CommandCode::WaitReady, {{"Wait_Ready", {"Return"}}});
+    event(CommandCode::Type, "EDIT");
+    enter();
+    event(CommandCode::Return);
+    event(CommandCode::Label, "NoHost");
+    event(CommandCode::Beep);
+    event(CommandCode::Message, "The host does not answer. Is the line up?");
+    event(CommandCode::Label, "Leave");
+    menu(207);
+}
+
+TEST_F(KeyboardTest, BuildsTheLogOnScriptAndASecondStartReadsWhatWasSaved) {
+    {
+        const auto editor = open();
+        buildFirstHalf();
+        buildSecondHalf();
+        expectSaved("ctrl+s", "=logon", "logon.qds");
+        press({"alt+F4"});
+        EXPECT_EQ(editor->exitCode(), 0);
+    }
+    const auto again = open("logon.qds");
+    expectSaved("ctrl+shift+s", "=again.qds", "again.qds");
+    press({"ctrl+q"});
+    EXPECT_EQ(again->exitCode(), 0);
+}
+
+}  // namespace
+}  // namespace quendra::test

@@ -1,0 +1,159 @@
+// Random sequences of all editing operations, on entries with every kind of field: undone to the
+// start they give the bytes of the start, and redone those of the end.
+#include "model/editing.h"
+#include "model/fake_view.h"
+#include "scriptfile/script_reader.h"
+#include "scriptfile/script_writer.h"
+#include "support/fixtures.h"
+
+#include <gtest/gtest.h>
+#include <random>
+
+namespace quendra::test {
+namespace {
+
+// Host types differ in what they can store.
+std::vector<Bytes> filesOf(const Script& script) {
+    return {writeScript(script, HostType::Mainframe), writeScript(script, HostType::VT)};
+}
+
+class Sequence {
+  public:
+    // What sequences must have met to mean anything.
+    struct Met {
+        std::size_t states = 0;
+        bool hiddenText = false;
+        bool transfer = false;
+    };
+
+    Sequence(unsigned int seed, Met& met) : met_(met), random_(seed) {
+        state_.luCatalogues = names_.luFunctions;
+        state_.cipher = HiddenTextCipher(frozenIdentity());
+        state_.script = someScript();
+        view_.dialog = [this](ScriptEntry& entry) { return fillIn(entry); };
+        note();
+    }
+
+    void step() {
+        const ScriptView before = {state_.script, view_.selection};
+        selectSome();
+        operate();
+        const ScriptView after = {state_.script, view_.selection};
+        history_.record(before, after, "step");
+        if (after.script == before.script) return;
+        note();
+        selections_.emplace_back(before.selection, after.selection);
+    }
+
+    void expectEveryStateAgainBackwardsAndForwards() {
+        const std::vector<Bytes> end = files_.back();
+        ASSERT_EQ(filesOf(state_.script), end);
+        for (std::size_t i = files_.size() - 1; i > 0; --i) {
+            ASSERT_EQ(history_.undo(state_.script), selections_[i - 1].first);
+            ASSERT_EQ(filesOf(state_.script), files_[i - 1]) << "state " << i - 1;
+        }
+        ASSERT_FALSE(history_.undo(state_.script));
+        for (std::size_t i = 1; i < files_.size(); ++i) {
+            ASSERT_EQ(history_.redo(state_.script), selections_[i - 1].second);
+            ASSERT_EQ(filesOf(state_.script), files_[i]) << "state " << i;
+        }
+        ASSERT_FALSE(history_.redo(state_.script));
+        ASSERT_EQ(readScript(end.front()).script, state_.script) << "the file holds the script";
+    }
+
+  private:
+    [[nodiscard]] std::size_t below(std::size_t count) { return random_() % count; }
+    [[nodiscard]] Script someScript() {
+        return readScript(frozenCases()[below(frozenCases().size())].file).script;
+    }
+    [[nodiscard]] std::uint8_t someByte() { return static_cast<std::uint8_t>(random_()); }
+
+    void note() {
+        files_.push_back(filesOf(state_.script));
+        ++met_.states;
+    }
+
+    void selectSome() {
+        view_.selection = {};
+        for (std::size_t i = below(4); i < state_.script.entryCount(); i += 1 + below(5))
+            view_.selection.entries.push_back(i);
+        view_.selection.focused = static_cast<int>(below(state_.script.entryCount() + 1)) - 1;
+        const auto rows = [&](Palette palette, std::size_t count) {
+            view_.choose(palette, static_cast<int>(below(count + 1)) - 1);
+        };
+        rows(Palette::ScriptEvents, scriptEvents().size());
+        rows(Palette::LuFunctions, state_.luCatalogues.of(state_.currentHostType).rows.size());
+        // Every other menu command is a transfer.
+        rows(Palette::MenuCommands, 68);
+        if (below(2) == 0) view_.choose(Palette::MenuCommands, 35 + static_cast<int>(below(2)));
+        view_.agrees = below(4) != 0;
+    }
+
+    // A dialog that is answered with anything, also for actions.
+    bool fillIn(ScriptEntry& entry) {
+        static constexpr CommandCode actions[] = {CommandCode::Type, CommandCode::Goto,
+                                                  CommandCode::MenuCommand, CommandCode::Input};
+        if (below(5) == 0) return false;
+        for (const Slot slot : {Slot::Entry, Slot::Then, Slot::Else}) {
+            const SlotFields fields = slotFields(entry, slot);
+            if (slot != Slot::Entry) setCode(fields, actions[below(std::size(actions))]);
+            setText(fields, std::string(below(20), static_cast<char>('a' + below(26))));
+            setPrompt(fields, std::string(below(300), 'p'));
+            fields.hidden = static_cast<std::uint8_t>(below(2));
+            fields.maxLength = someByte();
+            fields.row = someByte();
+            fields.transferHost = static_cast<std::uint8_t>(below(3));
+            setTransferText(fields.transferSettings, transfer::pcFileName,
+                            std::to_string(random_()));
+            met_.hiddenText = met_.hiddenText || (isHiddenText(fields) && fields.textLength > 0);
+        }
+        met_.transfer = met_.transfer || isFileTransfer(entry.commandId);
+        return true;
+    }
+
+    void operate() {
+        switch (below(30)) {
+            case 0: state_.currentHostType = allHostTypes[below(allHostTypes.size())]; return;
+            case 1: moveOne(); return;
+            case 2: insertScript(state_, view_, someScript().entries); return;
+            default: break;
+        }
+        constexpr bool (*operations[])(EditingState&, EditingView&) = {
+            insertScriptEvent, insertLuFunction, insertMenuCommand, editCurrentEntry,
+            editCurrentEntry,  deleteEntries,    cutEntries,        pasteEntries};
+        const std::size_t operation = below(std::size(operations) + 1);
+        if (operation == std::size(operations)) return copyEntries(state_, view_);
+        operations[operation](state_, view_);
+    }
+    void moveOne() {
+        const std::size_t count = state_.script.entryCount();
+        if (count > 0)
+            moveEntries(state_.script, std::vector<EntryMove>{{below(count), below(count)}});
+    }
+
+    Met& met_;
+    std::mt19937 random_;
+    const NumberedNames names_;
+    EditingState state_;
+    FakeView view_;
+    UndoHistory history_;
+    std::vector<std::vector<Bytes>> files_;
+    /// Before and after each change.
+    std::vector<std::pair<EntrySelection, EntrySelection>> selections_;
+};
+
+TEST(EditingProperty, UndoneToTheStartGivesItsBytesAndRedoneThoseOfTheEnd) {
+    Sequence::Met met;
+    for (unsigned int seed = 0; seed < 40; ++seed) {
+        SCOPED_TRACE("seed " + std::to_string(seed));
+        Sequence sequence(seed, met);
+        for (int step = 0; step < 60; ++step)
+            sequence.step();
+        ASSERT_NO_FATAL_FAILURE(sequence.expectEveryStateAgainBackwardsAndForwards());
+    }
+    EXPECT_GT(met.states, 800U);
+    EXPECT_TRUE(met.hiddenText && met.transfer);
+}
+
+}  // namespace
+}  // namespace quendra::test

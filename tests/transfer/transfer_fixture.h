@@ -1,0 +1,39 @@
+// The sheet of the transfer settings, open on the working settings.
+#pragma once
+
+#include "dialogs/dialog_fixture.h"
+#include "platform/text_encoding.h"
+#include "transfer/file_transfer_settings.h"
+#include "transfer/transfer_sheet_page.h"
+
+namespace quendra::test {
+
+inline constexpr int settingsPage = 0;
+inline constexpr int advancedPage = 1;
+
+class TransferSheetTest : public DialogContextTest {
+  protected:
+    /// Opens the sheet on `host` and lets `work` do something with it; a sheet that is still open
+    /// behind that is cancelled. Gives the result, and the host system in `host`.
+    bool open(const std::function<void(const OpenDialog&)>& work) {
+        steps.in("transferSheet", [&work](const OpenDialog& d) {
+            work(d);
+            if (d.dialog->isVisible()) d.dialog->reject();
+        });
+        return steps.run([this] {
+            return editTransferSettings({state, nullptr}, host, TransferDirection::Send);
+        });
+    }
+    [[nodiscard]] std::string stored(const TransferField& field) const {
+        return utf8FromWindows1252(transferText(settings, field));
+    }
+    [[nodiscard]] std::uint32_t number(const TransferField& field) const {
+        return transferNumber(settings, field);
+    }
+
+    FileTransferSettings& settings = state.workingTransfer.settings;
+    std::uint8_t host = transferHostVmCms;
+    ModalSteps steps;
+};
+
+}  // namespace quendra::test
