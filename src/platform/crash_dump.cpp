@@ -12,6 +12,7 @@
 #include <cstring>
 #include <fcntl.h>
 #include <fstream>
+#include <iterator>
 #include <link.h>
 #include <memory>
 #include <sys/stat.h>
@@ -45,6 +46,20 @@ std::vector<Range> markedRanges(const StoppedProcess& process, std::uintptr_t li
         const auto start = reinterpret_cast<std::uintptr_t>(links.memory);
         ranges.push_back({start, start + links.size});
         next = reinterpret_cast<std::uintptr_t>(links.next);
+    }
+    return ranges;
+}
+
+// What calls that have returned left behind below the threads' stacks: old copies of anything.
+std::vector<Range> deadStacks(const std::vector<StoppedThread>& threads,
+                              const std::vector<Mapping>& mappings) {
+    std::vector<Range> ranges;
+    for (const StoppedThread& thread : threads) {
+        const std::optional<std::uintptr_t> end = endOfStack(thread.general);
+        const auto stack = std::ranges::find_if(mappings, [&](const Mapping& mapping) {
+            return end && mapping.start <= *end && *end < mapping.end;
+        });
+        if (stack != mappings.end()) ranges.push_back({stack->start, *end});
     }
     return ranges;
 }
@@ -201,7 +216,7 @@ std::string systemError() {
 
 std::optional<std::string> writeCrashDump(const CrashRecord& record,
                                           const std::filesystem::path& path) {
-    const StoppedProcess process(record.process);
+    StoppedProcess process(record.process);
     if (process.threads().empty()) return "the system does not let the process be looked into";
     ::unlink(path.c_str());
     Descriptor file(
@@ -210,8 +225,11 @@ std::optional<std::string> writeCrashDump(const CrashRecord& record,
 
     std::ifstream smaps("/proc/" + std::to_string(record.process) + "/smaps");
     const std::vector<Mapping> mappings = readMappings(smaps);
-    const auto core =
-        std::make_unique<CoreFile>(file.get(), process, markedRanges(process, record.secretMarks));
+    for (StoppedThread& thread : process.threads())
+        if (thread.id == record.thread) placeFaultRegisters(record.registers, thread.general);
+    std::vector<Range> secrets = markedRanges(process, record.secretMarks);
+    std::ranges::copy(deadStacks(process.threads(), mappings), std::back_inserter(secrets));
+    const auto core = std::make_unique<CoreFile>(file.get(), process, std::move(secrets));
     if (core->write(mappings, crashNotes(record, process, mappings)) && file.close()) {
         return std::nullopt;
     }

@@ -6,6 +6,7 @@
 #include <array>
 #include <atomic>
 #include <cerrno>
+#include <cstddef>
 #include <fcntl.h>
 #include <new>
 #include <sys/mman.h>
@@ -88,6 +89,7 @@ void dieOfSignal(siginfo_t* info) {
 
 void onFault(int /*signal*/, siginfo_t* info, void* context) {
     const int error = errno;
+    wipeVectorRegisters(*static_cast<const ucontext_t*>(context));
     if (reporting->inProgress.test_and_set()) {
         for (;;)
             ::sleep(waitSeconds);
@@ -109,21 +111,26 @@ void onFault(int /*signal*/, siginfo_t* info, void* context) {
 class SignalStack {
   public:
     SignalStack()
-        : memory_(mmap(nullptr, signalStackSize, PROT_READ | PROT_WRITE,
-                       MAP_PRIVATE | MAP_ANONYMOUS | MAP_STACK, -1, 0)) {
+        : memory_(static_cast<std::byte*>(mmap(nullptr, guardSize + signalStackSize,
+                                               PROT_READ | PROT_WRITE,
+                                               MAP_PRIVATE | MAP_ANONYMOUS | MAP_STACK, -1, 0))) {
         if (memory_ == MAP_FAILED) throw std::bad_alloc();
-        const stack_t stack = {.ss_sp = memory_, .ss_flags = 0, .ss_size = signalStackSize};
+        // Nobody else's memory then lies right below it.
+        mprotect(memory_, guardSize, PROT_NONE);
+        const stack_t stack = {
+            .ss_sp = memory_ + guardSize, .ss_flags = 0, .ss_size = signalStackSize};
         ::sigaltstack(&stack, &before_);
     }
     ~SignalStack() {
         ::sigaltstack(&before_, nullptr);
-        munmap(memory_, signalStackSize);
+        munmap(memory_, guardSize + signalStackSize);
     }
     SignalStack(const SignalStack&) = delete;
     SignalStack& operator=(const SignalStack&) = delete;
 
   private:
-    void* memory_;
+    static constexpr std::size_t guardSize = std::size_t{64} * 1024;
+    std::byte* memory_;
     stack_t before_ = {};
 };
 

@@ -93,10 +93,8 @@ std::string threadNotes(const StoppedThread& thread, const Status& process, int 
     status.pr_pgrp = process.group;
     status.pr_sid = process.session;
     std::memcpy(&status.pr_reg, &thread.general, sizeof(status.pr_reg));
-    status.pr_fpvalid = 1;
     std::string notes;
     addNote(notes, NT_PRSTATUS, bytesOf(status));
-    addNote(notes, NT_PRFPREG, bytesOf(thread.floating));
     return notes;
 }
 
@@ -125,9 +123,8 @@ std::string crashNotes(const CrashRecord& record, const StoppedProcess& process,
     const Status status = statusOf(folder);
     std::string faulting;
     std::string others;
-    for (StoppedThread thread : process.threads()) {
+    for (const StoppedThread& thread : process.threads()) {
         if (thread.id == record.thread) {
-            placeFaultRegisters(record.registers, thread.general, thread.floating);
             faulting = threadNotes(thread, status, record.signal.si_signo);
         } else {
             others += threadNotes(thread, status, 0);

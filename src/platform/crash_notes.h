@@ -10,7 +10,8 @@
 
 namespace quendra {
 
-/// The notes for a dump of `process`, those of the faulting thread first, as debuggers expect.
+/// The notes for a dump of `process`, those of the faulting thread first, as debuggers expect. They
+/// tell no floating-point and vector registers, through which strings and keys pass.
 [[nodiscard]] std::string crashNotes(const CrashRecord& record, const StoppedProcess& process,
                                      const std::vector<Mapping>& mappings);
 

@@ -53,7 +53,6 @@ std::optional<StoppedThread> stopThread(pid_t id) {
     StoppedThread thread;
     thread.id = id;
     if (!readRegisters(id, NT_PRSTATUS, thread.general)) return std::nullopt;
-    static_cast<void>(readRegisters(id, NT_PRFPREG, thread.floating));
     return thread;
 }
 

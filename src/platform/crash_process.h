@@ -15,7 +15,6 @@ namespace quendra {
 struct StoppedThread {
     pid_t id = 0;
     elf_gregset_t general = {};
-    elf_fpregset_t floating = {};
 };
 
 /// All threads of a process, stopped until this value goes; then they run on as if nothing had

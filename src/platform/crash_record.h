@@ -3,6 +3,7 @@
 
 #include <csignal>
 #include <cstdint>
+#include <optional>
 #include <sys/procfs.h>
 #include <sys/types.h>
 #include <type_traits>
@@ -19,7 +20,6 @@ struct FaultRegisters {
     bool isWrite = false;
     std::uintptr_t instruction = 0;
     elf_gregset_t general = {};
-    elf_fpregset_t floating = {};
 };
 
 /// Safe to call in a signal handler.
@@ -27,8 +27,16 @@ struct FaultRegisters {
 
 /// Puts registers of a fault over those that the thread has now, in the handler. What the system
 /// does not save for a handler (the bases of the segments) stays.
-void placeFaultRegisters(const FaultRegisters& fault, elf_gregset_t& general,
-                         elf_fpregset_t& floating);
+void placeFaultRegisters(const FaultRegisters& fault, elf_gregset_t& general);
+
+/// Where the stack of a thread with these registers ends: what lies below is left over from calls
+/// that have returned. None where the processor's registers are not known.
+[[nodiscard]] std::optional<std::uintptr_t> endOfStack(const elf_gregset_t& general);
+
+/// Clears the floating-point and vector registers that the system saved for a signal handler:
+/// strings and keys pass through them when they are copied, and stay. The thread goes on with
+/// zeros when its handler returns. Safe to call in a signal handler.
+void wipeVectorRegisters(const ucontext_t& context) noexcept;
 
 /// Travels as its bytes from one process to another of the same program.
 struct CrashRecord {

@@ -1,6 +1,7 @@
 #include "platform/crash_record.h"
+#include "platform/secret_memory.h"
 
-#include <bit>
+#include <cstddef>
 #include <cstring>
 #include <sys/user.h>
 
@@ -46,7 +47,6 @@ user_regs_struct generalRegisters(const gregset_t& saved) {
 
 FaultRegisters faultRegisters(const ucontext_t& context) noexcept {
     static_assert(sizeof(user_regs_struct) == sizeof(elf_gregset_t));
-    static_assert(sizeof(*context.uc_mcontext.fpregs) == sizeof(elf_fpregset_t));
     const gregset_t& saved = context.uc_mcontext.gregs;
     FaultRegisters fault;
     fault.known = true;
@@ -54,14 +54,10 @@ FaultRegisters faultRegisters(const ucontext_t& context) noexcept {
     fault.isWrite = saved[REG_TRAPNO] == pageFault && (saved[REG_ERR] & writeBit) != 0;
     const user_regs_struct general = generalRegisters(saved);
     std::memcpy(&fault.general, &general, sizeof(general));
-    if (context.uc_mcontext.fpregs) {
-        std::memcpy(&fault.floating, context.uc_mcontext.fpregs, sizeof(fault.floating));
-    }
     return fault;
 }
 
-void placeFaultRegisters(const FaultRegisters& fault, elf_gregset_t& general,
-                         elf_fpregset_t& floating) {
+void placeFaultRegisters(const FaultRegisters& fault, elf_gregset_t& general) {
     if (!fault.known) return;
     user_regs_struct now = {};
     user_regs_struct then = {};
@@ -74,7 +70,30 @@ void placeFaultRegisters(const FaultRegisters& fault, elf_gregset_t& general,
     then.fs = now.fs;
     then.gs = now.gs;
     std::memcpy(&general, &then, sizeof(then));
-    floating = fault.floating;
+}
+
+std::optional<std::uintptr_t> endOfStack(const elf_gregset_t& general) {
+    // A function that calls no other may use that many bytes below the pointer.
+    constexpr std::uintptr_t redZone = 128;
+    user_regs_struct registers = {};
+    std::memcpy(&registers, &general, sizeof(registers));
+    return registers.rsp - redZone;
+}
+
+void wipeVectorRegisters(const ucontext_t& context) noexcept {
+    // Behind the control words of the oldest part, and behind the header of the extended one, which
+    // ends with a mark that has to stay.
+    _libc_fpstate* const saved = context.uc_mcontext.fpregs;
+    if (!saved) return;
+    _fpx_sw_bytes extent = {};
+    constexpr std::size_t extentAt = sizeof(*saved) - sizeof(extent);
+    std::memcpy(&extent, reinterpret_cast<const std::byte*>(saved) + extentAt, sizeof(extent));
+    wipeMemory(saved->_st, sizeof(saved->_st) + sizeof(saved->_xmm));
+    constexpr std::size_t extendedAt = sizeof(*saved) + sizeof(_xsave_hdr);
+    if (extent.magic1 == FP_XSTATE_MAGIC1 && extent.xstate_size > extendedAt) {
+        wipeMemory(reinterpret_cast<std::byte*>(saved) + extendedAt,
+                   extent.xstate_size - extendedAt);
+    }
 }
 
 #else
@@ -83,8 +102,13 @@ FaultRegisters faultRegisters(const ucontext_t& /*context*/) noexcept {
     return {};
 }
 
-void placeFaultRegisters(const FaultRegisters& /*fault*/, elf_gregset_t& /*general*/,
-                         elf_fpregset_t& /*floating*/) {}
+void placeFaultRegisters(const FaultRegisters& /*fault*/, elf_gregset_t& /*general*/) {}
+
+std::optional<std::uintptr_t> endOfStack(const elf_gregset_t& /*general*/) {
+    return std::nullopt;
+}
+
+void wipeVectorRegisters(const ucontext_t& /*context*/) noexcept {}
 
 #endif
 

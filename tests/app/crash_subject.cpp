@@ -132,6 +132,27 @@ void dropCanariesAndFault() {
     fault();
 }
 
+// What calls that have returned left on the stack, and in registers that hardly any code uses.
+__attribute__((noinline)) void leaveCanariesOnStack() {
+    volatile char left[4096];
+    for (std::size_t i = 0; i < canaryLength; ++i)
+        left[sizeof(left) / 2 + i] = canaryCharacter(Canary::Hidden, i);
+}
+
+void leaveCanariesAndFault() {
+    leaveCanariesOnStack();
+#if defined(__x86_64__)
+    static const SecretPages secret(4096);
+    for (std::size_t i = 0; i < canaryLength; ++i)
+        secret.data()[i] = static_cast<std::uint8_t>(canaryCharacter(Canary::Hidden, i));
+    asm volatile("movdqu (%0), %%xmm14\n movdqu 16(%0), %%xmm15"
+                 :
+                 : "r"(secret.data())
+                 : "xmm14", "xmm15");
+#endif
+    fault();
+}
+
 // The editor with its real window and dialogs.
 struct Editor {
     explicit Editor(const std::filesystem::path& folder) {
@@ -203,6 +224,7 @@ const Ways ways = {
     {"sent", [](const auto&) { ::kill(::getpid(), SIGSEGV); }},
     {"threads", [](const auto&) { faultInTwoThreads(); }},
     {"dropped", [](const auto&) { dropCanariesAndFault(); }},
+    {"left", [](const auto&) { leaveCanariesAndFault(); }},
     {"typed", [](const auto& folder) { typeAndFault(folder, Hiding::BeforeTyping, In::Editor); }},
     {"hiddenLater",
      [](const auto& folder) { typeAndFault(folder, Hiding::AfterTyping, In::Editor); }},

@@ -117,6 +117,7 @@ const Way ways[] = {
     {"threads", SIGSEGV, "^Details = ", "faultByReading"},
     // Where copies of hidden texts may stay behind.
     {"dropped", SIGSEGV, "^Details = ", "faultByReading"},
+    {"left", SIGSEGV, "^Details = ", "faultByReading"},
     {"typed", SIGSEGV, "^Details = ", "faultByReading"},
     {"hiddenLater", SIGSEGV, "^Details = ", "faultByReading"},
     {"dialog", SIGSEGV, "^Details = ", "faultByReading"},
