@@ -59,9 +59,7 @@ TEST(CommandLine, IsRead) {
 }
 
 TEST(CommandLine, RefusesWhatItCannotMeanAndTellsHelpAndVersion) {
-    const Arguments rows[] = {
-        {"--nope"},         {"-e", "a.qds"},         {"-"}, {""}, {"/e"}, {"/e", ""}, {"/t1/e"},
-        {"a.qds", "b.qds"}, {"a.qds", "--", "b.qds"}};
+    const Arguments rows[] = {{"--nope"}, {"-e", "a.qds"}, {""}, {"/e"}, {"/t1/e"}, {"a", "b"}};
     for (const Arguments& arguments : rows)
         EXPECT_NE(parse(arguments).error, "") << testing::PrintToString(arguments);
     EXPECT_TRUE(parse({"--help"}).help);

@@ -187,10 +187,6 @@ TEST_F(PaneDragTest, WhileItRunsTheDragOwnsPointerAndKeyboard) {
     key(Qt::Key_Down);
     key(Qt::Key_A, Qt::ControlModifier);
     EXPECT_EQ(selected(), Rows{1}) << "nor do the rows on the way count";
-    const QPoint at = script->viewport()->rect().center();
-    QWheelEvent wheel(QPointF(at), QPointF(script->viewport()->mapToGlobal(at)), {}, {0, -480},
-                      Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
-    QApplication::sendEvent(script->viewport(), &wheel);
     QTest::mouseClick(window.windowHandle(), Qt::RightButton, {}, onRow(*script, 5));
     moveTo({60, 395});
     EXPECT_EQ(script->verticalScrollBar()->value(), 0);
@@ -215,7 +211,6 @@ TEST_F(PaneDragTest, EveryOtherEndIsAnEndWithoutADrop) {
         {"pane hidden", [&] { pane->hide(); }},
         {"list shown anew", [&] { pane->rebuildScriptList(); }},
         {"selection made anew", [&] { select({0}, 0); }},
-        {"keys shown anew", [&] { pane->refillLuPalette(); }},
     };
     for (const auto& [name, end] : ends) {
         SCOPED_TRACE(name);

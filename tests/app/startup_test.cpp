@@ -1,6 +1,8 @@
-// Where folders, flags and help settings come from, each case in a home folder of its own.
+// Where folders, flags and help settings come from, each case in a home folder of its own; and to
+// which help they lead.
 #include "app/startup.h"
 
+#include "app/help/configured_help.h"
 #include "support/temporary_folder.h"
 
 #include <fstream>
@@ -111,6 +113,9 @@ const FolderRow folderRows[] = {
     {"OtherDesktopModeIsWeb", "", cache, "", "tmp/q", noDesktop},
     {"ALongerNameIsNotWeb", "", "current", "", "tmpfiles/q"},
     {"ProtectedBelowLow", "", "tmp/Low/Quendra/6.1", "", "home/data/Low/Quendra/bin"},
+    {"ProtectedBelowLocalLow", "", "tmp/Low/Quendra/6.1", "", "home/data/LocalLow/Quendra"},
+    {"OtherNamesAreNotProtected", "", cache, "", "home/data/VeryLow/Quendra"},
+    {"NorIsAFolderFurtherDown", "", cache, "", "home/data/Low/b/Quendra"},
 };
 
 std::ptrdiff_t filesIn(const fs::path& folder) {
@@ -152,13 +157,6 @@ TEST(Startup, FindsAProgramThatLiesInACacheByAnotherName) {
     const StartupSettings settings = machine.start();
     EXPECT_EQ(settings.productKeyPath, "Software\\Quendra Web\\6.1");
     EXPECT_EQ(settings.installDir, machine.at("disk/Quendra/6.1")) << "in long form";
-}
-
-TEST(Startup, TellsProtectedFoldersByTheirNames) {
-    for (const char* folder : {"a/Low/Quendra/bin", "a/LocalLow/Quendra"})
-        EXPECT_TRUE(Machine(folder).start().protectedMode) << folder;
-    for (const char* folder : {"a/Low/Quendra2", "a/Low/b/Quendra", "a/VeryLow/Quendra"})
-        EXPECT_FALSE(Machine(folder).start().protectedMode) << folder;
 }
 
 TEST(Startup, FlagsTestTheFirstCharacterOnly) {
@@ -243,6 +241,48 @@ TEST(HelpSettings, ComeFromTheInstallationDirectoryElseTheWorkingDirectory) {
         EXPECT_EQ(settings.useWebHelp, useWebHelp);
         EXPECT_EQ(settings.webHelpBase, base);
         EXPECT_EQ(settings.helpFilePath, settings.installDir / "quendra.chm");
+    }
+}
+
+const std::string topic = "/qddp_hcon_qd-script-editor.htm#styler-id1.1.1.9.14.6.1";
+
+TEST(ConfiguredHelp, GivesWayToTheManualOnlyWhenThereIsNoneOrNothingStarts) {
+    const std::string web = "https://h.test/en/qd" + topic + ";";
+    // Web help or not, its address, whether there is a file, what starts (all else does not),
+    // whether something shows, and what was tried in order.
+    using Row = std::tuple<bool, const char*, bool, std::string, bool, std::string>;
+    const Row rows[] = {
+        {false, builtInWebHelpBase, false, "", false, ""},
+        {false, builtInWebHelpBase, true, "kchmviewer;", true, "kchmviewer;"},
+        {false, builtInWebHelpBase, true, "xchm;", true, "kchmviewer;xchm;"},
+        {false, "https://h.test", false, web, false, ""},
+        {true, "https://h.test", true, web, true, web},
+        {true, "https://h.test", true, "kchmviewer;", false, web},
+        {true, "", true, "/en/qd" + topic + ";", false, ""},
+        {true, builtInWebHelpBase, true, web, false, ""},
+    };
+    for (const auto& [useWebHelp, base, hasFile, starts, shown, expected] : rows) {
+        SCOPED_TRACE(testing::PrintToString(std::tuple(useWebHelp, base, hasFile, starts)));
+        const TemporaryFolder folder;
+        StartupSettings settings;
+        settings.useWebHelp = useWebHelp;
+        settings.webHelpBase = base;
+        settings.helpFilePath = folder / "-a \"b\" c.chm";
+        if (hasFile) std::ofstream(settings.helpFilePath) << "x";
+        std::string tried;
+        const auto start = [&, only = starts](const std::string& what) {
+            tried += what + ";";
+            return what + ";" == only;
+        };
+        const HelpLaunchers launchers = {
+            [&](const std::string& program, const std::vector<std::string>& arguments) {
+                EXPECT_EQ(arguments.back(), settings.helpFilePath) << "as one argument";
+                EXPECT_TRUE(program == "xchm" || arguments.at(1) == topic);
+                return start(program);
+            },
+            start};
+        EXPECT_EQ(showConfiguredHelp(settings, launchers), shown);
+        EXPECT_EQ(tried, expected);
     }
 }
 

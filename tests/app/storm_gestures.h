@@ -54,15 +54,6 @@ class Gestures {
         press(std::string(chance_.of(held)) + chance_.of(keys));
     }
 
-    void typeAhead() {
-        static constexpr const char* keys[] = {"W", "S", "1", "Space"};
-        PaneList& searched = anyList();
-        searched.setFocus();
-        // Forgets what was typed before, however long ago that was.
-        searched.keyboardSearch({});
-        press(chance_.of(keys));
-    }
-
     void drag(PaneList& source) {
         const QPoint to = chance_.oneIn(3) ? anywhere() : onSomeRow(list(3));
         const QPoint from = onSomeRow(source);
@@ -186,7 +177,6 @@ class Gestures {
     const std::vector<Kind> kinds_ = {
         {"click a row", 14, [this] { click(onSomeRow(anyList()), selecting()); }},
         {"walk by keys", 8, [this] { walk(); }},
-        {"type ahead", 3, [this] { typeAhead(); }},
         {"double-click", 12, [this] { doubleClick(chance_.oneIn(3) ? list(3) : palette()); }},
         {"Return", 8, [this] { pressIn(anyList(), "Return"); }},
         {"drag from a palette", 10, [this] { drag(palette()); }},

@@ -9,7 +9,6 @@
 
 #include <QDialog>
 #include <QListView>
-#include <QMessageBox>
 #include <QTimer>
 #include <QtTest>
 
@@ -159,16 +158,6 @@ TEST_F(EditorHelpTest, TheManualCanBeUsedWhileDialogsAreOpen) {
         QTest::mouseClick(dialog.findChild<QWidget*>(QStringLiteral("thenButton")), Qt::LeftButton);
     });
     EXPECT_EQ(state.script.entryCount(), 2U) << "the editor waited all the time";
-}
-
-TEST_F(EditorHelpTest, WindowsWithoutAPageAskForNothing) {
-    QMessageBox box(&window);
-    QTimer::singleShot(0, &box, [&] {
-        QTest::keyClick(box.windowHandle(), Qt::Key_F1);
-        EXPECT_EQ(manual(), nullptr);
-        box.reject();
-    });
-    box.exec();
 }
 
 }  // namespace
