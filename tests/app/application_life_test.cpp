@@ -89,9 +89,6 @@ TEST_F(ApplicationLife, ASavedScriptIsCopiedIntoTheBackupDirectoryElseNothingHap
     backupSavedScript(settings, folder / "link/login.qds");
     EXPECT_EQ(fileStamp(copies / "login.qds"), stamp)
         << "its own copy: the window would take it for a change by someone else";
-    settings.withSubfolders = false;
-    backupSavedScript(settings, saved);
-    EXPECT_EQ(readBytes(folder / "backup/login.qds"), bytesOf("new"));
     fs::remove_all(folder / "backup");
     backupSavedScript(settings, saved);
     EXPECT_FALSE(fs::exists(folder / "backup")) << "fails silently";

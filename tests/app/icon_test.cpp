@@ -26,20 +26,11 @@ double distance(const QImage& one, const QImage& other) {
     return sum;
 }
 
-std::vector<int> allIds() {
-    constexpr std::pair<int, int> ranges[] = {
-        {102, 103}, {110, 129}, {201, 268}, {300, 326}, {401, 403}};
-    std::vector<int> ids;
-    for (const auto& [first, last] : ranges)
-        for (int id = first; id <= last; ++id)
-            ids.push_back(id);
-    return ids;
-}
-
 TEST(IconTest, EveryIdDrawsAndNoTwoLookAlikeAtTheSmallestSize) {
     std::map<int, QImage> all;
-    for (const int id : allIds())
-        all[id] = drawn(id);
+    for (int id = 0; id < 1000; ++id)
+        if (!bitmapIcon(id).isNull()) all[id] = drawn(id);
+    EXPECT_EQ(all.size(), 120U);
     QImage nothing(16, 16, QImage::Format_ARGB32);
     nothing.fill(Qt::transparent);
     for (auto one = all.begin(); one != all.end(); ++one) {
@@ -49,8 +40,6 @@ TEST(IconTest, EveryIdDrawsAndNoTwoLookAlikeAtTheSmallestSize) {
             EXPECT_GT(distance(one->second, other->second), 8)
                 << one->first << " and " << other->first;
     }
-    for (const int id : {101, 104, 130, 269, 299, 327, 404})
-        EXPECT_TRUE(bitmapIcon(id).isNull()) << id;
 }
 
 }  // namespace

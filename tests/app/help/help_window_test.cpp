@@ -65,7 +65,10 @@ TEST_F(HelpWindowTest, ShowsAPageAndWhereItStandsInTheContents) {
     ASSERT_EQ(focused(), "helpPage") << "keys scroll at once";
     open("wait-for.md");
     EXPECT_NE(shown().find("Waits for a text"), std::string::npos);
-    EXPECT_EQ(widget<QTreeView>("helpContents").currentIndex().data().toString(), u"Wait_For");
+    const QModelIndex line = widget<QTreeView>("helpContents").currentIndex();
+    EXPECT_EQ(line.data().toString(), u"Wait_For");
+    EXPECT_EQ(line.parent().data().toString(), u"Waiting");
+    EXPECT_EQ(line.parent().parent().data().toString(), u"Commands");
     open("beep.md");
     widget<QWidget>("helpContents").setFocus();
     press(Qt::Key_Down);

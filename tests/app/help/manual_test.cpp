@@ -1,4 +1,4 @@
-// Contents, pages by language, and the search.
+// Pages by language, and the search.
 #include "app/help/made_up_manual.h"
 
 #include <QCoreApplication>
@@ -10,31 +10,11 @@ namespace quendra::test {
 
 namespace {
 
-// "Commands(Beep:beep.md Waiting(...))"
-std::string described(const std::vector<ContentsLine>& lines) {
-    std::string text;
-    for (const ContentsLine& line : lines) {
-        if (!text.empty()) text += ' ';
-        text += line.title.toStdString();
-        if (!line.page.isEmpty()) text += ':' + line.page.toStdString();
-        if (!line.lines.empty()) text += '(' + described(line.lines) + ')';
-    }
-    return text;
-}
-
 std::string pagesFound(Manual manual, const char* text) {
     std::string pages;
     for (const SearchHit& hit : manual.search(searchWords(QString::fromUtf8(text))))
         pages += hit.page.toStdString() + ' ';
     return pages;
-}
-
-TEST(ManualTest, ContentsFollowHeadingsAndLists) {
-    const MadeUpManual pages;
-    EXPECT_EQ(described(pages.read().contents()),
-              "Commands(Beep:beep.md Waiting(Wait_For:wait-for.md Wait:wait.md)) "
-              "Host types(Mainframe:mainframe.md(Keys:keys.md))");
-    EXPECT_EQ(described(pages.read("de").contents()), "Warten auf:wait-for.md Piepsen:beep.md");
 }
 
 TEST(ManualTest, TakesWhatALanguageLacksFromEnglish) {
