@@ -31,10 +31,8 @@ TEST(CommandLine, IsRead) {
     } rows[] = {
         {{"/e", "/srv/new.qds"}, "/srv/new.qds", {}},
         {{"/elogin.qds"}, "login.qds", {}},
-        {{"/e", "--help"}, "--help", {}},
         {{"/e", "/t1"}, "/t1", {}},
         {{"/Elogin.qds"}, "/Elogin.qds", {}},
-        {{"/t3"}, "", {}},
         {{"/t", "login.qds"}, "login.qds", {}},
         {{"/t1", "/e", "a.qds"}, "a.qds", iSeries},
         {{"a.qds", "/t1"}, "a.qds", iSeries},

@@ -94,7 +94,6 @@ const FolderRow folderRows[] = {
     {"Type3", key("WorkingDirType=3"), "current", "home/data/Quendra"},
     {"Type4", key("WorkingDirType=4"), "current", "lib/Quendra"},
     {"Type5IsNoKey", machineDir + "WorkingDirType=5\n", "current"},
-    {"MalformedTypeIs0", machineDir + "WorkingDirType=hex:01,00\n", "current", "w"},
     {"Type0HasNoVersion", machineDir, "current", "w", "opt/bin", versions},
     {"Type4Version", key("WorkingDirType=4"), "current", "lib/Quendra/6.1", "opt/bin", versions},
     {"UserKeyAloneIsNotRead", "", "current", "", "opt/bin", userKey("")},
@@ -159,26 +158,16 @@ TEST(Startup, FindsAProgramThatLiesInACacheByAnotherName) {
     EXPECT_EQ(settings.installDir, machine.at("disk/Quendra/6.1")) << "in long form";
 }
 
-TEST(Startup, FlagsTestTheFirstCharacterOnly) {
-    const std::tuple<const char*, bool, bool> rows[] = {{"yes, please", true, true},
-                                                        {"\"Y\"", true, true},
-                                                        {"no", false, false},
-                                                        {"1", false, true},
-                                                        {"", false, true}};
-    for (const auto& [value, appendVersion, interop] : rows) {
-        SCOPED_TRACE(value);
+TEST(Startup, TheProgramsFlagsAreReadBesideItBeforeAnythingIsMade) {
+    for (const bool interop : {true, false}) {
         const Machine machine;
         machine.write(machineRegistry, machineDir);
-        machine.write("opt/bin/global.ini", std::string("[quendra]\nappendversiontoworkingdir=") +
-                                                value + "\nAllowCrossVersionInterop=" + value);
-        // What stands beside the current folder counts for nothing.
-        machine.write("current/global.ini", "[Quendra]\nAllowCrossVersionInterop=N\n");
+        machine.write(interop ? "current/global.ini" : "opt/bin/global.ini",
+                      "[quendra]\nallowcrossversioninterop=no, never\n");
         const StartupSettings settings = readProgramSettings(machine.inputs);
-        EXPECT_EQ(settings.appendVersion, appendVersion);
-        EXPECT_EQ(settings.crossVersionInterop, interop);
         EXPECT_EQ(settings.windowClassName,
                   interop ? "Quendra Script Editor" : "Quendra Script Editor 6.1");
-        EXPECT_FALSE(fs::exists(machine.at("w"))) << "read before anything is made";
+        EXPECT_FALSE(fs::exists(machine.at("w")));
     }
 }
 
@@ -284,6 +273,9 @@ TEST(ConfiguredHelp, GivesWayToTheManualOnlyWhenThereIsNoneOrNothingStarts) {
         EXPECT_EQ(showConfiguredHelp(settings, launchers), shown);
         EXPECT_EQ(tried, expected);
     }
+    StartupSettings relative;
+    relative.helpFilePath = "-x.chm";
+    EXPECT_EQ(helpViewerCommands(relative).at(1).arguments.at(0).front(), '/') << "no option";
 }
 
 }  // namespace

@@ -76,10 +76,6 @@ TEST_F(EditorHelpTest, HelpOpensTheManualOfAPlainInstallationAndLeavesTheFocusIn
     EXPECT_EQ(page(), "index.md");
     EXPECT_EQ(focused(), "menuCommandsPalette");
     EXPECT_TRUE(started.empty());
-    HelpWindow* first = manual();
-    first->close();
-    run(319);
-    EXPECT_EQ(manual(), first) << "one window for the whole run";
 }
 
 TEST_F(EditorHelpTest, HelpStartsWhatIsInstalledElseTheManualInTheLanguageOfTheInterfaceOpens) {

@@ -95,14 +95,6 @@ TEST_F(HelpWindowTest, LinksLeadToPagesHeadingsAndOutOfTheManual) {
     EXPECT_TRUE(view().viewport()->rect().contains(view().cursorRect(options).center()));
 }
 
-TEST_F(HelpWindowTest, SaysThatThereIsNoManual) {
-    const TemporaryFolder folder;
-    HelpWindow empty(Manual(folder / "my_manual", ""), editor.state.language, {});
-    empty.open(QLatin1String(Manual::startPage));
-    const auto text = empty.findChild<PageView*>()->toPlainText().toStdString();
-    EXPECT_NE(text.find((folder / "my_manual").string()), std::string::npos) << text;
-}
-
 TEST_F(HelpWindowTest, SearchesWhileOneTypes) {
     search("beep");
     const QAbstractItemModel& results = *widget<QListView>("helpResults").model();
