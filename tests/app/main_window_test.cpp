@@ -2,7 +2,6 @@
 #include "app/command_states.h"
 #include "app/commands.h"
 #include "app/editor_fixture.h"
-#include "hosts/host_type.h"
 
 #include <QAccessible>
 #include <QApplication>

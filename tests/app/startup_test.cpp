@@ -56,6 +56,7 @@ class Machine {
         std::ofstream(at(name)) << text;
     }
     [[nodiscard]] StartupSettings start() const { return readStartupSettings(inputs); }
+
     StartupInputs inputs;
 
   private:

@@ -45,6 +45,7 @@ class Gestures {
         std::size_t weight;
         std::function<void()> make;
     };
+
     void walk() {
         static constexpr const char* keys[] = {"Up",   "Down",   "Home", "End",
                                                "PgUp", "PgDown", "Tab"};
