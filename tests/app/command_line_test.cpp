@@ -11,8 +11,8 @@ namespace {
 using Arguments = std::vector<std::string>;
 
 // What is there; everything else is not.
-const std::set<std::string> folders = {"/", "/etc", "/e", "/tmp", "/home/eve"};
-const std::set<std::string> files = {"/e/mine.qds", "/t2", "/etc/passwd", "/escript"};
+const std::set<std::string> folders = {"/", "/etc", "/e", "/home/eve"};
+const std::set<std::string> files = {"/e/mine.qds", "/t2", "/escript"};
 
 CommandLine parse(const Arguments& arguments) {
     return parseCommandLine(arguments, [](const std::filesystem::path& path) {
@@ -29,29 +29,20 @@ TEST(CommandLine, IsRead) {
         std::string script;
         std::optional<HostType> hostType;
     } rows[] = {
-        {{"/home/eve/t1/e x.qds"}, "/home/eve/t1/e x.qds", {}},
         {{"/e", "/srv/new.qds"}, "/srv/new.qds", {}},
         {{"/elogin.qds"}, "login.qds", {}},
-        {{"/e/home/x/y.qds"}, "/home/x/y.qds", {}},
-        {{"/e", "--help"}, "--help", {}},
         {{"/e", "/t1"}, "/t1", {}},
         {{"/Elogin.qds"}, "/Elogin.qds", {}},
-        {{"/t3"}, "", {}},
         {{"/t", "login.qds"}, "login.qds", {}},
         {{"/t1", "/e", "a.qds"}, "a.qds", iSeries},
         {{"a.qds", "/t1"}, "a.qds", iSeries},
         {{"/t2/ea.qds"}, "a.qds", HostType::VT},
         {{"/t1/e/home/x/a.qds"}, "/home/x/a.qds", iSeries},
-        {{"/t1/e", "a.qds"}, "a.qds", iSeries},
-        {{"/t3/ea.qds"}, "a.qds", {}},
         {{"/t1", "/t9"}, "", iSeries},
-        {{"/t9", "/t1"}, "", {}},
         // What is there, or could be made in a folder that is, is no option.
         {{"/e/mine.qds"}, "/e/mine.qds", {}},
         {{"/escript"}, "/escript", {}},
-        {{"/e", "a.qds"}, "a.qds", {}},
         {{"/etc/new.qds"}, "/etc/new.qds", {}},
-        {{"/tmp/new.qds"}, "/tmp/new.qds", {}},
         {{"/t2"}, "/t2", {}},
         {{"--", "--help"}, "--help", {}},
         {{"/t1", "--", "/t1"}, "/t1", iSeries},
@@ -62,27 +53,17 @@ TEST(CommandLine, IsRead) {
         EXPECT_EQ(line.error, "");
         EXPECT_EQ(line.script, row.script);
         EXPECT_EQ(line.hostType, row.hostType);
-        EXPECT_FALSE(line.help || line.version);
     }
 }
 
-TEST(CommandLine, RefusesWhatItCannotMean) {
-    // clang-format off
-    const Arguments rows[] = {
-        {"--nope"}, {"-e", "a.qds"}, {"-"}, {""}, {"/e"}, {"/e", ""}, {"/t1/e"},
-        {"a.qds", "b.qds"}, {"/ea.qds", "b.qds"}, {"a.qds", "--", "b.qds"}};
-    // clang-format on
+TEST(CommandLine, RefusesWhatItCannotMeanAndTellsHelpAndVersion) {
+    const Arguments rows[] = {{"--nope"}, {"-e", "a.qds"}, {""}, {"/e"}, {"/t1/e"}, {"a", "b"}};
     for (const Arguments& arguments : rows)
         EXPECT_NE(parse(arguments).error, "") << testing::PrintToString(arguments);
-}
-
-TEST(CommandLine, TellsHelpAndVersionAndLooksAtTheRealDisk) {
     EXPECT_TRUE(parse({"--help"}).help);
     EXPECT_TRUE(parse({"--version", "a.qds"}).version);
     EXPECT_NE(versionText().find("6.1.4.1982"), std::string::npos);
-    EXPECT_EQ(parseCommandLine(Arguments{"/etc/no-such-script.qds"}).script,
-              "/etc/no-such-script.qds");
-    EXPECT_EQ(fileTypeAt("/"), std::filesystem::file_type::directory);
+    EXPECT_EQ(parseCommandLine(Arguments{"/etc/no.qds"}).script, "/etc/no.qds") << "the real disk";
 }
 
 }  // namespace

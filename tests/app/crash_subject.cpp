@@ -22,11 +22,9 @@
 #include <algorithm>
 #include <barrier>
 #include <csignal>
-#include <cstdio>
 #include <cstdlib>
 #include <cstring>
 #include <map>
-#include <sys/mman.h>
 #include <thread>
 
 // Where the debugger has to find the faults, by these names.
@@ -39,17 +37,6 @@ __attribute__((noinline, no_sanitize("undefined"))) int faultByReading(const vol
 
 __attribute__((noinline)) void faultByWriting(volatile int* place) {
     *place = 1;
-}
-
-__attribute__((noinline)) int faultByDividing(int number, int by) {
-    // The compiler's own division would be caught by a sanitizer.
-#if defined(__x86_64__)
-    int high = 0;
-    asm volatile("idivl %2" : "+a"(number), "+d"(high) : "r"(by) : "cc");
-    return number;
-#else
-    return number / by;
-#endif
 }
 
 __attribute__((noinline)) void faultByInstruction() {
@@ -92,14 +79,6 @@ void faultInTwoThreads() {
     second.join();
 }
 
-// A page that nobody can get, because the file behind it has ended.
-void faultBehindTheEnd() {
-    std::FILE* file = std::tmpfile();
-    if (!file) return;
-    auto* page = static_cast<int*>(mmap(nullptr, 4096, PROT_READ, MAP_SHARED, ::fileno(file), 0));
-    faultByReading(page);
-}
-
 // What the search of the test has to find, in both encodings, and must not.
 void keepCanaries() {
     static std::string bytes;
@@ -125,7 +104,7 @@ void dropCanariesAndFault() {
                 block[size / 2 + i] = canaryCharacter(Canary::Hidden, i);
         // Its neighbour is in the way.
         blocks[0] = static_cast<char*>(std::realloc(blocks[0], 8 * size));
-        std::memset(blocks[0], 0, 8 * size);
+        ::explicit_bzero(blocks[0], 8 * size);
         for (char* block : blocks)
             std::free(block);
     }
@@ -153,82 +132,62 @@ void leaveCanariesAndFault() {
     fault();
 }
 
-// The editor with its real window and dialogs.
-struct Editor {
-    explicit Editor(const std::filesystem::path& folder) {
-        StartupSettings settings;
-        settings.programDir = pathFromQt(QCoreApplication::applicationDirPath());
-        settings.workingDir = settings.installDir = settings.configDir = folder;
-        settings.scriptsDir = settings.transferDir = folder;
-        static_cast<void>(loadApplication(state, settings, {}));
-        window.emplace(state);
-        editor.emplace(state, *window, editParameters);
-        window->show();
-        QApplication::setActiveWindow(&*window);
-    }
-
-    ApplicationState state;
-    std::optional<MainWindow> window;
-    std::optional<ScriptEditor> editor;
-};
-
-enum class Hiding { BeforeTyping, AfterTyping };
-
 // In the dialog of a new Type entry: types the canary as a hidden text.
-void typeHiddenText(Hiding hiding) {
+void typeHiddenText(bool hideFirst) {
     auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
     if (!dialog) std::_Exit(3);
     auto* hide = dialog->findChild<QCheckBox*>(QStringLiteral("hide"));
     auto* edit = dialog->findChild<QLineEdit*>(QStringLiteral("text"));
-    if (!hide || !edit) std::_Exit(4);
-    if (hiding == Hiding::BeforeTyping) hide->click();
+    if (hideFirst) hide->click();
     for (std::size_t i = 0; i < canaryLength; ++i) {
         const QString character{QLatin1Char(canaryCharacter(Canary::Hidden, i))};
         QTest::sendKeyEvent(QTest::Click, edit, Qt::Key_unknown, character, Qt::NoModifier);
     }
-    if (hiding == Hiding::AfterTyping) hide->click();
+    if (!hideFirst) hide->click();
     QApplication::processEvents();
-    if (edit->text().size() != static_cast<int>(canaryLength)) std::_Exit(5);
+    if (edit->text().size() != static_cast<int>(canaryLength)) std::_Exit(4);
 }
 
-enum class In { Dialog, Editor };
-
-void typeAndFault(const std::filesystem::path& folder, Hiding hiding, In place) {
-    Editor editor(folder);
-    auto* palette = editor.window->findChild<QListView*>(QStringLiteral("scriptEventsPalette"));
+// In the editor with its real window and dialogs.
+void typeAndFault(const std::filesystem::path& folder, bool hideFirst, bool inDialog) {
+    StartupSettings settings;
+    settings.programDir = pathFromQt(QCoreApplication::applicationDirPath());
+    settings.workingDir = settings.installDir = settings.configDir = folder;
+    ApplicationState state;
+    static_cast<void>(loadApplication(state, settings, {}));
+    MainWindow window(state);
+    const ScriptEditor editor(state, window, editParameters);
+    window.show();
+    QApplication::setActiveWindow(&window);
+    auto* palette = window.findChild<QListView*>(QStringLiteral("scriptEventsPalette"));
     const auto type = std::ranges::find(scriptEvents(), CommandCode::Type, &ScriptEventInfo::code);
     const auto row = static_cast<int>(type - scriptEvents().begin());
     palette->setCurrentIndex(palette->model()->index(row, 0));
     QTimer::singleShot(0, palette, [&] {
-        typeHiddenText(hiding);
-        if (place == In::Dialog) fault();
+        typeHiddenText(hideFirst);
+        if (inDialog) fault();
         QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Return);
     });
-    editor.window->runCommand(command::insertScriptEvent);
-    if (editor.state.script.entryCount() != 1) std::_Exit(6);
+    window.runCommand(command::insertScriptEvent);
+    if (state.script.entryCount() != 1) std::_Exit(5);
     QApplication::processEvents();
     fault();
 }
 
-using Ways = std::map<std::string, std::function<void(const std::filesystem::path&)>>;
-
-const Ways ways = {
+const std::map<std::string, std::function<void(const std::filesystem::path&)>> ways = {
     {"read", [](const auto&) { fault(); }},
     {"write", [](const auto&) { faultByWriting(nowhere(0x10)); }},
     {"noncanonical", [](const auto&) { faultByReading(nowhere(0x8000000000000000)); }},
-    {"divide", [](const auto&) { faultByDividing(1, 0); }},
     {"instruction", [](const auto&) { faultByInstruction(); }},
-    {"page", [](const auto&) { faultBehindTheEnd(); }},
     {"abort", [](const auto&) { std::abort(); }},
     {"recursion", [](const auto&) { faultByRecursion(0); }},
     {"sent", [](const auto&) { ::kill(::getpid(), SIGSEGV); }},
     {"threads", [](const auto&) { faultInTwoThreads(); }},
     {"dropped", [](const auto&) { dropCanariesAndFault(); }},
     {"left", [](const auto&) { leaveCanariesAndFault(); }},
-    {"typed", [](const auto& folder) { typeAndFault(folder, Hiding::BeforeTyping, In::Editor); }},
-    {"hiddenLater",
-     [](const auto& folder) { typeAndFault(folder, Hiding::AfterTyping, In::Editor); }},
-    {"dialog", [](const auto& folder) { typeAndFault(folder, Hiding::BeforeTyping, In::Dialog); }},
+    {"typed", [](const auto& folder) { typeAndFault(folder, true, false); }},
+    {"hiddenLater", [](const auto& folder) { typeAndFault(folder, false, false); }},
+    {"dialog", [](const auto& folder) { typeAndFault(folder, true, true); }},
 };
 
 }  // namespace

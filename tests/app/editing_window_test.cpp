@@ -1,10 +1,13 @@
-// Editing as its user does it: palettes, keys and the mouse on the real window, with prepared
-// answers for the dialogs.
+// Editing and finding as a user does it: palettes, keys and the mouse on the real window, with
+// prepared answers for the dialogs.
 #include "app/editor_fixture.h"
 
 #include <QApplication>
 #include <QClipboard>
+#include <QLabel>
+#include <QLineEdit>
 #include <QTest>
+#include <QToolButton>
 #include <QWindow>
 
 namespace quendra::test {
@@ -18,12 +21,6 @@ DialogAnswer typing(const std::string& text, bool hidden = false) {
         return true;
     };
 }
-
-const DialogAnswer cancelling = [](ScriptEntry&) { return false; };
-const DialogAnswer accepting = [](ScriptEntry&) { return true; };
-
-constexpr int commentRow = 2;
-constexpr int typeRow = 14;
 
 class EditingWindowTest : public EditorTest {
   protected:
@@ -41,13 +38,19 @@ class EditingWindowTest : public EditorTest {
         QTest::keyClick(&in, key, held);
         QApplication::processEvents();
     }
-    void drag(QPoint from, QPoint to) {
+    void dragToTop(const PaneList& from, int row) {
         QWindow* handle = window.windowHandle();
-        QTest::mousePress(handle, Qt::LeftButton, {}, from);
-        QTest::mouseMove(handle, from + (to - from) / 2);
-        QTest::mouseMove(handle, to);
-        QTest::mouseRelease(handle, Qt::LeftButton, {}, to);
+        QTest::mousePress(handle, Qt::LeftButton, {}, onRow(from, row));
+        QTest::mouseMove(handle, onRow(script(), 1));
+        QTest::mouseMove(handle, onRow(script(), 0));
+        QTest::mouseRelease(handle, Qt::LeftButton, {}, onRow(script(), 0));
         QApplication::processEvents();
+    }
+    /// Inserts a Type entry with a hidden text.
+    void insertHidden(const std::string& text) {
+        choosePaletteRow("scriptEventsPalette", 14);
+        toDialogs = {typing(text, true)};
+        run(308);
     }
     [[nodiscard]] std::string menuText(int command) { return action(command).text().toStdString(); }
 };
@@ -65,77 +68,61 @@ TEST_F(EditingWindowTest, EachPaletteInsertsByCommandDoubleClickReturnAndDrop) {
         doubleClick(palette, 0);
         EXPECT_TRUE(palette.hasFocus()) << "the next insert needs no click more";
         press(palette, Qt::Key_Return);
-        drag(onRow(palette, 0), onRow(script(), 0));
+        dragToTop(palette, 0);
         expectScript(line + "1|" + line + line + line + "2|3", {0}, 0);
         EXPECT_TRUE(isMarked());
         state.document.modified = false;
     }
 }
 
-TEST_F(EditingWindowTest, ReturnAndDoubleClickEditTheEntry) {
-    open("a.qds", commentFile(2));
+TEST_F(EditingWindowTest, ReturnAndDoubleClickEditTheEntryOrAskForTheRowThatReplacesIt) {
+    open("a.qds", scriptFile("QDMDSCR=", {commentRecord("1"), commentRecord("2"), Bytes{4}}));
     select({1}, 1);
-    toDialogs = {cancelling, accepting, typing("two"), accepting, typing("one")};
+    toDialogs = {[](ScriptEntry&) { return false; }, [](ScriptEntry&) { return true; },
+                 typing("two"), typing("one")};
     run(311);
     run(311);
     EXPECT_FALSE(isMarked());
     EXPECT_FALSE(isEnabled(321)) << "Cancel, and an OK that changes nothing, are no steps";
     press(script(), Qt::Key_Return);
-    expectScript("1|two", {1}, 1);
+    expectScript("1|two|Beep", {1}, 1);
     EXPECT_TRUE(isMarked());
-    run(311);
     EXPECT_EQ(menuText(321), "&Undo Edit Entry");
     run(321);
     doubleClick(script(), 0);
-    EXPECT_EQ(lines(), "one|2");
-}
-
-TEST_F(EditingWindowTest, ReplacingAsksInTheStatusBarForTheRowThatItNeeds) {
-    open("a.qds", scriptFile("QDMDSCR=", {Bytes{4}, menuRecord(201)}));
-    doubleClick(script(), 1);
-    EXPECT_NE(status().find("Menu Commands"), std::string::npos) << status();
-    doubleClick(script(), 0);
+    EXPECT_EQ(lines(), "one|2|Beep");
+    doubleClick(script(), 2);
     EXPECT_NE(status().find("Script Events"), std::string::npos) << status();
-    EXPECT_FALSE(isMarked());
-    choosePaletteRow("scriptEventsPalette", commentRow);
-    toDialogs = {typing("x")};
-    run(311);
-    EXPECT_TRUE(lines().starts_with("x|")) << lines();
-    EXPECT_EQ(status(), "2 entries");
 }
 
-TEST_F(EditingWindowTest, VtRefusalAndHiddenTextThatIsTooLongAreToldInABox) {
-    open("a.qds", scriptFile("QDVTSCR=", {commentRecord("1")}));
-    choosePaletteRow("menuCommandsPalette", 12);
-    run(310);
-    ASSERT_EQ(answers.messages.size(), 1U);
-    EXPECT_EQ(answers.messages[0].text, state.language.loadText(13732));
-    EXPECT_EQ(answers.messages[0].title, state.language.loadText(13733));
-    EXPECT_EQ(answers.messages[0].icon, MessageIcon::Information);
-    choosePaletteRow("scriptEventsPalette", typeRow);
-    toDialogs = {typing(std::string(247, 's'), true)};
-    run(308);
-    ASSERT_EQ(answers.messages.size(), 2U);
-    const std::string& text = answers.messages[1].text;
+TEST_F(EditingWindowTest, HiddenTextsAreShownNowhere) {
+    open("a.qds", commentFile(1));
+    insertHidden(std::string(247, 's'));
+    const std::string& text = answers.messages.at(0).text;
     EXPECT_NE(text.find("\n\nType \"***"), std::string::npos) << text;
-    EXPECT_EQ(text.find("sss"), std::string::npos) << "a refusal must not show the secret";
+    EXPECT_EQ(text.find("sss"), std::string::npos) << "nor in the refusal of one that is too long";
     EXPECT_EQ(lines(), "1");
     EXPECT_FALSE(isMarked());
+    insertHidden("secret");
+    select({0, 1}, 1);
+    run(324);
+    EXPECT_EQ(QGuiApplication::clipboard()->text(), QStringLiteral("1\nType \"******\" (H)\n"));
+    EXPECT_TRUE(state.entryClipboard.empty()) << "the entries' own clipboard is another one";
+    run(323);
+    QTest::keyClicks(&widget<QLineEdit>("findText"), QStringLiteral("secret"));
+    EXPECT_EQ(widget<QLabel>("findCount").text(), QStringLiteral("Not found"));
 }
 
 TEST_F(EditingWindowTest, UndoAndRedoNameTheirStepsAndBringSelectionBack) {
     open("a.qds", commentFile(5));
-    EXPECT_EQ(menuText(321), "&Undo");
     select({0, 2, 3}, 2);
     answers.toMessages = {MessageAnswer::No, MessageAnswer::Yes};
     press(script(), Qt::Key_Delete);
     EXPECT_EQ(answers.messages.back().text, "Delete 3 entries?");
-    EXPECT_EQ(answers.messages.back().title, state.language.loadText(13224));
-    EXPECT_EQ(answers.messages.back().buttons, MessageButtons::YesNo);
     expectScript("1|2|3|4|5", {0, 2, 3}, 2);
     press(script(), Qt::Key_Delete);
     EXPECT_EQ(menuText(321), "&Undo Delete 3 Entries");
-    drag(onRow(script(), 1), onRow(script(), 0));
+    dragToTop(script(), 1);
     expectScript("5|2", {0}, 0);
     EXPECT_EQ(menuText(321), "&Undo Move 1 Entry");
     press(script(), Qt::Key_Z, Qt::ControlModifier);
@@ -146,53 +133,8 @@ TEST_F(EditingWindowTest, UndoAndRedoNameTheirStepsAndBringSelectionBack) {
     EXPECT_EQ(status(), "5 entries");
     EXPECT_EQ(menuText(322), "&Redo Delete 3 Entries");
     press(script(), Qt::Key_Y, Qt::ControlModifier);
-    expectScript("2|5", {1}, 1);
     press(script(), Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
     expectScript("5|2", {0}, 0);
-}
-
-TEST_F(EditingWindowTest, TitleMarkFollowsTheDifferenceFromTheSavedScript) {
-    const auto path = open("a.qds", commentFile(3));
-    deleteFirstEntry();
-    run(302);
-    EXPECT_FALSE(isMarked());
-    EXPECT_EQ(readBytes(path), scriptFile("QDMDSCR=", {commentRecord("2"), commentRecord("3")}));
-    run(321);
-    EXPECT_TRUE(isMarked()) << "saving keeps the history, and before it the script differs";
-    run(322);
-    EXPECT_FALSE(isMarked());
-    open("b.qds", commentFile(2));
-    EXPECT_FALSE(isEnabled(321)) << "a new history";
-    run(305);
-    run(300, MessageAnswer::No);
-    EXPECT_FALSE(isEnabled(321));
-}
-
-TEST_F(EditingWindowTest, NewTransferStartsFromTheLastOneThatTheListShows) {
-    FileTransferSettings settings = defaultTransferSettings();
-    setTransferText(settings, transfer::hostFileName, "SHOWN");
-    open("a.qds", commentFile(1));
-    choosePaletteRow("menuCommandsPalette", 35);
-    toDialogs = {[&](ScriptEntry& entry) {
-        entry.transferSettings = settings;
-        return true;
-    }};
-    run(310);
-    // What the sheet leaves behind when it is cancelled lasts until the list is shown again.
-    state.workingTransfer.settings = defaultTransferSettings();
-    run(313);
-    EXPECT_EQ(state.workingTransfer.settings, settings);
-}
-
-TEST_F(EditingWindowTest, CopyAsTextGivesTheLinesOfTheSelectionAndNoSecret) {
-    open("a.qds", commentFile(1));
-    choosePaletteRow("scriptEventsPalette", typeRow);
-    toDialogs = {typing("secret", true)};
-    run(308);
-    select({0, 1}, 1);
-    run(324);
-    EXPECT_EQ(QGuiApplication::clipboard()->text(), QStringLiteral("1\nType \"******\" (H)\n"));
-    EXPECT_TRUE(state.entryClipboard.empty()) << "the entries' own clipboard is another one";
 }
 
 TEST_F(EditingWindowTest, InsertScriptTakesAnotherFileInOneStepAndLeavesItAlone) {
@@ -203,7 +145,6 @@ TEST_F(EditingWindowTest, InsertScriptTakesAnotherFileInOneStepAndLeavesItAlone)
     run(325, other);
     expectScript("1|" + menuCommandName(state.menuCommands, 212) + "|b|2", {1, 2}, 2);
     EXPECT_NE(status().find("VT"), std::string::npos) << status();
-    EXPECT_EQ(state.currentHostType, HostType::Mainframe);
     EXPECT_EQ(state.document.fileName, path);
     EXPECT_EQ(menuText(321), "&Undo Insert Script");
     EXPECT_EQ(readBytes(other), older);
@@ -216,8 +157,75 @@ TEST_F(EditingWindowTest, InsertScriptTakesAnotherFileInOneStepAndLeavesItAlone)
     EXPECT_FALSE(isMarked());
     writeBytes(other, commentFile(4095));
     run(325, other);
-    EXPECT_EQ(state.script.entryCount(), 4096U);
     EXPECT_EQ(status(), "4094 of 4095 entries inserted: the script is full");
+}
+
+class FindBarTest : public EditingWindowTest {
+  protected:
+    FindBarTest() {
+        open("a.qds", commentFile(30));
+        select({3}, 3);
+        QTest::keyClick(&window, Qt::Key_F, Qt::ControlModifier);
+    }
+    void type(const char* text) { QTest::keyClicks(&edit, QLatin1String(text)); }
+    [[nodiscard]] std::vector<std::size_t> found() {
+        std::vector<std::size_t> rows;
+        for (int row = 0; row < script().model()->rowCount(); ++row)
+            if (script().model()->index(row, 0).data(Qt::BackgroundRole).isValid())
+                rows.push_back(static_cast<std::size_t>(row));
+        return rows;
+    }
+    [[nodiscard]] std::string count() { return widget<QLabel>("findCount").text().toStdString(); }
+    void expectAt(std::size_t entry, const char* position) {
+        EXPECT_EQ(window.pane().selectedEntries(), std::vector{entry});
+        EXPECT_EQ(count(), position);
+    }
+
+    QLineEdit& edit = widget<QLineEdit>("findText");
+};
+
+TEST_F(FindBarTest, GoesToTheNextMatchWithEveryLetterAndBackWhenOneIsTaken) {
+    type("1");
+    expectAt(9, "2 of 12");
+    EXPECT_EQ(found(), (std::vector<std::size_t>{0, 9, 10, 11, 12, 13, 14, 15, 16, 17, 18, 20}));
+    type("5");
+    expectAt(14, "1 of 1");
+    press(edit, Qt::Key_Backspace);
+    expectAt(9, "2 of 12");
+    type("x");
+    expectAt(9, "Not found");
+}
+
+TEST_F(FindBarTest, NextAndPreviousGoRoundInBothDirections) {
+    type("9");
+    expectAt(8, "1 of 3");
+    press(edit, Qt::Key_Return);
+    press(edit, Qt::Key_F3);
+    expectAt(28, "3 of 3");
+    QTest::mouseClick(&widget<QToolButton>("findNext"), Qt::LeftButton);
+    expectAt(8, "1 of 3");
+    press(edit, Qt::Key_Return, Qt::ShiftModifier);
+    QTest::mouseClick(&widget<QToolButton>("findPrevious"), Qt::LeftButton);
+    expectAt(18, "2 of 3");
+}
+
+TEST_F(FindBarTest, MarksFollowTheScriptAndGoWithTheBar) {
+    type("9");
+    run(305);
+    EXPECT_EQ(found(), (std::vector<std::size_t>{17, 27}));
+    EXPECT_EQ(count(), "2 found");
+    run(321);
+    press(edit, Qt::Key_Escape);
+    EXPECT_FALSE(edit.isVisible());
+    EXPECT_TRUE(found().empty());
+    EXPECT_TRUE(script().hasFocus());
+    QTest::keyClick(&window, Qt::Key_F, Qt::ControlModifier);
+    EXPECT_EQ(edit.selectedText(), QStringLiteral("9"));
+    EXPECT_EQ(found(), (std::vector<std::size_t>{8, 18, 28}));
+    press(edit, Qt::Key_X, Qt::ControlModifier);
+    press(edit, Qt::Key_Delete);
+    EXPECT_EQ(edit.text(), QString());
+    EXPECT_EQ(state.script.entryCount(), 30U) << "keys of the field do not reach the script";
 }
 
 }  // namespace

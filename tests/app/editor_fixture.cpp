@@ -3,7 +3,6 @@
 #include "app/ui_text.h"
 
 #include <QApplication>
-#include <QLabel>
 
 #include <algorithm>
 #include <fstream>
@@ -47,28 +46,31 @@ Bytes commentFile(std::size_t count) {
     return file;
 }
 
+namespace {
+
+// Takes the first of the prepared answers, the other one when none is left.
+template <class Answer>
+Answer takeFirst(std::deque<Answer>& answers, Answer otherwise) {
+    if (answers.empty()) return otherwise;
+    Answer answer = answers.front();
+    answers.pop_front();
+    return answer;
+}
+
+}  // namespace
+
 Answers::Answers() {
     messagesBefore_ = replaceMessageHandler([this](QWidget*, const Message& message) {
         messages.push_back(message);
         if (message.buttons == MessageButtons::Ok) return MessageAnswer::Ok;
-        if (toMessages.empty()) {
-            ADD_FAILURE() << "unexpected question: " << message.text;
-            return MessageAnswer::Cancel;
-        }
-        const MessageAnswer answer = toMessages.front();
-        toMessages.pop_front();
-        return answer;
+        EXPECT_FALSE(toMessages.empty()) << "unexpected question: " << message.text;
+        return takeFirst(toMessages, MessageAnswer::Cancel);
     });
     fileDialogsBefore_ = replaceFileDialogHandler(
         [this](QWidget*, const FileDialogRequest& request) -> std::optional<std::filesystem::path> {
             fileDialogs.push_back(request);
-            if (toFileDialogs.empty()) {
-                ADD_FAILURE() << "unexpected file dialog: " << request.title;
-                return std::nullopt;
-            }
-            auto answer = toFileDialogs.front();
-            toFileDialogs.pop_front();
-            return answer;
+            EXPECT_FALSE(toFileDialogs.empty()) << "unexpected file dialog: " << request.title;
+            return takeFirst(toFileDialogs, {});
         });
 }
 
@@ -82,14 +84,9 @@ Answers::~Answers() {
 EditorTest::EditorTest()
     : window(state),
       scriptEditor(state, window, [this](const DialogContext&, const EditTarget& target) {
-          dialogs.push_back(target.entry);
-          if (toDialogs.empty()) {
-              ADD_FAILURE() << "unexpected dialog of " << commandKeyword(target.entry.commandCode);
-              return false;
-          }
-          const DialogAnswer answer = toDialogs.front();
-          toDialogs.pop_front();
-          return answer(target.entry);
+          EXPECT_FALSE(toDialogs.empty()) << commandKeyword(target.entry.commandCode);
+          return takeFirst<DialogAnswer>(toDialogs,
+                                         [](ScriptEntry&) { return false; })(target.entry);
       }) {
     window.show();
     QApplication::setActiveWindow(&window);
@@ -104,39 +101,6 @@ std::filesystem::path EditorTest::open(const std::string& name, const Bytes& byt
     writeBytes(path, bytes);
     run(301, path);
     return path;
-}
-
-void EditorTest::select(std::initializer_list<std::size_t> entries, int focused) {
-    window.pane().selectEntries(std::vector<std::size_t>(entries), focused);
-}
-
-void EditorTest::choosePaletteRow(const char* list, int row) {
-    auto& view = widget<PaneList>(list);
-    view.setCurrentIndex(view.model()->index(row, 0));
-}
-
-QAction& EditorTest::action(int command) {
-    return widget<QAction>(("command" + std::to_string(command)).c_str());
-}
-
-void EditorTest::run(int command, MessageAnswer answer) {
-    answers.toMessages.push_back(answer);
-    run(command);
-}
-
-void EditorTest::run(int command, std::optional<std::filesystem::path> choice) {
-    answers.toFileDialogs.push_back(std::move(choice));
-    run(command);
-}
-
-void EditorTest::deleteFirstEntry() {
-    select({0}, 0);
-    run(312, MessageAnswer::Yes);
-    answers.messages.clear();
-}
-
-std::string EditorTest::status() const {
-    return window.findChild<QLabel*>(QStringLiteral("statusLine"))->text().toStdString();
 }
 
 std::string EditorTest::lines() {

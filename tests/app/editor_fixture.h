@@ -11,6 +11,7 @@
 #include "support/temporary_folder.h"
 
 #include <QAction>
+#include <QLabel>
 
 #include <deque>
 #include <functional>
@@ -67,20 +68,37 @@ class EditorTest : public ::testing::Test {
 
     /// Opens a file with these bytes through the menu command.
     std::filesystem::path open(const std::string& name, const Bytes& bytes);
-    void select(std::initializer_list<std::size_t> entries, int focused);
-    void choosePaletteRow(const char* list, int row);
-    [[nodiscard]] QAction& action(int command);
+    void select(const std::vector<std::size_t>& entries, int focused) {
+        window.pane().selectEntries(entries, focused);
+    }
+    void choosePaletteRow(const char* list, int row) {
+        auto& view = widget<PaneList>(list);
+        view.setCurrentIndex(view.model()->index(row, 0));
+    }
+    [[nodiscard]] QAction& action(int command) {
+        return widget<QAction>(("command" + std::to_string(command)).c_str());
+    }
     [[nodiscard]] bool isEnabled(int command) { return action(command).isEnabled(); }
     void run(int command) { action(command).trigger(); }
     /// The same with an answer prepared for the question that it asks.
-    void run(int command, MessageAnswer answer);
+    void run(int command, MessageAnswer answer) {
+        answers.toMessages.push_back(answer);
+        run(command);
+    }
     /// The same with a choice prepared for the file dialog that it opens, none for Cancel.
-    void run(int command, std::optional<std::filesystem::path> choice);
+    void run(int command, std::optional<std::filesystem::path> choice) {
+        answers.toFileDialogs.push_back(std::move(choice));
+        run(command);
+    }
     /// Through the menu command; its question is answered, and not kept.
-    void deleteFirstEntry();
+    void deleteFirstEntry() {
+        select({0}, 0);
+        run(312, MessageAnswer::Yes);
+        answers.messages.clear();
+    }
     [[nodiscard]] std::string title() const { return window.windowTitle().toStdString(); }
     [[nodiscard]] bool isMarked() const { return title().ends_with(" *"); }
-    [[nodiscard]] std::string status() const;
+    [[nodiscard]] std::string status() { return widget<QLabel>("statusLine").text().toStdString(); }
     [[nodiscard]] std::string lines();
     /// These lines, with "|" between them, and this selection.
     void expectScript(const std::string& expected, const std::vector<std::size_t>& selected,
@@ -97,10 +115,8 @@ class EditorTest : public ::testing::Test {
     EditorState editor;
     ApplicationState& state = editor.state;
     Answers answers;
-    /// For the parameter dialogs in the order in which they open, and the working copies that they
-    /// were opened on.
+    /// For the parameter dialogs in the order in which they open.
     std::deque<DialogAnswer> toDialogs;
-    std::vector<ScriptEntry> dialogs;
     MainWindow window;
     ScriptEditor scriptEditor;
 };

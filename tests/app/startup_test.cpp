@@ -1,11 +1,13 @@
-// Where folders, flags and help settings come from, each case in a home folder of its own.
+// Where folders, flags and help settings come from, each case in a home folder of its own; and to
+// which help they lead.
 #include "app/startup.h"
 
+#include "app/help/configured_help.h"
 #include "support/temporary_folder.h"
 
 #include <fstream>
 #include <gtest/gtest.h>
-#include <vector>
+#include <tuple>
 
 namespace quendra::test {
 
@@ -87,15 +89,12 @@ File userKey(const std::string& base) {
 const FolderRow folderRows[] = {
     {"NoSettings", "", "current"},
     {"InstallationDirectory", key("Installation Directory=@/inst"), "inst"},
-    {"WorkingDirectory", machineDir, "current", "w"},
     {"TooLong", key("Working Directory=/" + std::string(260, 'x')), "current"},
-    {"Type0", machineDir + "WorkingDirType=0\n", "current", "w"},
     {"Type1", key("WorkingDirType=hex:01"), "current", "home/Documents/Quendra"},
     {"Type2", key("WorkingDirType=0x02"), "current", "srv/Quendra"},
     {"Type3", key("WorkingDirType=3"), "current", "home/data/Quendra"},
     {"Type4", key("WorkingDirType=4"), "current", "lib/Quendra"},
     {"Type5IsNoKey", machineDir + "WorkingDirType=5\n", "current"},
-    {"MalformedTypeIs0", machineDir + "WorkingDirType=hex:01,00\n", "current", "w"},
     {"Type0HasNoVersion", machineDir, "current", "w", "opt/bin", versions},
     {"Type4Version", key("WorkingDirType=4"), "current", "lib/Quendra/6.1", "opt/bin", versions},
     {"UserKeyAloneIsNotRead", "", "current", "", "opt/bin", userKey("")},
@@ -103,7 +102,6 @@ const FolderRow folderRows[] = {
     {"Base2", machineDir + "BaseRegistry=2\n", "current", "user", "opt/bin", userKey("")},
     {"Base0", machineDir + "BaseRegistry=2\n", "current", "w", "opt/bin",
      userKey("BaseRegistry=0")},
-    {"Base1", machineDir, "current", "w", "opt/bin", userKey("BaseRegistry=1")},
     {"WebInTheTemporaryFolder", "", cache, "", "tmp/cache"},
     {"WebInTheUsersData", "", cache, "", "home/data/q"},
     {"WebInTheCommonData", "", cache, "", "lib/q/bin"},
@@ -111,12 +109,13 @@ const FolderRow folderRows[] = {
     {"WebCacheMode2", webKey("CacheMode=hex:02"), "lib/Quendra/6.1", "", "tmp/q"},
     {"WebReadsNeitherDirectory", neither, cache, "", "tmp/q"},
     {"WebWithType1", webKey("WorkingDirType=1"), cache, "home/Documents/Quendra", "tmp/q"},
-    {"WebHasItsOwnKey", key("WorkingDirType=1"), cache, "", "tmp/q"},
     {"DesktopModeIsNotWeb", "", "current", "", "tmp/q", desktop},
     {"OtherDesktopModeIsWeb", "", cache, "", "tmp/q", noDesktop},
-    {"AFolderOfSuchANameIsNotWeb", "", "current", "", "opt/tmp/q"},
     {"ALongerNameIsNotWeb", "", "current", "", "tmpfiles/q"},
     {"ProtectedBelowLow", "", "tmp/Low/Quendra/6.1", "", "home/data/Low/Quendra/bin"},
+    {"ProtectedBelowLocalLow", "", "tmp/Low/Quendra/6.1", "", "home/data/LocalLow/Quendra"},
+    {"OtherNamesAreNotProtected", "", cache, "", "home/data/VeryLow/Quendra"},
+    {"NorIsAFolderFurtherDown", "", cache, "", "home/data/Low/b/Quendra"},
 };
 
 std::ptrdiff_t filesIn(const fs::path& folder) {
@@ -148,128 +147,136 @@ TEST(Startup, FoldersThatAreNotFoundLeaveTheInstallationDirectory) {
     Machine machine;
     machine.inputs.folders.documents.reset();
     machine.write(machineRegistry, key("WorkingDirType=1\nInstallation Directory=@/inst"));
-    const StartupSettings settings = machine.start();
-    EXPECT_EQ(settings.workingDir, machine.at("inst"));
-    EXPECT_FALSE(settings.withSubfolders);
+    EXPECT_EQ(machine.start().workingDir, machine.at("inst"));
+    EXPECT_FALSE(machine.start().withSubfolders);
 }
 
 TEST(Startup, FindsAProgramThatLiesInACacheByAnotherName) {
     const Machine machine("disk/cache");
     fs::create_directory_symlink(machine.at("disk"), machine.at("tmp"));
     const StartupSettings settings = machine.start();
-    EXPECT_TRUE(settings.webDeployed);
     EXPECT_EQ(settings.productKeyPath, "Software\\Quendra Web\\6.1");
     EXPECT_EQ(settings.installDir, machine.at("disk/Quendra/6.1")) << "in long form";
 }
 
-TEST(Startup, TellsProtectedFoldersByTheirNames) {
-    for (const char* folder : {"a/Low/Quendra/bin", "a/LocalLow/Quendra"})
-        EXPECT_TRUE(Machine(folder).start().protectedMode) << folder;
-    for (const char* folder :
-         {"a/Low/Quendra2", "a/low/quendra", "a/Low/b/Quendra", "a/VeryLow/Quendra"})
-        EXPECT_FALSE(Machine(folder).start().protectedMode) << folder;
-}
-
-TEST(Startup, FlagsTestTheFirstCharacterOnly) {
-    for (const std::string value : {"Y", "yes, please", "\"Y\"", "N", "no", "1", "", "on"}) {
-        SCOPED_TRACE(value);
-        const bool isYes = value.find_first_of("Yy") <= 1;
-        const bool isNo = value.find_first_of("Nn") == 0;
-        const Machine machine;
-        machine.write("opt/bin/global.ini", "[quendra]\nappendversiontoworkingdir=" + value +
-                                                "\nAllowCrossVersionInterop=" + value);
-        const StartupSettings settings = readProgramSettings(machine.inputs);
-        EXPECT_EQ(settings.appendVersion, isYes);
-        EXPECT_EQ(settings.crossVersionInterop, !isNo);
-        EXPECT_EQ(settings.windowClassName,
-                  isNo ? "Quendra Script Editor 6.1" : "Quendra Script Editor");
-    }
-}
-
 TEST(Startup, TheProgramsFlagsAreReadBesideItBeforeAnythingIsMade) {
-    const Machine machine;
-    machine.write(machineRegistry, machineDir);
-    machine.write("current/global.ini", "[Quendra]\nAllowCrossVersionInterop=N\n");
-    EXPECT_TRUE(readProgramSettings(machine.inputs).crossVersionInterop);
-    EXPECT_FALSE(fs::exists(machine.at("w")));
-    EXPECT_TRUE(machine.start().crossVersionInterop);
+    for (const bool interop : {true, false}) {
+        const Machine machine;
+        machine.write(machineRegistry, machineDir);
+        machine.write(interop ? "current/global.ini" : "opt/bin/global.ini",
+                      "[quendra]\nallowcrossversioninterop=no, never\n");
+        const StartupSettings settings = readProgramSettings(machine.inputs);
+        EXPECT_EQ(settings.windowClassName,
+                  interop ? "Quendra Script Editor" : "Quendra Script Editor 6.1");
+        EXPECT_FALSE(fs::exists(machine.at("w")));
+    }
 }
 
 TEST(BackupDirectory, IsMadeAndTakesThePlaceOfAWorkingDirectoryThatRefusesWrites) {
     const std::string rest = "b/" + std::string(200, 'x') + "/";
     const std::string cut = rest + std::string(260 - 7 - rest.size(), 'y');
-    const struct {
-        std::string configured;
-        std::string registry;
-        std::string backupDir;
-        bool used;
-        const char* workingDir;
-        bool withSubfolders = true;
-    } rows[] = {
-        {"%SHARE%/deep/backup", machineDir, "share/deep/backup", false, "w"},
-        {"%SHARE%" + rest + std::string(100, 'y'), machineDir, "share" + cut, false, "w"},
-        {"@/%NO SUCH%/b", machineDir, "%NO SUCH%/b", false, "w"},
+    using Row = std::tuple<std::string, std::string, std::string, bool, const char*, bool>;
+    const Row rows[] = {
+        {"%SHARE%/deep/backup", machineDir, "share/deep/backup", false, "w", true},
+        {"%SHARE%" + rest + std::string(100, 'y'), machineDir, "share" + cut, false, "w", true},
+        {"@/%NO SUCH%/b", machineDir, "%NO SUCH%/b", false, "w", true},
         // One that cannot be made, and one that is there and takes no files, not even from root.
-        {"<SHARE>/b", key("Working Directory=@/file/w"), "share/b", true, "share/b"},
-        {"<SHARE>/b", key("Working Directory=/proc/self"), "share/b", true, "share/b"},
-        {"", key("Working Directory=@/file/w"), "", false, "file/w"},
+        {"<SHARE>/b", key("Working Directory=@/file/w"), "share/b", true, "share/b", true},
+        {"<SHARE>/b", key("Working Directory=/proc/self"), "share/b", true, "share/b", true},
+        {"", key("Working Directory=@/file/w"), "", false, "file/w", true},
         {"@/b", "", "b", false, "current", false},
     };
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.configured);
+    for (const auto& [configured, registry, backupDir, used, workingDir, withSubfolders] : rows) {
+        SCOPED_TRACE(configured);
         Machine machine;
         machine.inputs.environment["SHARE"] = machine.at("share");
         machine.write("file", "");
-        machine.write(machineRegistry, row.registry);
-        machine.write("current/global.ini", "[Quendra]\nBackupWorkingDir=" + row.configured);
+        machine.write(machineRegistry, registry);
+        machine.write("current/global.ini", "[Quendra]\nBackupWorkingDir=" + configured);
         const StartupSettings settings = machine.start();
-        EXPECT_EQ(machine.shortened(settings.backupDir), row.backupDir);
-        EXPECT_EQ(settings.usingBackupDir, row.used);
-        EXPECT_EQ(machine.shortened(settings.workingDir), row.workingDir);
-        EXPECT_EQ(settings.withSubfolders, row.withSubfolders);
-        const fs::path scripts = row.withSubfolders ? "Scripts" : "";
-        EXPECT_EQ(settings.scriptsDir / "", settings.workingDir / scripts / "");
-        if (row.backupDir.empty()) continue;
-        EXPECT_EQ(filesIn(settings.workingDir), row.withSubfolders ? 3 : 1) << "no test file";
-        EXPECT_EQ(filesIn(settings.backupDir), row.withSubfolders ? 3 : 0);
+        EXPECT_EQ(machine.shortened(settings.backupDir), backupDir);
+        EXPECT_EQ(settings.usingBackupDir, used);
+        EXPECT_EQ(machine.shortened(settings.workingDir), workingDir);
+        EXPECT_EQ(settings.withSubfolders, withSubfolders);
+        if (backupDir.empty()) continue;
+        EXPECT_EQ(filesIn(settings.workingDir), withSubfolders ? 3 : 1) << "no test file";
+        EXPECT_EQ(filesIn(settings.backupDir), withSubfolders ? 3 : 0);
     }
 }
 
 TEST(HelpSettings, ComeFromTheInstallationDirectoryElseTheWorkingDirectory) {
     const std::string longAddress = "WebHelpUrl=" + std::string(261, 'x');
     constexpr const char* none = nullptr;
-    const struct {
-        const char* installed;
-        const char* working;
-        bool useWebHelp;
-        std::string base;
-        const char* program = "opt/bin";
-    } rows[] = {
-        {none, none, false, builtInWebHelpBase},
-        {none, none, true, builtInWebHelpBase, "tmp/q"},
-        {none, "UseWebHelp=N", true, "", "tmp/q"},
-        {"UseWebHelp=y\nWebHelpUrl=https://h", none, true, "https://h"},
-        {"UseWebHelp=\"yonder\"", none, true, ""},
-        {"UseWebHelp=N\nWebHelpUrl=x", none, false, "x"},
-        {none, "UseWebHelp=Y\nWebHelpUrl=w", true, "w"},
-        {"WebHelpUrl=i", "UseWebHelp=Y\nWebHelpUrl=w", false, "i"},
-        {"", "UseWebHelp=Y\nWebHelpUrl=w", false, ""},
-        {none, longAddress.c_str(), false, std::string(260, 'x')},
+    const std::tuple<const char*, const char*, const char*, bool, std::string> rows[] = {
+        {"opt/bin", none, none, false, builtInWebHelpBase},
+        {"tmp/q", none, none, true, builtInWebHelpBase},
+        {"tmp/q", none, "UseWebHelp=N", true, ""},
+        {"opt/bin", "UseWebHelp=y\nWebHelpUrl=https://h", none, true, "https://h"},
+        {"opt/bin", "UseWebHelp=\"yonder\"", none, true, ""},
+        {"opt/bin", "UseWebHelp=N\nWebHelpUrl=x", none, false, "x"},
+        {"opt/bin", none, "UseWebHelp=Y\nWebHelpUrl=w", true, "w"},
+        {"opt/bin", "WebHelpUrl=i", "UseWebHelp=Y\nWebHelpUrl=w", false, "i"},
+        {"opt/bin", "", "UseWebHelp=Y\nWebHelpUrl=w", false, ""},
+        {"opt/bin", none, longAddress.c_str(), false, std::string(260, 'x')},
     };
-    for (const auto& row : rows) {
-        const Machine machine(row.program);
+    for (const auto& [program, installed, working, useWebHelp, base] : rows) {
+        SCOPED_TRACE(testing::PrintToString(std::pair(installed, working)));
+        const Machine machine(program);
         const std::string values = "Installation Directory=@/inst\nWorkingDirType=1";
         machine.write(machineRegistry, key(values) + webKey(values));
-        const auto write = [&](const char* name, const char* text) {
-            if (text) machine.write(name, std::string("[Help]\n") + text);
-        };
-        write("inst/global.ini", row.installed);
-        write("home/Documents/Quendra/global.ini", row.working);
+        const std::string section = "[Help]\n";
+        if (installed) machine.write("inst/global.ini", section + installed);
+        if (working) machine.write("home/Documents/Quendra/global.ini", section + working);
         const StartupSettings settings = machine.start();
-        EXPECT_EQ(settings.useWebHelp, row.useWebHelp) << &row - rows;
-        EXPECT_EQ(settings.webHelpBase, row.base) << &row - rows;
+        EXPECT_EQ(settings.useWebHelp, useWebHelp);
+        EXPECT_EQ(settings.webHelpBase, base);
         EXPECT_EQ(settings.helpFilePath, settings.installDir / "quendra.chm");
     }
+}
+
+const std::string topic = "/qddp_hcon_qd-script-editor.htm#styler-id1.1.1.9.14.6.1";
+
+TEST(ConfiguredHelp, GivesWayToTheManualOnlyWhenThereIsNoneOrNothingStarts) {
+    const std::string web = "https://h.test/en/qd" + topic + ";";
+    // Web help or not, its address, whether there is a file, what starts (all else does not),
+    // whether something shows, and what was tried in order.
+    using Row = std::tuple<bool, const char*, bool, std::string, bool, std::string>;
+    const Row rows[] = {
+        {false, builtInWebHelpBase, false, "", false, ""},
+        {false, builtInWebHelpBase, true, "kchmviewer;", true, "kchmviewer;"},
+        {false, builtInWebHelpBase, true, "xchm;", true, "kchmviewer;xchm;"},
+        {false, "https://h.test", false, web, false, ""},
+        {true, "https://h.test", true, web, true, web},
+        {true, "https://h.test", true, "kchmviewer;", false, web},
+        {true, "", true, "/en/qd" + topic + ";", false, ""},
+        {true, builtInWebHelpBase, true, web, false, ""},
+    };
+    for (const auto& [useWebHelp, base, hasFile, starts, shown, expected] : rows) {
+        SCOPED_TRACE(testing::PrintToString(std::tuple(useWebHelp, base, hasFile, starts)));
+        const TemporaryFolder folder;
+        StartupSettings settings;
+        settings.useWebHelp = useWebHelp;
+        settings.webHelpBase = base;
+        settings.helpFilePath = folder / "-a \"b\" c.chm";
+        if (hasFile) std::ofstream(settings.helpFilePath) << "x";
+        std::string tried;
+        const auto start = [&, only = starts](const std::string& what) {
+            tried += what + ";";
+            return what + ";" == only;
+        };
+        const HelpLaunchers launchers = {
+            [&](const std::string& program, const std::vector<std::string>& arguments) {
+                EXPECT_EQ(arguments.back(), settings.helpFilePath) << "as one argument";
+                EXPECT_TRUE(program == "xchm" || arguments.at(1) == topic);
+                return start(program);
+            },
+            start};
+        EXPECT_EQ(showConfiguredHelp(settings, launchers), shown);
+        EXPECT_EQ(tried, expected);
+    }
+    StartupSettings relative;
+    relative.helpFilePath = "-x.chm";
+    EXPECT_EQ(helpViewerCommands(relative).at(1).arguments.at(0).front(), '/') << "no option";
 }
 
 }  // namespace

@@ -3,16 +3,10 @@
 // QUENDRA_STORM_SEED is the first seed (1), QUENDRA_STORM_SEEDS how many follow each other (4),
 // QUENDRA_STORM_GESTURES how many gestures one seed makes (150), and QUENDRA_STORM_MINUTES ends a
 // long run: no seed begins after so many minutes. The same seed makes the same gestures.
-#include "app/pane_list.h"
 #include "app/storm_gestures.h"
 #include "scriptfile/script_writer.h"
 
-#include <QAction>
-#include <QApplication>
-#include <QTest>
-
 #include <chrono>
-#include <deque>
 #include <iostream>
 #include <limits>
 
@@ -25,13 +19,6 @@ unsigned int fromEnvironment(const char* name, unsigned int otherwise) {
     return isNumber ? number : otherwise;
 }
 
-struct StormPlan {
-    unsigned int first = fromEnvironment("QUENDRA_STORM_SEED", 1);
-    unsigned int seeds = fromEnvironment("QUENDRA_STORM_SEEDS", 4);
-    unsigned int gestures = fromEnvironment("QUENDRA_STORM_GESTURES", 150);
-    std::chrono::minutes time{fromEnvironment("QUENDRA_STORM_MINUTES", 0)};
-};
-
 // Scripts of every kind that Open and Insert Script may meet.
 std::vector<std::filesystem::path> makeFiles(const std::filesystem::path& folder) {
     std::vector<std::filesystem::path> files;
@@ -39,22 +26,15 @@ std::vector<std::filesystem::path> makeFiles(const std::filesystem::path& folder
         files.push_back(folder / name);
         writeBytes(files.back(), bytes);
     };
-    for (const auto& example : std::filesystem::directory_iterator(QUENDRA_EXAMPLES)) {
-        if (example.path().extension() != ".qds") continue;
-        add(example.path().filename().c_str(), readBytes(example.path()));
-    }
-    std::ranges::sort(files);
-    for (const Case& frozen : frozenCases()) {
+    for (const Case& frozen : frozenCases())
         if (frozen.name.starts_with("kinds")) add((frozen.name + ".qds").c_str(), frozen.file);
-    }
     Bytes cut = commentFile(20);
     cut.pop_back();
     add("cut.qds", cut);
     add("refused.qds", bytesOf("dear all"));
     add("full.qds", commentFile(4096));
     add("nearlyFull.qds", commentFile(4091));
-    files.push_back(folder / "new.qds");
-    files.push_back(folder / "missing/new.qds");
+    files.insert(files.end(), {folder / "new.qds", folder / "missing/new.qds"});
     return files;
 }
 
@@ -102,23 +82,15 @@ class Storm {
     Storm& operator=(const Storm&) = delete;
 
     void gesture() {
-        touches_ += hands_.during([this] {
-            last_.push_back(gestures_.make());
-            if (last_.size() > 12) last_.pop_front();
-        });
-        noticeNewDocument();
+        hands_.during([this] { made_ += "\n  " + gestures_.make(); });
+        // New and Open begin a history, with the script that is then the saved one.
+        const ApplicationState& state = editor_.state;
+        if (state.history.canUndo() || state.history.canRedo()) return;
+        if (state.script == state.document.saved) start_ = Milestone(state);
     }
 
-    /// How often something was done in a dialog or a message box.
-    [[nodiscard]] int touches() const { return touches_; }
-
-    [[nodiscard]] std::string lastGestures() const {
-        std::string all;
-        for (const std::string& gesture : last_) {
-            all += "\n  " + gesture;
-        }
-        return all;
-    }
+    [[nodiscard]] int touches() const { return hands_.touches(); }
+    [[nodiscard]] const std::string& gestures() const { return made_; }
 
     void expectSound() {
         const ApplicationState& state = editor_.state;
@@ -128,13 +100,18 @@ class Storm {
         ASSERT_EQ(state.document.modified, state.script != state.document.saved);
         ASSERT_EQ(window_.windowTitle().endsWith(QStringLiteral(" *")), state.document.modified);
         ASSERT_LT(state.currentIndex, static_cast<int>(state.script.entryCount()));
-        if (const int focused = window_.pane().focusedEntry(); focused >= 0) {
-            ASSERT_EQ(state.currentIndex, focused);
-        }
+        const int focused = window_.pane().focusedEntry();
+        ASSERT_TRUE(focused < 0 || state.currentIndex == focused);
         ASSERT_FALSE(state.dropPending);
         ASSERT_FALSE(state.editing);
+        const bool selected = !window_.pane().selectedEntries().empty();
+        ASSERT_EQ(enabled("command302"), state.script.entryCount() > 0);
+        ASSERT_EQ(enabled("command305"), selected);
+        ASSERT_EQ(enabled("command307"), !state.entryClipboard.empty());
+        ASSERT_EQ(enabled("command312"), selected);
+        ASSERT_EQ(enabled("command321"), state.history.canUndo());
+        ASSERT_EQ(enabled("command322"), state.history.canRedo());
         expectQuiet();
-        expectCommandsFit();
         expectHistoryLeadsBackAndForth();
     }
 
@@ -142,13 +119,11 @@ class Storm {
     void expectUndoLeadsBack() {
         const Milestone end(editor_.state);
         std::size_t steps = 0;
-        for (; editor_.state.history.canUndo(); ++steps) {
+        for (; editor_.state.history.canUndo(); ++steps)
             window_.runCommand(321);
-        }
         EXPECT_TRUE(start_.isReachedBy(editor_.state.script));
-        for (; steps > 0; --steps) {
+        for (; steps > 0; --steps)
             window_.runCommand(322);
-        }
         EXPECT_TRUE(end.isReachedBy(editor_.state.script));
         expectSound();
     }
@@ -164,38 +139,18 @@ class Storm {
         ASSERT_TRUE(window_.isEnabled());
     }
 
-    void expectCommandsFit() {
-        const ApplicationState& state = editor_.state;
-        const bool selected = !window_.pane().selectedEntries().empty();
-        ASSERT_EQ(enabled("command302"), state.script.entryCount() > 0);
-        ASSERT_EQ(enabled("command305"), selected);
-        ASSERT_EQ(enabled("command307"), !state.entryClipboard.empty());
-        ASSERT_EQ(enabled("command312"), selected);
-        ASSERT_EQ(enabled("command321"), state.history.canUndo());
-        ASSERT_EQ(enabled("command322"), state.history.canRedo());
-    }
-
     // On copies, which cost handles only.
     void expectHistoryLeadsBackAndForth() {
         const Milestone now(editor_.state);
         UndoHistory history = editor_.state.history;
         Script script = now.script;
         std::size_t steps = 0;
-        while (history.undo(script)) {
+        while (history.undo(script))
             ++steps;
-        }
         ASSERT_TRUE(start_.isReachedBy(script)) << "after " << steps << " steps back";
-        for (; steps > 0; --steps) {
+        for (; steps > 0; --steps)
             ASSERT_TRUE(history.redo(script));
-        }
         ASSERT_TRUE(now.isReachedBy(script));
-    }
-
-    // New and Open begin a history, with the script that is then the saved one.
-    void noticeNewDocument() {
-        const ApplicationState& state = editor_.state;
-        if (state.history.canUndo() || state.history.canRedo()) return;
-        if (state.script == state.document.saved) start_ = Milestone(state);
     }
 
     [[nodiscard]] bool enabled(const char* action) const {
@@ -211,8 +166,7 @@ class Storm {
     Gestures gestures_;
     Milestone start_;
     FileDialogHandler dialogsBefore_;
-    std::deque<std::string> last_;
-    int touches_ = 0;
+    std::string made_;
 };
 
 // Gives how much was done in dialogs.
@@ -220,25 +174,28 @@ void runSeed(unsigned int seed, unsigned int gestures, int& touches) {
     Storm storm(seed);
     for (unsigned int step = 1; step <= gestures; ++step) {
         storm.gesture();
-        ASSERT_NO_FATAL_FAILURE(storm.expectSound()) << "seed " << seed << ", gesture " << step
-                                                     << ", the last ones:" << storm.lastGestures();
+        ASSERT_NO_FATAL_FAILURE(storm.expectSound())
+            << "seed " << seed << ", gesture " << step << storm.gestures();
     }
     ASSERT_NO_FATAL_FAILURE(storm.expectUndoLeadsBack()) << "seed " << seed;
     touches += storm.touches();
 }
 
 TEST(GestureStorm, LeavesEveryScriptSoundAndAllOfItCanBeUndone) {
-    const StormPlan plan;
+    const unsigned int first = fromEnvironment("QUENDRA_STORM_SEED", 1);
+    const unsigned int gestures = fromEnvironment("QUENDRA_STORM_GESTURES", 150);
+    const std::chrono::minutes time{fromEnvironment("QUENDRA_STORM_MINUTES", 0)};
+    const bool timed = time.count() > 0;
+    const unsigned int seeds =
+        timed ? std::numeric_limits<int>::max() : fromEnvironment("QUENDRA_STORM_SEEDS", 4);
     const auto begin = std::chrono::steady_clock::now();
-    const bool timed = plan.time.count() > 0;
-    const unsigned int seeds = timed ? std::numeric_limits<int>::max() : plan.seeds;
     int touches = 0;
     for (unsigned int done = 0; done < seeds; ++done) {
-        if (timed && std::chrono::steady_clock::now() - begin > plan.time) break;
-        ASSERT_NO_FATAL_FAILURE(runSeed(plan.first + done, plan.gestures, touches));
+        if (timed && std::chrono::steady_clock::now() - begin > time) break;
+        ASSERT_NO_FATAL_FAILURE(runSeed(first + done, gestures, touches));
         if (!timed) continue;
-        std::cout << "seed " << plan.first + done << ": " << (done + 1) * plan.gestures
-                  << " gestures, " << touches << " acts in dialogs" << std::endl;
+        std::cout << "seed " << first + done << ": " << (done + 1) * gestures << " gestures, "
+                  << touches << " acts in dialogs" << std::endl;
     }
     EXPECT_GT(touches, 0) << "gestures that open no dialog";
 }

@@ -4,10 +4,7 @@
 #include "app/help/manual.h"
 #include "support/temporary_folder.h"
 
-#include <QImage>
-
 #include <fstream>
-#include <gtest/gtest.h>
 #include <string>
 
 namespace quendra::test {
@@ -28,11 +25,11 @@ class MadeUpManual {
         for (int i = 0; i < 60; ++i)
             scrolled += "A line to scroll over.\n\n";
         write("en/wait-for.md",
-              "# Wait_For\n\nWaits for a text on the screen.\n\n| Field | Meaning |\n|---|---|\n"
-              "| **Timeout** | in seconds |\n\n```\nWait_For \"READY\"\nBeep\n```\n\n" +
+              "# Wait_For\n\nWaits for a text on the screen; timeout in seconds.\n\n"
+              "```\nWait_For \"READY\"\nBeep\n```\n\n" +
                   scrolled + "## Options\n\nCase matters.\n");
         write("en/wait.md", "# Wait\n\nWaits for seconds; a timeout is another matter.\n");
-        write("en/mainframe.md", "# Mainframe\n\n![Keys](../images/keys.png)\n\nHas a beep key.\n");
+        write("en/mainframe.md", "# Mainframe\n\nHas a beep key.\n");
         write("en/keys.md", "# Keys\n\n## Beep and bells\n\nNone.\n");
         write("de/index.md", "# Der Editor\n\n- [Warten auf](wait-for.md)\n- [Piepsen](beep.md)\n");
         write("de/wait-for.md", "# Warten auf\n\nWartet auf einen Text; ÄHNLICHE auch.\n");
@@ -44,22 +41,12 @@ class MadeUpManual {
     }
     /// Writes a page; `name` is below the manual's folder, such as "en/beep.md".
     void write(const std::string& name, const std::string& text) const {
-        std::ofstream(placeOf(name)) << text;
-    }
-    /// A picture of one colour, in images/.
-    void writePicture(const std::string& name, int width, int height) const {
-        QImage image(width, height, QImage::Format_RGB32);
-        image.fill(Qt::red);
-        EXPECT_TRUE(image.save(QString::fromStdString(placeOf("images/" + name).string())));
+        const auto path = manualFolder(bin()).lexically_normal() / name;
+        std::filesystem::create_directories(path.parent_path());
+        std::ofstream(path) << text;
     }
 
   private:
-    [[nodiscard]] std::filesystem::path placeOf(const std::string& name) const {
-        const auto path = manualFolder(bin()).lexically_normal() / name;
-        std::filesystem::create_directories(path.parent_path());
-        return path;
-    }
-
     TemporaryFolder folder_;
 };
 
