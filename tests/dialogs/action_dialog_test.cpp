@@ -52,9 +52,8 @@ TEST_F(ActionDialogTest, SelectsNothingWhereNothingWasChosenAndRefusesInItsWords
                  "compare string and/or variable(s) are not equal."}};
     state.currentHostType = HostType::VT;
     for (const auto& row : rows) {
-        SCOPED_TRACE(row.title);
-        startWithTimeout();
-        if (row.owner == ActionOwner::IfInputIs) startCompare();
+        const bool compares = row.owner == ActionOwner::IfInputIs;
+        entry = newEntry(compares ? CommandCode::IfInputIs : CommandCode::WaitFor);
         const ScriptEntry before = entry;
         steps.in("actionDialog", [&](const OpenDialog& d) {
             EXPECT_EQ(d.title(), row.title);
@@ -75,7 +74,6 @@ TEST_F(ActionDialogTest, SelectsNothingWhereNothingWasChosenAndRefusesInItsWords
             d.clickRow(menuCommands, menuName(213));
             d.click("ok");
             expectTold("Menu Command is not compatible with Script Mode.", "Script Edit Info");
-            EXPECT_EQ(d.widget<QListView>(keys).model()->rowCount(), 142);
             d.press(Qt::Key_Escape);
         });
         EXPECT_FALSE(choose(row.slot, row.owner));
@@ -83,7 +81,7 @@ TEST_F(ActionDialogTest, SelectsNothingWhereNothingWasChosenAndRefusesInItsWords
     }
 }
 
-TEST_F(ActionDialogTest, ShowsTheActionThatThereIsInSightAndWithTheFocus) {
+TEST_F(ActionDialogTest, OneRowIsSelectedInAllThreeListsAndThatIsTheChoice) {
     startWithTimeout();
     const auto& farDown = state.luCatalogues.of(HostType::Mainframe).rows[60];
     otherwise().code = CommandCode::LuFunction;
@@ -92,30 +90,27 @@ TEST_F(ActionDialogTest, ShowsTheActionThatThereIsInSightAndWithTheFocus) {
     steps.in("actionDialog", [&](const OpenDialog& d) {
         EXPECT_EQ(d.selected(keys), farDown.name);
         EXPECT_EQ(d.focused(), keys);
-        auto& list = d.widget<QListView>(keys);
+        const auto& list = d.widget<QListView>(keys);
         const QPoint shown = list.visualRect(list.currentIndex()).center();
-        EXPECT_TRUE(list.viewport()->rect().contains(shown));
-        d.click("cancel");
-    });
-    EXPECT_FALSE(choose(Slot::Else));
-}
-
-TEST_F(ActionDialogTest, OneRowIsSelectedInAllThreeListsAndThatIsTheChoice) {
-    startWithTimeout();
-    steps.in("actionDialog", [this](const OpenDialog& d) {
-        d.clickRow(events, "Return");
+        EXPECT_TRUE(list.viewport()->rect().contains(shown)) << "in sight";
         d.clickRow(menuCommands, menuName(201));
-        EXPECT_EQ(d.selected(events), "");
+        EXPECT_EQ(d.selected(keys), "");
         d.widget(events).setFocus();
         EXPECT_EQ(d.selected(menuCommands), menuName(201)) << "the focus chooses nothing";
+        // Every list goes to what is typed.
         d.type("clear");
-        EXPECT_EQ(d.selected(events), "Clear_Watch") << "typed ahead";
-        EXPECT_EQ(d.selected(menuCommands), "");
+        EXPECT_EQ(d.selected(events) + d.selected(menuCommands), "Clear_Watch");
+        d.widget(keys).setFocus();
+        d.type(farDown.name);
+        EXPECT_EQ(d.selected(keys) + d.selected(events), farDown.name);
+        d.widget(menuCommands).setFocus();
+        d.type(menuName(214));
         d.press(Qt::Key_Up);
         d.press(Qt::Key_Return);
     });
     ASSERT_TRUE(choose(Slot::Else));
-    EXPECT_EQ(entry.elseCode, CommandCode::Beep);
+    EXPECT_EQ(entry.elseCode, CommandCode::MenuCommand);
+    EXPECT_EQ(entry.elseCommandId, 213U) << "which only a script for VT refuses";
     EXPECT_EQ(entry.thenCode, CommandCode::None);
 }
 
@@ -138,37 +133,31 @@ TEST_F(ActionDialogTest, AWaitAsFoundActionUsesTheEntrysSecondsAndAsNotFoundAsks
     EXPECT_TRUE(choose(Slot::Else)) << "seconds that are there are not asked for again";
 }
 
-TEST_F(ActionDialogTest, CancelTakesBackWhatOkAndDoubleClicksDid) {
-    startWithTimeout();
-    entry.elseCode = CommandCode::Goto;
-    setText(otherwise(), "END");
-    const ScriptEntry before = entry;
-    doubleClickRow(events, "Message");
-    answer("textDialog", "text", "gone");
-    chooseRow(events, "Wait_Ready");
-    click("waitDialog", "cancel");
-    click("actionDialog", "cancel");
-    EXPECT_FALSE(choose(Slot::Else));
-    EXPECT_EQ(entry, before);
-}
-
-TEST_F(ActionDialogTest, DoubleClickAsksAgainAndLeavesTheDialogOpen) {
-    startWithTimeout();
-    setText(then(), "old");
-    then().code = CommandCode::Goto;
-    doubleClickRow(events, "Goto");
-    answer("textDialog", "text", "new");
-    steps.in("actionDialog", [this](const OpenDialog& d) {
-        d.doubleClickRow(keys, "Enter");
-        d.doubleClickRow(menuCommands, menuName(201));
-        EXPECT_TRUE(d.dialog->isVisible()) << "rows without parameters do nothing";
-        d.clickRow(events, "Goto");
-        d.click("ok");
-    });
-    ASSERT_TRUE(choose(Slot::Then));
-    EXPECT_EQ(entry.thenCode, CommandCode::Goto);
-    EXPECT_EQ(textOf(then()), "new");
-    EXPECT_EQ(textOf(own()), "READY");
+TEST_F(ActionDialogTest, DoubleClickAsksAgainAndCancelTakesAllOfItBack) {
+    for (const bool ok : {false, true}) {
+        startWithTimeout();
+        entry.thenCode = CommandCode::Goto;
+        setText(then(), "old");
+        const ScriptEntry before = entry;
+        doubleClickRow(events, "Message");
+        answer("textDialog", "text", "new");
+        steps.in("actionDialog", [this](const OpenDialog& d) {
+            d.doubleClickRow(keys, "Enter");
+            d.doubleClickRow(menuCommands, menuName(201));
+            EXPECT_TRUE(d.dialog->isVisible()) << "rows without parameters do nothing";
+            d.clickRow(events, "Wait_Until");
+            d.click("ok");
+        });
+        click("waitUntilDialog", "cancel");
+        steps.in("actionDialog", [ok](const OpenDialog& d) {
+            d.clickRow(events, "Message");
+            d.click(ok ? "ok" : "cancel");
+        });
+        EXPECT_EQ(choose(Slot::Then), ok);
+        EXPECT_EQ(entry == before, !ok);
+        EXPECT_EQ(textOf(then()), ok ? "new" : "old");
+        EXPECT_EQ(textOf(own()), "READY");
+    }
 }
 
 TEST_F(ActionDialogTest, AMenuCommandWithAFileAsksForItsName) {
@@ -228,14 +217,12 @@ TEST_F(ActionDialogTest, ADoubleClickOnATransferStartsFromTheActionsSettings) {
     entry.thenCode = CommandCode::Beep;
     setTransferText(state.workingTransfer.settings, transfer::hostFileName, "OTHER");
     setTransferText(then().transferSettings, transfer::hostFileName, "MINE");
-    then().transferHost = transferHostCics;
-    const FileTransferSettings mine = then().transferSettings;
+    const ScriptEntry before = entry;
     doubleClickRow(menuCommands, menuName(sendFileCommand));
     expectSheet("MINE");
     chooseRow(events, "Beep");
     ASSERT_TRUE(choose(Slot::Then));
-    EXPECT_EQ(entry.thenCode, CommandCode::Beep) << "a cancelled sheet changes no action";
-    EXPECT_EQ(entry.transferSettings, mine);
+    EXPECT_EQ(entry, before) << "a cancelled sheet changes no action";
 
     doubleClickRow(menuCommands, menuName(sendFileCommand));
     answer("transferSheet", "pcFileName", "mine.txt");
@@ -245,7 +232,6 @@ TEST_F(ActionDialogTest, ADoubleClickOnATransferStartsFromTheActionsSettings) {
     EXPECT_EQ(entry.thenCode, CommandCode::MenuCommand);
     EXPECT_EQ(entry.commandId, sendFileCommand);
     EXPECT_EQ(transferText(entry.transferSettings, transfer::pcFileName), "mine.txt");
-    EXPECT_EQ(entry.transferHost, transferHostCics);
 }
 
 TEST_F(ActionDialogTest, ATypeActionOffersToHideItsTextOnlyInANewEntry) {

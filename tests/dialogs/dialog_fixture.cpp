@@ -2,25 +2,7 @@
 
 #include <QApplication>
 
-#include <fstream>
-
-namespace quendra {
-
-void PrintTo(const ScriptEntry& entry, std::ostream* out) {
-    for (const Slot slot : test::allSlots) {
-        const auto f = slotFields(entry, slot);
-        *out << test::slotSuffix(slot) << ": code " << static_cast<int>(f.code) << " text \""
-             << textOf(f) << "\" prompt \"" << promptOf(f) << '"' << std::hex << std::showbase;
-        for (const std::uint32_t number :
-             {f.number, f.commandId, f.area, std::uint32_t{f.row}, std::uint32_t{f.column},
-              std::uint32_t{f.maxLength}, std::uint32_t{f.hidden}, std::uint32_t{f.inputVariable}})
-            *out << ' ' << number;
-        *out << std::dec << " until " << f.waitUntil.year << '-' << f.waitUntil.month << '-'
-             << f.waitUntil.day << ' ' << f.waitUntil.hour << ':' << f.waitUntil.minute << '\n';
-    }
-}
-
-namespace test {
+namespace quendra::test {
 
 ScriptEntry newEntry(CommandCode code) {
     ScriptEntry entry;
@@ -35,26 +17,11 @@ ScriptEntry newEntry(CommandCode code) {
     return entry;
 }
 
-void useLanguage(ApplicationState& state, const std::string& name) {
-    const auto& settings = state.settings;
-    std::ofstream(settings.configDir / "language.ini") << "[Language]\nLanguage=" << name << '\n';
-    const auto notice =
-        state.language.load({settings.programDir, settings.configDir, settings.installDir});
-    if (notice) throw std::runtime_error(notice->text);
-    state.luCatalogues = buildLuCatalogues(state.language.textSource());
-    state.menuCommands = buildMenuCommandCatalogue(state.language.textSource());
-}
-
-std::string slotSuffix(Slot slot) {
-    return slot == Slot::Entry ? "AsEntry" : slot == Slot::Then ? "AsThen" : "AsElse";
-}
-
 void DialogContextTest::expectTold(const std::string& text, const std::string& caption) {
     ASSERT_EQ(answers.messages.size(), 1U) << text;
     EXPECT_EQ(answers.messages[0].text, text);
     EXPECT_EQ(answers.messages[0].title, caption);
     EXPECT_EQ(answers.messages[0].icon, MessageIcon::Information);
-    EXPECT_EQ(answers.messages[0].buttons, MessageButtons::Ok);
     answers.messages.clear();
 }
 
@@ -64,8 +31,8 @@ void DialogContextTest::startWith(CommandCode code, Slot slot, std::uint32_t com
     if (commandId != 0) slotFields(entry, slot).commandId = commandId;
 }
 
-void DialogTest::open(Slot slot, ActionOwner owner) {
-    opened_ = makeCommandDialog({state, nullptr}, {entry, slot, owner});
+void DialogTest::open(Slot slot) {
+    opened_ = makeCommandDialog({state, nullptr}, {entry, slot, ActionOwner::WaitForOrWatchFor});
     if (opened_ == nullptr) throw std::runtime_error("the command has no dialog");
     dialog = opened_.get();
     opened_->load();
@@ -83,11 +50,6 @@ void SearchDialogTest::startWithTimeout() {
     entry = newEntry(CommandCode::WaitFor);
     setText(own(), "READY");
     entry.hasTimeout = 1;
-}
-
-void SearchDialogTest::startCompare() {
-    entry = newEntry(CommandCode::IfInputIs);
-    setText(own(), "yes");
 }
 
 bool SearchDialogTest::run(Slot slot) {
@@ -110,5 +72,4 @@ void SearchDialogTest::click(const char* dialog, const char* button) {
     steps.in(dialog, [button](const OpenDialog& d) { d.click(button); });
 }
 
-}  // namespace test
-}  // namespace quendra
+}  // namespace quendra::test

@@ -29,7 +29,7 @@ void putOne(ScriptEntry& e, Slot slot, const std::string& name, const std::strin
     };
     const auto fill = [&](auto& field) {
         field.fill('\0');
-        std::copy(value.begin(), value.end(), field.begin());
+        std::ranges::copy(value, field.begin());
         return value.size();
     };
     const auto number = [&] { return static_cast<std::uint32_t>(std::stoul(value, nullptr, 0)); };
@@ -80,22 +80,20 @@ ScriptEntry crowdedEntry(Code owner) {
     return e;
 }
 
-struct Row {
-    const char* name;
-    Code code;
-    std::string before;
-    /// What is typed into fields, the items that are chosen in lists; a button is clicked.
-    std::string edits;
-    std::string after;
-};
-
 const std::string oldText = "text=old \x80\x9f text";
 const std::string retyped = "text=\u20ac n\u00e9w \u00ff";
 const std::string newText = "text=\x80 n\xe9w \xff";
 const std::string oldFile = "text=C:\\old.qmd";
 const std::string newFile = "text=new.exe";
 
-const Row rows[] = {
+const struct {
+    const char* name;
+    Code code;
+    std::string before;
+    /// What is typed into fields, the items that are chosen in lists; a button is clicked.
+    std::string edits;
+    std::string after;
+} rows[] = {
     {"Comment", Code::Comment, oldText, retyped, newText},
     {"Goto", Code::Goto, oldText, retyped, newText},
     {"Label", Code::Label, oldText, retyped, newText},
@@ -134,72 +132,53 @@ const Row rows[] = {
      "hasDate|hasTime|date=2030-05-04", "until=2030 5 6 4 0 0 0 0"},
 };
 
-void PrintTo(const Row& row, std::ostream* out) {
-    *out << row.name;
-}
-
-class DialogRecords : public DialogTest,
-                      public ::testing::WithParamInterface<std::tuple<Row, Slot>> {
+class DialogRecords : public DialogTest {
   protected:
-    DialogRecords() {
-        entry = crowdedEntry(slot == Slot::Entry ? row.code : Code::WaitFor);
-        slotFields(entry, slot).code = row.code;
-        put(entry, slot, row.before);
-        before = entry;
+    void edit(const std::string& field, const std::string& value) {
+        const auto text = QString::fromStdString(value);
+        if (auto* date = qobject_cast<QDateEdit*>(&widget(field))) {
+            date->setDate(QDate::fromString(text, Qt::ISODate));
+        } else if (auto* time = qobject_cast<QTimeEdit*>(&widget(field))) {
+            time->setTime(QTime::fromString(text, Qt::ISODate));
+        } else if (widget(field).inherits("QComboBox")) {
+            choose(field, text.toInt());
+        } else if (value.empty()) {
+            click(field);
+        } else {
+            retype(field, value);
+        }
+    }
+    void openAndEdit(Slot slot, const std::string& edits) {
         open(slot);
+        forEach(edits, [this](const auto& field, const auto& value) { edit(field, value); });
     }
-
-    void edit() {
-        forEach(row.edits, [this](const std::string& field, const std::string& value) {
-            const auto text = QString::fromStdString(value);
-            if (auto* date = qobject_cast<QDateEdit*>(&widget(field))) {
-                date->setDate(QDate::fromString(text, Qt::ISODate));
-            } else if (auto* time = qobject_cast<QTimeEdit*>(&widget(field))) {
-                time->setTime(QTime::fromString(text, Qt::ISODate));
-            } else if (widget(field).inherits("QComboBox")) {
-                choose(field, text.toInt());
-            } else if (value.empty()) {
-                click(field);
-            } else {
-                retype(field, value);
-            }
-        });
-    }
-
-    const Row& row = std::get<0>(GetParam());
-    const Slot slot = std::get<1>(GetParam());
-    ScriptEntry before;
 };
 
-TEST_P(DialogRecords, OkWithoutAnEditChangesNothing) {
-    click("ok");
-    EXPECT_TRUE(endedWithOk());
-    EXPECT_EQ(entry, before);
+TEST_F(DialogRecords, AnEditGoesIntoItsSlotAndNowhereElseAndOnlyAtOk) {
+    for (const auto& row : rows) {
+        for (const Slot slot : allSlots) {
+            SCOPED_TRACE(row.name + (" in slot " + std::to_string(static_cast<int>(slot))));
+            entry = crowdedEntry(slot == Slot::Entry ? row.code : Code::WaitFor);
+            slotFields(entry, slot).code = row.code;
+            put(entry, slot, row.before);
+            ScriptEntry expected = entry;
+            open(slot);
+            click("ok");
+            EXPECT_TRUE(endedWithOk());
+            EXPECT_EQ(entry, expected) << "OK without an edit";
+            openAndEdit(slot, row.edits);
+            press(Qt::Key_Escape);
+            EXPECT_TRUE(!dialog->isVisible() && dialog->result() == QDialog::Rejected);
+            EXPECT_EQ(entry, expected) << "Escape behind an edit";
+            entry = expected;
+            openAndEdit(slot, row.edits);
+            click("ok");
+            EXPECT_TRUE(endedWithOk());
+            put(expected, slot, row.after);
+            EXPECT_EQ(entry, expected);
+        }
+    }
 }
-
-TEST_P(DialogRecords, CancelAfterAnEditChangesNothing) {
-    edit();
-    press(Qt::Key_Escape);
-    EXPECT_FALSE(dialog->isVisible());
-    EXPECT_EQ(dialog->result(), QDialog::Rejected);
-    EXPECT_EQ(entry, before);
-}
-
-TEST_P(DialogRecords, AnEditGoesIntoItsSlotAndNowhereElse) {
-    edit();
-    click("ok");
-    EXPECT_TRUE(endedWithOk());
-    put(before, slot, row.after);
-    EXPECT_EQ(entry, before);
-}
-
-INSTANTIATE_TEST_SUITE_P(Commands, DialogRecords,
-                         ::testing::Combine(::testing::ValuesIn(rows),
-                                            ::testing::ValuesIn(allSlots)),
-                         [](const auto& row) {
-                             return std::get<0>(row.param).name +
-                                    slotSuffix(std::get<1>(row.param));
-                         });
 
 }  // namespace
 }  // namespace quendra::test

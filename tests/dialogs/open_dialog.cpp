@@ -16,8 +16,7 @@ namespace {
 
 QPoint pointOn(QListView& list, const std::string& text) {
     const auto found = list.model()->match(list.model()->index(0, 0), Qt::DisplayRole,
-                                           QString::fromStdString(text), 1,
-                                           Qt::MatchExactly | Qt::MatchCaseSensitive);
+                                           QString::fromStdString(text), 1, Qt::MatchExactly);
     if (found.isEmpty()) throw std::runtime_error("no row " + text);
     list.scrollTo(found.front());
     return list.visualRect(found.front()).center();
@@ -32,10 +31,10 @@ std::string digits(const std::string& names, const Holds& holds) {
     return result;
 }
 
-void clearField(QWidget& field) {
+QWidget& selectAllIn(QWidget& field) {
     field.setFocus();
     QTest::keyClick(&field, Qt::Key_A, Qt::ControlModifier);
-    QTest::keyClick(&field, Qt::Key_Delete);
+    return field;
 }
 
 }  // namespace
@@ -74,14 +73,12 @@ void OpenDialog::type(const std::string& keys) const {
 }
 
 void OpenDialog::retype(const std::string& field, const std::string& keys) const {
-    clearField(widget(field));
+    QTest::keyClick(&selectAllIn(widget(field)), Qt::Key_Delete);
     typeInto(widget(field), keys);
 }
 
 void OpenDialog::repaste(const std::string& field, const std::string& text) const {
-    widget(field).setFocus();
-    QTest::keyClick(&widget(field), Qt::Key_A, Qt::ControlModifier);
-    pasteInto(widget(field), text);
+    pasteInto(selectAllIn(widget(field)), text);
 }
 
 void OpenDialog::choose(const std::string& list, int item) const {
