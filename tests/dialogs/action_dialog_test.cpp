@@ -38,22 +38,21 @@ class ActionDialogTest : public SearchDialogTest {
 
 TEST_F(ActionDialogTest, SelectsNothingWhereNothingWasChosenAndRefusesInItsWords) {
     const struct {
-        const char* title;
+        CommandCode owner;
         Slot slot;
-        ActionOwner owner;
+        const char* title;
         const char* awaited;
-    } rows[] = {{"Wait_For Found Action", Slot::Then, ActionOwner::WaitForOrWatchFor,
+    } rows[] = {{CommandCode::WaitFor, Slot::Then, "Wait_For Found Action",
                  "search string or <Lu Function> is found."},
-                {"Wait_For Not Found Action", Slot::Else, ActionOwner::WaitForOrWatchFor,
+                {CommandCode::WaitFor, Slot::Else, "Wait_For Not Found Action",
                  "search string or <Lu Function> is not found."},
-                {"If_Input_Is Equal Action", Slot::Then, ActionOwner::IfInputIs,
+                {CommandCode::IfInputIs, Slot::Then, "If_Input_Is Equal Action",
                  "compare string and/or variable(s) are equal."},
-                {"If_Input_Is Not Equal Action", Slot::Else, ActionOwner::IfInputIs,
+                {CommandCode::IfInputIs, Slot::Else, "If_Input_Is Not Equal Action",
                  "compare string and/or variable(s) are not equal."}};
     state.currentHostType = HostType::VT;
     for (const auto& row : rows) {
-        const bool compares = row.owner == ActionOwner::IfInputIs;
-        entry = newEntry(compares ? CommandCode::IfInputIs : CommandCode::WaitFor);
+        entry = newEntry(row.owner);
         const ScriptEntry before = entry;
         steps.in("actionDialog", [&](const OpenDialog& d) {
             EXPECT_EQ(d.title(), row.title);
@@ -76,7 +75,9 @@ TEST_F(ActionDialogTest, SelectsNothingWhereNothingWasChosenAndRefusesInItsWords
             expectTold("Menu Command is not compatible with Script Mode.", "Script Edit Info");
             d.press(Qt::Key_Escape);
         });
-        EXPECT_FALSE(choose(row.slot, row.owner));
+        const bool compares = row.owner == CommandCode::IfInputIs;
+        EXPECT_FALSE(
+            choose(row.slot, compares ? ActionOwner::IfInputIs : ActionOwner::WaitForOrWatchFor));
         EXPECT_EQ(entry, before);
     }
 }
@@ -160,25 +161,11 @@ TEST_F(ActionDialogTest, DoubleClickAsksAgainAndCancelTakesAllOfItBack) {
     }
 }
 
-TEST_F(ActionDialogTest, AMenuCommandWithAFileAsksForItsName) {
-    for (const Slot slot : {Slot::Then, Slot::Else}) {
-        startWithTimeout();
-        chooseRow(menuCommands, menuName(202));
-        click("fileOperationDialog", "cancel");
-        doubleClickRow(menuCommands, menuName(254));
-        answer("fileOperationDialog", "file", "logon.qdm");
-        click("actionDialog", "ok");
-        ASSERT_TRUE(choose(slot));
-        EXPECT_EQ(slotFields(entry, slot).commandId, 254U);
-        EXPECT_EQ(textOf(slotFields(entry, slot)), "logon.qdm");
-        EXPECT_EQ(textOf(own()), "READY");
-    }
-}
-
-TEST_F(ActionDialogTest, ATransferThatLacksItsFilesStartsFromTheWorkingSettings) {
+TEST_F(ActionDialogTest, OkStartsATransferFromTheWorkingSettingsAndADoubleClickFromItsOwn) {
     startWithTimeout();
-    setTransferText(state.workingTransfer.settings, transfer::hostFileName, "REPORT");
-    setTransferText(state.workingTransfer.settings, transfer::pcFileName, "report.txt");
+    FileTransferSettings& working = state.workingTransfer.settings;
+    setTransferText(working, transfer::hostFileName, "REPORT");
+    setTransferText(working, transfer::pcFileName, "report.txt");
     otherwise().transferHost = transferHostTso;
     chooseRow(menuCommands, menuName(receiveFileCommand));
     expectSheet("REPORT");
@@ -187,51 +174,33 @@ TEST_F(ActionDialogTest, ATransferThatLacksItsFilesStartsFromTheWorkingSettings)
     ASSERT_TRUE(choose(Slot::Else));
     EXPECT_EQ(state.workingTransfer.direction, TransferDirection::Receive);
     EXPECT_EQ(entry.elseTransferHost, transferHostTso);
-    EXPECT_EQ(transferText(entry.elseTransferSettings, transfer::hostFileName), "REPORT");
-    EXPECT_EQ(transferText(entry.elseTransferSettings, transfer::member), "MEMBER1");
+    EXPECT_EQ(entry.elseTransferSettings, working);
+    EXPECT_EQ(transferText(working, transfer::member), "MEMBER1");
     EXPECT_EQ(entry.transferSettings, FileTransferSettings{});
 
-    click("actionDialog", "ok");
-    EXPECT_TRUE(choose(Slot::Else)) << "a transfer with both files is not asked for again";
-}
-
-TEST_F(ActionDialogTest, ANewTransferStartsFromTheOneThatAnActionLineShows) {
-    for (const Slot shown : {Slot::Then, Slot::Else}) {
-        startWithTimeout();
-        const SlotFields action = slotFields(entry, shown);
-        action.code = CommandCode::MenuCommand;
-        action.commandId = sendFileCommand;
-        setTransferText(action.transferSettings, transfer::hostFileName, "SHOWN");
-        setTransferText(state.workingTransfer.settings, transfer::hostFileName, "OTHER");
-        click("waitForDialog", shown == Slot::Then ? "elseButton" : "thenButton");
-        chooseRow(menuCommands, menuName(receiveFileCommand));
-        expectSheet("SHOWN");
-        click("actionDialog", "cancel");
-        click("waitForDialog", "cancel");
-        EXPECT_FALSE(run());
-    }
-}
-
-TEST_F(ActionDialogTest, ADoubleClickOnATransferStartsFromTheActionsSettings) {
-    startWithTimeout();
-    entry.thenCode = CommandCode::Beep;
-    setTransferText(state.workingTransfer.settings, transfer::hostFileName, "OTHER");
-    setTransferText(then().transferSettings, transfer::hostFileName, "MINE");
+    setTransferText(working, transfer::hostFileName, "OTHER");
     const ScriptEntry before = entry;
     doubleClickRow(menuCommands, menuName(sendFileCommand));
-    expectSheet("MINE");
-    chooseRow(events, "Beep");
-    ASSERT_TRUE(choose(Slot::Then));
+    expectSheet("REPORT");
+    chooseRow(menuCommands, menuName(receiveFileCommand));
+    ASSERT_TRUE(choose(Slot::Else)) << "a transfer with both files is not asked for again";
     EXPECT_EQ(entry, before) << "a cancelled sheet changes no action";
-
     doubleClickRow(menuCommands, menuName(sendFileCommand));
     answer("transferSheet", "pcFileName", "mine.txt");
     click("actionDialog", "ok");
-    ASSERT_TRUE(choose(Slot::Then));
+    ASSERT_TRUE(choose(Slot::Else));
     EXPECT_EQ(state.workingTransfer.direction, TransferDirection::Send);
-    EXPECT_EQ(entry.thenCode, CommandCode::MenuCommand);
-    EXPECT_EQ(entry.commandId, sendFileCommand);
-    EXPECT_EQ(transferText(entry.transferSettings, transfer::pcFileName), "mine.txt");
+    EXPECT_EQ(entry.elseCommandId, sendFileCommand);
+    EXPECT_EQ(transferText(entry.elseTransferSettings, transfer::pcFileName), "mine.txt");
+
+    // A new one starts from the one that an action's line shows.
+    setTransferText(working, transfer::hostFileName, "OTHER");
+    click("waitForDialog", "thenButton");
+    chooseRow(menuCommands, menuName(receiveFileCommand));
+    expectSheet("REPORT");
+    click("actionDialog", "cancel");
+    click("waitForDialog", "cancel");
+    EXPECT_FALSE(run());
 }
 
 TEST_F(ActionDialogTest, ATypeActionOffersToHideItsTextOnlyInANewEntry) {

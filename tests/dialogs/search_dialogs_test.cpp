@@ -8,10 +8,6 @@ namespace {
 class SearchTest : public SearchDialogTest {
   protected:
     [[nodiscard]] std::string line() const { return formatEntryLine(entry, state.displayNames()); }
-    void startWatch() {
-        entry = newEntry(CommandCode::WatchFor);
-        setText(own(), "ERROR");
-    }
 };
 using WaitForTest = SearchTest;
 using IfInputIsTest = SearchTest;
@@ -70,26 +66,21 @@ TEST_F(WaitForTest, AnEmptyTextIsRefusedAndCancelDropsTheActionsToo) {
 }
 
 TEST_F(WaitForTest, NumbersOutsideOfTheirFieldsCannotBeTypedOrAreRefusedByName) {
+    const char* rows[][5] = {
+        {"row", "63", "6", "0", "Row: enter a number from 1 to 62."},
+        {"row", "62", "62", "", "Row: enter a number from 1 to 62."},
+        {"column", "161", "16", "", "Column: enter a number from 1 to 160."},
+        {"column", "-160", "160", "0", "Column: enter a number from 1 to 160."},
+        {"timeoutSeconds", "256", "25", "", "Timeout in Seconds: enter a number from 0 to 255."}};
     startWithTimeout();
-    steps.in("waitForDialog", [this](const OpenDialog& d) {
-        const char* rows[][3] = {{"row", "63", "6"},      {"row", "62", "62"},
-                                 {"column", "161", "16"}, {"column", "160", "160"},
-                                 {"column", "-5", "5"},   {"timeoutSeconds", "256", "25"}};
-        for (const auto& [field, typed, taken] : rows) {
-            d.retype(field, typed);
-            EXPECT_EQ(d.shown(field), taken) << field;
-        }
-        const char* refused[][3] = {
-            {"row", "0", "Row: enter a number from 1 to 62."},
-            {"column", "", "Column: enter a number from 1 to 160."},
-            {"timeoutSeconds", "", "Timeout in Seconds: enter a number from 0 to 255."}};
-        for (const auto& [field, typed, text] : refused) {
-            const std::string good = d.shown(field);
-            d.retype(field, typed);
+    steps.in("waitForDialog", [&](const OpenDialog& d) {
+        for (const auto& [field, typed, taken, refused, text] : rows) {
+            d.retype(field, refused);
             d.click("ok");
             expectTold(text, "Wait_For");
             EXPECT_EQ(d.focused(), field);
-            d.retype(field, good);
+            d.retype(field, typed);
+            EXPECT_EQ(d.shown(field), taken) << field;
         }
         d.retype("timeoutSeconds", "");
         d.click("noTimeout");
@@ -97,7 +88,7 @@ TEST_F(WaitForTest, NumbersOutsideOfTheirFieldsCannotBeTypedOrAreRefusedByName) 
     });
     ASSERT_TRUE(run()) << "a disabled field must not keep the dialog open";
     EXPECT_EQ(entry.searchRow, 62);
-    EXPECT_EQ(entry.searchColumn, 5);
+    EXPECT_EQ(entry.searchColumn, 160);
 }
 
 TEST_F(WaitForTest, APositionFromAForeignFileStaysUntilItIsChanged) {
@@ -164,6 +155,8 @@ TEST_F(IfInputIsTest, ANewOneTakesAVariableInAnyCaseAndALiteral) {
             d.type(typed);
         }
         EXPECT_EQ(d.shown("secondOperand"), "Var") << "completed to a variable that was not meant";
+        d.type("\u0416");
+        EXPECT_EQ(d.shown("note"), "The character \u0416 cannot be stored in a script.");
         d.click("elseButton");
     });
     chooseRow("scriptEventsList", "Return");
@@ -182,46 +175,20 @@ TEST_F(IfInputIsTest, ANewOneTakesAVariableInAnyCaseAndALiteral) {
         d.widget("secondOperand").setFocus();
         d.press(Qt::Key_Down);
         d.press(Qt::Key_Down);
+        d.repaste("firstOperandText", std::string(300, 'x'));
         d.click("thenButton");
     });
     chooseRow("luFunctionsList", "Enter");
     click("ifInputIsDialog", "ok");
     ASSERT_TRUE(run());
-    EXPECT_EQ(line(), "If_Input_Is VarUserId = VarPassword If Equal Then Enter Else Return");
+    const std::string literal = '"' + std::string(255, 'x') + '"';
+    EXPECT_EQ(line(), "If_Input_Is " + literal + " = VarPassword If Equal Then Enter Else Return");
     EXPECT_EQ(compareTextOf(entry), "");
 }
 
-TEST_F(IfInputIsTest, TheBoxesTakeWhatAScriptCanStoreAndNoMore) {
-    entry = newEntry(CommandCode::IfInputIs);
-    steps.in("ifInputIsDialog", [](const OpenDialog& d) {
-        d.repaste("firstOperandText", std::string(300, 'x'));
-        d.retype("secondOperandText", "a\u20AC\u0416");
-        EXPECT_EQ(d.shown("note"), "The character \u0416 cannot be stored in a script.");
-        d.type("b");
-        d.click("ok");
-    });
-    ASSERT_TRUE(run());
-    EXPECT_EQ(entry.textLength, 255);
-    EXPECT_EQ(compareTextOf(entry), std::string("a\x80") + 'b');
-}
-
-TEST_F(WatchForTest, ANewOneOffersBeep) {
-    entry = newEntry(CommandCode::WatchFor);
-    steps.in("watchForDialog", [this](const OpenDialog& d) {
-        EXPECT_EQ(d.focused(), "text");
-        EXPECT_EQ(d.selected("scriptEventsList"), "Beep");
-        d.click("ok");
-        expectTold("A value is required in this field.", "Watch_For");
-        EXPECT_EQ(d.focused(), "text");
-        d.type("ERROR");
-        d.press(Qt::Key_Return);
-    });
-    ASSERT_TRUE(run());
-    EXPECT_EQ(line(), "Watch_For \"ERROR\" Then Beep");
-}
-
 TEST_F(WatchForTest, AWaitForActionHasATextAndSearchOptionsOnly) {
-    startWatch();
+    entry = newEntry(CommandCode::WatchFor);
+    setText(own(), "ERROR");
     steps.in("watchForDialog", [](const OpenDialog& d) {
         d.clickRow("scriptEventsList", "Wait_For");
         d.click("ok");
@@ -235,9 +202,7 @@ TEST_F(WatchForTest, AWaitForActionHasATextAndSearchOptionsOnly) {
     });
     ASSERT_TRUE(run());
     EXPECT_EQ(line(), "Watch_For \"ERROR\" Then Wait_For \"CLEAR\"");
-    EXPECT_EQ(entry.searchRow, 1);
-    EXPECT_EQ(entry.searchColumn, 80);
-    EXPECT_EQ(entry.caseSensitive, 1);
+    EXPECT_TRUE(entry.searchRow == 1 && entry.searchColumn == 80 && entry.caseSensitive == 1);
     EXPECT_EQ(entry.hasTimeout, 0);
 
     // With its text there, OK asks no more, and a double-click shows what is stored.
@@ -256,9 +221,21 @@ TEST_F(WatchForTest, AWaitForActionHasATextAndSearchOptionsOnly) {
     EXPECT_EQ(textOf(own()), "ERROR");
 }
 
-TEST_F(WatchForTest, RefusesInTheWordsOfTheLibraryAndOnlyAtOk) {
-    startWatch();
+TEST_F(WatchForTest, OffersBeepAndRefusesInTheWordsOfTheLibraryAndOnlyAtOk) {
+    entry = newEntry(CommandCode::WatchFor);
     state.currentHostType = HostType::VT;
+    steps.in("watchForDialog", [this](const OpenDialog& d) {
+        EXPECT_EQ(d.focused(), "text");
+        EXPECT_EQ(d.selected("scriptEventsList"), "Beep");
+        d.click("ok");
+        expectTold("A value is required in this field.", "Watch_For");
+        EXPECT_EQ(d.focused(), "text");
+        d.type("ERROR");
+        d.press(Qt::Key_Return);
+    });
+    ASSERT_TRUE(run());
+    EXPECT_EQ(line(), "Watch_For \"ERROR\" Then Beep");
+
     entry.thenCode = CommandCode::LuFunction;
     entry.row = 99;
     steps.in("watchForDialog", [this](const OpenDialog& d) {

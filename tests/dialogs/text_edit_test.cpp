@@ -7,7 +7,7 @@
 #include <QApplication>
 #include <QtTest>
 
-#include <array>
+#include <algorithm>
 #include <cstdio>
 #include <fcntl.h>
 #include <fstream>
@@ -188,42 +188,32 @@ TEST_F(TextEditTest, WithoutAnIdentityTheToolTipSaysThatTextsAreOnlyObscured) {
 }
 
 // A text that this file never holds as such: every byte is kept with its bits turned over.
-constexpr std::array<unsigned char, 14> turnedSecret = {0x8e, 0xa5, 0xc6, 0xce, 0x94, 0xb0, 0x89,
-                                                        0xc8, 0x98, 0xbb, 0xcc, 0x85, 0xae, 0x95};
+const std::string turnedSecret = "\x8e\xa5\xc6\xce\x94\xb0\x89\xc8\x98\xbb\xcc\x85\xae\x95";
 
 char secretCharacter(std::size_t index) {
     return static_cast<char>(~turnedSecret[index]);
 }
 
-// True when the secret stands at `at`, its characters `step` bytes apart.
-bool isSecretAt(const std::vector<unsigned char>& memory, std::size_t at, std::size_t step) {
-    if (at + turnedSecret.size() * step > memory.size()) return false;
-    for (std::size_t i = 0; i < turnedSecret.size(); ++i) {
-        if (static_cast<unsigned char>(~memory[at + i * step]) != turnedSecret[i]) return false;
-    }
-    return true;
-}
-
 // Looks through all that this process can write, for the secret in one or two bytes a character.
 bool memoryHoldsTheSecret() {
     constexpr std::size_t largest = std::size_t{256} << 20U;
+    const auto isTurned = [](char byte, char turned) { return byte == static_cast<char>(~turned); };
+    std::string wide;
+    for (const char turned : turnedSecret)
+        wide += {turned, '\xff'};
     const int memory = ::open("/proc/self/mem", O_RDONLY | O_CLOEXEC);
     std::ifstream maps("/proc/self/maps");
-    std::string line;
     bool found = false;
-    while (!found && std::getline(maps, line)) {
+    for (std::string line; std::getline(maps, line);) {
         std::size_t start = 0;
         std::size_t end = 0;
         char mode[5] = {};
         if (std::sscanf(line.c_str(), "%zx-%zx %4s", &start, &end, mode) != 3) continue;
         if (mode[0] != 'r' || mode[1] != 'w' || end - start > largest) continue;
-        std::vector<unsigned char> region(end - start);
-        const ssize_t got =
-            ::pread(memory, region.data(), region.size(), static_cast<off_t>(start));
-        region.resize(got < 0 ? 0 : static_cast<std::size_t>(got));
-        for (std::size_t at = 0; at < region.size() && !found; ++at) {
-            found = isSecretAt(region, at, 1) || isSecretAt(region, at, 2);
-        }
+        std::string region(end - start, '\0');
+        ::pread(memory, region.data(), region.size(), static_cast<off_t>(start));
+        for (const std::string& turned : {turnedSecret, wide})
+            found = found || !std::ranges::search(region, turned, isTurned).empty();
         wipeMemory(region.data(), region.size());
     }
     ::close(memory);
@@ -231,9 +221,8 @@ bool memoryHoldsTheSecret() {
 }
 
 void typeSecret(QWidget& edit) {
-    for (std::size_t i = 0; i < turnedSecret.size(); ++i) {
+    for (std::size_t i = 0; i < turnedSecret.size(); ++i)
         typeInto(edit, std::string(1, secretCharacter(i)));
-    }
 }
 
 TEST_F(TextEditTest, NoCopyOfAHiddenTextOutlivesTheDialog) {
