@@ -41,12 +41,12 @@ TEST_F(DialogTest, PositionsThatAreDisabledAreStillRequired) {
         click(box);
         EXPECT_EQ(enabled(fields).find('0'), std::string::npos);
     }
-    entry = newEntry(Code::Copy);
+    entry = newScriptEvent(Code::Copy);
     entry.number = 2;
     open();
     EXPECT_EQ(checked("entireScreen") + enabled("startRow startRowLabel endRowLabel"), "1000");
     EXPECT_EQ(focused(), "entireScreen");
-    entry = newEntry(Code::Paste);
+    entry = newScriptEvent(Code::Paste);
     entry.commandId = 0x44332211;
     open();
     click("ok");
@@ -189,7 +189,7 @@ TEST_F(DialogTest, AnInputPromptHasLinesIsCutWhenPastedAndRefusedWhenTyped) {
 
 TEST_F(DialogTest, WaitUntilShowsThePresentMomentForNoneAndForAnImpossibleOne) {
     for (const DateTime& moment : {DateTime{}, DateTime{2030, 13, 0, 41, 25, 0, 0, 0}}) {
-        entry = newEntry(Code::WaitUntil);
+        entry = newScriptEvent(Code::WaitUntil);
         entry.waitUntil = moment;
         const QDateTime before = QDateTime::currentDateTime().addSecs(-1);
         open();
@@ -210,7 +210,7 @@ TEST_F(DialogTest, WaitUntilShowsThePresentMomentForNoneAndForAnImpossibleOne) {
 TEST_F(DialogTest, WaitUntilFollowsTheLocaleWithWholeYearsAndSeconds) {
     const QLocale before;
     QLocale::setDefault({QLocale::English, QLocale::UnitedStates});
-    entry = newEntry(Code::WaitUntil);
+    entry = newScriptEvent(Code::WaitUntil);
     entry.waitUntil = {2031, 11, 0, 9, 21, 4, 5, 0};
     open();
     EXPECT_EQ(shown("date") + ' ' + shown("time"), "11/9/2031 9:04:05 PM");
@@ -220,7 +220,7 @@ TEST_F(DialogTest, WaitUntilFollowsTheLocaleWithWholeYearsAndSeconds) {
 TEST_F(DialogTest, ReturnIsOkAndTheFirstFieldIsSelectedAtTheStart) {
     // Browse comes before OK in the second one.
     for (const Code code : {Code::Goto, Code::Run}) {
-        entry = newEntry(code);
+        entry = newScriptEvent(code);
         setText(own(), "old");
         open();
         type("new");

@@ -4,19 +4,6 @@
 
 namespace quendra::test {
 
-ScriptEntry newEntry(CommandCode code) {
-    ScriptEntry entry;
-    entry.commandCode = code;
-    entry.number = code == CommandCode::WaitReady ? 1 : 3;
-    entry.maxLength = 255;
-    if (code == CommandCode::Copy) entry.commandId = packArea({1, 1, 24, 80});
-    if (code == CommandCode::Paste) entry.commandId = packArea({1, 1, 0, 0});
-    if (code == CommandCode::Copy || code == CommandCode::Paste) entry.number = 0;
-    if (code == CommandCode::WaitFor)
-        entry.searchRow = entry.searchColumn = entry.caseSensitive = 1;
-    return entry;
-}
-
 void DialogContextTest::expectTold(const std::string& text, const std::string& caption) {
     ASSERT_EQ(answers.messages.size(), 1U) << text;
     EXPECT_EQ(answers.messages[0].text, text);
@@ -26,7 +13,7 @@ void DialogContextTest::expectTold(const std::string& text, const std::string& c
 }
 
 void DialogContextTest::startWith(CommandCode code, Slot slot, std::uint32_t commandId) {
-    entry = newEntry(slot == Slot::Entry ? code : CommandCode::WaitFor);
+    entry = newScriptEvent(slot == Slot::Entry ? code : CommandCode::WaitFor);
     slotFields(entry, slot).code = code;
     if (commandId != 0) slotFields(entry, slot).commandId = commandId;
 }
@@ -42,12 +29,12 @@ void DialogTest::open(Slot slot) {
 }
 
 void DialogTest::openNew(CommandCode code) {
-    entry = newEntry(code);
+    entry = newScriptEvent(code);
     open();
 }
 
 void SearchDialogTest::startWithTimeout() {
-    entry = newEntry(CommandCode::WaitFor);
+    entry = newScriptEvent(CommandCode::WaitFor);
     setText(own(), "READY");
     entry.hasTimeout = 1;
 }

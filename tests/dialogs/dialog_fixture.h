@@ -5,14 +5,12 @@
 #include "app/editor_fixture.h"
 #include "dialogs/command_dialogs.h"
 #include "dialogs/modal_steps.h"
+#include "model/editing.h"
 
 #include <memory>
 #include <string>
 
 namespace quendra::test {
-
-/// What the editor puts into a new entry of a command.
-[[nodiscard]] ScriptEntry newEntry(CommandCode code);
 
 inline constexpr Slot allSlots[] = {Slot::Entry, Slot::Then, Slot::Else};
 

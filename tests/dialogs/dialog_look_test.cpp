@@ -16,8 +16,8 @@ struct LookRow {
     Code code;
     std::uint32_t commandId = 0;
     /// Presses this, or types this into it.
-    const char* field = nullptr;
-    const char* text = nullptr;
+    const char* field = "";
+    const char* text = "";
     Slot slot = Slot::Entry;
     /// The then action is chosen for this one.
     ActionOwner chooses = ActionOwner::None;
@@ -51,6 +51,10 @@ constexpr LookRow lookRows[] = {
     {.name = "WatchedWaitFor", .code = Code::WaitFor, .slot = Slot::Then},
     {"IfInputIs", Code::IfInputIs},
     {"WatchFor", Code::WatchFor},
+    {"TransferVmCms", Code::MenuCommand, 236, "pcFileName", "report\u0416"},
+    {"TransferTso", Code::MenuCommand, 236, "transferHost1"},
+    {"TransferCics", Code::MenuCommand, 237, "transferHost2"},
+    {"TransferAdvanced", Code::MenuCommand, 236, "tabs"},
     {.name = "WaitForAction", .code = Code::WaitFor, .chooses = ActionOwner::WaitForOrWatchFor},
     {.name = "IfInputIsAction", .code = Code::IfInputIs, .chooses = ActionOwner::IfInputIs},
 };
@@ -66,13 +70,18 @@ class DialogLook : public SearchDialogTest,
         startWith(row.code, row.slot, row.commandId);
         setText(own(), "TSO LOGON");
         entry.hasTimeout = 1;
+        entry.transferHost = transferHostTso;
         entry.secondOperandKind = 2;
         if (row.slot != Slot::Else) otherwise().code = Code::Message;
         setText(otherwise(), "The host did not answer within half a minute & the script goes on.");
         if (row.slot == Slot::Then) entry.commandCode = Code::WatchFor;
         steps.in(anyDialog, [&](const OpenDialog& d) {
-            if (row.field && row.text) d.retype(row.field, row.text);
-            if (row.field && !row.text) d.click(row.field);
+            const std::string field = row.field;
+            if (field == "tabs") {
+                d.showTab(1);
+            } else if (!field.empty()) {
+                *row.text != '\0' ? d.retype(field, row.text) : d.click(field);
+            }
             QCoreApplication::processEvents();
             look(*d.dialog);
             d.click("cancel");
@@ -86,8 +95,7 @@ TEST_P(DialogLook, EveryTextIsWholeAndEveryMnemonicWorks) {
     show([](QDialog& dialog) {
         expectWholeTexts(dialog, "thenLine elseLine");
         EXPECT_FALSE(dialog.property("helpPage").toString().isEmpty());
-        const QSize room = dialog.isSizeGripEnabled() ? QSize(1024, 768) : QSize(640, 460);
-        EXPECT_EQ(dialog.size().boundedTo(room), dialog.size());
+        EXPECT_EQ(dialog.size().boundedTo({1024, 768}), dialog.size());
         expectMnemonicsThatWork(dialog);
     });
 }

@@ -1,6 +1,5 @@
 #include "dialogs/open_dialog.h"
 
-#include <QAbstractButton>
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QListView>
@@ -22,15 +21,6 @@ QPoint pointOn(QListView& list, const std::string& text) {
     return list.visualRect(found.front()).center();
 }
 
-template <class Holds>
-std::string digits(const std::string& names, const Holds& holds) {
-    std::istringstream words(names);
-    std::string result;
-    for (std::string name; words >> name;)
-        result += holds(name) ? '1' : '0';
-    return result;
-}
-
 QWidget& selectAllIn(QWidget& field) {
     field.setFocus();
     QTest::keyClick(&field, Qt::Key_A, Qt::ControlModifier);
@@ -41,13 +31,10 @@ QWidget& selectAllIn(QWidget& field) {
 
 void typeInto(QWidget& widget, const std::string& text) {
     for (const QChar character : QString::fromStdString(text)) {
-        if (character.unicode() >= ' ' && character.unicode() < 127) {
-            QTest::keyClick(&widget, character.toLatin1());
-            continue;
-        }
-        const bool isBreak = character == u'\n';
-        QTest::sendKeyEvent(QTest::Click, &widget, isBreak ? Qt::Key_Return : Qt::Key_unknown,
-                            isBreak ? QStringLiteral("\r") : QString(character), Qt::NoModifier);
+        const QString keys = character == u'\n' ? QStringLiteral("\r") : QString(character);
+        const auto key = static_cast<Qt::Key>(character.toUpper().unicode());
+        QTest::sendKeyEvent(QTest::Click, &widget, character == u'\n' ? Qt::Key_Return : key, keys,
+                            Qt::NoModifier);
     }
 }
 
@@ -114,14 +101,12 @@ std::string OpenDialog::shown(const std::string& name) const {
     return widget(name).property(property).toString().toStdString();
 }
 
-std::string OpenDialog::checked(const std::string& buttons) const {
-    return digits(buttons, [this](const std::string& name) {
-        return widget<QAbstractButton>(name).isChecked();
-    });
-}
-
-std::string OpenDialog::enabled(const std::string& names) const {
-    return digits(names, [this](const std::string& name) { return widget(name).isEnabled(); });
+std::string OpenDialog::states(const std::string& names, const char* property) const {
+    std::istringstream words(names);
+    std::string result;
+    for (std::string name; words >> name;)
+        result += widget(name).property(property).toBool() ? '1' : '0';
+    return result;
 }
 
 bool OpenDialog::has(const char* name) const {

@@ -1,27 +1,9 @@
-// Which commands ask for something, and how the dialog of a file transfer starts and ends.
+// How the dialog of a file transfer starts and ends.
 #include "dialogs/dialog_fixture.h"
 #include "transfer/command_builder.h"
 
 namespace quendra::test {
 namespace {
-
-class EditParameters : public SearchDialogTest {};
-
-TEST_F(EditParameters, IsDoneAtOnceWhereThereIsNothingToEdit) {
-    using enum CommandCode;
-    for (const CommandCode code : {None, Beep, ClearWatch, Return, LuFunction}) {
-        startWith(code, Slot::Entry);
-        EXPECT_TRUE(run()) << static_cast<int>(code);
-    }
-    for (const std::uint32_t id : {201U, 203U, 235U, 238U, 268U, 300U}) {
-        startWith(MenuCommand, Slot::Entry, id);
-        EXPECT_TRUE(run()) << id;
-    }
-    for (const CommandCode nested : {WaitFor, IfInputIs, WatchFor}) {
-        startWith(nested, Slot::Then);
-        EXPECT_TRUE(run(Slot::Then)) << static_cast<int>(nested);
-    }
-}
 
 FileTransferSettings settingsWith(std::string_view hostFile) {
     FileTransferSettings settings = defaultTransferSettings();
@@ -29,7 +11,7 @@ FileTransferSettings settingsWith(std::string_view hostFile) {
     return settings;
 }
 
-TEST_F(EditParameters, ATransferStartsFromItsOwnSettingsOrElseFromTheWorkingOnes) {
+TEST_F(SearchDialogTest, ATransferStartsFromItsOwnSettingsOrElseFromTheWorkingOnes) {
     const struct {
         const char* name;
         std::uint32_t commandId;
