@@ -1,7 +1,7 @@
 // The choice of an action: what is selected, what OK and double-click ask for, and what Cancel
-// takes back.
+// takes back; and where a file transfer starts from.
 #include "dialogs/dialog_fixture.h"
-#include "transfer/file_transfer_settings.h"
+#include "transfer/command_builder.h"
 
 #include <QListView>
 
@@ -115,13 +115,11 @@ TEST_F(ActionDialogTest, OneRowIsSelectedInAllThreeListsAndThatIsTheChoice) {
     EXPECT_EQ(entry.thenCode, CommandCode::None);
 }
 
-TEST_F(ActionDialogTest, AWaitAsFoundActionUsesTheEntrysSecondsAndAsNotFoundAsks) {
+TEST_F(ActionDialogTest, OkAsksForWhatTheActionLacksUntilItHasIt) {
     startWithTimeout();
     chooseRow(events, "Wait");
     ASSERT_TRUE(choose(Slot::Then));
-    EXPECT_EQ(entry.thenCode, CommandCode::Wait);
-    EXPECT_EQ(entry.number, 3U);
-
+    EXPECT_EQ(entry.number, 3U) << "a found action uses the seconds of the entry";
     chooseRow(events, "Wait");
     steps.in("waitDialog", [](const OpenDialog& d) { d.press(Qt::Key_Escape); });
     chooseRow(events, "Wait");
@@ -129,9 +127,25 @@ TEST_F(ActionDialogTest, AWaitAsFoundActionUsesTheEntrysSecondsAndAsNotFoundAsks
     ASSERT_TRUE(choose(Slot::Else));
     EXPECT_EQ(entry.elseNumber, 7U);
     EXPECT_EQ(entry.number, 3U);
-
     click("actionDialog", "ok");
     EXPECT_TRUE(choose(Slot::Else)) << "seconds that are there are not asked for again";
+
+    // Only a new entry's text can still be hidden.
+    for (const bool editing : {false, true}) {
+        startWithTimeout();
+        state.editing = editing;
+        chooseRow(events, "Type");
+        steps.in("textDialog", [editing](const OpenDialog& d) {
+            EXPECT_EQ(d.has("hide"), !editing);
+            d.retype("text", "secret");
+            if (!editing) d.click("hide");
+            d.click("ok");
+        });
+        ASSERT_TRUE(choose(Slot::Else));
+        EXPECT_EQ(entry.elseHidden, editing ? 0 : 1);
+        EXPECT_EQ(textOf(otherwise()), "secret");
+        EXPECT_EQ(entry.hidden, 0);
+    }
 }
 
 TEST_F(ActionDialogTest, DoubleClickAsksAgainAndCancelTakesAllOfItBack) {
@@ -203,21 +217,58 @@ TEST_F(ActionDialogTest, OkStartsATransferFromTheWorkingSettingsAndADoubleClickF
     EXPECT_FALSE(run());
 }
 
-TEST_F(ActionDialogTest, ATypeActionOffersToHideItsTextOnlyInANewEntry) {
-    for (const bool editing : {false, true}) {
-        startWithTimeout();
-        state.editing = editing;
-        chooseRow(events, "Type");
-        steps.in("textDialog", [editing](const OpenDialog& d) {
-            EXPECT_EQ(d.has("hide"), !editing);
-            d.retype("text", "secret");
-            if (!editing) d.click("hide");
-            d.click("ok");
-        });
-        ASSERT_TRUE(choose(Slot::Else));
-        EXPECT_EQ(entry.elseHidden, editing ? 0 : 1);
-        EXPECT_EQ(textOf(otherwise()), "secret");
-        EXPECT_EQ(entry.hidden, 0);
+FileTransferSettings settingsWith(std::string_view hostFile) {
+    FileTransferSettings settings = defaultTransferSettings();
+    setTransferText(settings, transfer::hostFileName, hostFile);
+    return settings;
+}
+
+TEST_F(ActionDialogTest, ATransferStartsFromItsOwnSettingsOrElseFromTheWorkingOnes) {
+    const struct {
+        const char* name;
+        std::uint32_t commandId;
+        Slot slot;
+        bool editing;
+        bool hasOwn;
+        const char* shown;
+    } rows[] = {
+        {"a new entry", sendFileCommand, Slot::Entry, false, false, "WORKING"},
+        {"an entry with settings", receiveFileCommand, Slot::Entry, true, true, "OWN"},
+        {"an entry shows that it has none", receiveFileCommand, Slot::Entry, true, false, ""},
+        {"an action with settings", receiveFileCommand, Slot::Else, false, true, "OWN"},
+        {"an action without settings", sendFileCommand, Slot::Else, true, false, "WORKING"},
+    };
+    for (const auto& row : rows) {
+        for (const bool ok : {true, false}) {
+            SCOPED_TRACE(row.name + std::string(ok ? " ends with OK" : " is cancelled"));
+            state.editing = row.editing;
+            state.workingTransfer = {settingsWith("WORKING"), transferHostVmCms, {}};
+            startWith(CommandCode::MenuCommand, row.slot, row.commandId);
+            const SlotFields fields = slotFields(entry, row.slot);
+            if (row.hasOwn) fields.transferSettings = settingsWith("OWN");
+            fields.transferHost = transferHostCics;
+            const ScriptEntry before = entry;
+            steps.in("transferSheet", [&](const OpenDialog& d) {
+                EXPECT_EQ(d.shown("hostFileName"), row.shown);
+                EXPECT_TRUE(d.isChecked("transferHost2"));
+                d.retype("hostFileName", "EDITED");
+                d.click("transferHost1");
+                d.click(ok ? "ok" : "cancel");
+            });
+            EXPECT_EQ(run(row.slot), ok);
+            const auto& working = state.workingTransfer;
+            EXPECT_EQ(working.direction == TransferDirection::Send,
+                      row.commandId == sendFileCommand);
+            EXPECT_EQ(transferText(working.settings, transfer::hostFileName), "EDITED")
+                << "edits stay with the working settings";
+            if (ok) {
+                EXPECT_EQ(fields.transferSettings, working.settings);
+                EXPECT_EQ(fields.transferHost, transferHostTso);
+                EXPECT_EQ(working.host, transferHostTso);
+            } else {
+                EXPECT_EQ(entry, before);
+            }
+        }
     }
 }
 
