@@ -225,22 +225,19 @@ FileTransferSettings settingsWith(std::string_view hostFile) {
 
 TEST_F(ActionDialogTest, ATransferStartsFromItsOwnSettingsOrElseFromTheWorkingOnes) {
     const struct {
-        const char* name;
-        std::uint32_t commandId;
         Slot slot;
         bool editing;
         bool hasOwn;
         const char* shown;
-    } rows[] = {
-        {"a new entry", sendFileCommand, Slot::Entry, false, false, "WORKING"},
-        {"an entry with settings", receiveFileCommand, Slot::Entry, true, true, "OWN"},
-        {"an entry shows that it has none", receiveFileCommand, Slot::Entry, true, false, ""},
-        {"an action with settings", receiveFileCommand, Slot::Else, false, true, "OWN"},
-        {"an action without settings", sendFileCommand, Slot::Else, true, false, "WORKING"},
-    };
+        std::uint32_t commandId;
+    } rows[] = {{Slot::Entry, false, false, "WORKING", sendFileCommand},
+                {Slot::Entry, true, true, "OWN", receiveFileCommand},
+                {Slot::Entry, true, false, "", receiveFileCommand},
+                {Slot::Else, false, true, "OWN", receiveFileCommand},
+                {Slot::Else, true, false, "WORKING", sendFileCommand}};
     for (const auto& row : rows) {
         for (const bool ok : {true, false}) {
-            SCOPED_TRACE(row.name + std::string(ok ? " ends with OK" : " is cancelled"));
+            SCOPED_TRACE(&row - rows);
             state.editing = row.editing;
             state.workingTransfer = {settingsWith("WORKING"), transferHostVmCms, {}};
             startWith(CommandCode::MenuCommand, row.slot, row.commandId);

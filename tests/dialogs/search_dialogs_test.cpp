@@ -9,11 +9,8 @@ class SearchTest : public SearchDialogTest {
   protected:
     [[nodiscard]] std::string line() const { return formatEntryLine(entry, state.displayNames()); }
 };
-using WaitForTest = SearchTest;
-using IfInputIsTest = SearchTest;
-using WatchForTest = SearchTest;
 
-TEST_F(WaitForTest, ANewOneIsTypedAndItsTimeoutSwitchesTheActionsAtOnce) {
+TEST_F(SearchTest, ANewWaitForIsTypedAndItsTimeoutSwitchesTheActionsAtOnce) {
     constexpr const char* actionParts = "thenButton thenLine elseButton elseLine timeoutSeconds";
     entry = newScriptEvent(CommandCode::WaitFor);
     ScriptEntry expected = entry;
@@ -48,7 +45,7 @@ TEST_F(WaitForTest, ANewOneIsTypedAndItsTimeoutSwitchesTheActionsAtOnce) {
     EXPECT_EQ(entry, expected);
 }
 
-TEST_F(WaitForTest, CancelDropsTheActionsToo) {
+TEST_F(SearchTest, CancelDropsTheActionsToo) {
     startWithTimeout();
     const ScriptEntry before = entry;
     click("waitForDialog", "thenButton");
@@ -61,7 +58,7 @@ TEST_F(WaitForTest, CancelDropsTheActionsToo) {
     EXPECT_EQ(entry, before);
 }
 
-TEST_F(WaitForTest, NumbersOutsideOfTheirFieldsCannotBeTypedOrAreRefusedByName) {
+TEST_F(SearchTest, NumbersOutsideOfTheirFieldsCannotBeTypedOrAreRefusedByName) {
     const char* rows[][5] = {
         {"row", "63", "6", "0", "Row: enter a number from 1 to 62."},
         {"row", "62", "62", "", "Row: enter a number from 1 to 62."},
@@ -87,7 +84,7 @@ TEST_F(WaitForTest, NumbersOutsideOfTheirFieldsCannotBeTypedOrAreRefusedByName) 
     EXPECT_EQ(entry.searchColumn, 160);
 }
 
-TEST_F(WaitForTest, APositionFromAForeignFileStaysUntilItIsChanged) {
+TEST_F(SearchTest, APositionFromAForeignFileStaysUntilItIsChanged) {
     for (const auto& [row, column] : {std::pair{0, 0}, {63, 161}, {255, 255}}) {
         startWithTimeout();
         entry.searchRow = static_cast<std::uint8_t>(row);
@@ -137,7 +134,7 @@ TEST_F(SearchTest, ActionsThatCannotBeReadSurviveAnEditOfTheText) {
     EXPECT_EQ(entry, expected);
 }
 
-TEST_F(IfInputIsTest, ANewOneTakesAVariableInAnyCaseAndALiteral) {
+TEST_F(SearchTest, ANewIfInputIsTakesAVariableInAnyCaseAndALiteral) {
     entry = newScriptEvent(CommandCode::IfInputIs);
     steps.in("ifInputIsDialog", [this](const OpenDialog& d) {
         EXPECT_EQ(d.shown("firstOperand") + d.shown("secondOperand"), "InputStr");
@@ -181,7 +178,7 @@ TEST_F(IfInputIsTest, ANewOneTakesAVariableInAnyCaseAndALiteral) {
     EXPECT_EQ(compareTextOf(entry), "");
 }
 
-TEST_F(WatchForTest, AWaitForActionHasATextAndSearchOptionsOnly) {
+TEST_F(SearchTest, AWaitForActionOfAWatchForHasATextAndSearchOptionsOnly) {
     entry = newScriptEvent(CommandCode::WatchFor);
     setText(own(), "ERROR");
     steps.in("watchForDialog", [](const OpenDialog& d) {
@@ -216,7 +213,7 @@ TEST_F(WatchForTest, AWaitForActionHasATextAndSearchOptionsOnly) {
     EXPECT_EQ(textOf(own()), "ERROR");
 }
 
-TEST_F(WatchForTest, OffersBeepAndRefusesInTheWordsOfTheLibraryAndOnlyAtOk) {
+TEST_F(SearchTest, ANewWatchForOffersBeepAndRefusesInTheWordsOfTheLibraryAndOnlyAtOk) {
     entry = newScriptEvent(CommandCode::WatchFor);
     state.currentHostType = HostType::VT;
     steps.in("watchForDialog", [this](const OpenDialog& d) {
