@@ -1,21 +1,15 @@
 // Several editors beside each other, and the ways in which a window closes.
+#include "app/editor_fixture.h"
 #include "desktop/editor_process.h"
 
 namespace quendra::test {
 namespace {
 
-Bytes comments(std::initializer_list<std::string_view> texts) {
-    Bytes file = bytesOf("QDMDSCR=");
-    for (const std::string_view text : texts)
-        file = joined({file, Bytes{6}, counted(text)});
-    return file;
-}
-
 class WindowsTest : public EditorProcessTest {
   protected:
     WindowsTest() {
-        writeBytes(pathOf("a.qds"), comments({"1", "2", "3"}));
-        writeBytes(pathOf("b.qds"), comments({"4"}));
+        writeBytes(pathOf("a.qds"), commentFile(3));
+        writeBytes(pathOf("b.qds"), commentFile(1));
     }
 
     // Cuts the first entry, which stands for any change.
@@ -23,6 +17,7 @@ class WindowsTest : public EditorProcessTest {
     void expectScript(const std::string& script, const Bytes& bytes) const {
         EXPECT_EQ(readBytes(pathOf(script)), bytes);
     }
+    const Bytes cut = scriptFile("QDMDSCR=", {commentRecord("2"), commentRecord("3")});
 };
 
 TEST_F(WindowsTest, SecondStartRaisesTheWindowThatShowsTheScriptMinimisedOrWithADialog) {
@@ -50,7 +45,7 @@ TEST_F(WindowsTest, KilledEditorLeavesNothingInTheWay) {
     const auto next = open("a.qds");
     change();
     pressUntil({"ctrl+s"}, titleOf("a.qds"));
-    expectScript("a.qds", comments({"2", "3"}));
+    expectScript("a.qds", cut);
     EXPECT_EQ(start("a.qds")->exitCodeAtEnd(), 0) << "it answers in place of the killed one";
 }
 
@@ -65,20 +60,20 @@ TEST_F(WindowsTest, ClosingWithChangesAsksAndDoesWhatIsAnswered) {
     pressUntil({"ctrl+q"}, question);
     press({"alt+n"});
     EXPECT_EQ(editor->exitCodeAtEnd(), 0);
-    expectScript("a.qds", comments({"1", "2", "3"}));
+    expectScript("a.qds", commentFile(3));
     const auto second = open("a.qds");
     change();
     pressUntil({"alt+F4"}, question);
     press({"Return"});
     EXPECT_EQ(second->exitCodeAtEnd(), 0);
-    expectScript("a.qds", comments({"2", "3"}));
+    expectScript("a.qds", cut);
     const auto untitled = open();
     pressUntil({"Tab", "Home", "Return"}, titleOf("", true));
     pressUntil({"alt+F4"}, question);
     pressUntil({"alt+y"}, "Save Script As");
     press({"=made", "Return"});
     EXPECT_EQ(untitled->exitCodeAtEnd(), 0);
-    expectScript("made.qds", joined({bytesOf("QDMDSCR="), Bytes{4}}));
+    expectScript("made.qds", scriptFile("QDMDSCR=", {Bytes{4}}));
 }
 
 TEST_F(WindowsTest, EndOfTheSessionKeepsTheChangesBesideTheScript) {
@@ -86,8 +81,8 @@ TEST_F(WindowsTest, EndOfTheSessionKeepsTheChangesBesideTheScript) {
     change();
     editor->terminate();
     EXPECT_EQ(editor->exitCodeAtEnd(), 0);
-    expectScript("a.qds", comments({"1", "2", "3"}));
-    expectScript("a (unsaved).qds", comments({"2", "3"}));
+    expectScript("a.qds", commentFile(3));
+    expectScript("a (unsaved).qds", cut);
 }
 
 TEST_F(WindowsTest, UndoFindTheClipboardAndOpenAnswerToTheirKeys) {
@@ -100,7 +95,8 @@ TEST_F(WindowsTest, UndoFindTheClipboardAndOpenAnswerToTheirKeys) {
     // What is found is selected: cutting it tells which entry that was.
     pressUntil({"ctrl+f", "=2", "Escape", "ctrl+x"}, changed);
     pressUntil({"End", "ctrl+v", "ctrl+s"}, titleOf("a.qds"));
-    expectScript("a.qds", comments({"1", "3", "2"}));
+    expectScript("a.qds", scriptFile("QDMDSCR=",
+                                     {commentRecord("1"), commentRecord("3"), commentRecord("2")}));
     pressUntil({"ctrl+a", "Delete"}, "Confirm Delete");
     pressUntil({"alt+y"}, changed);
     pressUntil({"ctrl+z"}, titleOf("a.qds"));

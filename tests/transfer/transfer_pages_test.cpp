@@ -81,20 +81,13 @@ TEST_F(TransferSheetTest, HostSystemDecidesWhatIsEnabledAtOnceAndOnTheOtherPage)
                 d.click(hostButtons[next]);
                 expectEnabled(d, next);
             }
+            for (const auto& [button, enabled] :
+                 {std::pair("binary1", false), {hostButtons[2], false}, {"binary0", true}}) {
+                d.click(button);
+                EXPECT_EQ(d.isEnabled("useLocalTranslateTables"), enabled) << "for text only";
+            }
         });
     }
-}
-
-TEST_F(TransferSheetTest, TranslateTablesAreForTextOnly) {
-    open([](const OpenDialog& d) {
-        for (const auto& [button, enabled] :
-             {std::pair("binary1", false), std::pair(hostButtons[2], false),
-              std::pair("binary0", true), std::pair("binary1", false)}) {
-            d.click(button);
-            EXPECT_EQ(d.isEnabled("useLocalTranslateTables"), enabled) << button;
-        }
-    });
-    open([](const OpenDialog& d) { EXPECT_FALSE(d.isEnabled("useLocalTranslateTables")); });
 }
 
 TEST_F(TransferSheetTest, APageLooksAtTheSettingsAgainButForTheBidiOptions) {
