@@ -1,6 +1,7 @@
 #include "desktop/editor_process.h"
 
 #include <fstream>
+#include <iostream>
 
 namespace quendra::test {
 
@@ -15,24 +16,23 @@ EditorProcessTest::EditorProcessTest() {
 }
 
 EditorProcessTest::~EditorProcessTest() {
-    if (!HasFailure()) return;
-    for (const std::string& title : windowTitles())
-        std::cout << "on the screen: " << title << "\n";
-    if (std::ifstream log(home_ / "editor.log"); log.peek() != EOF) std::cout << log.rdbuf();
+    if (HasFailure()) std::cout << "on the screen:\n" << windowTitles();
 }
 
 std::unique_ptr<ChildProcess> EditorProcessTest::start(const std::string& script) {
-    Command command = {QUENDRA_EDITOR};
+    auto editor = std::make_unique<ChildProcess>();
+    editor->setVariable("HOME", home_.path());
+    editor->setVariable("XDG_CONFIG_HOME", home_ / "config");
+    editor->setVariable("XDG_DATA_HOME", home_ / "data");
+    editor->setVariable("XDG_CONFIG_DIRS", home_ / "etc");
+    editor->setVariable("XDG_RUNTIME_DIR", home_ / "runtime");
+    editor->setVariable("LC_ALL", "C.UTF-8");
+    editor->setWorkingDirectory(QString::fromStdString(home_.path()));
+    editor->setProcessChannelMode(QProcess::ForwardedChannels);
+    Words command = {QUENDRA_EDITOR};
     if (!script.empty()) command.push_back(pathOf(script));
-    const ChildProcess::Variables variables = {{"HOME", home_.path()},
-                                               {"XDG_CONFIG_HOME", home_ / "config"},
-                                               {"XDG_DATA_HOME", home_ / "data"},
-                                               {"XDG_CONFIG_DIRS", home_ / "etc"},
-                                               {"XDG_RUNTIME_DIR", home_ / "runtime"},
-                                               {"QT_QPA_PLATFORM", "xcb"},
-                                               {"QT_QPA_PLATFORMTHEME", "none"},
-                                               {"LC_ALL", "C.UTF-8"}};
-    return std::make_unique<ChildProcess>(command, variables, home_.path(), home_ / "editor.log");
+    editor->startAs(command);
+    return editor;
 }
 
 std::unique_ptr<ChildProcess> EditorProcessTest::open(const std::string& script) {
@@ -42,12 +42,8 @@ std::unique_ptr<ChildProcess> EditorProcessTest::open(const std::string& script)
 }
 
 std::string EditorProcessTest::titleOf(const std::string& script, bool modified) const {
-    return titleStart + (script.empty() ? "Untitled" : pathOf(script).string()) +
+    return "Quendra Script Editor  -  " + (script.empty() ? "Untitled" : pathOf(script).string()) +
            (modified ? " *" : "");
-}
-
-void EditorProcessTest::write(const std::string& script, const Bytes& bytes) const {
-    writeBytes(pathOf(script), bytes);
 }
 
 }  // namespace quendra::test

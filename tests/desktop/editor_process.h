@@ -9,8 +9,6 @@
 
 namespace quendra::test {
 
-inline constexpr const char* titleStart = "Quendra Script Editor  -  ";
-
 /// A user with scripts, and editors that show them.
 class EditorProcessTest : public testing::Test {
   protected:
@@ -26,7 +24,10 @@ class EditorProcessTest : public testing::Test {
         return home_ / script;
     }
     [[nodiscard]] std::string titleOf(const std::string& script, bool modified = false) const;
-    void write(const std::string& script, const Bytes& bytes) const;
+    void pressUntil(const Words& keys, const std::string& title) const {
+        press(keys);
+        waitForTitle(title);
+    }
 
   private:
     TemporaryFolder home_;

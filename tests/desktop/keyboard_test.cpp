@@ -8,46 +8,30 @@
 namespace quendra::test {
 namespace {
 
-using Keys = std::vector<std::string>;
-
 // What is pressed while the window of this title has the focus.
 struct Step {
     std::string window;
-    Keys keys;
+    Words keys;
 };
-
-std::size_t rowOf(CommandCode code) {
-    return static_cast<std::size_t>(std::ranges::distance(
-        scriptEvents().begin(), std::ranges::find(scriptEvents(), code, &ScriptEventInfo::code)));
-}
-
-std::size_t rowOfEnter() {
-    return NumberedNames().luFunctions.of(HostType::Mainframe).rowOf({4, 0}).value();
-}
-
-std::size_t variableRow(std::string_view name) {
-    return static_cast<std::size_t>(std::ranges::find(inputVariableNames, name) -
-                                    inputVariableNames.begin());
-}
 
 std::string downTo(std::size_t row) {
     return "Down*" + std::to_string(row);
 }
 std::string downTo(CommandCode code) {
-    return downTo(rowOf(code));
+    const auto found = std::ranges::find(scriptEvents(), code, &ScriptEventInfo::code);
+    return downTo(static_cast<std::size_t>(found - scriptEvents().begin()));
+}
+std::string downToEnter() {
+    return downTo(NumberedNames().luFunctions.of(HostType::Mainframe).rowOf({4, 0}).value());
 }
 
 class KeyboardTest : public EditorProcessTest {
   protected:
-    // Moves the focus among the four lists: 0 is the script, then come the palettes.
-    void goToList(int list) {
-        const int steps = list - list_;
-        press({(steps > 0 ? "Tab*" : "shift+Tab*") + std::to_string(std::abs(steps))});
+    // List 0 is the script, then come the palettes.
+    void insert(int list, const std::string& toRow, const std::vector<Step>& steps = {}) {
+        const std::string times = "*" + std::to_string(std::abs(list - list_));
+        press({(list > list_ ? "Tab" : "shift+Tab") + times, "Home", toRow, "Return"});
         list_ = list;
-    }
-    void insert(int list, std::size_t row, const std::vector<Step>& steps) {
-        if (list != list_) goToList(list);
-        press({"Home", downTo(row), "Return"});
         for (const Step& step : steps) {
             waitForTitle(step.window);
             press(step.keys);
@@ -55,36 +39,31 @@ class KeyboardTest : public EditorProcessTest {
         waitForTitle(titleOf("", true));
     }
     void event(CommandCode code, const std::vector<Step>& steps = {}) {
-        insert(1, rowOf(code), steps);
+        insert(1, downTo(code), steps);
     }
     // Its only parameter is a text.
     void event(CommandCode code, const std::string& text) {
         event(code, {{std::string(commandKeyword(code)), {"=" + text, "Return"}}});
     }
-    void input(const char* prompt, const Keys& hide, std::size_t variable) {
-        event(CommandCode::Input,
-              {{"Input", {"=TSO logon", "alt+p", std::string("=") + prompt, "alt+m", "=8"}},
-               {"Input", hide},
-               {"Input", {"alt+o", "Home", downTo(variable), "Return"}}});
+    // `variable` counts among those that an Input can fill.
+    void input(const std::string& prompt, const std::string& hide, std::size_t variable) {
+        event(CommandCode::Input, {{"Input",
+                                    {"=TSO logon", "alt+p", "=" + prompt, "alt+m", "=8", hide,
+                                     "alt+o", "Home", downTo(variable), "Return"}}});
     }
-    void enter() { insert(2, enterRow_, {}); }
-    void menu(std::uint32_t commandId, const std::vector<Step>& steps = {}) {
-        insert(3, commandId - firstMenuCommand, steps);
-    }
+    void enter() { insert(2, enterRow_); }
 
     void buildFirstHalf();
     void buildSecondHalf();
     void expectSaved(const char* key, const char* typed, const char* script) const {
-        press({key});
-        waitForTitle("Save Script As");
-        press({typed, "Return"});
-        waitForTitle(titleOf(script));
+        pressUntil({key}, "Save Script As");
+        pressUntil({typed, "Return"}, titleOf(script));
         EXPECT_EQ(readBytes(pathOf(script)), readBytes(QUENDRA_EXAMPLES "/tso-logon.qds"));
     }
 
   private:
     int list_ = 0;
-    std::size_t enterRow_ = rowOfEnter();
+    const std::string enterRow_ = downToEnter();
 };
 
 void KeyboardTest::buildFirstHalf() {
@@ -95,12 +74,12 @@ void KeyboardTest::buildFirstHalf() {
                                  {"Wait_For Not Found Action", {"Home", toGoto, "Return"}},
                                  {"Goto", {"=NoHost", "Return"}},
                                  {"Wait_For", {"Return"}}});
-    input("Your TSO user id:", {"alt+m"}, variableRow("VarUserId"));
+    input("Your TSO user id:", "alt+m", 2);
     event(CommandCode::Type, "VarUserId");
     enter();
     event(CommandCode::WaitReady, {{"Wait_Ready", {"Return"}}});
     event(CommandCode::Label, "AskPassword");
-    input("Your password (not shown):", {"alt+h"}, variableRow("VarPassword"));
+    input("Your password (not shown):", "alt+h", 1);
     event(CommandCode::IfInputIs,
           {{"If_Input_Is", {"ctrl+a", "=VarPassword", "Tab", "ctrl+a", "=quit", "alt+e"}},
            {"If_Input_Is Equal Action", {"Home", toGoto, "Return"}},
@@ -117,8 +96,7 @@ void KeyboardTest::buildFirstHalf() {
 }
 
 void KeyboardTest::buildSecondHalf() {
-    event(CommandCode::WatchFor,
-          {{"Watch_For", {"=***", "Tab*2", "Home", downTo(rowOfEnter()), "Return"}}});
+    event(CommandCode::WatchFor, {{"Watch_For", {"=***", "Tab*2", "Home", enterRow_, "Return"}}});
     event(CommandCode::WaitFor,
           {{"Wait_For", {"=READY", "alt+m", "Tab", "=60", "alt+f"}},
            {"Wait_For Found Action", {"Home", downTo(CommandCode::ClearWatch), "Return"}},
@@ -126,9 +104,10 @@ void KeyboardTest::buildSecondHalf() {
            {"Wait_For Not Found Action", {"Home", downTo(CommandCode::Message), "Return"}},
            {"Message", {"=TSO did not become ready within a minute.", "Return"}},
            {"Wait_For", {"Return"}}});
-    menu(237, {{"File Transfer Settings",
-                {"alt+t", "alt+f", "='OPS.NIGHTLY.REPORT'", "alt+m", "=SUMMARY", "alt+n",
-                 "=C:\\Reports\\summary.txt", "Return"}}});
+    insert(3, downTo(237 - firstMenuCommand),
+           {{"File Transfer Settings",
+             {"alt+t", "alt+f", "='OPS.NIGHTLY.REPORT'", "alt+m", "=SUMMARY", "alt+n",
+              "=C:\\Reports\\summary.txt", "Return"}}});
     event(CommandCode::WaitReady, {{"Wait_Ready", {"Return"}}});
     event(CommandCode::Type, "EDIT");
     enter();
@@ -137,7 +116,7 @@ void KeyboardTest::buildSecondHalf() {
     event(CommandCode::Beep);
     event(CommandCode::Message, "The host does not answer. Is the line up?");
     event(CommandCode::Label, "Leave");
-    menu(207);
+    insert(3, downTo(207 - firstMenuCommand));
 }
 
 TEST_F(KeyboardTest, BuildsTheLogOnScriptAndASecondStartReadsWhatWasSaved) {

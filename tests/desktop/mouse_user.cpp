@@ -1,28 +1,21 @@
 #include "desktop/mouse_user.h"
 
+#include <QAbstractButton>
 #include <QAbstractItemModel>
-#include <QComboBox>
-#include <QDialogButtonBox>
 #include <QListView>
-#include <QMenu>
-#include <QMenuBar>
-#include <QPushButton>
 #include <QThread>
 #include <QWindow>
 
 #include <gtest/gtest.h>
+#include <stdexcept>
 
 namespace quendra::test {
 namespace {
 
-ScreenPoint screenPoint(const QWidget& widget, QPoint inside) {
-    const QPoint point = widget.mapToGlobal(inside);
-    return {point.x(), point.y()};
-}
-
-// The window that has the focus, when it can be clicked already.
+// The window that has the focus, or its open list, when it can be clicked already.
 QWidget* readyWindow() {
-    QWidget* window = QApplication::activeWindow();
+    QWidget* popup = QApplication::activePopupWidget();
+    QWidget* window = popup != nullptr ? popup : QApplication::activeWindow();
     const bool ready = window != nullptr && window->windowHandle() != nullptr &&
                        window->windowHandle()->isExposed();
     return ready ? window : nullptr;
@@ -30,11 +23,15 @@ QWidget* readyWindow() {
 
 QWidget& find(const std::string& name) {
     const QWidget* window = readyWindow();
-    if (window != nullptr) {
-        for (auto* found : window->findChildren<QWidget*>(QString::fromStdString(name)))
-            if (found->isVisible()) return *found;
+    if (window == nullptr) throw std::runtime_error("no window is active");
+    for (QWidget* found : window->findChildren<QWidget*>()) {
+        const auto* button = qobject_cast<QAbstractButton*>(found);
+        const bool isMeant = found->objectName().toStdString() == name ||
+                             found->inherits(name.c_str()) ||
+                             (button != nullptr && button->text().toStdString() == name);
+        if (isMeant && found->isVisible() && found->isEnabled()) return *found;
     }
-    throw std::runtime_error("the active window has no " + name);
+    throw std::runtime_error("the active window offers no " + name);
 }
 
 // The exception reaches the thread that asked.
@@ -53,33 +50,52 @@ auto ask(const Function& function) {
     return result;
 }
 
-MouseUser::Target targetIn(const QWidget& widget, QPoint inside) {
-    return {screenPoint(widget, inside), widget.underMouse()};
-}
-
-struct RowPlace {
-    MouseUser::Target target;
-    /// -1 above what is in sight, 1 below it.
+// Where to click, and whether the widget there knows that the pointer is on it.
+struct Target {
+    ScreenPoint point;
+    bool isUnderMouse = false;
+    /// A row: -1 above what is in sight, 1 below it.
     int side = 0;
 };
 
-RowPlace placeOfRow(const QListView& list, int row) {
-    const QRect rect = list.visualRect(list.model()->index(row, 0, list.rootIndex()));
+Target targetIn(const QWidget& widget, QPoint inside) {
+    const QPoint point = widget.mapToGlobal(inside);
+    return {{point.x(), point.y()}, widget.underMouse()};
+}
+
+Target rowIn(const std::string& name, const std::string& text) {
+    const auto& list = dynamic_cast<QListView&>(find(name));
+    const auto rows = list.model()->match(list.model()->index(0, 0), Qt::DisplayRole,
+                                          QString::fromStdString(text), 1, Qt::MatchExactly);
+    if (rows.isEmpty()) throw std::runtime_error("no row " + text);
+    const QRect rect = list.visualRect(rows.front());
     const QRect sight = list.viewport()->rect();
-    const int side = rect.top() < sight.top() ? -1 : rect.bottom() > sight.bottom() ? 1 : 0;
-    return {targetIn(*list.viewport(), rect.center() - QPoint(rect.width() / 4, 0)), side};
+    Target row = targetIn(*list.viewport(), rect.center() - QPoint(rect.width() / 4, 0));
+    row.side = rect.top() < sight.top() ? -1 : rect.bottom() > sight.bottom() ? 1 : 0;
+    return row;
 }
 
-bool samePoint(ScreenPoint a, ScreenPoint b) {
-    return a.x == b.x && a.y == b.y;
+// At the left, where the clickable part of a check box or radio button is.
+Target startOf(const std::string& name) {
+    const QWidget& found = find(name);
+    return targetIn(found, {std::min(10, found.width() / 2), found.height() / 2});
 }
 
-void closeWhatIsLeft() {
-    while (QWidget* popup = QApplication::activePopupWidget()) {
-        popup->close();
-    }
-    // Not quit(), which would ask the windows first.
-    QApplication::exit();
+// A window that has just come up may still be moved to its place, and the frame of one that has
+// just gone may still cover this one: the pointer has arrived when the widget knows of it.
+void clickAt(const std::function<Target()>& target, int times) {
+    Target aimed = ask(target);
+    moveMouse(aimed.point);
+    waitUntil(
+        [&] {
+            const Target now = ask(target);
+            const bool stands = now.point == aimed.point;
+            if (!stands) moveMouse(now.point);
+            aimed = now;
+            return stands && now.isUnderMouse;
+        },
+        "the pointer is where it was moved to");
+    clickMouse(aimed.point, 1, times);
 }
 
 }  // namespace
@@ -91,65 +107,29 @@ void whileWindowsLive(const std::function<void()>& work) {
         } catch (const std::exception& error) {
             ADD_FAILURE() << error.what() << "; the active window is \"" << activeTitle() << "\"";
         }
-        QMetaObject::invokeMethod(qApp, closeWhatIsLeft, Qt::QueuedConnection);
+        // Not quit(), which would ask the windows first.
+        QMetaObject::invokeMethod(
+            qApp, [] { QApplication::exit(); }, Qt::QueuedConnection);
     }));
     user->start();
     QApplication::exec();
     user->wait();
 }
 
-void MouseUser::in(const std::string& window) {
-    waitUntil(
-        [&] {
-            return onScreen([&] {
-                const QWidget* ready = readyWindow();
-                return ready != nullptr && ready->objectName().toStdString() == window;
-            });
-        },
-        window + " is the active window");
-    window_ = window;
+void waitForWindow(const std::string& window) {
+    const auto name = [] {
+        const QWidget* ready = readyWindow();
+        return ready == nullptr ? std::string() : ready->objectName().toStdString();
+    };
+    waitUntil([&] { return onScreen(name) == window; }, window + " is the active window");
 }
 
-// A window that has just come up may still be moved to its place, and the frame of one that has
-// just gone may still cover this one: the pointer has arrived when the widget knows of it.
-void MouseUser::clickAt(const std::function<Target()>& target, int times) {
-    Target aimed = ask(target);
-    moveMouse(aimed.point);
-    waitUntil(
-        [&] {
-            const Target now = ask(target);
-            if (!samePoint(now.point, aimed.point)) moveMouse(now.point);
-            const bool arrived = samePoint(now.point, aimed.point) && now.isUnderMouse;
-            aimed = now;
-            return arrived;
-        },
-        "the pointer is where it was moved to");
-    clickMouse(aimed.point, 1, times);
+void click(const std::string& widget) {
+    clickAt([&] { return startOf(widget); }, 1);
 }
 
-ScreenPoint MouseUser::placeIn(const std::string& widget) {
-    return ask([&] {
-        const QWidget& found = find(widget);
-        return screenPoint(found, found.rect().center());
-    });
-}
-
-void MouseUser::click(const std::string& widget) {
-    clickAt([&] {
-        const QWidget& found = find(widget);
-        if (!found.isEnabled()) throw std::runtime_error(widget + " is disabled");
-        // The clickable part of a check box or radio button is at its left.
-        return targetIn(found, {std::min(8, found.width() / 2), found.height() / 2});
-    });
-}
-
-void MouseUser::type(const std::string& field, const std::string& text) {
-    clickAt(
-        [&] {
-            const QWidget& found = find(field);
-            return targetIn(found, {std::min(12, found.width() / 2), found.height() / 2});
-        },
-        3);
+void typeOver(const std::string& field, const std::string& text) {
+    clickAt([&] { return startOf(field); }, 3);
     press({"=" + text});
     const auto shown = [&] {
         const QWidget& found = find(field);
@@ -159,94 +139,30 @@ void MouseUser::type(const std::string& field, const std::string& text) {
     waitUntil([&] { return ask(shown) == text; }, field + " holds \"" + text + "\"");
 }
 
-void MouseUser::choose(const std::string& box, const std::string& text) {
-    click(box);
-    const auto popup = [&] { return &static_cast<QComboBox&>(find(box)); };
-    QComboBox* const combo = ask(popup);
-    const auto view = [&] { return qobject_cast<QListView*>(combo->view()); };
-    waitUntil([&] { return ask([&] { return view()->isVisible(); }); }, box + " is open");
-    clickAt(
-        [&] { return placeOfRow(*view(), combo->findText(QString::fromStdString(text))).target; });
-    waitUntil([&] { return ask([&] { return combo->currentText().toStdString(); }) == text; },
-              box + " shows " + text);
-}
-
-void MouseUser::clickStandardButton(int button) {
-    clickAt([&] {
-        const auto* buttons =
-            readyWindow() ? readyWindow()->findChild<QDialogButtonBox*>() : nullptr;
-        const auto* found =
-            buttons ? buttons->button(static_cast<QDialogButtonBox::StandardButton>(button))
-                    : nullptr;
-        if (found == nullptr) throw std::runtime_error("no such button");
-        return targetIn(*found, found->rect().center());
-    });
-}
-
-int MouseUser::rowOf(const std::string& list, const std::string& text) {
-    return ask([&] {
-        const auto& view = static_cast<const QListView&>(find(list));
-        const auto found = view.model()->match(view.model()->index(0, 0), Qt::DisplayRole,
-                                               QString::fromStdString(text), 1,
-                                               Qt::MatchExactly | Qt::MatchCaseSensitive);
-        return found.isEmpty() ? throw std::runtime_error("no row " + text) : found.front().row();
-    });
-}
-
-ScreenPoint MouseUser::onRow(const std::string& list, int row) {
-    const auto place = [&] { return placeOfRow(static_cast<QListView&>(find(list)), row); };
-    const ScreenPoint middle = placeIn(list);
-    RowPlace now = ask(place);
-    moveMouse(middle);
-    waitUntil([&] { return (now = ask(place)).target.isUnderMouse; }, "the pointer is on " + list);
+ScreenPoint onRow(const std::string& list, const std::string& text) {
+    const auto row = [&] { return rowIn(list, text); };
+    const ScreenPoint start = ask([&] { return startOf(list); }).point;
+    moveMouse(start);
+    Target now;
+    waitUntil([&] { return (now = ask(row)).isUnderMouse; }, "the pointer is on " + list);
     while (now.side != 0) {
-        const RowPlace before = now;
-        clickMouse(middle, now.side < 0 ? 4 : 5);
-        waitUntil([&] { return !samePoint((now = ask(place)).target.point, before.target.point); },
-                  list + " has scrolled");
+        const ScreenPoint before = now.point;
+        clickMouse(start, now.side < 0 ? 4 : 5);
+        waitUntil([&] { return (now = ask(row)).point != before; }, list + " has scrolled");
     }
-    return now.target.point;
+    return now.point;
 }
 
-ScreenPoint MouseUser::gripOn(const std::string& list, int row) {
-    const ScreenPoint point = onRow(list, row);
-    return {point.x + 40, point.y};
+void clickRow(const std::string& list, const std::string& text, int times) {
+    onRow(list, text);
+    clickAt([&] { return rowIn(list, text); }, times);
 }
 
-void MouseUser::clickRow(const std::string& list, int row) {
-    onRow(list, row);
-    clickAt([&] { return placeOfRow(static_cast<QListView&>(find(list)), row).target; });
-}
-
-void MouseUser::clickRow(const std::string& list, const std::string& text) {
-    clickRow(list, rowOf(list, text));
-}
-
-void MouseUser::doubleClickRow(const std::string& list, const std::string& text) {
-    const int row = rowOf(list, text);
-    onRow(list, row);
-    clickAt([&] { return placeOfRow(static_cast<QListView&>(find(list)), row).target; }, 2);
-}
-
-void MouseUser::chooseMenu(const std::string& menu, const std::string& action) {
-    const auto window = [] { return QApplication::activeWindow(); };
-    const auto opened = [&] { return window()->findChild<QMenu*>(QString::fromStdString(menu)); };
-    clickAt([&] {
-        const auto& bar = static_cast<QMenuBar&>(find("menuBar"));
-        return targetIn(bar, bar.actionGeometry(opened()->menuAction()).center());
-    });
-    QMenu* const shown = ask([&] {
-        return qobject_cast<QWidget*>(readyWindow())
-            ->findChild<QMenu*>(QString::fromStdString(menu));
-    });
-    waitUntil([&] { return ask([&] { return shown->isVisible(); }); }, menu + " is open");
-    clickAt([&] {
-        for (QAction* item : shown->actions()) {
-            if (item->objectName().toStdString() == action)
-                return targetIn(*shown, shown->actionGeometry(item).center());
-        }
-        throw std::runtime_error(menu + " has no " + action);
-    });
+void startRowDrag(const std::string& list, const std::string& text, const std::string& toList,
+                  const std::string& toText) {
+    const ScreenPoint to = onRow(toList, toText);
+    const ScreenPoint from = onRow(list, text);
+    startDrag({from.x + 40, from.y}, to);
 }
 
 }  // namespace quendra::test

@@ -1,91 +1,108 @@
 #include "desktop/virtual_desktop.h"
 
-#include "support/fixtures.h"
-
-#include <algorithm>
-#include <array>
-#include <cstdlib>
-#include <fcntl.h>
-#include <poll.h>
+#include <chrono>
+#include <csignal>
+#include <optional>
 #include <stdexcept>
-#include <unistd.h>
+#include <sys/prctl.h>
+#include <thread>
 
 namespace quendra::test {
 namespace {
 
-// The server tells its number when it takes connections.
-std::string readNumber(int from) {
-    std::string number;
-    pollfd waiting = {from, POLLIN, 0};
-    constexpr auto milliseconds = static_cast<int>(std::chrono::milliseconds(patience).count());
-    std::array<char, 16> part{};
-    while (::poll(&waiting, 1, milliseconds) > 0) {
-        const ssize_t size = ::read(from, part.data(), part.size());
-        if (size <= 0) break;
-        number.append(part.data(), static_cast<std::size_t>(size));
-        if (number.back() == '\n') return number.substr(0, number.size() - 1);
-    }
-    throw std::runtime_error("no X server");
-}
+/// How long anything may take on a slow machine that has much else to do.
+constexpr std::chrono::milliseconds patience{40'000};
 
-std::optional<std::string> xdotool(Command words) {
+/// What it wrote to standard output; none when it failed, as it does when a window has just gone.
+std::optional<std::string> xdotool(Words words) {
+    ChildProcess tool;
     words.insert(words.begin(), "xdotool");
-    return outputOf(words);
+    tool.startAs(words);
+    if (tool.exitCodeAtEnd() != 0) return std::nullopt;
+    return tool.readAllStandardOutput().toStdString();
 }
 
-void act(const Command& words) {
-    if (!xdotool(words)) throw std::runtime_error("xdotool failed at " + words.front());
-}
-
-void add(Command& words, const Command& more) {
+void add(Words& words, const Words& more) {
     words.insert(words.end(), more.begin(), more.end());
 }
 
-Command pointerTo(ScreenPoint at) {
+Words pointerTo(ScreenPoint at) {
     return {"mousemove", std::to_string(at.x), std::to_string(at.y)};
-}
-
-void addKeys(Command& words, const std::string& keys) {
-    if (keys.starts_with('=')) {
-        return add(words, {"type", "--delay", "1", "--args", "1", keys.substr(1)});
-    }
-    const std::size_t star = keys.find('*');
-    const std::string times = star == std::string::npos ? "1" : keys.substr(star + 1);
-    if (times == "0") return;
-    add(words, {"key", "--delay", "1", "--repeat", times, keys.substr(0, star)});
 }
 
 }  // namespace
 
+void waitUntil(const std::function<bool()>& condition, const std::string& what) {
+    const auto end = std::chrono::steady_clock::now() + patience;
+    while (!condition()) {
+        if (std::chrono::steady_clock::now() > end)
+            throw std::runtime_error("waited in vain until " + what);
+        std::this_thread::sleep_for(std::chrono::milliseconds(20));
+    }
+}
+
+ChildProcess::ChildProcess() {
+    setChildProcessModifier([] { ::prctl(PR_SET_PDEATHSIG, SIGKILL); });
+}
+
+ChildProcess::~ChildProcess() {
+    kill();
+    waitForFinished();
+}
+
+void ChildProcess::startAs(const Words& command) {
+    QStringList words;
+    for (const std::string& word : command)
+        words << QString::fromStdString(word);
+    start(words.takeFirst(), words);
+}
+
+void ChildProcess::setVariable(const std::string& name, const std::string& value) {
+    QProcessEnvironment variables = processEnvironment();
+    if (variables.isEmpty()) variables = QProcessEnvironment::systemEnvironment();
+    variables.insert(QString::fromStdString(name), QString::fromStdString(value));
+    setProcessEnvironment(variables);
+}
+
+int ChildProcess::exitCodeAtEnd() {
+    const bool ended = state() == NotRunning || waitForFinished(patience.count());
+    return ended && error() != FailedToStart && exitStatus() == NormalExit ? exitCode() : -1;
+}
+
 VirtualDesktop::VirtualDesktop() {
-    std::array<int, 2> ends{};
-    if (::pipe(ends.data()) != 0) throw std::runtime_error("no pipe");
     // Without repetition by the server: a key that a busy machine holds down too long counts once.
     // And without starting anew when its only client, a question, goes before the manager has come.
-    server_ = std::make_unique<ChildProcess>(
-        Command{"Xvfb", "-displayfd", "3", "-screen", "0", "1280x960x24", "-r", "-noreset",
-                "-nolisten", "tcp"},
-        ChildProcess::Variables(), folder_.path(), folder_ / "server.log", ends[1]);
-    ::close(ends[1]);
-    ::setenv("DISPLAY", (":" + readNumber(ends[0])).c_str(), 1);
-    ::close(ends[0]);
+    server_.startAs({"Xvfb", "-displayfd", "1", "-screen", "0", "1280x960x24", "-r", "-noreset",
+                     "-nolisten", "tcp"});
+    // It tells its number when it takes connections.
+    while (!server_.canReadLine()) {
+        if (!server_.waitForReadyRead(patience.count())) throw std::runtime_error("no X server");
+    }
+    qputenv("DISPLAY", ':' + server_.readLine().trimmed());
     // There is no message bus to look for, and where none is found its library leaks the search.
-    ::setenv("DBUS_SESSION_BUS_ADDRESS", "disabled:", 1);
-    manager_ =
-        std::make_unique<ChildProcess>(Command{"openbox", "--sm-disable"},
-                                       ChildProcess::Variables{{"HOME", folder_.path()},
-                                                               {"XDG_CONFIG_HOME", folder_.path()},
-                                                               {"XDG_CACHE_HOME", folder_.path()},
-                                                               {"XDG_DATA_HOME", folder_.path()}},
-                                       folder_.path(), folder_ / "manager.log");
+    qputenv("DBUS_SESSION_BUS_ADDRESS", "disabled:");
+    for (const char* name : {"HOME", "XDG_CONFIG_HOME", "XDG_CACHE_HOME", "XDG_DATA_HOME"})
+        manager_.setVariable(name, folder_.path());
+    manager_.startAs({"openbox", "--sm-disable"});
     // It names the active window, none, as soon as it manages any.
     waitUntil([] { return xdotool({"get_desktop"}).has_value(); }, "a window manager runs");
 }
 
-void press(const std::vector<std::string>& keys) {
-    Command words;
-    for (const std::string& key : keys)
-        addKeys(words, key);
+void act(const Words& words) {
+    if (!xdotool(words)) throw std::runtime_error("xdotool failed at " + words.front());
+}
+
+void press(const Words& keys) {
+    Words words;
+    for (const std::string& key : keys) {
+        const std::size_t star = key.find('*');
+        const std::string times = star == std::string::npos ? "1" : key.substr(star + 1);
+        if (key.starts_with('=')) {
+            add(words, {"type", "--delay", "1", "--args", "1", key.substr(1)});
+        } else if (times != "0") {
+            add(words, {"key", "--delay", "1", "--repeat", times, key.substr(0, star)});
+        }
+    }
     act(words);
 }
 
@@ -96,65 +113,33 @@ void moveMouse(ScreenPoint to) {
 // Asking where the pointer is waits for the server, and the sleep makes the next click a later one:
 // two clicks of one time stamp, as a busy server would make them, are no double-click.
 void clickMouse(ScreenPoint at, int button, int times) {
-    Command words = pointerTo(at);
+    Words words = pointerTo(at);
     for (int i = 0; i < times; ++i)
         add(words, {"click", std::to_string(button), "getmouselocation", "sleep", "0.01"});
     act(words);
 }
 
-void pressMouse(ScreenPoint at) {
-    Command words = pointerTo(at);
-    add(words, {"mousedown", "1"});
-    act(words);
-}
-
-void releaseMouse() {
-    act({"mouseup", "1"});
-}
-
-void dragMouse(ScreenPoint from, ScreenPoint to) {
+void startDrag(ScreenPoint from, ScreenPoint to) {
     constexpr int steps = 4;
-    Command words = pointerTo(from);
+    Words words = pointerTo(from);
     add(words, {"mousedown", "1"});
     for (int step = 1; step <= steps; ++step)
         add(words, pointerTo({from.x + (to.x - from.x) * step / steps,
                               from.y + (to.y - from.y) * step / steps}));
-    add(words, {"mouseup", "1"});
     act(words);
 }
 
-void holdKey(const std::string& key) {
-    act({"keydown", key});
-}
-
-void releaseKey(const std::string& key) {
-    act({"keyup", key});
-}
-
 std::string activeTitle() {
-    const auto lines = linesOfText(xdotool({"getwindowfocus", "getwindowname"}).value_or(""));
-    return lines.empty() ? "" : lines.front();
+    const auto title = xdotool({"getwindowfocus", "getwindowname"});
+    return title ? title->substr(0, title->find('\n')) : "";
 }
 
 void waitForTitle(const std::string& title) {
-    std::string last;
-    try {
-        waitUntil([&] { return (last = activeTitle()) == title; }, "");
-    } catch (const std::runtime_error&) {
-        throw std::runtime_error("waited for the window \"" + title + "\", but \"" + last +
-                                 "\" is the active one");
-    }
+    waitUntil([&] { return activeTitle() == title; }, "the active window is \"" + title + '"');
 }
 
-void minimiseActiveWindow() {
-    act({"getactivewindow", "windowminimize"});
-}
-
-std::vector<std::string> windowTitles() {
-    const auto found = xdotool({"search", "--onlyvisible", "--name", ".", "getwindowname", "%@"});
-    std::vector<std::string> titles = linesOfText(found.value_or(""));
-    std::ranges::sort(titles);
-    return titles;
+std::string windowTitles() {
+    return xdotool({"search", "--onlyvisible", "--name", ".", "getwindowname", "%@"}).value_or("");
 }
 
 }  // namespace quendra::test

@@ -1,133 +1,108 @@
 // Several editors beside each other, and the ways in which a window closes.
+#include "app/editor_fixture.h"
 #include "desktop/editor_process.h"
-
-#include <algorithm>
-#include <csignal>
 
 namespace quendra::test {
 namespace {
 
-Bytes comments(std::initializer_list<std::string_view> texts) {
-    Bytes file = bytesOf("QDMDSCR=");
-    for (const std::string_view text : texts)
-        file = joined({file, Bytes{6}, counted(text)});
-    return file;
-}
-
 class WindowsTest : public EditorProcessTest {
   protected:
     WindowsTest() {
-        write("a.qds", comments({"1", "2", "3"}));
-        write("b.qds", comments({"4"}));
+        writeBytes(pathOf("a.qds"), commentFile(3));
+        writeBytes(pathOf("b.qds"), commentFile(1));
     }
 
     // Cuts the first entry, which stands for any change.
-    void change(const std::string& script) const { pressUntil({"Home", "ctrl+x"}, script, true); }
-    void pressUntil(const std::vector<std::string>& keys, const std::string& script,
-                    bool modified = false) const {
-        press(keys);
-        waitForTitle(titleOf(script, modified));
-    }
-    // In the window that comes up.
-    static void answer(const std::string& toCome, const std::string& title,
-                       const std::vector<std::string>& keys) {
-        press({toCome});
-        waitForTitle(title);
-        press(keys);
-    }
+    void change() const { pressUntil({"Home", "ctrl+x"}, titleOf("a.qds", true)); }
     void expectScript(const std::string& script, const Bytes& bytes) const {
         EXPECT_EQ(readBytes(pathOf(script)), bytes);
     }
+    const Bytes cut = scriptFile("QDMDSCR=", {commentRecord("2"), commentRecord("3")});
 };
 
-TEST_F(WindowsTest, SecondStartRaisesTheWindowThatShowsTheScript) {
+TEST_F(WindowsTest, SecondStartRaisesTheWindowThatShowsTheScriptMinimisedOrWithADialog) {
     const auto first = open("a.qds");
-    const auto other = open("b.qds");
-    const auto second = start("a.qds");
-    EXPECT_EQ(second->exitCode(), 0);
-    waitForTitle(titleOf("a.qds"));
-    const auto titles = windowTitles();
-    EXPECT_EQ(std::ranges::count(titles, titleOf("a.qds")), 1);
-    EXPECT_EQ(std::ranges::count(titles, titleOf("b.qds")), 1);
-    EXPECT_TRUE(first->runs());
-    EXPECT_TRUE(other->runs());
-}
-
-TEST_F(WindowsTest, RaisingReachesAMinimisedWindowAndOneWithAnOpenDialog) {
-    const auto first = open("a.qds");
-    minimiseActiveWindow();
+    act({"getactivewindow", "windowminimize"});
     waitUntil([&] { return activeTitle() != titleOf("a.qds"); }, "the window is minimised");
-    EXPECT_EQ(start("a.qds")->exitCode(), 0);
+    EXPECT_EQ(start("a.qds")->exitCodeAtEnd(), 0);
     waitForTitle(titleOf("a.qds"));
-    press({"Home", "Return"});
-    waitForTitle("Comment");
+    pressUntil({"Home", "Return"}, "Comment");
     const auto other = open("b.qds");
-    EXPECT_EQ(start("a.qds")->exitCode(), 0);
+    EXPECT_EQ(start("a.qds")->exitCodeAtEnd(), 0);
     waitForTitle("Comment");
-    press({"=new", "Return"});
-    waitForTitle(titleOf("a.qds", true));
+    pressUntil({"=new", "Return"}, titleOf("a.qds", true));
+    const std::string titles = windowTitles();
+    EXPECT_NE(titles.find(titleOf("b.qds")), std::string::npos);
+    EXPECT_EQ(titles.find(titleOf("a.qds")), titles.rfind(titleOf("a.qds")));
+    EXPECT_TRUE(first->runs() && other->runs());
 }
 
 TEST_F(WindowsTest, KilledEditorLeavesNothingInTheWay) {
     const auto killed = open("a.qds");
-    change("a.qds");
-    killed->signal(SIGKILL);
-    EXPECT_EQ(killed->exitCode(), -SIGKILL);
+    change();
+    killed->kill();
+    EXPECT_EQ(killed->exitCodeAtEnd(), -1);
     const auto next = open("a.qds");
-    change("a.qds");
-    pressUntil({"ctrl+s"}, "a.qds");
-    expectScript("a.qds", comments({"2", "3"}));
-    EXPECT_EQ(start("a.qds")->exitCode(), 0) << "it answers in place of the killed one";
+    change();
+    pressUntil({"ctrl+s"}, titleOf("a.qds"));
+    expectScript("a.qds", cut);
+    EXPECT_EQ(start("a.qds")->exitCodeAtEnd(), 0) << "it answers in place of the killed one";
 }
 
 TEST_F(WindowsTest, ClosingWithChangesAsksAndDoesWhatIsAnswered) {
     constexpr const char* question = "Exit Script Editor";
     const auto editor = open("a.qds");
-    change("a.qds");
-    for (const std::vector<std::string>& cancel :
-         {std::vector<std::string>{"Escape"}, {"Tab", "Tab", "Return"}}) {
-        answer("alt+F4", question, cancel);
-        waitForTitle(titleOf("a.qds", true));
+    change();
+    for (const Words& cancel : {Words{"Escape"}, {"Tab*2", "Return"}}) {
+        pressUntil({"alt+F4"}, question);
+        pressUntil(cancel, titleOf("a.qds", true));
     }
-    answer("ctrl+q", question, {"alt+n"});
-    EXPECT_EQ(editor->exitCode(), 0);
-    expectScript("a.qds", comments({"1", "2", "3"}));
+    pressUntil({"ctrl+q"}, question);
+    press({"alt+n"});
+    EXPECT_EQ(editor->exitCodeAtEnd(), 0);
+    expectScript("a.qds", commentFile(3));
     const auto second = open("a.qds");
-    change("a.qds");
-    answer("alt+F4", question, {"Return"});
-    EXPECT_EQ(second->exitCode(), 0);
-    expectScript("a.qds", comments({"2", "3"}));
+    change();
+    pressUntil({"alt+F4"}, question);
+    press({"Return"});
+    EXPECT_EQ(second->exitCodeAtEnd(), 0);
+    expectScript("a.qds", cut);
     const auto untitled = open();
-    pressUntil({"Tab", "Home", "Return"}, "", true);
-    press({"alt+F4"});
-    waitForTitle(question);
-    answer("alt+y", "Save Script As", {"=made", "Return"});
-    EXPECT_EQ(untitled->exitCode(), 0);
-    expectScript("made.qds", joined({bytesOf("QDMDSCR="), Bytes{4}}));
+    pressUntil({"Tab", "Home", "Return"}, titleOf("", true));
+    pressUntil({"alt+F4"}, question);
+    pressUntil({"alt+y"}, "Save Script As");
+    press({"=made", "Return"});
+    EXPECT_EQ(untitled->exitCodeAtEnd(), 0);
+    expectScript("made.qds", scriptFile("QDMDSCR=", {Bytes{4}}));
 }
 
-TEST_F(WindowsTest, UndoFindAndTheClipboardAnswerToTheirKeys) {
+TEST_F(WindowsTest, EndOfTheSessionKeepsTheChangesBesideTheScript) {
     const auto editor = open("a.qds");
-    change("a.qds");
-    pressUntil({"ctrl+z"}, "a.qds");
-    pressUntil({"ctrl+shift+z"}, "a.qds", true);
-    pressUntil({"ctrl+z"}, "a.qds");
+    change();
+    editor->terminate();
+    EXPECT_EQ(editor->exitCodeAtEnd(), 0);
+    expectScript("a.qds", commentFile(3));
+    expectScript("a (unsaved).qds", cut);
+}
+
+TEST_F(WindowsTest, UndoFindTheClipboardAndOpenAnswerToTheirKeys) {
+    const auto editor = open("a.qds");
+    const std::string changed = titleOf("a.qds", true);
+    change();
+    pressUntil({"ctrl+z"}, titleOf("a.qds"));
+    pressUntil({"ctrl+shift+z"}, changed);
+    pressUntil({"ctrl+z"}, titleOf("a.qds"));
     // What is found is selected: cutting it tells which entry that was.
-    pressUntil({"ctrl+f", "=2", "Escape", "ctrl+x"}, "a.qds", true);
-    pressUntil({"End", "ctrl+v", "ctrl+s"}, "a.qds");
-    expectScript("a.qds", comments({"1", "3", "2"}));
-    press({"ctrl+a"});
-    answer("Delete", "Confirm Delete", {"alt+y"});
-    waitForTitle(titleOf("a.qds", true));
-    pressUntil({"ctrl+z"}, "a.qds");
-}
-
-TEST_F(WindowsTest, OpenDialogStartsInTheScriptsFolder) {
-    const auto editor = open("a.qds");
-    answer("ctrl+o", "Open Script", {"=b.qds", "Return"});
-    waitForTitle(titleOf("b.qds"));
-    answer("ctrl+o", "Open Script", {"Escape"});
-    waitForTitle(titleOf("b.qds"));
+    pressUntil({"ctrl+f", "=2", "Escape", "ctrl+x"}, changed);
+    pressUntil({"End", "ctrl+v", "ctrl+s"}, titleOf("a.qds"));
+    expectScript("a.qds", scriptFile("QDMDSCR=",
+                                     {commentRecord("1"), commentRecord("3"), commentRecord("2")}));
+    pressUntil({"ctrl+a", "Delete"}, "Confirm Delete");
+    pressUntil({"alt+y"}, changed);
+    pressUntil({"ctrl+z"}, titleOf("a.qds"));
+    // In the script's folder.
+    pressUntil({"ctrl+o"}, "Open Script");
+    pressUntil({"=b.qds", "Return"}, titleOf("b.qds"));
 }
 
 }  // namespace

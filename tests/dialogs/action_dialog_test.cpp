@@ -1,7 +1,7 @@
 // The choice of an action: what is selected, what OK and double-click ask for, and what Cancel
-// takes back.
+// takes back; and where a file transfer starts from.
 #include "dialogs/dialog_fixture.h"
-#include "transfer/file_transfer_settings.h"
+#include "transfer/command_builder.h"
 
 #include <QListView>
 
@@ -38,23 +38,21 @@ class ActionDialogTest : public SearchDialogTest {
 
 TEST_F(ActionDialogTest, SelectsNothingWhereNothingWasChosenAndRefusesInItsWords) {
     const struct {
-        const char* title;
+        CommandCode owner;
         Slot slot;
-        ActionOwner owner;
+        const char* title;
         const char* awaited;
-    } rows[] = {{"Wait_For Found Action", Slot::Then, ActionOwner::WaitForOrWatchFor,
+    } rows[] = {{CommandCode::WaitFor, Slot::Then, "Wait_For Found Action",
                  "search string or <Lu Function> is found."},
-                {"Wait_For Not Found Action", Slot::Else, ActionOwner::WaitForOrWatchFor,
+                {CommandCode::WaitFor, Slot::Else, "Wait_For Not Found Action",
                  "search string or <Lu Function> is not found."},
-                {"If_Input_Is Equal Action", Slot::Then, ActionOwner::IfInputIs,
+                {CommandCode::IfInputIs, Slot::Then, "If_Input_Is Equal Action",
                  "compare string and/or variable(s) are equal."},
-                {"If_Input_Is Not Equal Action", Slot::Else, ActionOwner::IfInputIs,
+                {CommandCode::IfInputIs, Slot::Else, "If_Input_Is Not Equal Action",
                  "compare string and/or variable(s) are not equal."}};
     state.currentHostType = HostType::VT;
     for (const auto& row : rows) {
-        SCOPED_TRACE(row.title);
-        startWithTimeout();
-        if (row.owner == ActionOwner::IfInputIs) startCompare();
+        entry = newScriptEvent(row.owner);
         const ScriptEntry before = entry;
         steps.in("actionDialog", [&](const OpenDialog& d) {
             EXPECT_EQ(d.title(), row.title);
@@ -75,15 +73,16 @@ TEST_F(ActionDialogTest, SelectsNothingWhereNothingWasChosenAndRefusesInItsWords
             d.clickRow(menuCommands, menuName(213));
             d.click("ok");
             expectTold("Menu Command is not compatible with Script Mode.", "Script Edit Info");
-            EXPECT_EQ(d.widget<QListView>(keys).model()->rowCount(), 142);
             d.press(Qt::Key_Escape);
         });
-        EXPECT_FALSE(choose(row.slot, row.owner));
+        const bool compares = row.owner == CommandCode::IfInputIs;
+        EXPECT_FALSE(
+            choose(row.slot, compares ? ActionOwner::IfInputIs : ActionOwner::WaitForOrWatchFor));
         EXPECT_EQ(entry, before);
     }
 }
 
-TEST_F(ActionDialogTest, ShowsTheActionThatThereIsInSightAndWithTheFocus) {
+TEST_F(ActionDialogTest, OneRowIsSelectedInAllThreeListsAndThatIsTheChoice) {
     startWithTimeout();
     const auto& farDown = state.luCatalogues.of(HostType::Mainframe).rows[60];
     otherwise().code = CommandCode::LuFunction;
@@ -92,40 +91,35 @@ TEST_F(ActionDialogTest, ShowsTheActionThatThereIsInSightAndWithTheFocus) {
     steps.in("actionDialog", [&](const OpenDialog& d) {
         EXPECT_EQ(d.selected(keys), farDown.name);
         EXPECT_EQ(d.focused(), keys);
-        auto& list = d.widget<QListView>(keys);
+        const auto& list = d.widget<QListView>(keys);
         const QPoint shown = list.visualRect(list.currentIndex()).center();
-        EXPECT_TRUE(list.viewport()->rect().contains(shown));
-        d.click("cancel");
-    });
-    EXPECT_FALSE(choose(Slot::Else));
-}
-
-TEST_F(ActionDialogTest, OneRowIsSelectedInAllThreeListsAndThatIsTheChoice) {
-    startWithTimeout();
-    steps.in("actionDialog", [this](const OpenDialog& d) {
-        d.clickRow(events, "Return");
+        EXPECT_TRUE(list.viewport()->rect().contains(shown)) << "in sight";
         d.clickRow(menuCommands, menuName(201));
-        EXPECT_EQ(d.selected(events), "");
+        EXPECT_EQ(d.selected(keys), "");
         d.widget(events).setFocus();
         EXPECT_EQ(d.selected(menuCommands), menuName(201)) << "the focus chooses nothing";
+        // Every list goes to what is typed.
         d.type("clear");
-        EXPECT_EQ(d.selected(events), "Clear_Watch") << "typed ahead";
-        EXPECT_EQ(d.selected(menuCommands), "");
+        EXPECT_EQ(d.selected(events) + d.selected(menuCommands), "Clear_Watch");
+        d.widget(keys).setFocus();
+        d.type(farDown.name);
+        EXPECT_EQ(d.selected(keys) + d.selected(events), farDown.name);
+        d.widget(menuCommands).setFocus();
+        d.type(menuName(214));
         d.press(Qt::Key_Up);
         d.press(Qt::Key_Return);
     });
     ASSERT_TRUE(choose(Slot::Else));
-    EXPECT_EQ(entry.elseCode, CommandCode::Beep);
+    EXPECT_EQ(entry.elseCode, CommandCode::MenuCommand);
+    EXPECT_EQ(entry.elseCommandId, 213U) << "which only a script for VT refuses";
     EXPECT_EQ(entry.thenCode, CommandCode::None);
 }
 
-TEST_F(ActionDialogTest, AWaitAsFoundActionUsesTheEntrysSecondsAndAsNotFoundAsks) {
+TEST_F(ActionDialogTest, OkAsksForWhatTheActionLacksUntilItHasIt) {
     startWithTimeout();
     chooseRow(events, "Wait");
     ASSERT_TRUE(choose(Slot::Then));
-    EXPECT_EQ(entry.thenCode, CommandCode::Wait);
-    EXPECT_EQ(entry.number, 3U);
-
+    EXPECT_EQ(entry.number, 3U) << "a found action uses the seconds of the entry";
     chooseRow(events, "Wait");
     steps.in("waitDialog", [](const OpenDialog& d) { d.press(Qt::Key_Escape); });
     chooseRow(events, "Wait");
@@ -133,122 +127,10 @@ TEST_F(ActionDialogTest, AWaitAsFoundActionUsesTheEntrysSecondsAndAsNotFoundAsks
     ASSERT_TRUE(choose(Slot::Else));
     EXPECT_EQ(entry.elseNumber, 7U);
     EXPECT_EQ(entry.number, 3U);
-
     click("actionDialog", "ok");
     EXPECT_TRUE(choose(Slot::Else)) << "seconds that are there are not asked for again";
-}
 
-TEST_F(ActionDialogTest, CancelTakesBackWhatOkAndDoubleClicksDid) {
-    startWithTimeout();
-    entry.elseCode = CommandCode::Goto;
-    setText(otherwise(), "END");
-    const ScriptEntry before = entry;
-    doubleClickRow(events, "Message");
-    answer("textDialog", "text", "gone");
-    chooseRow(events, "Wait_Ready");
-    click("waitDialog", "cancel");
-    click("actionDialog", "cancel");
-    EXPECT_FALSE(choose(Slot::Else));
-    EXPECT_EQ(entry, before);
-}
-
-TEST_F(ActionDialogTest, DoubleClickAsksAgainAndLeavesTheDialogOpen) {
-    startWithTimeout();
-    setText(then(), "old");
-    then().code = CommandCode::Goto;
-    doubleClickRow(events, "Goto");
-    answer("textDialog", "text", "new");
-    steps.in("actionDialog", [this](const OpenDialog& d) {
-        d.doubleClickRow(keys, "Enter");
-        d.doubleClickRow(menuCommands, menuName(201));
-        EXPECT_TRUE(d.dialog->isVisible()) << "rows without parameters do nothing";
-        d.clickRow(events, "Goto");
-        d.click("ok");
-    });
-    ASSERT_TRUE(choose(Slot::Then));
-    EXPECT_EQ(entry.thenCode, CommandCode::Goto);
-    EXPECT_EQ(textOf(then()), "new");
-    EXPECT_EQ(textOf(own()), "READY");
-}
-
-TEST_F(ActionDialogTest, AMenuCommandWithAFileAsksForItsName) {
-    for (const Slot slot : {Slot::Then, Slot::Else}) {
-        startWithTimeout();
-        chooseRow(menuCommands, menuName(202));
-        click("fileOperationDialog", "cancel");
-        doubleClickRow(menuCommands, menuName(254));
-        answer("fileOperationDialog", "file", "logon.qdm");
-        click("actionDialog", "ok");
-        ASSERT_TRUE(choose(slot));
-        EXPECT_EQ(slotFields(entry, slot).commandId, 254U);
-        EXPECT_EQ(textOf(slotFields(entry, slot)), "logon.qdm");
-        EXPECT_EQ(textOf(own()), "READY");
-    }
-}
-
-TEST_F(ActionDialogTest, ATransferThatLacksItsFilesStartsFromTheWorkingSettings) {
-    startWithTimeout();
-    setTransferText(state.workingTransfer.settings, transfer::hostFileName, "REPORT");
-    setTransferText(state.workingTransfer.settings, transfer::pcFileName, "report.txt");
-    otherwise().transferHost = transferHostTso;
-    chooseRow(menuCommands, menuName(receiveFileCommand));
-    expectSheet("REPORT");
-    click("actionDialog", "ok");
-    answer("transferSheet", "member", "MEMBER1");
-    ASSERT_TRUE(choose(Slot::Else));
-    EXPECT_EQ(state.workingTransfer.direction, TransferDirection::Receive);
-    EXPECT_EQ(entry.elseTransferHost, transferHostTso);
-    EXPECT_EQ(transferText(entry.elseTransferSettings, transfer::hostFileName), "REPORT");
-    EXPECT_EQ(transferText(entry.elseTransferSettings, transfer::member), "MEMBER1");
-    EXPECT_EQ(entry.transferSettings, FileTransferSettings{});
-
-    click("actionDialog", "ok");
-    EXPECT_TRUE(choose(Slot::Else)) << "a transfer with both files is not asked for again";
-}
-
-TEST_F(ActionDialogTest, ANewTransferStartsFromTheOneThatAnActionLineShows) {
-    for (const Slot shown : {Slot::Then, Slot::Else}) {
-        startWithTimeout();
-        const SlotFields action = slotFields(entry, shown);
-        action.code = CommandCode::MenuCommand;
-        action.commandId = sendFileCommand;
-        setTransferText(action.transferSettings, transfer::hostFileName, "SHOWN");
-        setTransferText(state.workingTransfer.settings, transfer::hostFileName, "OTHER");
-        click("waitForDialog", shown == Slot::Then ? "elseButton" : "thenButton");
-        chooseRow(menuCommands, menuName(receiveFileCommand));
-        expectSheet("SHOWN");
-        click("actionDialog", "cancel");
-        click("waitForDialog", "cancel");
-        EXPECT_FALSE(run());
-    }
-}
-
-TEST_F(ActionDialogTest, ADoubleClickOnATransferStartsFromTheActionsSettings) {
-    startWithTimeout();
-    entry.thenCode = CommandCode::Beep;
-    setTransferText(state.workingTransfer.settings, transfer::hostFileName, "OTHER");
-    setTransferText(then().transferSettings, transfer::hostFileName, "MINE");
-    then().transferHost = transferHostCics;
-    const FileTransferSettings mine = then().transferSettings;
-    doubleClickRow(menuCommands, menuName(sendFileCommand));
-    expectSheet("MINE");
-    chooseRow(events, "Beep");
-    ASSERT_TRUE(choose(Slot::Then));
-    EXPECT_EQ(entry.thenCode, CommandCode::Beep) << "a cancelled sheet changes no action";
-    EXPECT_EQ(entry.transferSettings, mine);
-
-    doubleClickRow(menuCommands, menuName(sendFileCommand));
-    answer("transferSheet", "pcFileName", "mine.txt");
-    click("actionDialog", "ok");
-    ASSERT_TRUE(choose(Slot::Then));
-    EXPECT_EQ(state.workingTransfer.direction, TransferDirection::Send);
-    EXPECT_EQ(entry.thenCode, CommandCode::MenuCommand);
-    EXPECT_EQ(entry.commandId, sendFileCommand);
-    EXPECT_EQ(transferText(entry.transferSettings, transfer::pcFileName), "mine.txt");
-    EXPECT_EQ(entry.transferHost, transferHostCics);
-}
-
-TEST_F(ActionDialogTest, ATypeActionOffersToHideItsTextOnlyInANewEntry) {
+    // Only a new entry's text can still be hidden.
     for (const bool editing : {false, true}) {
         startWithTimeout();
         state.editing = editing;
@@ -263,6 +145,127 @@ TEST_F(ActionDialogTest, ATypeActionOffersToHideItsTextOnlyInANewEntry) {
         EXPECT_EQ(entry.elseHidden, editing ? 0 : 1);
         EXPECT_EQ(textOf(otherwise()), "secret");
         EXPECT_EQ(entry.hidden, 0);
+    }
+}
+
+TEST_F(ActionDialogTest, DoubleClickAsksAgainAndCancelTakesAllOfItBack) {
+    for (const bool ok : {false, true}) {
+        startWithTimeout();
+        entry.thenCode = CommandCode::Goto;
+        setText(then(), "old");
+        const ScriptEntry before = entry;
+        doubleClickRow(events, "Message");
+        answer("textDialog", "text", "new");
+        steps.in("actionDialog", [this](const OpenDialog& d) {
+            d.doubleClickRow(keys, "Enter");
+            d.doubleClickRow(menuCommands, menuName(201));
+            EXPECT_TRUE(d.dialog->isVisible()) << "rows without parameters do nothing";
+            d.clickRow(events, "Wait_Until");
+            d.click("ok");
+        });
+        click("waitUntilDialog", "cancel");
+        steps.in("actionDialog", [ok](const OpenDialog& d) {
+            d.clickRow(events, "Message");
+            d.click(ok ? "ok" : "cancel");
+        });
+        EXPECT_EQ(choose(Slot::Then), ok);
+        EXPECT_EQ(entry == before, !ok);
+        EXPECT_EQ(textOf(then()), ok ? "new" : "old");
+        EXPECT_EQ(textOf(own()), "READY");
+    }
+}
+
+TEST_F(ActionDialogTest, OkStartsATransferFromTheWorkingSettingsAndADoubleClickFromItsOwn) {
+    startWithTimeout();
+    FileTransferSettings& working = state.workingTransfer.settings;
+    setTransferText(working, transfer::hostFileName, "REPORT");
+    setTransferText(working, transfer::pcFileName, "report.txt");
+    otherwise().transferHost = transferHostTso;
+    chooseRow(menuCommands, menuName(receiveFileCommand));
+    expectSheet("REPORT");
+    click("actionDialog", "ok");
+    answer("transferSheet", "member", "MEMBER1");
+    ASSERT_TRUE(choose(Slot::Else));
+    EXPECT_EQ(state.workingTransfer.direction, TransferDirection::Receive);
+    EXPECT_EQ(entry.elseTransferHost, transferHostTso);
+    EXPECT_EQ(entry.elseTransferSettings, working);
+    EXPECT_EQ(transferText(working, transfer::member), "MEMBER1");
+    EXPECT_EQ(entry.transferSettings, FileTransferSettings{});
+
+    setTransferText(working, transfer::hostFileName, "OTHER");
+    const ScriptEntry before = entry;
+    doubleClickRow(menuCommands, menuName(sendFileCommand));
+    expectSheet("REPORT");
+    chooseRow(menuCommands, menuName(receiveFileCommand));
+    ASSERT_TRUE(choose(Slot::Else)) << "a transfer with both files is not asked for again";
+    EXPECT_EQ(entry, before) << "a cancelled sheet changes no action";
+    doubleClickRow(menuCommands, menuName(sendFileCommand));
+    answer("transferSheet", "pcFileName", "mine.txt");
+    click("actionDialog", "ok");
+    ASSERT_TRUE(choose(Slot::Else));
+    EXPECT_EQ(state.workingTransfer.direction, TransferDirection::Send);
+    EXPECT_EQ(entry.elseCommandId, sendFileCommand);
+    EXPECT_EQ(transferText(entry.elseTransferSettings, transfer::pcFileName), "mine.txt");
+
+    // A new one starts from the one that an action's line shows.
+    setTransferText(working, transfer::hostFileName, "OTHER");
+    click("waitForDialog", "thenButton");
+    chooseRow(menuCommands, menuName(receiveFileCommand));
+    expectSheet("REPORT");
+    click("actionDialog", "cancel");
+    click("waitForDialog", "cancel");
+    EXPECT_FALSE(run());
+}
+
+FileTransferSettings settingsWith(std::string_view hostFile) {
+    FileTransferSettings settings = defaultTransferSettings();
+    setTransferText(settings, transfer::hostFileName, hostFile);
+    return settings;
+}
+
+TEST_F(ActionDialogTest, ATransferStartsFromItsOwnSettingsOrElseFromTheWorkingOnes) {
+    const struct {
+        Slot slot;
+        bool editing;
+        bool hasOwn;
+        const char* shown;
+        std::uint32_t commandId;
+    } rows[] = {{Slot::Entry, false, false, "WORKING", sendFileCommand},
+                {Slot::Entry, true, true, "OWN", receiveFileCommand},
+                {Slot::Entry, true, false, "", receiveFileCommand},
+                {Slot::Else, false, true, "OWN", receiveFileCommand},
+                {Slot::Else, true, false, "WORKING", sendFileCommand}};
+    for (const auto& row : rows) {
+        for (const bool ok : {true, false}) {
+            SCOPED_TRACE(&row - rows);
+            state.editing = row.editing;
+            state.workingTransfer = {settingsWith("WORKING"), transferHostVmCms, {}};
+            startWith(CommandCode::MenuCommand, row.slot, row.commandId);
+            const SlotFields fields = slotFields(entry, row.slot);
+            if (row.hasOwn) fields.transferSettings = settingsWith("OWN");
+            fields.transferHost = transferHostCics;
+            const ScriptEntry before = entry;
+            steps.in("transferSheet", [&](const OpenDialog& d) {
+                EXPECT_EQ(d.shown("hostFileName"), row.shown);
+                EXPECT_TRUE(d.isChecked("transferHost2"));
+                d.retype("hostFileName", "EDITED");
+                d.click("transferHost1");
+                d.click(ok ? "ok" : "cancel");
+            });
+            EXPECT_EQ(run(row.slot), ok);
+            const auto& working = state.workingTransfer;
+            EXPECT_EQ(working.direction == TransferDirection::Send,
+                      row.commandId == sendFileCommand);
+            EXPECT_EQ(transferText(working.settings, transfer::hostFileName), "EDITED")
+                << "edits stay with the working settings";
+            if (ok) {
+                EXPECT_EQ(fields.transferSettings, working.settings);
+                EXPECT_EQ(fields.transferHost, transferHostTso);
+                EXPECT_EQ(working.host, transferHostTso);
+            } else {
+                EXPECT_EQ(entry, before);
+            }
+        }
     }
 }
 

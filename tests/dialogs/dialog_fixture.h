@@ -5,31 +5,20 @@
 #include "app/editor_fixture.h"
 #include "dialogs/command_dialogs.h"
 #include "dialogs/modal_steps.h"
+#include "model/editing.h"
 
 #include <memory>
-#include <ostream>
 #include <string>
 
-namespace quendra {
-
-/// The parameters of all slots, for messages of failed tests.
-void PrintTo(const ScriptEntry& entry, std::ostream* out);
-
-namespace test {
-
-/// What the editor puts into a new entry of a command.
-[[nodiscard]] ScriptEntry newEntry(CommandCode code);
-/// Takes every text from another library from now on.
-void useLanguage(ApplicationState& state, const std::string& name);
+namespace quendra::test {
 
 inline constexpr Slot allSlots[] = {Slot::Entry, Slot::Then, Slot::Else};
-/// Behind the name of a test's row.
-[[nodiscard]] std::string slotSuffix(Slot slot);
 
 /// A running editor and the entry that its dialogs work on.
 class DialogContextTest : public ::testing::Test {
   protected:
-    DialogContextTest() : state(editor.state) {}
+    explicit DialogContextTest(const std::string& language = "qdstring")
+        : editor(language), state(editor.state) {}
 
     /// Exactly one box was shown since the last call, with this text and caption.
     void expectTold(const std::string& text, const std::string& caption);
@@ -43,13 +32,15 @@ class DialogContextTest : public ::testing::Test {
     ApplicationState& state;
     Answers answers;
     ScriptEntry entry;
+    ModalSteps steps;
 };
 
 class DialogTest : public DialogContextTest, protected OpenDialog {
   protected:
-    /// Opens the dialog of the slot's command on `entry`. The code of an action's owner is that of
-    /// the entry.
-    void open(Slot slot = Slot::Entry, ActionOwner owner = ActionOwner::WaitForOrWatchFor);
+    using DialogContextTest::DialogContextTest;
+
+    /// Opens the dialog of the slot's command on `entry`.
+    void open(Slot slot = Slot::Entry);
     void openNew(CommandCode code);
     void close() { opened_.reset(); }
 
@@ -65,9 +56,10 @@ class DialogTest : public DialogContextTest, protected OpenDialog {
 /// The dialogs with actions, run as the editor runs them.
 class SearchDialogTest : public DialogContextTest {
   protected:
+    using DialogContextTest::DialogContextTest;
+
     /// A Wait_For whose actions are offered.
     void startWithTimeout();
-    void startCompare();
 
     /// Runs the dialog of the entry's command with the steps prepared so far.
     bool run(Slot slot = Slot::Entry);
@@ -76,9 +68,6 @@ class SearchDialogTest : public DialogContextTest {
     /// A step that selects a row of the Action dialog and presses OK.
     void chooseRow(const char* list, const std::string& text);
     void click(const char* dialog, const char* button);
-
-    ModalSteps steps;
 };
 
-}  // namespace test
-}  // namespace quendra
+}  // namespace quendra::test

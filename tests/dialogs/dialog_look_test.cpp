@@ -10,83 +10,78 @@ namespace {
 
 using Code = CommandCode;
 
-/// A dialog as it opens on `entry`, and what is then done in it.
+/// A dialog as it opens on a filled entry, and what is then done in it.
 struct LookRow {
     const char* name;
     Code code;
     std::uint32_t commandId = 0;
-    bool isFilled = false;
     /// Presses this, or types this into it.
-    const char* field = nullptr;
-    const char* text = nullptr;
+    const char* field = "";
+    const char* text = "";
     Slot slot = Slot::Entry;
     /// The then action is chosen for this one.
     ActionOwner chooses = ActionOwner::None;
 };
 
-void fill(ScriptEntry& entry) {
-    for (const Slot slot : {Slot::Entry, Slot::Then}) {
-        setText(slotFields(entry, slot), "TSO LOGON");
-    }
-    entry.hasTimeout = 1;
-    entry.timeoutSeconds = 30;
-    entry.secondOperandKind = 2;
-    if (entry.thenCode == Code::None) entry.thenCode = Code::Goto;
-    entry.elseCode = Code::Message;
-    setText(slotFields(entry, Slot::Else),
-            "The host did not answer within half a minute & the script goes on without it.");
-}
-
-const LookRow lookRows[] = {
-    {"Comment", Code::Comment, 0, true},
-    {"Goto", Code::Goto, 0, true},
-    {"Label", Code::Label, 0, true},
-    {"Message", Code::Message, 0, true},
-    {"Type", Code::Type, 0, true},
-    {"TypeHidden", Code::Type, 0, true, "hide"},
-    {"ExpressLogon", Code::ExpressLogon, 0, true},
+constexpr LookRow lookRows[] = {
+    {"Comment", Code::Comment},
+    {"Goto", Code::Goto},
+    {"Label", Code::Label},
+    {"Message", Code::Message},
+    {"Type", Code::Type},
+    {"TypeHidden", Code::Type, 0, "hide"},
+    {"ExpressLogon", Code::ExpressLogon},
     {"Wait", Code::Wait},
     {"WaitReady", Code::WaitReady},
     {.name = "WaitElse", .code = Code::Wait, .slot = Slot::Else},
     {.name = "WaitReadyElse", .code = Code::WaitReady, .slot = Slot::Else},
-    {"Run", Code::Run, 0, true},
-    {"Menu202", Code::MenuCommand, 202, true},
-    {"Menu204", Code::MenuCommand, 204, true},
-    {"Menu219", Code::MenuCommand, 219, true},
-    {"Menu254", Code::MenuCommand, 254, true},
-    {"Menu257", Code::MenuCommand, 257, true},
+    {"Run", Code::Run},
+    {"Menu202", Code::MenuCommand, 202},
+    {"Menu204", Code::MenuCommand, 204},
+    {"Menu219", Code::MenuCommand, 219},
+    {"Menu254", Code::MenuCommand, 254},
+    {"Menu257", Code::MenuCommand, 257},
     {"SetCursor", Code::SetCursor},
     {"Copy", Code::Copy},
-    {"CopyEntireScreen", Code::Copy, 0, false, "entireScreen"},
     {"Paste", Code::Paste},
-    {"Input", Code::Input, 0, false, "prompt", "Code of the day.\nIt has six digits.\u4e2d"},
-    {"WaitUntil", Code::WaitUntil, 0, false, "hasTime"},
-    {"WaitForNew", Code::WaitFor},
-    {"WaitFor", Code::WaitFor, 0, true},
-    {"WaitForFault", Code::WaitFor, 0, true, "row", "70"},
-    {.name = "WatchedWaitFor", .code = Code::WaitFor, .isFilled = true, .slot = Slot::Then},
-    {"IfInputIsNew", Code::IfInputIs},
-    {"IfInputIs", Code::IfInputIs, 0, true},
-    {"WatchForNew", Code::WatchFor},
-    {"WatchFor", Code::WatchFor, 0, true},
-    {.name = "ActionNew", .code = Code::WaitFor, .chooses = ActionOwner::WaitForOrWatchFor},
-    {"Action", Code::IfInputIs, 0, true, nullptr, nullptr, {}, ActionOwner::IfInputIs},
+    {"Input", Code::Input, 0, "prompt", "Code of the day.\nIt has six digits.\u4e2d"},
+    {"WaitUntil", Code::WaitUntil, 0, "hasTime"},
+    {"WaitFor", Code::WaitFor, 0, "noTimeout"},
+    {"WaitForFault", Code::WaitFor, 0, "row", "70"},
+    {.name = "WatchedWaitFor", .code = Code::WaitFor, .slot = Slot::Then},
+    {"IfInputIs", Code::IfInputIs},
+    {"WatchFor", Code::WatchFor},
+    {"TransferVmCms", Code::MenuCommand, 236, "pcFileName", "report\u0416"},
+    {"TransferTso", Code::MenuCommand, 236, "transferHost1"},
+    {"TransferCics", Code::MenuCommand, 237, "transferHost2"},
+    {"TransferAdvanced", Code::MenuCommand, 236, "tabs"},
+    {.name = "WaitForAction", .code = Code::WaitFor, .chooses = ActionOwner::WaitForOrWatchFor},
+    {.name = "IfInputIsAction", .code = Code::IfInputIs, .chooses = ActionOwner::IfInputIs},
 };
 
 class DialogLook : public SearchDialogTest,
                    public ::testing::WithParamInterface<std::tuple<LookRow, std::string>> {
   protected:
-    DialogLook() { useLanguage(state, std::get<1>(GetParam())); }
+    DialogLook() : SearchDialogTest(std::get<std::string>(GetParam())) {}
 
     /// Runs the dialog, and looks at it before Cancel.
     void show(const std::function<void(QDialog&)>& look) {
-        const LookRow& row = std::get<0>(GetParam());
+        const LookRow& row = std::get<LookRow>(GetParam());
         startWith(row.code, row.slot, row.commandId);
-        if (row.isFilled) fill(entry);
+        setText(own(), "TSO LOGON");
+        entry.hasTimeout = 1;
+        entry.transferHost = transferHostTso;
+        entry.secondOperandKind = 2;
+        if (row.slot != Slot::Else) otherwise().code = Code::Message;
+        setText(otherwise(), "The host did not answer within half a minute & the script goes on.");
         if (row.slot == Slot::Then) entry.commandCode = Code::WatchFor;
         steps.in(anyDialog, [&](const OpenDialog& d) {
-            if (row.field && row.text) d.retype(row.field, row.text);
-            if (row.field && !row.text) d.click(row.field);
+            const std::string field = row.field;
+            if (field == "tabs") {
+                d.showTab(1);
+            } else if (!field.empty()) {
+                *row.text != '\0' ? d.retype(field, row.text) : d.click(field);
+            }
             QCoreApplication::processEvents();
             look(*d.dialog);
             d.click("cancel");
@@ -96,13 +91,12 @@ class DialogLook : public SearchDialogTest,
     }
 };
 
-TEST_P(DialogLook, NoMnemonicReachesTwoFieldsAndEveryTextIsWhole) {
+TEST_P(DialogLook, EveryTextIsWholeAndEveryMnemonicWorks) {
     show([](QDialog& dialog) {
-        expectMnemonicsOfTheirOwn(dialog);
         expectWholeTexts(dialog, "thenLine elseLine");
         EXPECT_FALSE(dialog.property("helpPage").toString().isEmpty());
-        const QSize room = dialog.isSizeGripEnabled() ? QSize(1024, 768) : QSize(640, 460);
-        EXPECT_EQ(dialog.size().boundedTo(room), dialog.size());
+        EXPECT_EQ(dialog.size().boundedTo({1024, 768}), dialog.size());
+        expectMnemonicsThatWork(dialog);
     });
 }
 

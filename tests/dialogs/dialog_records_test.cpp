@@ -1,11 +1,12 @@
 // From the record to the widgets and back, for every command in every slot: nothing that was not
-// edited changes, and what was edited goes where the file looks for it.
+// edited changes, what was edited goes where the file looks for it, and what is empty is refused.
 #include "dialogs/dialog_fixture.h"
 
 #include <QDateEdit>
 
 #include <algorithm>
 #include <sstream>
+#include <vector>
 
 namespace quendra::test {
 namespace {
@@ -29,7 +30,7 @@ void putOne(ScriptEntry& e, Slot slot, const std::string& name, const std::strin
     };
     const auto fill = [&](auto& field) {
         field.fill('\0');
-        std::copy(value.begin(), value.end(), field.begin());
+        std::ranges::copy(value, field.begin());
         return value.size();
     };
     const auto number = [&] { return static_cast<std::uint32_t>(std::stoul(value, nullptr, 0)); };
@@ -80,126 +81,123 @@ ScriptEntry crowdedEntry(Code owner) {
     return e;
 }
 
-struct Row {
-    const char* name;
-    Code code;
-    std::string before;
-    /// What is typed into fields, the items that are chosen in lists; a button is clicked.
-    std::string edits;
-    std::string after;
-};
-
 const std::string oldText = "text=old \x80\x9f text";
 const std::string retyped = "text=\u20ac n\u00e9w \u00ff";
 const std::string newText = "text=\x80 n\xe9w \xff";
 const std::string oldFile = "text=C:\\old.qmd";
 const std::string newFile = "text=new.exe";
 
-const Row rows[] = {
+const struct {
+    const char* title;
+    Code code;
+    std::string before;
+    /// What is typed into fields, the items that are chosen in lists; a button is clicked.
+    std::string edits;
+    std::string after;
+} rows[] = {
     {"Comment", Code::Comment, oldText, retyped, newText},
     {"Goto", Code::Goto, oldText, retyped, newText},
     {"Label", Code::Label, oldText, retyped, newText},
     {"Message", Code::Message, oldText, retyped, newText},
-    {"ExpressLogon", Code::ExpressLogon, oldText, retyped, newText},
+    {"Express_Logon", Code::ExpressLogon, oldText, retyped, newText},
     {"Type", Code::Type, oldText, retyped, newText},
-    {"TypeThatIsHidden", Code::Type, oldText + "|hidden=1", retyped, newText},
-    {"TypeThatGetsHidden", Code::Type, oldText, "hide", "hidden=1"},
+    {"Type", Code::Type, oldText + "|hidden=1", retyped, newText},
+    {"Type", Code::Type, oldText, "hide", "hidden=1"},
     {"Wait", Code::Wait, "number=77", "number=4294967295", "number=4294967295"},
-    {"WaitReady", Code::WaitReady, "number=4000000000", "number=0", "number=0"},
-    {"Run", Code::Run, oldFile, "file=new.exe", newFile},
-    {"Menu202", Code::MenuCommand, oldFile + "|menu=202", "file=new.exe", newFile},
-    {"Menu204", Code::MenuCommand, oldFile + "|menu=204", "file=new.exe", newFile},
-    {"Menu219", Code::MenuCommand, oldFile + "|menu=219", "file=new.exe", newFile},
-    {"Menu254", Code::MenuCommand, oldFile + "|menu=254", "file=new.exe", newFile},
-    {"Menu257", Code::MenuCommand, oldFile + "|menu=257", "file=new.exe", newFile},
-    {"SetCursor", Code::SetCursor, "row=0|column=255", "row=24|column=132", "row=24|column=132"},
-    {"CopyArea", Code::Copy, "number=0|area=0x50180102",
+    {"Wait_Ready", Code::WaitReady, "number=4000000000", "number=0", "number=0"},
+    {"Run Program", Code::Run, oldFile, "file=new.exe", newFile},
+    {"Open Session", Code::MenuCommand, oldFile + "|menu=202", "file=new.exe", newFile},
+    {"Save Session As", Code::MenuCommand, oldFile + "|menu=204", "file=new.exe", newFile},
+    {"Paste From File", Code::MenuCommand, oldFile + "|menu=219", "file=new.exe", newFile},
+    {"Run Macro", Code::MenuCommand, oldFile + "|menu=254", "file=new.exe", newFile},
+    {"Edit Macro", Code::MenuCommand, oldFile + "|menu=257", "file=new.exe", newFile},
+    {"Set_Cursor", Code::SetCursor, "row=0|column=255", "row=24|column=132", "row=24|column=132"},
+    {"Copy to Clipboard", Code::Copy, "number=0|area=0x50180102",
      "startRow=3|startColumn=4|endRow=5|endColumn=255", "area=0xff050403"},
-    {"CopyAll", Code::Copy, "number=0", "entireScreen", "number=1"},
-    {"PastePosition", Code::Paste, "number=0|area=0x0201", "row=7|column=8", "area=0x0807"},
-    {"PasteAtCursor", Code::Paste, "number=1|area=0x0201", "atCursor", "number=0"},
-    {"InputString", Code::Input, "prompt=one\r\ntwo\r\n\r\nfour\xa0no break|length=2|hidden=1",
+    {"Copy to Clipboard", Code::Copy, "number=0", "entireScreen", "number=1"},
+    {"Paste from Clipboard", Code::Paste, "number=0|area=0x0201", "row=7|column=8", "area=0x0807"},
+    {"Paste from Clipboard", Code::Paste, "number=1|area=0x0201", "atCursor", "number=0"},
+    {"Input", Code::Input, "prompt=one\r\ntwo\r\n\r\nfour\xa0no break|length=2|hidden=1",
      "title=new title|prompt=\u20ac\nb\n|hideInput|maximumLength=40|variable=5",
      "text=new title|prompt=\x80\r\nb\r\n|hidden=0|length=40|variable=5"},
-    {"InputCharacter", Code::Input, "prompt=lone\nbreaks\rstay|length=0", "hideInput|variable=0",
+    {"Input", Code::Input, "prompt=lone\nbreaks\rstay|length=0", "hideInput|variable=0",
      "hidden=1|variable=0"},
-    {"InputOfDamagedFile", Code::Input, "variable=9", "hideInput", "hidden=1"},
-    {"WaitUntil", Code::WaitUntil, "until=2024 2 4 29 23 59 58 0", "date=9999-12-31|time=01:02:03",
+    {"Input", Code::Input, "variable=9", "hideInput", "hidden=1"},
+    {"Wait_Until", Code::WaitUntil, "until=2024 2 4 29 23 59 58 0", "date=9999-12-31|time=01:02:03",
      "until=9999 12 5 31 1 2 3 0"},
-    {"WaitUntilOnSunday", Code::WaitUntil, "until=2026 11 0 22 1 0 0 0", "date=1601-01-01",
+    {"Wait_Until", Code::WaitUntil, "until=2026 11 0 22 1 0 0 0", "date=1601-01-01",
      "until=1601 1 1 1 1 0 0 0"},
-    {"WaitUntilADate", Code::WaitUntil, "until=2030 5 6 4 0 0 0 0", "hasDate|hasTime|time=12:30:15",
+    {"Wait_Until", Code::WaitUntil, "until=2030 5 6 4 0 0 0 0", "hasDate|hasTime|time=12:30:15",
      "until=0 0 0 0 12 30 15 0"},
-    {"WaitUntilATime", Code::WaitUntil, "until=0 0 0 0 12 30 15 500",
-     "hasDate|hasTime|date=2030-05-04", "until=2030 5 6 4 0 0 0 0"},
+    {"Wait_Until", Code::WaitUntil, "until=0 0 0 0 12 30 15 500", "hasDate|hasTime|date=2030-05-04",
+     "until=2030 5 6 4 0 0 0 0"},
 };
 
-void PrintTo(const Row& row, std::ostream* out) {
-    *out << row.name;
-}
-
-class DialogRecords : public DialogTest,
-                      public ::testing::WithParamInterface<std::tuple<Row, Slot>> {
+class DialogRecords : public DialogTest {
   protected:
-    DialogRecords() {
-        entry = crowdedEntry(slot == Slot::Entry ? row.code : Code::WaitFor);
-        slotFields(entry, slot).code = row.code;
-        put(entry, slot, row.before);
-        before = entry;
+    void edit(const std::string& field, const std::string& value) {
+        const auto text = QString::fromStdString(value);
+        if (auto* date = qobject_cast<QDateEdit*>(&widget(field))) {
+            date->setDate(QDate::fromString(text, Qt::ISODate));
+        } else if (auto* time = qobject_cast<QTimeEdit*>(&widget(field))) {
+            time->setTime(QTime::fromString(text, Qt::ISODate));
+        } else if (widget(field).inherits("QComboBox")) {
+            choose(field, text.toInt());
+        } else if (value.empty()) {
+            click(field);
+        } else {
+            retype(field, value);
+        }
+    }
+    void openAndEdit(Slot slot, const std::string& edits) {
         open(slot);
+        forEach(edits, [this](const auto& field, const auto& value) { edit(field, value); });
     }
-
-    void edit() {
-        forEach(row.edits, [this](const std::string& field, const std::string& value) {
-            const auto text = QString::fromStdString(value);
-            if (auto* date = qobject_cast<QDateEdit*>(&widget(field))) {
-                date->setDate(QDate::fromString(text, Qt::ISODate));
-            } else if (auto* time = qobject_cast<QTimeEdit*>(&widget(field))) {
-                time->setTime(QTime::fromString(text, Qt::ISODate));
-            } else if (widget(field).inherits("QComboBox")) {
-                choose(field, text.toInt());
-            } else if (value.empty()) {
-                click(field);
-            } else {
-                retype(field, value);
-            }
+    /// Of these fields the lines are required: the first that is empty gets the focus.
+    void expectEmptyLinesRefused(const std::string& fields) {
+        std::vector<std::string> lines;
+        forEach(fields, [&](const std::string& field, const std::string& /*value*/) {
+            if (widget(field).inherits("QLineEdit")) lines.insert(lines.begin(), field);
         });
+        for (const std::string& field : lines) {
+            widget<QLineEdit>(field).clear();
+            widget("cancel").setFocus();
+            click("ok");
+            expectTold("A value is required in this field.",
+                       has("file") ? "File Operation" : title());
+            EXPECT_TRUE(dialog->isVisible());
+            EXPECT_EQ(focused(), field);
+        }
     }
-
-    const Row& row = std::get<0>(GetParam());
-    const Slot slot = std::get<1>(GetParam());
-    ScriptEntry before;
 };
 
-TEST_P(DialogRecords, OkWithoutAnEditChangesNothing) {
-    click("ok");
-    EXPECT_TRUE(endedWithOk());
-    EXPECT_EQ(entry, before);
+TEST_F(DialogRecords, AnEditGoesIntoItsSlotAndNowhereElseAndOnlyAtOk) {
+    for (const auto& row : rows) {
+        for (const Slot slot : allSlots) {
+            SCOPED_TRACE(row.title + (" in slot " + std::to_string(static_cast<int>(slot))));
+            entry = crowdedEntry(slot == Slot::Entry ? row.code : Code::WaitFor);
+            slotFields(entry, slot).code = row.code;
+            put(entry, slot, row.before);
+            ScriptEntry expected = entry;
+            open(slot);
+            EXPECT_EQ(title(), row.title);
+            click("ok");
+            EXPECT_TRUE(endedWithOk());
+            EXPECT_EQ(entry, expected) << "OK without an edit";
+            openAndEdit(slot, row.edits);
+            expectEmptyLinesRefused(row.edits);
+            press(Qt::Key_Escape);
+            EXPECT_TRUE(!dialog->isVisible() && dialog->result() == QDialog::Rejected);
+            EXPECT_EQ(entry, expected) << "Escape behind an edit";
+            entry = expected;
+            openAndEdit(slot, row.edits);
+            click("ok");
+            EXPECT_TRUE(endedWithOk());
+            put(expected, slot, row.after);
+            EXPECT_EQ(entry, expected);
+        }
+    }
 }
-
-TEST_P(DialogRecords, CancelAfterAnEditChangesNothing) {
-    edit();
-    press(Qt::Key_Escape);
-    EXPECT_FALSE(dialog->isVisible());
-    EXPECT_EQ(dialog->result(), QDialog::Rejected);
-    EXPECT_EQ(entry, before);
-}
-
-TEST_P(DialogRecords, AnEditGoesIntoItsSlotAndNowhereElse) {
-    edit();
-    click("ok");
-    EXPECT_TRUE(endedWithOk());
-    put(before, slot, row.after);
-    EXPECT_EQ(entry, before);
-}
-
-INSTANTIATE_TEST_SUITE_P(Commands, DialogRecords,
-                         ::testing::Combine(::testing::ValuesIn(rows),
-                                            ::testing::ValuesIn(allSlots)),
-                         [](const auto& row) {
-                             return std::get<0>(row.param).name +
-                                    slotSuffix(std::get<1>(row.param));
-                         });
 
 }  // namespace
 }  // namespace quendra::test

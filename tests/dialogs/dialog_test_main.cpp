@@ -10,14 +10,9 @@
 int main(int argc, char** argv) {
     ::testing::InitGoogleTest(&argc, argv);
     const quendra::test::TemporaryFolder home;
-    const auto set = [&home](const char* name, const char* folder) {
-        qputenv(name, (home / folder).string().c_str());
-    };
-    set("HOME", "home");
-    set("XDG_CONFIG_HOME", "home/.config");
-    set("XDG_DATA_HOME", "home/.local/share");
-    set("XDG_CONFIG_DIRS", "etc");
-    qputenv("XDG_RUNTIME_DIR", home.path().string().c_str());
+    for (const char* name :
+         {"HOME", "XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_CONFIG_DIRS", "XDG_RUNTIME_DIR"})
+        qputenv(name, home.path().c_str());
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
     qputenv("QT_QPA_PLATFORMTHEME", "none");
     QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedKingdom));

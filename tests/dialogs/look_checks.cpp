@@ -5,8 +5,10 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QDir>
+#include <QKeySequence>
 #include <QLabel>
 #include <QPixmap>
+#include <QTest>
 
 #include <gtest/gtest.h>
 #include <map>
@@ -25,20 +27,26 @@ QString pictureFolder() {
 
 }  // namespace
 
-void expectMnemonicsOfTheirOwn(const QWidget& dialog) {
+void expectMnemonicsThatWork(const QWidget& dialog) {
     std::map<QChar, std::string> taken;
-    for (const QWidget* part : dialog.findChildren<QWidget*>()) {
-        const auto* label = qobject_cast<const QLabel*>(part);
-        const bool carries = qobject_cast<const QAbstractButton*>(part) != nullptr ||
-                             (label != nullptr && label->buddy() != nullptr);
-        const QString text = part->property("text").toString();
-        const qsizetype at = text.indexOf(u'&');
+    for (QWidget* part : dialog.findChildren<QWidget*>()) {
+        const std::string text = textOfWidget(*part);
+        const QKeySequence key = QKeySequence::mnemonic(QString::fromStdString(text));
         // "A & B" has none.
-        if (at >= 0 && text[at + 1].isSpace()) continue;
-        EXPECT_TRUE(at < 0 || carries) << "leads nowhere: " << textOfWidget(*part);
-        if (at < 0) continue;
-        const auto [first, isNew] = taken.emplace(text[at + 1].toLower(), textOfWidget(*part));
-        EXPECT_TRUE(isNew) << textOfWidget(*part) << " and " << first->second;
+        if (!part->isVisible() || key.isEmpty() || text.find("& ") != std::string::npos) continue;
+        // "Alt+X": the last character is the key.
+        const QChar letter = key.toString().back();
+        const auto [first, isNew] = taken.emplace(letter, text);
+        EXPECT_TRUE(isNew) << text << " and " << first->second;
+        const auto* button = qobject_cast<const QAbstractButton*>(part);
+        const auto* label = qobject_cast<const QLabel*>(part);
+        QWidget* target = label != nullptr ? label->buddy() : part;
+        EXPECT_TRUE(button != nullptr || target != nullptr) << "leads nowhere: " << text;
+        const bool takesFocus = button == nullptr || button->isCheckable();
+        if (target == nullptr || !takesFocus || !target->isEnabled()) continue;
+        QTest::keyClick(dialog.focusWidget(), letter.toLatin1(), Qt::AltModifier);
+        EXPECT_TRUE(dialog.focusWidget() == target || target->isAncestorOf(dialog.focusWidget()))
+            << text;
     }
 }
 

@@ -8,8 +8,9 @@ class QWidget;
 
 namespace quendra::test {
 
-/// No key leads to two fields, and none leads nowhere.
-void expectMnemonicsOfTheirOwn(const QWidget& dialog);
+/// Of what shows, no key belongs to two captions, none leads nowhere, and those of labels, check
+/// boxes and radio buttons lead to their fields, which are changed by that.
+void expectMnemonicsThatWork(const QWidget& dialog);
 /// Every visible label and button has a name and its text whole. Those that cut their text
 /// themselves are `eliding` (object names, parted by blanks).
 void expectWholeTexts(const QWidget& dialog, const std::string& eliding = {});

@@ -8,14 +8,6 @@
 
 namespace quendra::test {
 
-namespace {
-
-constexpr int looksUntilGivingUp = 400;
-
-}  // namespace
-
-ModalSteps::ModalSteps() = default;
-
 ModalSteps::~ModalSteps() {
     EXPECT_TRUE(steps_.empty()) << "never opened: " << steps_.front().dialog;
 }
@@ -32,12 +24,13 @@ bool ModalSteps::run(const std::function<bool()>& operation) {
 }
 
 void ModalSteps::look() {
+    constexpr int looksUntilGivingUp = 400;
     auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+    const std::string awaited = steps_.empty() ? "no more" : steps_.front().dialog;
     const bool ready = dialog != nullptr && everyLoopHasItsDialog() && !steps_.empty() &&
-                       (steps_.front().dialog == anyDialog ||
-                        dialog->objectName().toStdString() == steps_.front().dialog);
+                       (awaited == anyDialog || dialog->objectName().toStdString() == awaited);
     if (!ready) {
-        if (++idleLooks_ > looksUntilGivingUp) giveUp();
+        if (++idleLooks_ > looksUntilGivingUp) giveUp("it never came");
         return;
     }
     idleLooks_ = 0;
@@ -47,21 +40,21 @@ void ModalSteps::look() {
     try {
         step.act({dialog});
     } catch (const std::exception& fault) {
-        ADD_FAILURE() << "in " << step.dialog << ": " << fault.what();
-        giveUp();
+        steps_.push_front(step);
+        giveUp(fault.what());
     }
 }
 
-void ModalSteps::giveUp() {
-    QWidget* open = QApplication::activeModalWidget();
-    const std::string awaited = steps_.empty() ? "no more" : steps_.front().dialog;
-    ADD_FAILURE() << "awaited " << awaited << ", but there is "
-                  << (open == nullptr ? "none" : open->objectName().toStdString());
+// A dialog leaves its loop when it is hidden: also one that lies behind another, or that would not
+// let itself be rejected.
+void ModalSteps::giveUp(const std::string& fault) {
+    const QWidget* open = QApplication::activeModalWidget();
+    ADD_FAILURE() << "awaited " << (steps_.empty() ? "no more" : steps_.front().dialog)
+                  << ", but there is "
+                  << (open == nullptr ? "none" : open->objectName().toStdString()) << ": " << fault;
     steps_.clear();
-    while (auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget())) {
-        dialog->reject();
-        if (dialog->isVisible()) break;
-    }
+    for (QWidget* window : QApplication::topLevelWidgets())
+        if (window->isModal()) window->hide();
 }
 
 }  // namespace quendra::test

@@ -17,7 +17,7 @@ inline constexpr const char* anyDialog = "*";
 /// ends, and a dialog that is left open, fail it.
 class ModalSteps {
   public:
-    ModalSteps();
+    ModalSteps() = default;
     ~ModalSteps();
     ModalSteps(const ModalSteps&) = delete;
     ModalSteps& operator=(const ModalSteps&) = delete;
@@ -32,7 +32,8 @@ class ModalSteps {
         std::function<void(const OpenDialog&)> act;
     };
     void look();
-    void giveUp();
+    /// Fails the test, and ends the loops of all modal dialogs.
+    void giveUp(const std::string& fault);
 
     std::deque<Step> steps_;
     int idleLooks_ = 0;

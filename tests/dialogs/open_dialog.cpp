@@ -1,6 +1,5 @@
 #include "dialogs/open_dialog.h"
 
-#include <QAbstractButton>
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QListView>
@@ -16,39 +15,26 @@ namespace {
 
 QPoint pointOn(QListView& list, const std::string& text) {
     const auto found = list.model()->match(list.model()->index(0, 0), Qt::DisplayRole,
-                                           QString::fromStdString(text), 1,
-                                           Qt::MatchExactly | Qt::MatchCaseSensitive);
+                                           QString::fromStdString(text), 1, Qt::MatchExactly);
     if (found.isEmpty()) throw std::runtime_error("no row " + text);
     list.scrollTo(found.front());
     return list.visualRect(found.front()).center();
 }
 
-template <class Holds>
-std::string digits(const std::string& names, const Holds& holds) {
-    std::istringstream words(names);
-    std::string result;
-    for (std::string name; words >> name;)
-        result += holds(name) ? '1' : '0';
-    return result;
-}
-
-void clearField(QWidget& field) {
+QWidget& selectAllIn(QWidget& field) {
     field.setFocus();
     QTest::keyClick(&field, Qt::Key_A, Qt::ControlModifier);
-    QTest::keyClick(&field, Qt::Key_Delete);
+    return field;
 }
 
 }  // namespace
 
 void typeInto(QWidget& widget, const std::string& text) {
     for (const QChar character : QString::fromStdString(text)) {
-        if (character.unicode() >= ' ' && character.unicode() < 127) {
-            QTest::keyClick(&widget, character.toLatin1());
-            continue;
-        }
-        const bool isBreak = character == u'\n';
-        QTest::sendKeyEvent(QTest::Click, &widget, isBreak ? Qt::Key_Return : Qt::Key_unknown,
-                            isBreak ? QStringLiteral("\r") : QString(character), Qt::NoModifier);
+        const QString keys = character == u'\n' ? QStringLiteral("\r") : QString(character);
+        const auto key = static_cast<Qt::Key>(character.toUpper().unicode());
+        QTest::sendKeyEvent(QTest::Click, &widget, character == u'\n' ? Qt::Key_Return : key, keys,
+                            Qt::NoModifier);
     }
 }
 
@@ -74,14 +60,12 @@ void OpenDialog::type(const std::string& keys) const {
 }
 
 void OpenDialog::retype(const std::string& field, const std::string& keys) const {
-    clearField(widget(field));
+    QTest::keyClick(&selectAllIn(widget(field)), Qt::Key_Delete);
     typeInto(widget(field), keys);
 }
 
 void OpenDialog::repaste(const std::string& field, const std::string& text) const {
-    widget(field).setFocus();
-    QTest::keyClick(&widget(field), Qt::Key_A, Qt::ControlModifier);
-    pasteInto(widget(field), text);
+    pasteInto(selectAllIn(widget(field)), text);
 }
 
 void OpenDialog::choose(const std::string& list, int item) const {
@@ -117,14 +101,12 @@ std::string OpenDialog::shown(const std::string& name) const {
     return widget(name).property(property).toString().toStdString();
 }
 
-std::string OpenDialog::checked(const std::string& buttons) const {
-    return digits(buttons, [this](const std::string& name) {
-        return widget<QAbstractButton>(name).isChecked();
-    });
-}
-
-std::string OpenDialog::enabled(const std::string& names) const {
-    return digits(names, [this](const std::string& name) { return widget(name).isEnabled(); });
+std::string OpenDialog::states(const std::string& names, const char* property) const {
+    std::istringstream words(names);
+    std::string result;
+    for (std::string name; words >> name;)
+        result += widget(name).property(property).toBool() ? '1' : '0';
+    return result;
 }
 
 bool OpenDialog::has(const char* name) const {

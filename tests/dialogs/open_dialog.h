@@ -41,8 +41,13 @@ struct OpenDialog {
     /// What a label, a button, an edit, a spin box or a combo box shows.
     [[nodiscard]] std::string shown(const std::string& name) const;
     /// One digit for each of the names, parted by blanks: 1 for checked, and for enabled.
-    [[nodiscard]] std::string checked(const std::string& buttons) const;
-    [[nodiscard]] std::string enabled(const std::string& names) const;
+    [[nodiscard]] std::string checked(const std::string& buttons) const {
+        return states(buttons, "checked");
+    }
+    [[nodiscard]] std::string enabled(const std::string& names) const {
+        return states(names, "enabled");
+    }
+    [[nodiscard]] std::string states(const std::string& names, const char* property) const;
     [[nodiscard]] bool isChecked(const char* button) const { return checked(button) == "1"; }
     [[nodiscard]] bool isEnabled(const char* name) const { return enabled(name) == "1"; }
     [[nodiscard]] bool has(const char* name) const;

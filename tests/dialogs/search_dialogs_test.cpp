@@ -2,41 +2,41 @@
 #include "dialogs/dialog_fixture.h"
 #include "model/entry_display.h"
 
-#include <QComboBox>
-
 namespace quendra::test {
 namespace {
 
 class SearchTest : public SearchDialogTest {
   protected:
     [[nodiscard]] std::string line() const { return formatEntryLine(entry, state.displayNames()); }
-    void startWatch() {
-        entry = newEntry(CommandCode::WatchFor);
-        setText(own(), "ERROR");
-    }
 };
-using WaitForTest = SearchTest;
-using IfInputIsTest = SearchTest;
-using WatchForTest = SearchTest;
 
-constexpr const char* actionParts = "thenButton thenLine elseButton elseLine timeoutSeconds";
-
-TEST_F(WaitForTest, ANewOneIsTypedAndItsTimeoutChosenByItsKey) {
-    entry = newEntry(CommandCode::WaitFor);
+TEST_F(SearchTest, ANewWaitForIsTypedAndItsTimeoutSwitchesTheActionsAtOnce) {
+    constexpr const char* actionParts = "thenButton thenLine elseButton elseLine timeoutSeconds";
+    entry = newScriptEvent(CommandCode::WaitFor);
     ScriptEntry expected = entry;
     setText(slotFields(expected, Slot::Entry), "READY");
     expected.hasTimeout = 1;
     expected.timeoutSeconds = 30;
     expected.searchRow = 24;
-    steps.in("waitForDialog", [](const OpenDialog& d) {
-        EXPECT_EQ(d.focused(), "text");
+    expected.exactPosition = 1;
+    expected.caseSensitive = 0;
+    steps.in("waitForDialog", [&](const OpenDialog& d) {
         EXPECT_EQ(d.shown("row") + ' ' + d.shown("column"), "1 1");
         EXPECT_EQ(d.checked("exactPosition caseSensitive noTimeout"), "011");
         EXPECT_EQ(d.enabled(actionParts), "00000");
-        EXPECT_EQ(d.shown("thenLine") + d.shown("elseLine"), "If Found Then If Not Found Then ");
+        EXPECT_FALSE(d.widget("thenButton").toolTip().isEmpty());
+        d.click("ok");
+        expectTold("A value is required in this field.", "Wait_For");
+        EXPECT_EQ(d.focused(), "text");
         d.type("READY");
         d.press(Qt::Key_M, Qt::AltModifier);
         EXPECT_TRUE(d.isChecked("timeout")) << "what is typed next goes to the new fields";
+        EXPECT_EQ(d.enabled(actionParts), "11111");
+        EXPECT_TRUE(d.widget("thenButton").toolTip().isEmpty());
+        d.click("noTimeout");
+        EXPECT_EQ(d.enabled(actionParts), "00000");
+        for (const char* button : {"timeout", "exactPosition", "caseSensitive"})
+            d.click(button);
         d.retype("timeoutSeconds", "30");
         d.retype("row", "24");
         d.press(Qt::Key_Return);
@@ -45,36 +45,10 @@ TEST_F(WaitForTest, ANewOneIsTypedAndItsTimeoutChosenByItsKey) {
     EXPECT_EQ(entry, expected);
 }
 
-TEST_F(WaitForTest, EitherRadioButtonSwitchesTheTimeoutAndTheActionsAtOnce) {
-    startWithTimeout();
-    steps.in("waitForDialog", [](const OpenDialog& d) {
-        EXPECT_EQ(d.enabled(actionParts), "11111");
-        d.click("noTimeout");
-        EXPECT_EQ(d.enabled(actionParts), "00000");
-        EXPECT_FALSE(d.widget("thenButton").toolTip().isEmpty());
-        d.click("timeout");
-        EXPECT_EQ(d.enabled(actionParts), "11111");
-        EXPECT_TRUE(d.widget("thenButton").toolTip().isEmpty());
-        for (const char* button : {"noTimeout", "exactPosition", "caseSensitive", "ok"}) {
-            d.click(button);
-        }
-    });
-    ASSERT_TRUE(run());
-    EXPECT_EQ(entry.hasTimeout, 0);
-    EXPECT_EQ(entry.exactPosition, 1);
-    EXPECT_EQ(entry.caseSensitive, 0);
-}
-
-TEST_F(WaitForTest, AnEmptyTextIsRefusedAndCancelDropsTheActionsToo) {
+TEST_F(SearchTest, CancelDropsTheActionsToo) {
     startWithTimeout();
     const ScriptEntry before = entry;
-    steps.in("waitForDialog", [this](const OpenDialog& d) {
-        d.retype("text", "");
-        d.click("ok");
-        expectTold("A value is required in this field.", "Wait_For");
-        EXPECT_EQ(d.focused(), "text");
-        d.click("thenButton");
-    });
+    click("waitForDialog", "thenButton");
     chooseRow("scriptEventsList", "Beep");
     steps.in("waitForDialog", [](const OpenDialog& d) {
         EXPECT_EQ(d.shown("thenLine"), "If Found Then Beep");
@@ -84,31 +58,22 @@ TEST_F(WaitForTest, AnEmptyTextIsRefusedAndCancelDropsTheActionsToo) {
     EXPECT_EQ(entry, before);
 }
 
-TEST_F(WaitForTest, NumbersOutsideOfTheirFieldsCannotBeTypedOrAreRefusedByName) {
+TEST_F(SearchTest, NumbersOutsideOfTheirFieldsCannotBeTypedOrAreRefusedByName) {
+    const char* rows[][5] = {
+        {"row", "63", "6", "0", "Row: enter a number from 1 to 62."},
+        {"row", "62", "62", "", "Row: enter a number from 1 to 62."},
+        {"column", "161", "16", "", "Column: enter a number from 1 to 160."},
+        {"column", "-160", "160", "0", "Column: enter a number from 1 to 160."},
+        {"timeoutSeconds", "256", "25", "", "Timeout in Seconds: enter a number from 0 to 255."}};
     startWithTimeout();
-    steps.in("waitForDialog", [this](const OpenDialog& d) {
-        const char* rows[][3] = {{"row", "63", "6"},
-                                 {"row", "62", "62"},
-                                 {"column", "161", "16"},
-                                 {"column", "160", "160"},
-                                 {"column", "-5", "5"},
-                                 {"timeoutSeconds", "256", "25"},
-                                 {"timeoutSeconds", "255", "255"}};
-        for (const auto& [field, typed, taken] : rows) {
-            d.retype(field, typed);
-            EXPECT_EQ(d.shown(field), taken) << field;
-        }
-        const char* refused[][3] = {
-            {"row", "0", "Row: enter a number from 1 to 62."},
-            {"column", "", "Column: enter a number from 1 to 160."},
-            {"timeoutSeconds", "", "Timeout in Seconds: enter a number from 0 to 255."}};
-        for (const auto& [field, typed, text] : refused) {
-            const std::string good = d.shown(field);
-            d.retype(field, typed);
+    steps.in("waitForDialog", [&](const OpenDialog& d) {
+        for (const auto& [field, typed, taken, refused, text] : rows) {
+            d.retype(field, refused);
             d.click("ok");
             expectTold(text, "Wait_For");
             EXPECT_EQ(d.focused(), field);
-            d.retype(field, good);
+            d.retype(field, typed);
+            EXPECT_EQ(d.shown(field), taken) << field;
         }
         d.retype("timeoutSeconds", "");
         d.click("noTimeout");
@@ -116,11 +81,11 @@ TEST_F(WaitForTest, NumbersOutsideOfTheirFieldsCannotBeTypedOrAreRefusedByName) 
     });
     ASSERT_TRUE(run()) << "a disabled field must not keep the dialog open";
     EXPECT_EQ(entry.searchRow, 62);
-    EXPECT_EQ(entry.searchColumn, 5);
+    EXPECT_EQ(entry.searchColumn, 160);
 }
 
-TEST_F(WaitForTest, APositionFromAForeignFileStaysUntilItIsChanged) {
-    for (const auto& [row, column] : {std::pair{0, 0}, std::pair{63, 161}, std::pair{255, 255}}) {
+TEST_F(SearchTest, APositionFromAForeignFileStaysUntilItIsChanged) {
+    for (const auto& [row, column] : {std::pair{0, 0}, {63, 161}, {255, 255}}) {
         startWithTimeout();
         entry.searchRow = static_cast<std::uint8_t>(row);
         entry.searchColumn = static_cast<std::uint8_t>(column);
@@ -131,7 +96,7 @@ TEST_F(WaitForTest, APositionFromAForeignFileStaysUntilItIsChanged) {
     }
 }
 
-TEST_F(WaitForTest, ActionsThatCannotBeReadSurviveAnEditOfTheText) {
+TEST_F(SearchTest, ActionsThatCannotBeReadSurviveAnEditOfTheText) {
     startWithTimeout();
     entry.thenCode = CommandCode::Type;
     entry.hidden = 1;
@@ -153,23 +118,37 @@ TEST_F(WaitForTest, ActionsThatCannotBeReadSurviveAnEditOfTheText) {
         EXPECT_EQ(d.selected("scriptEventsList"), "Watch_For");
         d.click("ok");
         EXPECT_EQ(answers.messages.size(), 1U) << "it cannot be chosen anew";
-        d.clickRow("scriptEventsList", "Beep");
         d.click("cancel");
     });
     click("waitForDialog", "ok");
     ASSERT_TRUE(run());
     EXPECT_EQ(entry, expected);
+
+    entry.commandCode = expected.commandCode = CommandCode::WatchFor;
+    setText(slotFields(expected, Slot::Entry), "AGAIN");
+    steps.in("watchForDialog", [](const OpenDialog& d) {
+        d.retype("text", "AGAIN");
+        d.click("ok");
+    });
+    ASSERT_TRUE(run());
+    EXPECT_EQ(entry, expected);
 }
 
-TEST_F(IfInputIsTest, ANewOneTakesAVariableInAnyCaseAndALiteral) {
-    entry = newEntry(CommandCode::IfInputIs);
-    steps.in("ifInputIsDialog", [](const OpenDialog& d) {
-        EXPECT_EQ(d.focused(), "firstOperand");
-        EXPECT_EQ(d.shown("firstOperand"), "");
-        EXPECT_EQ(d.shown("secondOperand"), "InputStr");
-        d.type("varuserid");
-        d.retype("secondOperandText", "Var");
+TEST_F(SearchTest, ANewIfInputIsTakesAVariableInAnyCaseAndALiteral) {
+    entry = newScriptEvent(CommandCode::IfInputIs);
+    steps.in("ifInputIsDialog", [this](const OpenDialog& d) {
+        EXPECT_EQ(d.shown("firstOperand") + d.shown("secondOperand"), "InputStr");
+        d.retype("secondOperandText", "");
+        for (const auto& [box, typed] :
+             {std::pair{"firstOperand", "varuserid"}, {"secondOperand", "Var"}}) {
+            d.click("ok");
+            expectTold("A value is required in this field.", "If_Input_Is");
+            EXPECT_EQ(d.focused(), box);
+            d.type(typed);
+        }
         EXPECT_EQ(d.shown("secondOperand"), "Var") << "completed to a variable that was not meant";
+        d.type("\u0416");
+        EXPECT_EQ(d.shown("note"), "The character \u0416 cannot be stored in a script.");
         d.click("elseButton");
     });
     chooseRow("scriptEventsList", "Return");
@@ -183,93 +162,39 @@ TEST_F(IfInputIsTest, ANewOneTakesAVariableInAnyCaseAndALiteral) {
     EXPECT_EQ(line(), "If_Input_Is VarUserId = \"Var\" If Not Equal Then Return");
 
     steps.in("ifInputIsDialog", [](const OpenDialog& d) {
+        EXPECT_EQ(d.focused(), "firstOperand");
         EXPECT_EQ(d.shown("firstOperand"), "VarUserId");
-        EXPECT_EQ(d.widget<QComboBox>("firstOperand").currentIndex(), 2);
         d.widget("secondOperand").setFocus();
         d.press(Qt::Key_Down);
         d.press(Qt::Key_Down);
-        d.click("ok");
-    });
-    ASSERT_TRUE(run());
-    EXPECT_EQ(compareTextOf(entry), "");
-    EXPECT_EQ(entry.secondOperandKind, 1);
-    EXPECT_EQ(entry.firstOperandKind, 2);
-}
-
-TEST_F(IfInputIsTest, EachEmptyBoxIsRefusedInItsTurn) {
-    entry = newEntry(CommandCode::IfInputIs);
-    steps.in("ifInputIsDialog", [this](const OpenDialog& d) {
-        d.retype("secondOperandText", "");
-        for (const char* box : {"firstOperand", "secondOperand"}) {
-            d.click("ok");
-            expectTold("A value is required in this field.", "If_Input_Is");
-            EXPECT_EQ(d.focused(), box);
-            d.type("yes");
-        }
-        d.click("cancel");
-    });
-    EXPECT_FALSE(run());
-}
-
-TEST_F(IfInputIsTest, TheBoxesTakeWhatAScriptCanStoreAndNoMore) {
-    startCompare();
-    steps.in("ifInputIsDialog", [](const OpenDialog& d) {
         d.repaste("firstOperandText", std::string(300, 'x'));
-        d.retype("secondOperandText", "a\u20AC\u0416");
-        EXPECT_EQ(d.shown("note"), "The character \u0416 cannot be stored in a script.");
-        d.type("b");
-        d.click("ok");
+        d.click("thenButton");
     });
-    ASSERT_TRUE(run());
-    EXPECT_EQ(entry.textLength, 255);
-    EXPECT_EQ(compareTextOf(entry), std::string("a\x80") + 'b');
-}
-
-TEST_F(IfInputIsTest, AnEqualActionWithAKeyLeavesTheOperandsAlone) {
-    startCompare();
-    entry.secondOperandKind = 4;
-    click("ifInputIsDialog", "thenButton");
     chooseRow("luFunctionsList", "Enter");
     click("ifInputIsDialog", "ok");
     ASSERT_TRUE(run());
-    EXPECT_EQ(line(), "If_Input_Is \"yes\" = VarStaticText If Equal Then Enter");
+    const std::string literal = '"' + std::string(255, 'x') + '"';
+    EXPECT_EQ(line(), "If_Input_Is " + literal + " = VarPassword If Equal Then Enter Else Return");
+    EXPECT_EQ(compareTextOf(entry), "");
 }
 
-TEST_F(WatchForTest, ANewOneOffersBeep) {
-    entry = newEntry(CommandCode::WatchFor);
-    steps.in("watchForDialog", [this](const OpenDialog& d) {
-        EXPECT_EQ(d.focused(), "text");
-        EXPECT_EQ(d.selected("scriptEventsList"), "Beep");
-        d.click("ok");
-        expectTold("A value is required in this field.", "Watch_For");
-        EXPECT_EQ(d.focused(), "text");
-        d.type("ERROR");
-        d.press(Qt::Key_Return);
-    });
-    ASSERT_TRUE(run());
-    EXPECT_EQ(line(), "Watch_For \"ERROR\" Then Beep");
-}
-
-TEST_F(WatchForTest, AWaitForActionHasATextAndSearchOptionsOnly) {
-    startWatch();
+TEST_F(SearchTest, AWaitForActionOfAWatchForHasATextAndSearchOptionsOnly) {
+    entry = newScriptEvent(CommandCode::WatchFor);
+    setText(own(), "ERROR");
     steps.in("watchForDialog", [](const OpenDialog& d) {
         d.clickRow("scriptEventsList", "Wait_For");
         d.click("ok");
     });
     steps.in("waitForDialog", [](const OpenDialog& d) {
         EXPECT_FALSE(d.has("timeoutGroup") || d.has("actionGroup"));
-        EXPECT_EQ(d.shown("text"), "");
-        EXPECT_EQ(d.shown("row"), "1");
-        EXPECT_TRUE(d.isChecked("caseSensitive"));
+        EXPECT_EQ(d.shown("text") + d.shown("row") + d.checked("caseSensitive"), "11");
         d.type("CLEAR");
         d.retype("column", "80");
         d.click("ok");
     });
     ASSERT_TRUE(run());
     EXPECT_EQ(line(), "Watch_For \"ERROR\" Then Wait_For \"CLEAR\"");
-    EXPECT_EQ(entry.searchRow, 1);
-    EXPECT_EQ(entry.searchColumn, 80);
-    EXPECT_EQ(entry.caseSensitive, 1);
+    EXPECT_TRUE(entry.searchRow == 1 && entry.searchColumn == 80 && entry.caseSensitive == 1);
     EXPECT_EQ(entry.hasTimeout, 0);
 
     // With its text there, OK asks no more, and a double-click shows what is stored.
@@ -288,9 +213,21 @@ TEST_F(WatchForTest, AWaitForActionHasATextAndSearchOptionsOnly) {
     EXPECT_EQ(textOf(own()), "ERROR");
 }
 
-TEST_F(WatchForTest, RefusesInTheWordsOfTheLibraryAndOnlyAtOk) {
-    startWatch();
+TEST_F(SearchTest, ANewWatchForOffersBeepAndRefusesInTheWordsOfTheLibraryAndOnlyAtOk) {
+    entry = newScriptEvent(CommandCode::WatchFor);
     state.currentHostType = HostType::VT;
+    steps.in("watchForDialog", [this](const OpenDialog& d) {
+        EXPECT_EQ(d.focused(), "text");
+        EXPECT_EQ(d.selected("scriptEventsList"), "Beep");
+        d.click("ok");
+        expectTold("A value is required in this field.", "Watch_For");
+        EXPECT_EQ(d.focused(), "text");
+        d.type("ERROR");
+        d.press(Qt::Key_Return);
+    });
+    ASSERT_TRUE(run());
+    EXPECT_EQ(line(), "Watch_For \"ERROR\" Then Beep");
+
     entry.thenCode = CommandCode::LuFunction;
     entry.row = 99;
     steps.in("watchForDialog", [this](const OpenDialog& d) {
@@ -303,7 +240,7 @@ TEST_F(WatchForTest, RefusesInTheWordsOfTheLibraryAndOnlyAtOk) {
             expectTold("If_Input_Is and Watch_For events are not valid for this operation.",
                        "Watch_For");
         }
-        d.clickRow("menuCommandsList", state.menuCommands.names[12]);
+        d.clickRow("menuCommandsList", menuCommandName(state.menuCommands, 213));
         d.click("ok");
         expectTold("This menu command is not compatible with the mode of the script.",
                    "Script Edit Info");
@@ -314,22 +251,6 @@ TEST_F(WatchForTest, RefusesInTheWordsOfTheLibraryAndOnlyAtOk) {
     EXPECT_EQ(entry.thenCode, CommandCode::LuFunction);
     EXPECT_EQ(entry.row, 4);
     EXPECT_EQ(entry.column, 7);
-}
-
-TEST_F(WatchForTest, AnActionThatCannotBeReadSurvivesAnEditOfTheText) {
-    startWatch();
-    entry.thenCode = CommandCode::Type;
-    entry.hidden = 1;
-    entry.thenKept = {1, 2, 3};
-    ScriptEntry expected = entry;
-    setText(slotFields(expected, Slot::Entry), "OTHER");
-    steps.in("watchForDialog", [](const OpenDialog& d) {
-        EXPECT_EQ(d.selected("scriptEventsList"), "Type");
-        d.retype("text", "OTHER");
-        d.click("ok");
-    });
-    ASSERT_TRUE(run());
-    EXPECT_EQ(entry, expected);
 }
 
 }  // namespace

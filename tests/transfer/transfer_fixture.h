@@ -13,6 +13,8 @@ inline constexpr int advancedPage = 1;
 
 class TransferSheetTest : public DialogContextTest {
   protected:
+    using DialogContextTest::DialogContextTest;
+
     /// Opens the sheet on `host` and lets `work` do something with it; a sheet that is still open
     /// behind that is cancelled. Gives the result, and the host system in `host`.
     bool open(const std::function<void(const OpenDialog&)>& work) {
@@ -33,7 +35,6 @@ class TransferSheetTest : public DialogContextTest {
 
     FileTransferSettings& settings = state.workingTransfer.settings;
     std::uint8_t host = transferHostVmCms;
-    ModalSteps steps;
 };
 
 }  // namespace quendra::test
