@@ -15,16 +15,12 @@ namespace fs = std::filesystem;
 
 using Names = std::map<std::string, std::string>;
 
-std::vector<std::string> documentLines() {
-    const Bytes bytes = readBytes(QUENDRA_FORMAT_DOCUMENT);
-    return linesOfText({bytes.begin(), bytes.end()});
-}
-
 /// The lines from a heading to the next one of any level.
 std::vector<std::string> section(const std::string& heading) {
+    const Bytes document = readBytes(QUENDRA_FORMAT_DOCUMENT);
     std::vector<std::string> lines;
     bool inside = false;
-    for (const std::string& line : documentLines()) {
+    for (const std::string& line : linesOfText({document.begin(), document.end()})) {
         if (line.starts_with("#")) inside = line == heading;
         if (inside) lines.push_back(line);
     }
@@ -55,12 +51,7 @@ TextSource englishTexts() {
     return library.textSource();
 }
 
-class FormatDocument : public QdsTest {
-  protected:
-    FormatDocument() { setIdentity(""); }
-};
-
-}  // namespace
+class FormatDocument : public QdsTest {};
 
 TEST_F(FormatDocument, dumpsTheExampleByteForByteUnderItsLines) {
     static const std::regex dumped(R"(([0-9a-f]{4})  ((?:[0-9a-f]{2} ?)+).*)");
@@ -112,16 +103,17 @@ TEST_F(FormatDocument, namesTheMenuCommands) {
 
 TEST_F(FormatDocument, placesTheFieldsOfATransfer) {
     static const std::regex row(R"(\| (\d+) \| (\d+) \|.*)");
-    std::vector<std::pair<unsigned long, unsigned long>> documented;
+    std::string documented;
     for (const std::string& line : section("### Menu commands")) {
         std::smatch match;
         if (std::regex_match(line, match, row))
-            documented.emplace_back(std::stoul(match[1]), std::stoul(match[2]));
+            documented += match[1].str() + ' ' + match[2].str() + '\n';
     }
-    std::vector<std::pair<unsigned long, unsigned long>> fields;
+    std::string fields;
     for (const TransferField& field : transferFields())
-        fields.emplace_back(field.offset, field.size);
+        fields += std::to_string(field.offset) + ' ' + std::to_string(field.size) + '\n';
     EXPECT_EQ(documented, fields);
 }
 
+}  // namespace
 }  // namespace quendra::test

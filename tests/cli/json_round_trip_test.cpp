@@ -17,12 +17,6 @@ Bytes countedBytes(const Bytes& bytes) {
     return joined({{static_cast<std::uint8_t>(bytes.size())}, bytes});
 }
 
-Bytes everyByte() {
-    Bytes bytes(255);
-    std::iota(bytes.begin(), bytes.end(), std::uint8_t{1});
-    return bytes;
-}
-
 Bytes transferRecord(const FileTransferSettings& settings, std::uint32_t data = 0xFFFFFFFF,
                      std::uint8_t host = 255) {
     const Bytes block(settings.bytes.begin(), settings.bytes.end());
@@ -50,12 +44,6 @@ Bytes hiddenType(const std::string& text, const std::string& identity = frozenId
     return typeRecord(HiddenTextCipher(identity).encipher(text).value());
 }
 
-// Enciphered by a program that leaves out the closing NUL.
-Bytes typeWithoutNul() {
-    const TripleDesCbc cipher(deriveTripleDesKey(frozenIdentity()).value());
-    return typeRecord(cipher.encipher(bytesOf("abcde")).value());
-}
-
 std::vector<std::pair<const char*, Bytes>> extremes() {
     const Bytes beep = {4};
     const Bytes watch = joined({{20}, counted("w"), beep});
@@ -65,16 +53,20 @@ std::vector<std::pair<const char*, Bytes>> extremes() {
     const Bytes type = hiddenType("x", "{ANOTHER}");
     const auto watched = [](const Bytes& action) { return joined({{20}, counted("w"), action}); };
     const Bytes fullTitle = joined({{8}, countedBytes(Bytes(255, 0x81))});
+    Bytes everyByte(255);
+    std::iota(everyByte.begin(), everyByte.end(), std::uint8_t{0});
+    // Of a program that leaves out the closing NUL.
+    const TripleDesCbc cipher(deriveTripleDesKey(frozenIdentity()).value());
+    const Bytes withoutNul = cipher.encipher(bytesOf("abcde")).value();
     return {
-        {"text of every byte", joined({{6}, countedBytes(everyByte())})},
-        {"text of NULs", joined({{11}, countedBytes(Bytes(255, 0))})},
+        {"text of every byte", joined({{6}, countedBytes(everyByte)})},
         {"empty code", {0}},
         {"longest Input", joined({fullTitle, word(1023), Bytes(1023, '\\'), {255, 2, 255}})},
         {"unknown variables", joined({{9}, counted(""), {6}, counted(""), {255}, {0}, {0}})},
+        {"last byte", joined({{6}, countedBytes({255})})},
         {"last key", {1, 255, 255}},
         {"menu command out of range", joined({{2}, word(0xFFFFFFFF), word(0x80000000)})},
         {"settings all set", transferFilledWith(0xFF)},
-        {"settings all zero", transferFilledWith(0)},
         {"settings with remains", transferRecord(settingsWithRemains())},
         {"high number", joined({{16}, word(0xFFFFFFFF)})},
         {"date all set", joined({{19}, Bytes(16, 0xFF)})},
@@ -84,10 +76,9 @@ std::vector<std::pair<const char*, Bytes>> extremes() {
         {"no timeout", joined({{17}, counted("f"), {0, 0, 0, 0, 0}})},
         {"hidden", hiddenType("p\xE4ss\"word")},
         {"longest hidden", hiddenType(std::string(246, '*'))},
-        {"empty hidden", hiddenType("")},
         {"hidden by another", hiddenType("secret", "{ANOTHER}")},
         {"hidden nothing", typeRecord({})},
-        {"hidden without NUL", typeWithoutNul()},
+        {"hidden without NUL", typeRecord(withoutNul)},
         {"hidden garbage", typeRecord(Bytes(255, 7))},
         {"hidden flag 2", typeRecord(bytesOf("in clear"), 2)},
         {"watched Wait_For", watched(joined({{17}, counted("f"), {62, 160, 1, 0, 0}}))},
@@ -127,10 +118,13 @@ TEST_F(JsonForm, givesBackEveryRecordForEveryHostType) {
     }
 }
 
-TEST_F(JsonForm, givesBackEveryFrozenFile) {
+TEST_F(JsonForm, givesBackEveryFrozenFileAndSoDoesConvert) {
     for (const Case& frozen : frozenCases()) {
         SCOPED_TRACE(frozen.name);
         EXPECT_EQ(throughJson(frozen.expected), frozen.expected);
+        const QdsRun converted = runQds({"convert", "--output", "-", "-"}, frozen.file);
+        EXPECT_EQ(converted.status, 0) << converted.err;
+        EXPECT_EQ(bytesOf(converted.out), frozen.expected);
     }
 }
 
@@ -150,35 +144,21 @@ TEST_F(JsonForm, givesBackWhatVtStores) {
     EXPECT_EQ(throughJson(script), script);
 }
 
-TEST_F(JsonForm, sealsForeignTextsAndNullsHiddenOnes) {
-    const Bytes script =
-        scriptFile("QDMDSCR=", {hiddenType("mine"), hiddenType("theirs", "{ANOTHER}")});
-    const QdsRun run = runQds({"show", "--json", "-"}, script);
+TEST_F(JsonForm, sealsForeignTextsNullsHiddenOnesAndNamesTheRest) {
+    const Bytes input = joined({{8}, counted("t"), word(0), {5, 1, 2}});
+    const QdsRun run = runQds(
+        {"show", "--json", "-"},
+        scriptFile("QDMDSCR=", {hiddenType("mine"), hiddenType("theirs", "{ANOTHER}"), input}));
     const Json entries = Json::parse(run.out).at("entries");
     EXPECT_TRUE(entries[0].at("text").is_null());
     EXPECT_FALSE(entries[0].contains("sealed"));
     EXPECT_TRUE(entries[1].at("text").is_null());
     EXPECT_TRUE(entries[1].at("sealed").is_string());
-
+    EXPECT_EQ(entries[2].at("inputVariable"), "VarUserId");
+    EXPECT_EQ(entries[2].at("hidden"), true);
     const QdsRun built = runQds({"build", "-", "--output", "-"}, bytesOf(run.out));
     EXPECT_EQ(built.status, 1);
     EXPECT_NE(built.err.find("--reveal"), std::string::npos) << built.err;
-}
-
-TEST_F(JsonForm, namesWhatReadersWantToKnow) {
-    const Bytes script = scriptFile("QDMDSCR=", {{1, 5, 1},
-                                                 joined({{2}, word(201), word(0)}),
-                                                 joined({{8}, counted("t"), word(0), {5, 1, 2}})});
-    const Json form = Json::parse(runQds({"show", "--json", "-"}, script).out);
-    EXPECT_EQ(form.at("hostType"), "Mainframe");
-    const Json& entries = form.at("entries");
-    EXPECT_EQ(entries[0].at("command"), "LU_Function");
-    EXPECT_EQ(entries[0].at("group"), 5);
-    EXPECT_EQ(entries[0].at("number"), 1);
-    EXPECT_TRUE(entries[0].at("name").is_string());
-    EXPECT_FALSE(entries[1].at("name").get<std::string>().empty());
-    EXPECT_EQ(entries[2].at("inputVariable"), "VarUserId");
-    EXPECT_EQ(entries[2].at("hidden"), true);
 }
 
 TEST_F(JsonForm, givesFieldsThatAreLeftOutTheirDefaults) {
@@ -197,12 +177,9 @@ TEST_F(JsonForm, givesFieldsThatAreLeftOutTheirDefaults) {
         {"'If_Input_Is', 'then': {'command': 'Copy', 'area': [2, 3, 4, 5]}, "
          "'else': {'command': 'Paste', 'area': [6, 7], 'number': true}",
          joined({compare, {22, 2, 3, 4, 5}, word(0), {23, 6, 7, 0, 0}, word(1)})},
-        {"'If_Input_Is', 'firstOperandKind': 4, 'secondOperandKind': 'VarPassword'",
-         {9, 0, 4, 0, 1, 0, 0}},
+        {"'If_Input_Is', 'secondOperandKind': 'VarPassword'", {9, 0, 0, 0, 1, 0, 0}},
         {"'Wait_Until', 'waitUntil': {'year': 2006, 'month': 3, 'day': 7, 'hour': 9, 'minute': 5}",
          {19, 0xD6, 7, 3, 0, 2, 0, 7, 0, 9, 0, 5, 0, 0, 0, 0, 0}},
-        {"'Wait_Until'", joined({{19}, Bytes(16, 0)})},
-        {"'LU_Function', 'group': 4, 'number': 31, 'name': 'Help'", {1, 4, 31}},
         {"'Menu_Command', 'commandId': 236", transferRecord(defaultTransferSettings(), 0, 0)},
     };
     for (const auto& [fields, record] : rows) {

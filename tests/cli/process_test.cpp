@@ -66,30 +66,18 @@ TEST_F(Process, readsAStreamAndFindsTheLanguageLibraryFromAnyFolderAndLocale) {
     const std::string in = file("in.qds", scriptFile("QDMDSCR=", {menu}));
     ::setenv("LC_ALL", "C", 1);
     EXPECT_EQ(runProgram({"show", "-"}, openFile(in), newFile("out"), newFile("err")), 0);
-    EXPECT_GT(textOf("out").size(), 1u);
-    EXPECT_EQ(
-        runProgram({"convert", "--output", "-", "-"}, openFile(in), newFile("out"), newFile("err")),
-        0);
     ::unsetenv("LC_ALL");
-    EXPECT_EQ(readBytes(file("out")), readBytes(in));
+    EXPECT_GT(textOf("out").size(), 1U);
     EXPECT_EQ(textOf("err"), "");
-}
-
-TEST_F(Process, tellsWrongUsageAndBadFilesByStatus) {
     EXPECT_EQ(runProgram({"convert"}, closed, closed, newFile("err")), 2);
-    EXPECT_EQ(runProgram({"show", file("missing")}, closed, newFile("out"), newFile("err")), 1);
-    EXPECT_EQ(runProgram({"--version"}, closed, newFile("out"), newFile("err")), 0);
-    EXPECT_EQ(textOf("out").find("qds "), 0u);
 }
 
 TEST_F(Process, reportsAFullDisk) {
     const std::string path = file("in.qds", script);
     const int full = openFile("/dev/full", O_WRONLY);
-    for (const std::vector<std::string>& arguments : {std::vector<std::string>{"show", path},
-                                                      {"show", "--json", path},
-                                                      {"convert", "--output", "-", path},
-                                                      {"texts"},
-                                                      {"--help"}}) {
+    const std::vector<std::string> lines[] = {
+        {"show", path}, {"show", "--json", path}, {"convert", "--output", "-", path}, {"texts"}};
+    for (const auto& arguments : lines) {
         EXPECT_EQ(runProgram(arguments, closed, full, newFile("err")), 1) << arguments[0];
         EXPECT_EQ(textOf("err"), "qds: standard output: No space left on device\n");
     }

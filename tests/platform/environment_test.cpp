@@ -14,16 +14,13 @@ const Environment variables = {
 TEST(ExpandEnvironmentNames, PutsTheValuesInAndLeavesTheRest) {
     const std::string longName = "%" + std::string(261, 'n') + "%";
     const std::pair<std::string, std::string> rows[] = {
-        {"/srv/backup", "/srv/backup"},
-        {"<HOME>/backup", "/home/eve/backup"},
-        {"/b%HOME%/%HOME%", "/b/home/eve//home/eve"},
+        {"<HOME>/b%HOME%/%HOME%", "/home/eve/b/home/eve//home/eve"},
         {"%HOME>/x", "/home/eve/x"},
         {"<HOME%/x", "<HOME%/x"},
         {"<HOME>/100%", "<HOME>/100%"},
         {"%SHARE%/x", "/home/eve/share/x"},
         {"%HOME%/%NOPE%/%HOME%", "/home/eve/%NOPE%/%HOME%"},
-        {"%EMPTY%/x", "%EMPTY%/x"},
-        {"%%/x", "%%/x"},
+        {"%EMPTY%/%%/x", "%EMPTY%/%%/x"},
         {"/x/%HOME", "/x/%HOME"},
         {longName, longName},
         {"%SELF%/x", "%SELF%/x"},

@@ -10,63 +10,58 @@ namespace quendra::test {
 namespace {
 
 namespace fs = std::filesystem;
+using enum RegistryRoot;
 
-void write(const fs::path& file, const std::string& text) {
-    fs::create_directories(file.parent_path());
-    std::ofstream(file) << text;
-}
-
-TEST(RegistryByte, IsExactlyOneByteInAnyOfItsForms) {
-    constexpr const char* key = "Software\\Quendra\\6.1";
-    const struct {
-        const char* text;
-        std::optional<std::uint8_t> byte;
-    } rows[] = {
-        {"255", 255}, {"0", 0},          {"0x02", 2}, {"0XfF", 255},          {"hex:02", 2},
-        {"hex:", {}}, {"hex:02,00", {}}, {"256", {}}, {"0x100", {}},          {"-1", {}},
-        {"2 ", 2},    {"", {}},          {"2x", {}},  {"dword:00000002", {}},
-    };
-    for (const auto& row : rows) {
-        const Registry registry = {
-            {}, {parseProfile("[software\\QUENDRA\\6.1]\nBaseRegistry=" + std::string(row.text))}};
-        EXPECT_EQ(registryByte(registry, RegistryRoot::LocalMachine, key, "BaseRegistry"), row.byte)
-            << row.text;
-        EXPECT_FALSE(registryByte(registry, RegistryRoot::CurrentUser, key, "BaseRegistry"));
+class RegistryTest : public testing::Test {
+  protected:
+    void write(const std::string& name, const std::string& text) const {
+        const fs::path file = folder / name / "quendra/registry.ini";
+        fs::create_directories(file.parent_path());
+        std::ofstream(file) << text;
     }
+
+    const TemporaryFolder folder;
+    const std::string root = folder.path();
+};
+
+TEST_F(RegistryTest, AByteIsExactlyOneByteInAnyOfItsForms) {
+    const auto byteOf = [](const std::string& text, RegistryRoot where) {
+        const Registry registry = {{}, {parseProfile("[a\\B]\nBase=" + text)}};
+        return registryByte(registry, where, "A\\b", "base");
+    };
+    for (const char* text : {"255", "0XfF", "hex:ff", "255 "})
+        EXPECT_EQ(byteOf(text, LocalMachine), 255) << text;
+    for (const char* text : {"hex:", "hex:02,00", "256", "-1", "", "2x", "0x100", "dword:00000002"})
+        EXPECT_FALSE(byteOf(text, LocalMachine)) << text;
+    EXPECT_FALSE(byteOf("255", CurrentUser));
 }
 
-TEST(ReadRegistry, TakesEachValueFromTheMostImportantFileThatHasIt) {
-    const TemporaryFolder folder;
-    write(folder / "a/quendra/registry.ini", "[Key]\nOne=a\n");
-    write(folder / "b/quendra/registry.ini", "[Key]\nOne=b\nTwo=b\n[Only B]\n");
-    write(folder / "user/quendra/registry.ini", "[Key]\nOne=user\n");
-    const std::string root = folder.path();
+TEST_F(RegistryTest, EachValueComesFromTheMostImportantFileThatHasIt) {
+    write("a", "[Key]\nOne=a\n");
+    write("b", "[Key]\nOne=b\nTwo=b\n[Only B]\n");
+    write("user", "[Key]\nOne=user\n");
     const Registry registry =
-        readRegistry({{"XDG_CONFIG_DIRS", "relative::" + root + "/a:" + root + "/b"},
+        readRegistry({{"XDG_CONFIG_DIRS", "rel::" + root + "/a:" + root + "/b"},
                       {"XDG_CONFIG_HOME", root + "/user"},
                       {"HOME", root + "/a"}});
-    EXPECT_EQ(registryText(registry, RegistryRoot::LocalMachine, "Key", "One"), "a");
-    EXPECT_EQ(registryText(registry, RegistryRoot::LocalMachine, "Key", "Two"), "b");
-    EXPECT_EQ(registryText(registry, RegistryRoot::CurrentUser, "Key", "One"), "user");
-    EXPECT_FALSE(registryText(registry, RegistryRoot::CurrentUser, "Key", "Two"));
-    EXPECT_TRUE(registryHasKey(registry, RegistryRoot::LocalMachine, "only b"));
-    EXPECT_FALSE(registryHasKey(registry, RegistryRoot::CurrentUser, "only b"));
+    EXPECT_EQ(registryText(registry, LocalMachine, "Key", "One"), "a");
+    EXPECT_EQ(registryText(registry, LocalMachine, "Key", "Two"), "b");
+    EXPECT_EQ(registryText(registry, CurrentUser, "Key", "One"), "user");
+    EXPECT_FALSE(registryText(registry, CurrentUser, "Key", "Two"));
+    EXPECT_TRUE(registryHasKey(registry, LocalMachine, "only b"));
+    EXPECT_FALSE(registryHasKey(registry, CurrentUser, "only b"));
 }
 
-TEST(ReadRegistry, LooksBelowHomeWithoutAConfigurationFolder) {
-    const TemporaryFolder folder;
-    write(folder / ".config/quendra/registry.ini", "[Identities]\nDefault User ID={1}\n");
-    EXPECT_EQ(userIdentity(readRegistry({{"HOME", folder.path()}})), "{1}");
-    EXPECT_EQ(userIdentity(readRegistry(
-                  {{"HOME", folder.path()}, {"XDG_CONFIG_HOME", folder / "elsewhere"}})),
-              "");
+TEST_F(RegistryTest, TheUsersLiesBelowHomeWithoutAConfigurationFolder) {
+    write(".config", "[Identities]\nDefault User ID={1}\n");
+    EXPECT_EQ(userIdentity(readRegistry({{"HOME", root}})), "{1}");
+    EXPECT_EQ(userIdentity(readRegistry({{"HOME", root}, {"XDG_CONFIG_HOME", root + "/b"}})), "");
     EXPECT_EQ(userIdentity(readRegistry({})), "");
 }
 
-TEST(UserRegistryUsable, UnlessItsFileCanBeNeitherReadNorMade) {
-    const TemporaryFolder folder;
-    write(folder / "file", "");
-    write(folder / "full/quendra/registry.ini", "");
+TEST_F(RegistryTest, TheUsersIsUsableUnlessItsFileCanBeNeitherReadNorMade) {
+    std::ofstream(folder / "file") << "x";
+    write("full", "");
     fs::create_directories(folder / "blocked/quendra/registry.ini");
     const auto usable = [&](const char* name) {
         return userRegistryUsable({{"XDG_CONFIG_HOME", folder / name}});

@@ -12,11 +12,9 @@ namespace fs = std::filesystem;
 
 namespace {
 
-TEST(DocumentsFolder, IsWhatUserDirsSays) {
-    const struct {
-        const char* userDirs;
-        const char* documents;  // below the home folder unless it begins with "/"
-    } rows[] = {
+TEST(ShellFolders, OfDocumentsAreWhatUserDirsSays) {
+    // Below the home folder unless they begin with "/".
+    const std::pair<const char*, const char*> rows[] = {
         {"XDG_DOCUMENTS_DIR=\"/srv/eve\"\n", "/srv/eve"},
         {"  XDG_DOCUMENTS_DIR = \"$HOME/My \\\"Docs\\\"\" \n", "My \"Docs\""},
         {"# XDG_DOCUMENTS_DIR=\"$HOME/No\"\nXDG_MUSIC_DIR=\"$HOME/No\"\n", "Documents"},
@@ -26,15 +24,13 @@ TEST(DocumentsFolder, IsWhatUserDirsSays) {
         {"XDG_DOCUMENTS_DIR=\"relative\"\n", "Documents"},
         {"XDG_DOCUMENTS_DIR=$HOME/Unquoted\n", "Documents"},
         {"XDG_DOCUMENTS_DIR=\"$HOME/Unclosed\n", "Documents"},
-        {"XDG_DOCUMENTS_DIRS=\"$HOME/Other\"\n", "Documents"},
-        {"", "Documents"},
     };
-    for (const auto& row : rows) {
-        const TemporaryFolder home;
-        fs::create_directory(home / ".config");
-        std::ofstream(home / ".config/user-dirs.dirs") << row.userDirs;
+    const TemporaryFolder home;
+    fs::create_directory(home / ".config");
+    for (const auto& [userDirs, documents] : rows) {
+        std::ofstream(home / ".config/user-dirs.dirs") << userDirs;
         const fs::path found = *shellFolders({{"HOME", home.path()}}).documents;
-        EXPECT_EQ(found, (home / row.documents).lexically_normal()) << row.userDirs;
+        EXPECT_EQ(found, (home / documents).lexically_normal()) << userDirs;
     }
 }
 
@@ -57,8 +53,7 @@ TEST(ShellFolders, FollowTheVariablesAndElseHome) {
     EXPECT_EQ(set.temporary, "/scratch");
 
     const ShellFolders homeless = shellFolders({{"TMPDIR", "relative"}, {"XDG_DATA_HOME", "data"}});
-    EXPECT_FALSE(homeless.documents);
-    EXPECT_FALSE(homeless.applicationData);
+    EXPECT_FALSE(homeless.documents || homeless.applicationData);
     EXPECT_EQ(homeless.temporary, "/tmp");
 }
 
