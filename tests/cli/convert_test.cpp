@@ -44,18 +44,13 @@ TEST_F(Convert, writesNothingForAFileThatIsNotWhole) {
     const std::string out = file("out.qds", bytesOf("keep me"));
     const QdsRun refused = runQds({"convert", "--output", out, "-"}, cutScript);
     EXPECT_EQ(refused.status, 1);
-    EXPECT_EQ(refused.err,
-              "qds: standard input: the file ends inside an entry, after 1 entry "
-              "(byte offset 11)\n");
     EXPECT_EQ(readBytes(out), bytesOf("keep me"));
-
     const QdsRun lossy = runQds({"convert", "--allow-loss", "--output", out, "-"}, cutScript);
     EXPECT_EQ(lossy.status, 1);
     EXPECT_EQ(lossy.err, refused.err);
     EXPECT_EQ(readBytes(out), newScript);
-
-    EXPECT_EQ(
-        runQds({"convert", "--allow-loss", "--output", out, "-"}, bytesOf("no script")).status, 1);
+    const Bytes none = bytesOf("no script");
+    EXPECT_EQ(runQds({"convert", "--allow-loss", "--output", out, "-"}, none).status, 1);
     EXPECT_EQ(readBytes(out), newScript);
     EXPECT_EQ(names(), Names{"out.qds"});
 }

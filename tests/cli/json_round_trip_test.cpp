@@ -13,22 +13,6 @@ namespace {
 
 using Json = nlohmann::ordered_json;
 
-Bytes countedBytes(const Bytes& bytes) {
-    return joined({{static_cast<std::uint8_t>(bytes.size())}, bytes});
-}
-
-Bytes transferRecord(const FileTransferSettings& settings, std::uint32_t data = 0xFFFFFFFF,
-                     std::uint8_t host = 255) {
-    const Bytes block(settings.bytes.begin(), settings.bytes.end());
-    return joined({{2}, word(236), word(data), {3, host}, block});
-}
-
-Bytes transferFilledWith(std::uint8_t filling) {
-    FileTransferSettings settings;
-    settings.bytes.fill(filling);
-    return transferRecord(settings);
-}
-
 // Text behind the NUL of a text, as a program leaves it that shortens a text.
 FileTransferSettings settingsWithRemains() {
     FileTransferSettings settings = defaultTransferSettings();
@@ -37,56 +21,51 @@ FileTransferSettings settingsWithRemains() {
 }
 
 Bytes typeRecord(const Bytes& stored, std::uint8_t hidden = 1) {
-    return joined({{15}, countedBytes(stored), {hidden}});
-}
-
-Bytes hiddenType(const std::string& text, const std::string& identity = frozenIdentity()) {
-    return typeRecord(HiddenTextCipher(identity).encipher(text).value());
+    return joined({{15, static_cast<std::uint8_t>(stored.size())}, stored, {hidden}});
 }
 
 std::vector<std::pair<const char*, Bytes>> extremes() {
     const Bytes beep = {4};
-    const Bytes watch = joined({{20}, counted("w"), beep});
-    const Bytes compare = joined({{9}, counted("a"), {1}, counted("b"), {2}, beep, {0}});
+    const Bytes watch = {20, 1, 'w'};
+    const Bytes compare = joined({{9}, counted("a"), {1}, counted("b"), {2}});
     const Bytes waiting = joined({{17}, counted("f"), {1, 1, 0, 1, 1, 9}});
     const Bytes waitFor = joined({waiting, beep, {12}});
-    const Bytes type = hiddenType("x", "{ANOTHER}");
-    const auto watched = [](const Bytes& action) { return joined({{20}, counted("w"), action}); };
-    const Bytes fullTitle = joined({{8}, countedBytes(Bytes(255, 0x81))});
-    Bytes everyByte(255);
-    std::iota(everyByte.begin(), everyByte.end(), std::uint8_t{0});
+    const Bytes type = hiddenTypeRecord("x", "{ANOTHER}");
+    std::string everyByte(255, '\0');
+    std::iota(everyByte.begin(), everyByte.end(), '\1');
+    const Bytes title = counted(std::string(255, '\0'));
+    FileTransferSettings allSet;
+    allSet.bytes.fill(0xFF);
     // Of a program that leaves out the closing NUL.
     const TripleDesCbc cipher(deriveTripleDesKey(frozenIdentity()).value());
     const Bytes withoutNul = cipher.encipher(bytesOf("abcde")).value();
     return {
-        {"text of every byte", joined({{6}, countedBytes(everyByte)})},
+        {"text of every byte", joined({{6}, counted(everyByte)})},
         {"empty code", {0}},
-        {"longest Input", joined({fullTitle, word(1023), Bytes(1023, '\\'), {255, 2, 255}})},
-        {"unknown variables", joined({{9}, counted(""), {6}, counted(""), {255}, {0}, {0}})},
-        {"last byte", joined({{6}, countedBytes({255})})},
+        {"longest Input", joined({{8}, title, word(1023), Bytes(1023, '\\'), {255, 2, 255}})},
+        {"unknown variables", {9, 0, 6, 0, 255, 0, 0}},
         {"last key", {1, 255, 255}},
         {"menu command out of range", joined({{2}, word(0xFFFFFFFF), word(0x80000000)})},
-        {"settings all set", transferFilledWith(0xFF)},
-        {"settings with remains", transferRecord(settingsWithRemains())},
+        {"settings all set", transferRecord(allSet, 236, 0xFFFFFFFF, 255)},
+        {"settings with remains", transferRecord(settingsWithRemains(), 236)},
         {"high number", joined({{16}, word(0xFFFFFFFF)})},
         {"date all set", joined({{19}, Bytes(16, 0xFF)})},
         {"Copy all set", joined({{22}, word(0xFFFFFFFF), word(0xFFFFFFFF)})},
         {"Paste with end", joined({{23}, word(0x50180101), word(2)})},
-        {"odd flags", joined({{17}, counted("f"), {0, 255, 2, 3, 4, 255}, {0}, {0}})},
-        {"no timeout", joined({{17}, counted("f"), {0, 0, 0, 0, 0}})},
-        {"hidden", hiddenType("p\xE4ss\"word")},
-        {"longest hidden", hiddenType(std::string(246, '*'))},
-        {"hidden by another", hiddenType("secret", "{ANOTHER}")},
+        {"odd flags", {17, 1, 'f', 0, 255, 2, 3, 4, 255, 0, 0}},
+        {"no timeout", {17, 1, 'f', 0, 0, 0, 0, 0}},
+        {"hidden", hiddenTypeRecord("p\xE4ss\"word", frozenIdentity())},
+        {"longest hidden", hiddenTypeRecord(std::string(246, '*'), frozenIdentity())},
+        {"hidden by another", hiddenTypeRecord("secret", "{ANOTHER}")},
         {"hidden nothing", typeRecord({})},
         {"hidden without NUL", typeRecord(withoutNul)},
         {"hidden garbage", typeRecord(Bytes(255, 7))},
         {"hidden flag 2", typeRecord(bytesOf("in clear"), 2)},
-        {"watched Wait_For", watched(joined({{17}, counted("f"), {62, 160, 1, 0, 0}}))},
-        {"foreign compare", watched(compare)},
-        {"foreign watch", watched(watch)},
-        {"foreign Wait_For", joined({{9}, counted("a"), {0}, counted(""), {1}, waitFor, waitFor})},
-        {"foreign hidden text", watched(watched(type))},
-        {"two large actions", joined({waiting, transferFilledWith(1), type})},
+        {"watched Wait_For", joined({watch, {17, 1, 'f', 62, 160, 1, 0, 0}})},
+        {"foreign compare", joined({watch, compare, beep, {0}})},
+        {"foreign Wait_For", joined({compare, waitFor, waitFor})},
+        {"foreign hidden text", joined({watch, watch, type})},
+        {"large actions", joined({waiting, transferRecord(settingsWithRemains(), 236), type})},
     };
 }
 
@@ -100,8 +79,6 @@ Bytes throughJson(const Bytes& script) {
     EXPECT_EQ(built.status, 0) << built.err;
     return bytesOf(built.out);
 }
-
-}  // namespace
 
 class JsonForm : public QdsTest {};
 
@@ -128,27 +105,25 @@ TEST_F(JsonForm, givesBackEveryFrozenFileAndSoDoesConvert) {
     }
 }
 
-TEST_F(JsonForm, givesBackAFullScript) {
+TEST_F(JsonForm, givesBackAFullScriptAndWhatVtStores) {
     const Bytes record = joined({{9}, counted("a"), {1}, counted("b"), {2}, {4}, {16}, word(9)});
-    Bytes script = bytesOf("QDMDSCR=");
+    Bytes full = bytesOf("QDMDSCR=");
     for (int i = 0; i < 4096; ++i)
-        script.insert(script.end(), record.begin(), record.end());
-    EXPECT_EQ(throughJson(script), script);
-}
-
-TEST_F(JsonForm, givesBackWhatVtStores) {
+        full.insert(full.end(), record.begin(), record.end());
+    EXPECT_EQ(throughJson(full), full);
     // A file transfer in a VT script has no settings; its stored number is another.
-    const Bytes script = scriptFile("QDVTSCR=", {joined({{2}, word(234), word(5)}),
-                                                 joined({{2}, word(217), word(0), counted("c")}),
-                                                 joined({{2}, word(267), word(0)})});
-    EXPECT_EQ(throughJson(script), script);
+    const Bytes vt = scriptFile("QDVTSCR=", {joined({{2}, word(234), word(5)}),
+                                             joined({{2}, word(217), word(0), counted("c")}),
+                                             joined({{2}, word(267), word(0)})});
+    EXPECT_EQ(throughJson(vt), vt);
 }
 
 TEST_F(JsonForm, sealsForeignTextsNullsHiddenOnesAndNamesTheRest) {
     const Bytes input = joined({{8}, counted("t"), word(0), {5, 1, 2}});
-    const QdsRun run = runQds(
-        {"show", "--json", "-"},
-        scriptFile("QDMDSCR=", {hiddenType("mine"), hiddenType("theirs", "{ANOTHER}"), input}));
+    const QdsRun run =
+        runQds({"show", "--json", "-"},
+               scriptFile("QDMDSCR=", {hiddenTypeRecord("mine", frozenIdentity()),
+                                       hiddenTypeRecord("theirs", "{ANOTHER}"), input}));
     const Json entries = Json::parse(run.out).at("entries");
     EXPECT_TRUE(entries[0].at("text").is_null());
     EXPECT_FALSE(entries[0].contains("sealed"));
@@ -163,13 +138,15 @@ TEST_F(JsonForm, sealsForeignTextsNullsHiddenOnesAndNamesTheRest) {
 
 TEST_F(JsonForm, givesFieldsThatAreLeftOutTheirDefaults) {
     const Bytes compare = {9, 0, 0, 0, 0};
+    FileTransferSettings settings = defaultTransferSettings();
+    setTransferText(settings, transfer::hostFileName, "A.B");
+    setTransferNumber(settings, transfer::append, 1);
     const std::pair<std::string, Bytes> rows[] = {
         {"'Wait'", joined({{16}, word(3)})},
         {"'Wait_Ready'", joined({{18}, word(1)})},
         {"'Input'", joined({{8, 0}, word(0), {255, 0, 0}})},
         {"'Copy'", joined({{22}, {1, 1, 24, 80}, word(0)})},
         {"'Paste'", joined({{23}, {1, 1, 0, 0}, word(0)})},
-        {"'Wait_For'", {17, 0, 1, 1, 0, 1, 0}},
         {"'Wait_For', 'hasTimeout': true", {17, 0, 1, 1, 0, 1, 1, 0, 0, 0}},
         {"'Watch_For', 'then': {'command': 'Wait_For'}", {20, 0, 17, 0, 1, 1, 0, 1, 0}},
         {"'If_Input_Is', 'then': {'command': 'Copy'}, 'else': {'command': 'Wait'}",
@@ -180,7 +157,10 @@ TEST_F(JsonForm, givesFieldsThatAreLeftOutTheirDefaults) {
         {"'If_Input_Is', 'secondOperandKind': 'VarPassword'", {9, 0, 0, 0, 1, 0, 0}},
         {"'Wait_Until', 'waitUntil': {'year': 2006, 'month': 3, 'day': 7, 'hour': 9, 'minute': 5}",
          {19, 0xD6, 7, 3, 0, 2, 0, 7, 0, 9, 0, 5, 0, 0, 0, 0, 0}},
-        {"'Menu_Command', 'commandId': 236", transferRecord(defaultTransferSettings(), 0, 0)},
+        {"'Menu_Command', 'commandId': 236", transferRecord(defaultTransferSettings(), 236)},
+        {"'Menu_Command', 'commandId': 236, 'transferHost': 1, 'transferSettings': "
+         "{'hostFileName': 'A.B', 'append': true}",
+         transferRecord(settings, 236, 0, 1)},
     };
     for (const auto& [fields, record] : rows) {
         SCOPED_TRACE(fields);
@@ -190,24 +170,11 @@ TEST_F(JsonForm, givesFieldsThatAreLeftOutTheirDefaults) {
     }
 }
 
-TEST_F(JsonForm, startsTransfersFromTheDefaultSettings) {
-    FileTransferSettings settings = defaultTransferSettings();
-    setTransferText(settings, transfer::hostFileName, "A.B");
-    setTransferNumber(settings, transfer::append, 1);
-    setTransferNumber(settings, transfer::recordLength, 80);
-    EXPECT_EQ(built(R"({"hostType": "Mainframe", "entries": [{"command": "Menu_Command",
-        "commandId": 236, "transferHost": 1,
-        "transferSettings": {"hostFileName": "A.B", "append": true, "recordLength": 80}}]})"),
-              scriptFile("QDMDSCR=", {transferRecord(settings, 0, 1)}));
-    EXPECT_EQ(
-        built(R"({"hostType": "VT", "entries": [{"command": "Menu_Command", "commandId": 236}]})"),
-        scriptFile("QDVTSCR=", {joined({{2}, word(234), word(0)})}));
-}
-
 TEST_F(JsonForm, letsAFieldChangeASettingsBlock) {
-    Json form = Json::parse(runQds({"show", "--json", "-"},
-                                   scriptFile("QDMDSCR=", {transferRecord(settingsWithRemains())}))
-                                .out);
+    const QdsRun shown =
+        runQds({"show", "--json", "-"},
+               scriptFile("QDMDSCR=", {transferRecord(settingsWithRemains(), 236)}));
+    Json form = Json::parse(shown.out);
     Json& settings = form["entries"][0]["transferSettings"];
     ASSERT_TRUE(settings.contains("block"));
     settings["member"] = "NEW";
@@ -215,7 +182,8 @@ TEST_F(JsonForm, letsAFieldChangeASettingsBlock) {
     FileTransferSettings expected = defaultTransferSettings();
     setTransferText(expected, transfer::member, "NEW");
     setTransferNumber(expected, transfer::blockSize, 800);
-    EXPECT_EQ(built(form.dump()), scriptFile("QDMDSCR=", {transferRecord(expected)}));
+    EXPECT_EQ(built(form.dump()), scriptFile("QDMDSCR=", {transferRecord(expected, 236)}));
 }
 
+}  // namespace
 }  // namespace quendra::test

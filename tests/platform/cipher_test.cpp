@@ -4,17 +4,17 @@
 #include "scriptfile/hidden_text.h"
 #include "support/fixtures.h"
 
+#include <QByteArray>
+
 #include <gtest/gtest.h>
 
 namespace quendra::test {
 namespace {
 
 std::string hex(std::span<const std::uint8_t> bytes) {
-    constexpr std::string_view digits = "0123456789abcdef";
-    std::string text;
-    for (const std::uint8_t byte : bytes)
-        text.append({digits[byte >> 4], digits[byte & 15]});
-    return text;
+    return QByteArray(reinterpret_cast<const char*>(bytes.data()), std::ssize(bytes))
+        .toHex()
+        .toStdString();
 }
 
 TEST(HiddenText, givesTheKnownAnswers) {

@@ -14,10 +14,9 @@ namespace {
 using enum CommandCode;
 
 const HiddenTextCipher myCipher("mine");
-const HiddenTextCipher theirCipher("theirs");
 
-EntryHandle packed(const ScriptEntry& entry, const HiddenTextCipher& cipher = myCipher) {
-    const PackResult result = packEntry(entry, cipher);
+EntryHandle packed(const ScriptEntry& entry) {
+    const PackResult result = packEntry(entry, myCipher);
     EXPECT_TRUE(result.ok());
     return result.entry;
 }
@@ -26,12 +25,6 @@ ScriptEntry withCode(CommandCode code, std::string_view text = "") {
     ScriptEntry entry;
     entry.commandCode = code;
     setText(slotFields(entry, Slot::Entry), text);
-    return entry;
-}
-
-ScriptEntry hiddenType(std::string_view text) {
-    ScriptEntry entry = withCode(Type, text);
-    entry.hidden = 1;
     return entry;
 }
 
@@ -59,12 +52,12 @@ TEST(EntryCodec, keepsApartWhatTheFileStoresApartAndEnciphersInEverySlot) {
 }
 
 TEST(EntryCodec, givesBackWhatAnotherKeyHidUntilItIsEdited) {
-    const EntryHandle theirs = packed(hiddenType("their password"), theirCipher);
+    const EntryHandle theirs = storeRecord(hiddenTypeRecord("their password", "theirs"));
     ScriptEntry seen = unpackEntry(theirs, myCipher);
     EXPECT_EQ(textOf(slotFields(seen, Slot::Entry)), "");
     EXPECT_EQ(packed(seen), theirs);
     setText(slotFields(seen, Slot::Entry), "mine now");
-    EXPECT_EQ(packed(seen), packed(hiddenType("mine now")));
+    EXPECT_EQ(packed(seen), storeRecord(hiddenTypeRecord("mine now", "mine")));
 }
 
 TEST(EntryCodec, givesBackATextThatDecipheredOnlyByChanceUntilItIsChanged) {
@@ -76,21 +69,22 @@ TEST(EntryCodec, givesBackATextThatDecipheredOnlyByChanceUntilItIsChanged) {
     setText(slotFields(seen, Slot::Entry), "no closing NUL");
     EXPECT_EQ(packed(seen), storeRecord(record));
     setText(slotFields(seen, Slot::Entry), "changed");
-    EXPECT_EQ(packed(seen), packed(hiddenType("changed")));
+    EXPECT_EQ(packed(seen), storeRecord(hiddenTypeRecord("changed", "mine")));
 }
 
 TEST(EntryCodec, neverStoresAHiddenTextThatDoesNotFit) {
-    EXPECT_TRUE(packEntry(hiddenType(std::string(246, 'x')), myCipher).ok());
-    const PackResult tooLong = packEntry(hiddenType(std::string(247, 'x')), myCipher);
-    EXPECT_EQ(tooLong.fault, WriteFault::HiddenTextTooLong);
-    const ScriptEntry plain = withCode(Type, std::string(255, 'x'));
-    EXPECT_EQ(unpackEntry(packed(plain), myCipher), plain);
+    ScriptEntry type = withCode(Type, std::string(255, 'x'));
+    EXPECT_EQ(unpackEntry(packed(type), myCipher), type);
+    type.hidden = 1;
+    type.textLength = 246;
+    EXPECT_TRUE(packEntry(type, myCipher).ok());
+    type.textLength = 247;
+    EXPECT_EQ(packEntry(type, myCipher).fault, WriteFault::HiddenTextTooLong);
 }
 
 TEST(EntryCodec, bringsForeignActionsThroughEditsOfTheirOwner) {
     // An If_Input_Is that owns an If_Input_Is whose else action is a hidden Type of somebody else.
-    const auto secret = theirCipher.encipher("x").value();
-    const Bytes type = joined({{15}, counted(std::string(secret.begin(), secret.end())), {1}});
+    const Bytes type = hiddenTypeRecord("x", "theirs");
     const Bytes inner = joined({{9}, counted("in"), {0}, counted(""), {3}, {4}, type});
     const Bytes outer = joined({{9}, counted("out"), {0}, counted("b"), {0}});
     const Bytes file = joined({bytesOf("QDMDSCR="), outer, inner, {12}});

@@ -1,9 +1,10 @@
-// windows-1252 and UTF-8, both ways, and what a terminal may see.
+// windows-1252 and UTF-8, what a terminal may see, and texts of translators, who make mistakes.
+#include "platform/format_text.h"
 #include "platform/text_encoding.h"
 
 #include <gtest/gtest.h>
 
-namespace quendra::test {
+namespace quendra {
 
 TEST(TextEncoding, keepsEveryByteAndRefusesWhatTheEncodingLacksAndWhatIsNoUtf8) {
     std::string all;
@@ -18,8 +19,14 @@ TEST(TextEncoding, keepsEveryByteAndRefusesWhatTheEncodingLacksAndWhatIsNoUtf8) 
 
 TEST(TextEncoding, escapesControlCharactersOnly) {
     EXPECT_EQ(escapeControlCharacters("a\tb\x1b[0m\x7f\\x41"), "a\\x09b\\x1b[0m\\x7f\\x41");
-    EXPECT_EQ(escapeControlCharacters(utf8FromWindows1252("\x81\xA0\x80")), "\\x81\u00A0\u20AC");
+    EXPECT_EQ(escapeControlCharacters("\u0081\u00A0\u20AC"), "\\x81\u00A0\u20AC");
     EXPECT_EQ(escapeControlCharacters(std::string("\0", 1)), "\\x00");
 }
 
-}  // namespace quendra::test
+TEST(FormatText, fillsThePlacesFromLeftToRightAndLeavesTheRestAsItStands) {
+    EXPECT_EQ(formatText("%s %d of %u? %n 5% %", {"Delete", "3", "4"}), "Delete 3 of 4? %n 5% %");
+    EXPECT_EQ(formatText("%s and %s", {"one"}), "one and %s");
+    EXPECT_EQ(formatText("%%s is %s, %s", {"50%s", "b"}), "%s is 50%s, b");
+}
+
+}  // namespace quendra
