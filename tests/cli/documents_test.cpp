@@ -45,12 +45,7 @@ bool holds(const std::vector<std::string>& lines, const std::string& cell) {
 class Documents : public QdsTest {
   protected:
     // Examples are the same for everyone.
-    Documents() {
-        setIdentity("");
-        EXPECT_FALSE(library.load({QUENDRA_PROGRAM_FOLDER, "", ""}));
-    }
-
-    LanguageLibrary library;
+    Documents() { setIdentity(""); }
 };
 
 TEST_F(Documents, examplesAreWhatTheirSourcesBuildAndName) {
@@ -85,35 +80,28 @@ TEST_F(Documents, formatDumpsTheExampleByteForByteUnderItsLines) {
     EXPECT_EQ(lines, runQds({"show", example}).out);
 }
 
-TEST_F(Documents, formatTellsTheSignatureAndTheKeysOfEveryHostType) {
+TEST_F(Documents, formatTellsKeysMenuCommandsAndTheFieldsOfATransfer) {
+    LanguageLibrary library;
+    EXPECT_FALSE(library.load({QUENDRA_PROGRAM_FOLDER, "", ""}));
     const LuCatalogues catalogues = buildLuCatalogues(library.textSource());
-    const auto signatures = section("## Signature");
     for (const HostType type : allHostTypes) {
-        const HostTypeInfo& info = hostTypeInfo(type);
-        const std::string name = type == HostType::ISeries ? "iSeries" : std::string(info.name);
-        EXPECT_TRUE(holds(signatures, "| " + name + " | `" + std::string(info.signaturePrefix) +
-                                          "` | `" + info.oldestVersion + "` to `=` |"));
-        const auto keys = section("### " + name);
-        for (const LuFunction& row : catalogues.of(type).rows) {
-            const auto first = findLuFunction(catalogues.of(type), row.key).value();
-            EXPECT_TRUE(holds(keys, std::to_string(row.key.group) + "/" +
-                                        std::to_string(row.key.number) + " " + std::string(first) +
-                                        "   "))
-                << row.name;
+        const std::string name(hostTypeInfo(type).name);
+        const auto keys = section("### " + (type == HostType::ISeries ? "iSeries" : name));
+        for (const auto& [rowName, key] : catalogues.of(type).rows) {
+            const std::string first(findLuFunction(catalogues.of(type), key).value());
+            const auto number = std::to_string(key.group) + "/" + std::to_string(key.number);
+            EXPECT_TRUE(holds(keys, number + " " + first + "   ")) << name << " " << rowName;
         }
     }
-}
-
-TEST_F(Documents, formatTellsTheMenuCommandsAndTheFieldsOfATransfer) {
     const auto commands = section("## Numbers of menu commands");
     std::size_t number = firstMenuCommand;
     for (const std::string& name : buildMenuCommandCatalogue(library.textSource()).names)
         EXPECT_TRUE(holds(commands, std::to_string(number++) + " " + name + "   ")) << name;
     const auto fields = section("### Menu commands");
-    for (const TransferField& field : transferFields())
-        EXPECT_TRUE(holds(fields, "| " + std::to_string(field.offset) + " | " +
-                                      std::to_string(field.size) + " | "))
-            << field.name;
+    for (const TransferField& field : transferFields()) {
+        const auto place = std::to_string(field.offset) + " | " + std::to_string(field.size);
+        EXPECT_TRUE(holds(fields, "| " + place + " | ")) << field.name;
+    }
 }
 
 }  // namespace

@@ -170,20 +170,5 @@ TEST_F(JsonForm, givesFieldsThatAreLeftOutTheirDefaults) {
     }
 }
 
-TEST_F(JsonForm, letsAFieldChangeASettingsBlock) {
-    const QdsRun shown =
-        runQds({"show", "--json", "-"},
-               scriptFile("QDMDSCR=", {transferRecord(settingsWithRemains(), 236)}));
-    Json form = Json::parse(shown.out);
-    Json& settings = form["entries"][0]["transferSettings"];
-    ASSERT_TRUE(settings.contains("block"));
-    settings["member"] = "NEW";
-    settings["blockSize"] = 800;
-    FileTransferSettings expected = defaultTransferSettings();
-    setTransferText(expected, transfer::member, "NEW");
-    setTransferNumber(expected, transfer::blockSize, 800);
-    EXPECT_EQ(built(form.dump()), scriptFile("QDMDSCR=", {transferRecord(expected, 236)}));
-}
-
 }  // namespace
 }  // namespace quendra::test

@@ -1,7 +1,6 @@
 // Damaged and hostile files: what came before the damage is loaded, and the place is named.
 #include "scriptfile/script_reader.h"
 
-#include "scriptfile/entry_codec.h"
 #include "scriptfile/script_writer.h"
 #include "support/fixtures.h"
 
@@ -115,36 +114,28 @@ TEST(ScriptReader, passesOverTheTimeoutOfAWatchedWaitForAndSaysSo) {
 }
 
 TEST(ScriptWriter, setsTheMarkOfATransferBlock) {
-    Bytes block(935, 0);
-    block[0] = 7;
-    const Bytes file = joined({mainframe, {2}, word(236), word(5), block});
-    block[0] = 3;
-    const Bytes expected = joined({mainframe, {2}, word(236), word(5), block});
+    const Bytes expected = joined({mainframe, transferRecord({}, 236)});
+    Bytes file = expected;
+    file[signatureSize + 9] = 7;
     EXPECT_EQ(writeScript(readScript(file).script, HostType::Mainframe), expected);
 }
 
 TEST(ScriptWriter, knowsWhatVtCannotStore) {
-    ScriptEntry menu;
-    menu.commandCode = CommandCode::MenuCommand;
-    ScriptEntry wait;
-    wait.commandCode = CommandCode::WaitFor;
-    wait.hasTimeout = 1;
-    wait.elseCode = CommandCode::MenuCommand;
     Script script;
-    const auto add = [&](const ScriptEntry& entry) {
-        script.entries.push_back(packEntry(entry, HiddenTextCipher("")).entry);
+    const auto add = [&](std::uint32_t id, const FileTransferSettings& settings,
+                         std::uint8_t host) {
+        const bool transfers = id == 236;
+        const Bytes menu =
+            transfers ? transferRecord(settings, id, 0, host) : joined({{2}, word(id), word(0)});
+        script.entries.push_back(storeRecord(menu));
+        script.entries.push_back(storeRecord(joined({{9, 0, 0, 0, 0, 0}, menu})));
     };
-    for (const std::uint32_t id : {212U, 214U, 236U, 213U}) {
-        menu.commandId = wait.elseCommandId = id;
-        add(menu);
-        add(wait);
-    }
-    wait.elseCommandId = menu.commandId = 236;
-    wait.elseTransferSettings = defaultTransferSettings();
-    add(wait);
-    menu.transferHost = 1;
-    add(menu);
-    EXPECT_EQ(unstorableEntries(script, HostType::VT), (std::vector<std::size_t>{6, 7, 8, 9}));
+    for (const std::uint32_t id : {212U, 214U, 236U, 213U})
+        add(id, {}, 0);
+    add(236, defaultTransferSettings(), 0);
+    add(236, {}, 1);
+    EXPECT_EQ(unstorableEntries(script, HostType::VT),
+              (std::vector<std::size_t>{6, 7, 8, 9, 10, 11}));
     EXPECT_TRUE(unstorableEntries(script, HostType::ICL).empty());
     script.entries.resize(6);
     EXPECT_EQ(readScript(writeScript(script, HostType::VT)).script, script);
