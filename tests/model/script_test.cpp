@@ -99,8 +99,12 @@ TEST(UndoHistory, namesItsStepsAndDropsWhatWasUndoneWithANewChange) {
     change("third");
     EXPECT_FALSE(history.canRedo());
     EXPECT_EQ(history.undoName(), "third");
-    history.clear();
+    history.undo(view.script);
+    history.undo(view.script);
+    EXPECT_EQ(view.script, Script());
     EXPECT_FALSE(history.canUndo());
+    history.clear();
+    EXPECT_FALSE(history.canRedo());
 }
 
 }  // namespace

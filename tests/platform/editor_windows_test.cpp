@@ -69,14 +69,18 @@ class EditorWindowsTest : public testing::Test {
         EXPECT_EQ(call(socket.get(), where, sizeof *address), 0);
         return socket;
     }
-    // A peer that gives everyone this answer at once, and no other; an empty one none at all.
-    [[nodiscard]] std::jthread peerSaying(const fs::path& name, const std::string& answer) const {
+    // A socket in the folder that nobody answers on.
+    [[nodiscard]] Descriptor deafPeer(const fs::path& name) const {
         Descriptor socket = socketAt(name, ::bind);
-        EXPECT_EQ(::listen(socket.get(), 4), 0);
-        return std::jthread([answer, socket = std::move(socket)](const std::stop_token& stop) {
+        EXPECT_EQ(::listen(socket.get(), 16), 0);
+        return socket;
+    }
+    // One that gives everyone this answer at once, and no other.
+    [[nodiscard]] std::jthread peerSaying(std::string_view answer, const fs::path& name) const {
+        return std::jthread([answer, socket = deafPeer(name)](const std::stop_token& stop) {
             std::vector<Descriptor> connections;
             while (!stop.stop_requested()) {
-                if (answer.empty() || !isReadable(socket.get())) continue;
+                if (!isReadable(socket.get())) continue;
                 connections.emplace_back(::accept(socket.get(), nullptr, nullptr));
                 static_cast<void>(sendPacket(connections.back().get(), answer));
             }
@@ -121,10 +125,10 @@ TEST_F(EditorWindowsTest, EditorsThatAreGoneLeaveNothingInTheWayAndOtherFilesSta
 }
 
 TEST_F(EditorWindowsTest, PeersThatHangOrLieStandInNobodysWay) {
-    const std::jthread deaf = peerSaying("editor-deaf", "");
-    const std::jthread liar = peerSaying("editor-liar", "maybe, yes");
+    const Descriptor deaf = deafPeer("editor-deaf");
+    const std::jthread liar = peerSaying("maybe, yes", "editor-liar");
     {
-        const std::jthread halfway = peerSaying("editor-yes", std::string(editorSaysYes));
+        const std::jthread halfway = peerSaying(editorSaysYes, "editor-yes");
         EXPECT_FALSE(raise(script));
         EXPECT_EQ(filesInFolder(), 3) << "they live, if badly";
     }
@@ -158,27 +162,26 @@ TEST_F(EditorWindowsTest, AListenerOutlastsGarbage) {
 }
 
 TEST_F(EditorWindowsTest, OfManyThatStartAtOnceOneGetsTheScript) {
+    // While the first one waits for it, all others have started.
+    const Descriptor deaf = deafPeer("editor-deaf");
     constexpr int count = 8;
-    for (int round = 0; round < 5; ++round) {
-        std::latch gate(count);
-        std::latch admitted(count);
-        std::atomic<int> listening = 0;
-        std::atomic<int> raising = 0;
-        std::vector<std::jthread> editors;
-        for (int i = 0; i < count; ++i) {
-            editors.emplace_back([&](const std::stop_token& stop) {
-                gate.arrive_and_wait();
-                const EditorAdmission admission = admitEditor(folder, script, windowOf(script));
-                (admission.raisedOther ? raising : listening) += 1;
-                admitted.count_down();
-                if (admission.listener) serve(*admission.listener, stop);
-            });
-        }
-        admitted.wait();
-        editors.clear();
-        EXPECT_EQ(listening, 1);
-        EXPECT_EQ(raising, count - 1);
+    std::latch admitted(count);
+    std::atomic<int> listening = 0;
+    std::atomic<int> raising = 0;
+    std::vector<std::jthread> editors;
+    for (int i = 0; i < count; ++i) {
+        editors.emplace_back([&](const std::stop_token& stop) {
+            const EditorAdmission admission = admitEditor(folder, script, windowOf(script));
+            raising += admission.raisedOther ? 1 : 0;
+            listening += admission.listener ? 1 : 0;
+            admitted.count_down();
+            if (admission.listener) serve(*admission.listener, stop);
+        });
     }
+    admitted.wait();
+    editors.clear();
+    EXPECT_EQ(listening, 1);
+    EXPECT_EQ(raising, count - 1);
 }
 
 TEST_F(EditorWindowsTest, StartingWithoutAScriptOrAFolderAsksNobody) {
