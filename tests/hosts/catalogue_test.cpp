@@ -1,4 +1,5 @@
-// Catalogues of keys and menu commands, and the numbering of older files.
+// Catalogues of keys and menu commands, and the numbering of older files; the frozen cases hold
+// every command code and key of every version.
 #include "hosts/lu_catalogue.h"
 #include "hosts/menu_catalogue.h"
 #include "scriptfile/format_version.h"
@@ -64,22 +65,6 @@ TEST(FormatVersion, renumbersMenuCommandsOfOlderVersions) {
             << row.format.version << (row.format.vt ? " VT " : " ") << row.stored;
     for (std::uint32_t id = 201; id <= 268; ++id)
         EXPECT_EQ(vtStoresMenuCommand(id), id != 213) << id;
-}
-
-TEST(FormatVersion, renumbersCommandCodesAndVtKeys) {
-    const std::vector<std::uint32_t> oldest = {15, 16, 17, 19, 20, 18, 20, 21, 22, 23};
-    for (std::uint8_t stored = 14; stored <= 23; ++stored) {
-        EXPECT_EQ(commandCodeFromFile(stored, {false, '6'}), oldest[stored - 14U]) << +stored;
-        EXPECT_EQ(commandCodeFromFile(stored, {false, '7'}), stored + 1U);
-        EXPECT_EQ(commandCodeFromFile(stored, {false, '9'}), stored + 1U);
-        EXPECT_EQ(commandCodeFromFile(stored, {false, ':'}), stored);
-    }
-    EXPECT_EQ(commandCodeFromFile(13, {false, '2'}), 13U);
-    EXPECT_EQ(commandCodeFromFile(255, {false, '9'}), 256U);
-    EXPECT_EQ(luNumberFromFile(66, {true, '7'}), 66);
-    EXPECT_EQ(luNumberFromFile(70, {true, '7'}), 73);
-    EXPECT_EQ(luNumberFromFile(70, {true, '8'}), 70);
-    EXPECT_EQ(luNumberFromFile(70, {false, '7'}), 70);
 }
 
 }  // namespace

@@ -26,11 +26,6 @@ Bytes nestedCompares(std::size_t depth) {
     return joined({repeated(start, depth), {0}, repeated({0}, depth)});
 }
 
-TEST(ScriptReader, refusesWhatIsNoScript) {
-    EXPECT_EQ(readScript(bytesOf("QDMDSCR")).refusal, ReadRefusal::TooShort);
-    EXPECT_EQ(readScript(bytesOf("QDMDSCR>")).refusal, ReadRefusal::UnknownSignature);
-}
-
 TEST(ScriptReader, stopsAtTheDamageAndSaysWhere) {
     const auto prompt = [](std::uint32_t size) {
         return joined({{8}, counted("t"), word(size), Bytes(size, 'p'), {255, 0, 0}});
@@ -65,6 +60,8 @@ TEST(ScriptReader, stopsAtTheDamageAndSaysWhere) {
         EXPECT_EQ(read.stop, row.stop);
         EXPECT_EQ(read.stopOffset, row.offset);
     }
+    EXPECT_EQ(readScript(bytesOf("QDMDSCR")).refusal, ReadRefusal::TooShort);
+    EXPECT_EQ(readScript(bytesOf("QDMDSCR>")).refusal, ReadRefusal::UnknownSignature);
     // Renumbering lifts this code out of the range.
     EXPECT_EQ(readScript(bytesOf("QDMDSCR9\x17")).stop, UnknownCode);
 }
