@@ -1,5 +1,4 @@
 // A script shown as JSON and built again is the same file, byte for byte.
-#include "cli/json_text.h"
 #include "cli/qds_run.h"
 #include "scriptfile/hidden_text.h"
 #include "transfer/file_transfer_settings.h"

@@ -10,8 +10,9 @@
 #include <gtest/gtest.h>
 #include <latch>
 #include <poll.h>
-#include <sys/stat.h>
+#include <sys/socket.h>
 #include <thread>
+#include <unistd.h>
 
 namespace quendra::test {
 

@@ -8,6 +8,7 @@
 #include <QTranslator>
 
 #include <algorithm>
+#include <functional>
 #include <gtest/gtest.h>
 #include <map>
 #include <regex>

@@ -7,6 +7,7 @@
 #include "model/entry_display.h"
 #include "model/script.h"
 #include "scriptfile/hidden_text.h"
+#include "transfer/file_transfer_settings.h"
 
 #include <cstdint>
 #include <filesystem>
