@@ -8,18 +8,14 @@ namespace quendra {
 
 namespace fs = std::filesystem;
 
-// The result is asked of the disk at the end: creation reports "nothing made" for a path with a
-// separator at its end and when another process was faster.
-bool makeDirectoryPath(const fs::path& path) {
-    std::error_code error;
-    fs::create_directories(path, error);
-    return fs::is_directory(path, error);
+void makeDirectoryPath(const fs::path& path) {
+    std::error_code ignored;
+    fs::create_directories(path, ignored);
 }
 
-bool makeDirectory(const fs::path& path) {
-    std::error_code error;
-    fs::create_directory(path, error);
-    return fs::is_directory(path, error);
+void makeDirectory(const fs::path& path) {
+    std::error_code ignored;
+    fs::create_directory(path, ignored);
 }
 
 bool canMakeFilesIn(const fs::path& directory) {

@@ -5,12 +5,11 @@
 
 namespace quendra {
 
-/// Makes the directory and every missing parent. True when it is there afterwards; one that existed
-/// already is a success.
-bool makeDirectoryPath(const std::filesystem::path& path);
+/// Makes the directory and every missing parent, as far as that can be done.
+void makeDirectoryPath(const std::filesystem::path& path);
 
-/// Makes one directory whose parent exists. True when it is there afterwards.
-bool makeDirectory(const std::filesystem::path& path);
+/// Makes one directory whose parent exists, if it can be made.
+void makeDirectory(const std::filesystem::path& path);
 
 /// Whether the user can make files in the directory, found out by making one ("qdt" and six
 /// characters) and removing it: permissions alone do not tell of a read-only or full disk.

@@ -1,5 +1,4 @@
 // A script shown as JSON and built again is the same file, byte for byte.
-#include "cli/json_text.h"
 #include "cli/qds_run.h"
 #include "scriptfile/hidden_text.h"
 #include "transfer/file_transfer_settings.h"
@@ -13,28 +12,6 @@ namespace {
 
 using Json = nlohmann::ordered_json;
 
-Bytes countedBytes(const Bytes& bytes) {
-    return joined({{static_cast<std::uint8_t>(bytes.size())}, bytes});
-}
-
-Bytes everyByte() {
-    Bytes bytes(255);
-    std::iota(bytes.begin(), bytes.end(), std::uint8_t{1});
-    return bytes;
-}
-
-Bytes transferRecord(const FileTransferSettings& settings, std::uint32_t data = 0xFFFFFFFF,
-                     std::uint8_t host = 255) {
-    const Bytes block(settings.bytes.begin(), settings.bytes.end());
-    return joined({{2}, word(236), word(data), {3, host}, block});
-}
-
-Bytes transferFilledWith(std::uint8_t filling) {
-    FileTransferSettings settings;
-    settings.bytes.fill(filling);
-    return transferRecord(settings);
-}
-
 // Text behind the NUL of a text, as a program leaves it that shortens a text.
 FileTransferSettings settingsWithRemains() {
     FileTransferSettings settings = defaultTransferSettings();
@@ -43,59 +20,51 @@ FileTransferSettings settingsWithRemains() {
 }
 
 Bytes typeRecord(const Bytes& stored, std::uint8_t hidden = 1) {
-    return joined({{15}, countedBytes(stored), {hidden}});
-}
-
-Bytes hiddenType(const std::string& text, const std::string& identity = frozenIdentity()) {
-    return typeRecord(HiddenTextCipher(identity).encipher(text).value());
-}
-
-// Enciphered by a program that leaves out the closing NUL.
-Bytes typeWithoutNul() {
-    const TripleDesCbc cipher(deriveTripleDesKey(frozenIdentity()).value());
-    return typeRecord(cipher.encipher(bytesOf("abcde")).value());
+    return joined({{15, static_cast<std::uint8_t>(stored.size())}, stored, {hidden}});
 }
 
 std::vector<std::pair<const char*, Bytes>> extremes() {
     const Bytes beep = {4};
-    const Bytes watch = joined({{20}, counted("w"), beep});
-    const Bytes compare = joined({{9}, counted("a"), {1}, counted("b"), {2}, beep, {0}});
+    const Bytes watch = {20, 1, 'w'};
+    const Bytes compare = joined({{9}, counted("a"), {1}, counted("b"), {2}});
     const Bytes waiting = joined({{17}, counted("f"), {1, 1, 0, 1, 1, 9}});
     const Bytes waitFor = joined({waiting, beep, {12}});
-    const Bytes type = hiddenType("x", "{ANOTHER}");
-    const auto watched = [](const Bytes& action) { return joined({{20}, counted("w"), action}); };
-    const Bytes fullTitle = joined({{8}, countedBytes(Bytes(255, 0x81))});
+    const Bytes type = hiddenTypeRecord("x", "{ANOTHER}");
+    std::string everyByte(255, '\0');
+    std::iota(everyByte.begin(), everyByte.end(), '\1');
+    const Bytes title = counted(std::string(255, '\0'));
+    FileTransferSettings allSet;
+    allSet.bytes.fill(0xFF);
+    // Of a program that leaves out the closing NUL.
+    const TripleDesCbc cipher(deriveTripleDesKey(frozenIdentity()).value());
+    const Bytes withoutNul = cipher.encipher(bytesOf("abcde")).value();
     return {
-        {"text of every byte", joined({{6}, countedBytes(everyByte())})},
-        {"text of NULs", joined({{11}, countedBytes(Bytes(255, 0))})},
+        {"text of every byte", joined({{6}, counted(everyByte)})},
         {"empty code", {0}},
-        {"longest Input", joined({fullTitle, word(1023), Bytes(1023, '\\'), {255, 2, 255}})},
-        {"unknown variables", joined({{9}, counted(""), {6}, counted(""), {255}, {0}, {0}})},
+        {"longest Input", joined({{8}, title, word(1023), Bytes(1023, '\\'), {255, 2, 255}})},
+        {"unknown variables", {9, 0, 6, 0, 255, 0, 0}},
         {"last key", {1, 255, 255}},
         {"menu command out of range", joined({{2}, word(0xFFFFFFFF), word(0x80000000)})},
-        {"settings all set", transferFilledWith(0xFF)},
-        {"settings all zero", transferFilledWith(0)},
-        {"settings with remains", transferRecord(settingsWithRemains())},
+        {"settings all set", transferRecord(allSet, 236, 0xFFFFFFFF, 255)},
+        {"settings with remains", transferRecord(settingsWithRemains(), 236)},
         {"high number", joined({{16}, word(0xFFFFFFFF)})},
         {"date all set", joined({{19}, Bytes(16, 0xFF)})},
         {"Copy all set", joined({{22}, word(0xFFFFFFFF), word(0xFFFFFFFF)})},
         {"Paste with end", joined({{23}, word(0x50180101), word(2)})},
-        {"odd flags", joined({{17}, counted("f"), {0, 255, 2, 3, 4, 255}, {0}, {0}})},
-        {"no timeout", joined({{17}, counted("f"), {0, 0, 0, 0, 0}})},
-        {"hidden", hiddenType("p\xE4ss\"word")},
-        {"longest hidden", hiddenType(std::string(246, '*'))},
-        {"empty hidden", hiddenType("")},
-        {"hidden by another", hiddenType("secret", "{ANOTHER}")},
+        {"odd flags", {17, 1, 'f', 0, 255, 2, 3, 4, 255, 0, 0}},
+        {"no timeout", {17, 1, 'f', 0, 0, 0, 0, 0}},
+        {"hidden", hiddenTypeRecord("p\xE4ss\"word", frozenIdentity())},
+        {"longest hidden", hiddenTypeRecord(std::string(246, '*'), frozenIdentity())},
+        {"hidden by another", hiddenTypeRecord("secret", "{ANOTHER}")},
         {"hidden nothing", typeRecord({})},
-        {"hidden without NUL", typeWithoutNul()},
+        {"hidden without NUL", typeRecord(withoutNul)},
         {"hidden garbage", typeRecord(Bytes(255, 7))},
         {"hidden flag 2", typeRecord(bytesOf("in clear"), 2)},
-        {"watched Wait_For", watched(joined({{17}, counted("f"), {62, 160, 1, 0, 0}}))},
-        {"foreign compare", watched(compare)},
-        {"foreign watch", watched(watch)},
-        {"foreign Wait_For", joined({{9}, counted("a"), {0}, counted(""), {1}, waitFor, waitFor})},
-        {"foreign hidden text", watched(watched(type))},
-        {"two large actions", joined({waiting, transferFilledWith(1), type})},
+        {"watched Wait_For", joined({watch, {17, 1, 'f', 62, 160, 1, 0, 0}})},
+        {"foreign compare", joined({watch, compare, beep, {0}})},
+        {"foreign Wait_For", joined({compare, waitFor, waitFor})},
+        {"foreign hidden text", joined({watch, watch, type})},
+        {"large actions", joined({waiting, transferRecord(settingsWithRemains(), 236), type})},
     };
 }
 
@@ -109,8 +78,6 @@ Bytes throughJson(const Bytes& script) {
     EXPECT_EQ(built.status, 0) << built.err;
     return bytesOf(built.out);
 }
-
-}  // namespace
 
 class JsonForm : public QdsTest {};
 
@@ -127,69 +94,58 @@ TEST_F(JsonForm, givesBackEveryRecordForEveryHostType) {
     }
 }
 
-TEST_F(JsonForm, givesBackEveryFrozenFile) {
+TEST_F(JsonForm, givesBackEveryFrozenFileAndSoDoesConvert) {
     for (const Case& frozen : frozenCases()) {
         SCOPED_TRACE(frozen.name);
         EXPECT_EQ(throughJson(frozen.expected), frozen.expected);
+        const QdsRun converted = runQds({"convert", "--output", "-", "-"}, frozen.file);
+        EXPECT_EQ(converted.status, 0) << converted.err;
+        EXPECT_EQ(bytesOf(converted.out), frozen.expected);
     }
 }
 
-TEST_F(JsonForm, givesBackAFullScript) {
+TEST_F(JsonForm, givesBackAFullScriptAndWhatVtStores) {
     const Bytes record = joined({{9}, counted("a"), {1}, counted("b"), {2}, {4}, {16}, word(9)});
-    Bytes script = bytesOf("QDMDSCR=");
+    Bytes full = bytesOf("QDMDSCR=");
     for (int i = 0; i < 4096; ++i)
-        script.insert(script.end(), record.begin(), record.end());
-    EXPECT_EQ(throughJson(script), script);
-}
-
-TEST_F(JsonForm, givesBackWhatVtStores) {
+        full.insert(full.end(), record.begin(), record.end());
+    EXPECT_EQ(throughJson(full), full);
     // A file transfer in a VT script has no settings; its stored number is another.
-    const Bytes script = scriptFile("QDVTSCR=", {joined({{2}, word(234), word(5)}),
-                                                 joined({{2}, word(217), word(0), counted("c")}),
-                                                 joined({{2}, word(267), word(0)})});
-    EXPECT_EQ(throughJson(script), script);
+    const Bytes vt = scriptFile("QDVTSCR=", {joined({{2}, word(234), word(5)}),
+                                             joined({{2}, word(217), word(0), counted("c")}),
+                                             joined({{2}, word(267), word(0)})});
+    EXPECT_EQ(throughJson(vt), vt);
 }
 
-TEST_F(JsonForm, sealsForeignTextsAndNullsHiddenOnes) {
-    const Bytes script =
-        scriptFile("QDMDSCR=", {hiddenType("mine"), hiddenType("theirs", "{ANOTHER}")});
-    const QdsRun run = runQds({"show", "--json", "-"}, script);
+TEST_F(JsonForm, sealsForeignTextsNullsHiddenOnesAndNamesTheRest) {
+    const Bytes input = joined({{8}, counted("t"), word(0), {5, 1, 2}});
+    const QdsRun run =
+        runQds({"show", "--json", "-"},
+               scriptFile("QDMDSCR=", {hiddenTypeRecord("mine", frozenIdentity()),
+                                       hiddenTypeRecord("theirs", "{ANOTHER}"), input}));
     const Json entries = Json::parse(run.out).at("entries");
     EXPECT_TRUE(entries[0].at("text").is_null());
     EXPECT_FALSE(entries[0].contains("sealed"));
     EXPECT_TRUE(entries[1].at("text").is_null());
     EXPECT_TRUE(entries[1].at("sealed").is_string());
-
+    EXPECT_EQ(entries[2].at("inputVariable"), "VarUserId");
+    EXPECT_EQ(entries[2].at("hidden"), true);
     const QdsRun built = runQds({"build", "-", "--output", "-"}, bytesOf(run.out));
     EXPECT_EQ(built.status, 1);
     EXPECT_NE(built.err.find("--reveal"), std::string::npos) << built.err;
 }
 
-TEST_F(JsonForm, namesWhatReadersWantToKnow) {
-    const Bytes script = scriptFile("QDMDSCR=", {{1, 5, 1},
-                                                 joined({{2}, word(201), word(0)}),
-                                                 joined({{8}, counted("t"), word(0), {5, 1, 2}})});
-    const Json form = Json::parse(runQds({"show", "--json", "-"}, script).out);
-    EXPECT_EQ(form.at("hostType"), "Mainframe");
-    const Json& entries = form.at("entries");
-    EXPECT_EQ(entries[0].at("command"), "LU_Function");
-    EXPECT_EQ(entries[0].at("group"), 5);
-    EXPECT_EQ(entries[0].at("number"), 1);
-    EXPECT_TRUE(entries[0].at("name").is_string());
-    EXPECT_FALSE(entries[1].at("name").get<std::string>().empty());
-    EXPECT_EQ(entries[2].at("inputVariable"), "VarUserId");
-    EXPECT_EQ(entries[2].at("hidden"), true);
-}
-
 TEST_F(JsonForm, givesFieldsThatAreLeftOutTheirDefaults) {
     const Bytes compare = {9, 0, 0, 0, 0};
+    FileTransferSettings settings = defaultTransferSettings();
+    setTransferText(settings, transfer::hostFileName, "A.B");
+    setTransferNumber(settings, transfer::append, 1);
     const std::pair<std::string, Bytes> rows[] = {
         {"'Wait'", joined({{16}, word(3)})},
         {"'Wait_Ready'", joined({{18}, word(1)})},
         {"'Input'", joined({{8, 0}, word(0), {255, 0, 0}})},
         {"'Copy'", joined({{22}, {1, 1, 24, 80}, word(0)})},
         {"'Paste'", joined({{23}, {1, 1, 0, 0}, word(0)})},
-        {"'Wait_For'", {17, 0, 1, 1, 0, 1, 0}},
         {"'Wait_For', 'hasTimeout': true", {17, 0, 1, 1, 0, 1, 1, 0, 0, 0}},
         {"'Watch_For', 'then': {'command': 'Wait_For'}", {20, 0, 17, 0, 1, 1, 0, 1, 0}},
         {"'If_Input_Is', 'then': {'command': 'Copy'}, 'else': {'command': 'Wait'}",
@@ -197,13 +153,13 @@ TEST_F(JsonForm, givesFieldsThatAreLeftOutTheirDefaults) {
         {"'If_Input_Is', 'then': {'command': 'Copy', 'area': [2, 3, 4, 5]}, "
          "'else': {'command': 'Paste', 'area': [6, 7], 'number': true}",
          joined({compare, {22, 2, 3, 4, 5}, word(0), {23, 6, 7, 0, 0}, word(1)})},
-        {"'If_Input_Is', 'firstOperandKind': 4, 'secondOperandKind': 'VarPassword'",
-         {9, 0, 4, 0, 1, 0, 0}},
+        {"'If_Input_Is', 'secondOperandKind': 'VarPassword'", {9, 0, 0, 0, 1, 0, 0}},
         {"'Wait_Until', 'waitUntil': {'year': 2006, 'month': 3, 'day': 7, 'hour': 9, 'minute': 5}",
          {19, 0xD6, 7, 3, 0, 2, 0, 7, 0, 9, 0, 5, 0, 0, 0, 0, 0}},
-        {"'Wait_Until'", joined({{19}, Bytes(16, 0)})},
-        {"'LU_Function', 'group': 4, 'number': 31, 'name': 'Help'", {1, 4, 31}},
-        {"'Menu_Command', 'commandId': 236", transferRecord(defaultTransferSettings(), 0, 0)},
+        {"'Menu_Command', 'commandId': 236", transferRecord(defaultTransferSettings(), 236)},
+        {"'Menu_Command', 'commandId': 236, 'transferHost': 1, 'transferSettings': "
+         "{'hostFileName': 'A.B', 'append': true}",
+         transferRecord(settings, 236, 0, 1)},
     };
     for (const auto& [fields, record] : rows) {
         SCOPED_TRACE(fields);
@@ -213,32 +169,5 @@ TEST_F(JsonForm, givesFieldsThatAreLeftOutTheirDefaults) {
     }
 }
 
-TEST_F(JsonForm, startsTransfersFromTheDefaultSettings) {
-    FileTransferSettings settings = defaultTransferSettings();
-    setTransferText(settings, transfer::hostFileName, "A.B");
-    setTransferNumber(settings, transfer::append, 1);
-    setTransferNumber(settings, transfer::recordLength, 80);
-    EXPECT_EQ(built(R"({"hostType": "Mainframe", "entries": [{"command": "Menu_Command",
-        "commandId": 236, "transferHost": 1,
-        "transferSettings": {"hostFileName": "A.B", "append": true, "recordLength": 80}}]})"),
-              scriptFile("QDMDSCR=", {transferRecord(settings, 0, 1)}));
-    EXPECT_EQ(
-        built(R"({"hostType": "VT", "entries": [{"command": "Menu_Command", "commandId": 236}]})"),
-        scriptFile("QDVTSCR=", {joined({{2}, word(234), word(0)})}));
-}
-
-TEST_F(JsonForm, letsAFieldChangeASettingsBlock) {
-    Json form = Json::parse(runQds({"show", "--json", "-"},
-                                   scriptFile("QDMDSCR=", {transferRecord(settingsWithRemains())}))
-                                .out);
-    Json& settings = form["entries"][0]["transferSettings"];
-    ASSERT_TRUE(settings.contains("block"));
-    settings["member"] = "NEW";
-    settings["blockSize"] = 800;
-    FileTransferSettings expected = defaultTransferSettings();
-    setTransferText(expected, transfer::member, "NEW");
-    setTransferNumber(expected, transfer::blockSize, 800);
-    EXPECT_EQ(built(form.dump()), scriptFile("QDMDSCR=", {transferRecord(expected)}));
-}
-
+}  // namespace
 }  // namespace quendra::test

@@ -33,29 +33,26 @@ class QdsTest : public testing::Test {
   protected:
     QdsTest();
 
-    void setIdentity(const std::string& identity);
+    void setIdentity(const std::string& identity) const;
     /// The path of a file in the folder, written first when bytes are given.
-    [[nodiscard]] std::string file(const std::string& name) const {
-        return (folder_ / name).string();
+    [[nodiscard]] std::string file(const std::string& name) const { return folder_ / name; }
+    std::string file(const std::string& name, std::span<const std::uint8_t> bytes) const {
+        writeBytes(folder_ / name, bytes);
+        return file(name);
     }
-    [[nodiscard]] std::string file(const std::string& name,
-                                   std::span<const std::uint8_t> bytes) const;
     /// The names of all files in the folder, sorted.
     [[nodiscard]] std::vector<std::string> names() const;
-    [[nodiscard]] std::string textOf(const std::string& name) const;
 
     /// The script that a JSON form builds; the test fails where it is refused.
-    [[nodiscard]] Bytes built(const std::string& json) const;
+    [[nodiscard]] static Bytes built(const std::string& json);
 
   private:
-    TemporaryFolder folder_;
-    TemporaryFolder configuration_;
+    const TemporaryFolder folder_;
 };
 
-/// Names the rows of a table of tests by their `name`.
-inline constexpr auto rowName = [](const auto& row) { return std::string(row.param.name); };
-
 /// A current script file of a host type: the signature and these records.
-[[nodiscard]] Bytes scriptFile(const char* signature, std::initializer_list<Bytes> records);
+[[nodiscard]] inline Bytes scriptFile(const char* signature, std::initializer_list<Bytes> records) {
+    return joined({bytesOf(signature), joined(records)});
+}
 
 }  // namespace quendra::test

@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <gtest/gtest.h>
 #include <optional>
+#include <set>
 
 namespace quendra::test {
 namespace {
@@ -16,20 +17,11 @@ using enum CommandCode;
 using enum Palette;
 
 const Dialog ok = [](ScriptEntry&) { return true; };
-const Dialog cancel = [](ScriptEntry&) { return false; };
-
-Dialog typing(const std::string& text, bool hidden = false) {
-    return [text, hidden](ScriptEntry& entry) {
-        entry.hidden = hidden ? 1 : 0;
-        setText(slotFields(entry, Slot::Entry), text);
-        return true;
-    };
-}
 
 int rowOf(CommandCode code) {
     const auto events = scriptEvents();
-    const auto found = std::ranges::find(events, code, &ScriptEventInfo::code);
-    return static_cast<int>(found - events.begin());
+    return static_cast<int>(std::ranges::find(events, code, &ScriptEventInfo::code) -
+                            events.begin());
 }
 
 constexpr int menuRow(std::uint32_t commandId) {
@@ -43,38 +35,27 @@ ScriptEntry entryOf(CommandCode code, std::uint32_t commandId = 0) {
     return entry;
 }
 
-FileTransferSettings settingsFor(std::string_view hostFile, std::string_view member = "") {
-    FileTransferSettings settings = defaultTransferSettings();
-    setTransferText(settings, transfer::hostFileName, hostFile);
-    setTransferText(settings, transfer::member, member);
-    return settings;
-}
-
 class EditingTest : public testing::Test {
   protected:
-    EditingTest() { state.luCatalogues = names.luFunctions; }
+    EditingTest() { state.luCatalogues = NumberedNames().luFunctions; }
 
-    // Comments "1", "2", ...; nothing selected or focused.
-    void fill(std::size_t count) {
+    // The only entries; the first is focused if there is but one.
+    void have(const std::vector<ScriptEntry>& entries) {
         state.script = {};
-        for (std::size_t i = 1; i <= count; ++i)
-            state.script.entries.push_back(comment(std::to_string(i)));
-        state.currentIndex = -1;
-        view.select({}, -1);
+        for (const ScriptEntry& entry : entries)
+            state.script.entries.push_back(packEntry(entry, state.cipher).entry);
+        view.selection = {};
+        if (entries.size() == 1) view.selection = {{0}, 0};
+        state.currentIndex = view.selection.focused;
         view.shows = 0;
+        view.opened.clear();
     }
-    [[nodiscard]] EntryHandle comment(std::string_view text) const {
-        ScriptEntry entry = entryOf(Comment);
-        setText(slotFields(entry, Slot::Entry), text);
-        return packEntry(entry, state.cipher).entry;
-    }
-    // The only entry, and focused.
-    void have(const ScriptEntry& entry) {
-        state.script.entries = {packEntry(entry, state.cipher).entry};
-        view.select({0}, 0);
-    }
-    [[nodiscard]] ScriptEntry entryAt(std::size_t index) const {
-        return unpackEntry(state.script.entries[index], state.cipher);
+    // Comments "1", "2", ...
+    void fill(std::size_t count) {
+        std::vector<ScriptEntry> comments(count, entryOf(Comment));
+        for (std::size_t i = 0; i < count; ++i)
+            setText(slotFields(comments[i], Slot::Entry), std::to_string(i + 1));
+        have(comments);
     }
     [[nodiscard]] std::string lines() const {
         std::string all;
@@ -82,218 +63,130 @@ class EditingTest : public testing::Test {
             all += (all.empty() ? "" : " ") + line;
         return all;
     }
-    void expectSelected(const Indexes& entries, int focused) const {
-        EXPECT_EQ(view.selection.entries, entries);
-        EXPECT_EQ(view.selection.focused, focused);
+    void expectScript(const std::string& expected, const Indexes& selected, int focused) const {
+        EXPECT_EQ(lines(), expected);
+        EXPECT_EQ(view.selection, (EntrySelection{selected, focused}));
         EXPECT_EQ(state.currentIndex, focused);
     }
-    // The transfer sheet shows the working settings; OK takes them over.
-    void answerTransferSheet(bool accepted) {
-        view.dialog = [this, accepted](ScriptEntry& entry) {
-            sheet = state.workingTransfer;
-            ownSettings = entry.transferSettings;
-            setTransferText(state.workingTransfer.settings, transfer::member, "EDITED");
-            if (!accepted) return false;
-            entry.transferHost = transferHostTso;
-            entry.transferSettings = state.workingTransfer.settings;
-            return true;
-        };
-    }
-    void expectSheetOpenedOn(const FileTransferSettings& settings, std::uint8_t host,
-                             TransferDirection direction) const {
-        EXPECT_EQ(sheet.settings, settings);
-        EXPECT_EQ(sheet.host, host);
-        EXPECT_EQ(sheet.direction, direction);
-    }
 
-    NumberedNames names;
     EditingState state;
     FakeView view;
-    TransferInputs sheet;
-    FileTransferSettings ownSettings;
 };
 
 TEST_F(EditingTest, InsertsBehindTheFocusOrTheSelectionOrAtTheEndAndAtTheDrop) {
     view.choose(ScriptEvents, rowOf(Beep));
-    const auto expectInsert = [&](std::size_t entries, const EntrySelection& selection,
-                                  std::optional<int> drop, std::size_t at) {
-        SCOPED_TRACE(testing::Message() << "at " << at << " of " << entries);
-        fill(entries);
+    const auto expectInsert = [&](const EntrySelection& selection, std::optional<int> drop,
+                                  const std::string& expected, std::size_t at) {
+        fill(4);
         view.selection = selection;
         state.currentIndex = drop.value_or(selection.focused);
         state.dropPending = drop.has_value();
         EXPECT_TRUE(insertScriptEvent(state, view));
-        ASSERT_EQ(state.script.entryCount(), entries + 1);
-        EXPECT_EQ(state.script.entries[at].code(), Beep);
-        expectSelected({at}, static_cast<int>(at));
+        expectScript(expected, {at}, static_cast<int>(at));
         EXPECT_FALSE(state.dropPending);
         EXPECT_EQ(view.shows, 1);
     };
-    expectInsert(0, {}, {}, 0);
-    expectInsert(4, {}, {}, 4);
-    expectInsert(6, {{0, 1, 5}, 2}, {}, 3);
-    expectInsert(6, {{2, 4}, -1}, {}, 3);
-    expectInsert(4, {{0}, 0}, 2, 2);
-    expectInsert(4, {{3}, 3}, 0, 0);
-    expectInsert(2, {}, 9, 2);  // the script has shrunk since
+    expectInsert({}, {}, "1 2 3 4 Beep", 4);
+    expectInsert({{0, 3}, 1}, {}, "1 2 Beep 3 4", 2);
+    expectInsert({{2, 3}, -1}, {}, "1 2 3 Beep 4", 3);
+    expectInsert({{3}, 3}, 0, "Beep 1 2 3 4", 0);
+    expectInsert({}, 9, "1 2 3 4 Beep", 4);  // the script has shrunk since
 }
 
 TEST_F(EditingTest, DropIsUsedUpByTheNextInsertWhateverBecomesOfIt) {
-    state.currentHostType = HostType::VT;
-    view.dialog = cancel;
-    const auto expectNoInsert = [&](auto insert, Palette palette, int chosen) {
-        for (const int focused : {4, -1}) {
-            SCOPED_TRACE(testing::Message() << "row " << chosen << ", focus " << focused);
-            fill(5);
-            view.select({4}, focused);
+    for (const int chosen : {rowOf(Wait), -1}) {
+        for (const int focused : {3, -1}) {
+            fill(4);
+            view.select({3}, focused);
             state.currentIndex = 1;
             state.dropPending = true;
-            view.choose(palette, chosen);
-            EXPECT_FALSE(insert(state, view));
-            EXPECT_EQ(lines(), "1 2 3 4 5");
+            view.choose(ScriptEvents, chosen);
+            EXPECT_FALSE(insertScriptEvent(state, view));
             EXPECT_FALSE(state.dropPending);
-            EXPECT_EQ(state.currentIndex, focused) << "the position is where the focus is";
-            EXPECT_EQ(view.shows, 0);
+            expectScript("1 2 3 4", {3}, focused);
         }
-    };
-    expectNoInsert(insertScriptEvent, ScriptEvents, rowOf(Wait));  // cancelled
-    expectNoInsert(insertScriptEvent, ScriptEvents, -1);
-    expectNoInsert(insertLuFunction, LuFunctions, -1);
-    expectNoInsert(insertMenuCommand, MenuCommands, -1);
-    expectNoInsert(insertMenuCommand, MenuCommands, menuRow(236));  // cancelled
-    expectNoInsert(insertMenuCommand, MenuCommands, menuRow(213));  // refused
+    }
 }
 
-TEST_F(EditingTest, NewEventsOpenTheirDialogOnTheirDefaults) {
+TEST_F(EditingTest, NewEntriesOpenTheirDialogOnTheirDefaultsWhereTheyHaveParameters) {
     view.dialog = ok;
     for (const ScriptEventInfo& event : scriptEvents()) {
-        SCOPED_TRACE(event.keyword);
-        fill(0);
-        view.opened.clear();
+        have({});
         view.choose(ScriptEvents, rowOf(event.code));
         EXPECT_TRUE(insertScriptEvent(state, view));
-        EXPECT_EQ(entryAt(0).commandCode, event.code);
+        EXPECT_EQ(state.script.entries[0].code(), event.code);
         const bool plain = event.code == Beep || event.code == Return || event.code == ClearWatch;
-        const std::vector<ScriptEntry> expected(plain ? 0 : 1, newScriptEvent(event.code));
-        EXPECT_EQ(view.opened, expected);
+        EXPECT_EQ(view.opened, std::vector(plain ? 0 : 1, newScriptEvent(event.code)));
     }
-}
-
-TEST_F(EditingTest, LuFunctionsAreInsertedAndReplacedFromThePaletteOfTheHostType) {
-    const auto key = [&] { return LuKey{entryAt(0).row, entryAt(0).column}; };
-    for (const HostType type : allHostTypes) {
-        state.currentHostType = type;
-        const auto& rows = state.luCatalogues.of(type).rows;
-        fill(0);
-        view.choose(LuFunctions, 0);
-        EXPECT_TRUE(insertLuFunction(state, view));
-        EXPECT_EQ(entryAt(0).commandCode, LuFunction);
-        EXPECT_EQ(key(), rows[0].key);
-        view.choose(LuFunctions, static_cast<int>(rows.size()) - 1);
-        EXPECT_TRUE(editCurrentEntry(state, view));
-        EXPECT_EQ(key(), rows.back().key);
-    }
-    view.choose(LuFunctions, -1);
-    EXPECT_FALSE(editCurrentEntry(state, view));
-    EXPECT_EQ(view.askedFor, std::vector{LuFunctions});
-}
-
-TEST_F(EditingTest, MenuCommandsAskForTheirParameters) {
-    const std::vector<std::uint32_t> withFile = {202, 204, 219, 254, 257};
-    view.dialog = typing("name");
+    const std::set<std::uint32_t> withParameters = {202, 204, 219, 236, 237, 254, 257};
     for (std::uint32_t id = 201; id <= 268; ++id) {
-        SCOPED_TRACE(id);
-        fill(0);
-        view.opened.clear();
+        have({});
         view.choose(MenuCommands, menuRow(id));
         EXPECT_TRUE(insertMenuCommand(state, view));
-        const ScriptEntry entry = entryAt(0);
-        EXPECT_EQ(entry.commandId, id);
-        EXPECT_EQ(entry.commandData, 0U);
-        const bool file = std::ranges::find(withFile, id) != withFile.end();
-        EXPECT_EQ(view.opened.size(), file || id == 236 || id == 237 ? 1U : 0U);
-        EXPECT_EQ(textOf(slotFields(entry, Slot::Entry)), file ? "name" : "");
+        EXPECT_EQ(unpackEntry(state.script.entries[0], state.cipher).commandId, id);
+        EXPECT_EQ(view.opened.size(), withParameters.count(id)) << id;
     }
 }
 
-TEST_F(EditingTest, VtRefusesOneMenuCommandAsNewEntryAndAsReplacement) {
-    have(entryOf(MenuCommand, 201));
-    view.choose(MenuCommands, menuRow(menuCommandRefusedInVt));
-    state.currentHostType = HostType::VT;
-    const Script before = state.script;
-    EXPECT_FALSE(insertMenuCommand(state, view));
-    EXPECT_FALSE(editCurrentEntry(state, view));
-    EXPECT_EQ(state.script, before);
-    EXPECT_FALSE(state.editing);
-    EXPECT_EQ(view.refusals, std::vector(2, EditRefusal::MenuCommandNotInVt));
-}
-
-TEST_F(EditingTest, NewTransferStartsFromTheWorkingSettingsAndCancelLeavesThemEdited) {
-    state.workingTransfer = {settingsFor("SHOWN"), transferHostCics, TransferDirection::Send};
+TEST_F(EditingTest, TransferSheetOpensOnTheWorkingOrOwnOrDefaultSettings) {
+    const auto expectSheet = [&](auto& operation, std::string_view hostFile, auto direction) {
+        view.dialog = [&](ScriptEntry&) {
+            const auto& [settings, host, shownDirection] = state.workingTransfer;
+            EXPECT_EQ(transferText(settings, transfer::hostFileName), hostFile);
+            EXPECT_EQ(shownDirection, direction);
+            return false;
+        };
+        EXPECT_FALSE(operation(state, view));
+    };
+    setTransferText(state.workingTransfer.settings, transfer::hostFileName, "SHOWN");
     view.choose(MenuCommands, menuRow(receiveFileCommand));
-    answerTransferSheet(false);
-    EXPECT_FALSE(insertMenuCommand(state, view));
-    expectSheetOpenedOn(settingsFor("SHOWN"), transferHostVmCms, TransferDirection::Receive);
-    answerTransferSheet(true);
-    EXPECT_TRUE(insertMenuCommand(state, view));
-    const FileTransferSettings edited = settingsFor("SHOWN", "EDITED");
-    EXPECT_EQ(sheet.settings, edited) << "the next one starts from what was left there";
-    EXPECT_EQ(entryAt(0).transferSettings, edited);
-    EXPECT_EQ(entryAt(0).transferHost, transferHostTso);
-}
-
-TEST_F(EditingTest, EditedTransferOpensOnItsOwnSettingsAndAReplacingOneOnTheDefaults) {
+    expectSheet(insertMenuCommand, "SHOWN", TransferDirection::Receive);
     ScriptEntry entry = entryOf(MenuCommand, sendFileCommand);
-    entry.transferHost = transferHostCics;
-    entry.transferSettings = settingsFor("OWN");
-    have(entry);
-    state.workingTransfer = {settingsFor("OTHER"), transferHostVmCms, TransferDirection::Receive};
-    const Script before = state.script;
-    answerTransferSheet(false);
-    EXPECT_FALSE(editCurrentEntry(state, view));
-    expectSheetOpenedOn(settingsFor("OWN"), transferHostCics, TransferDirection::Send);
-    EXPECT_EQ(state.script, before);
-    answerTransferSheet(true);
-    EXPECT_TRUE(editCurrentEntry(state, view));
-    EXPECT_EQ(entryAt(0).transferHost, transferHostTso);
-    ScriptEntry other = entryOf(MenuCommand, 203);
-    other.commandData = 77;
-    have(other);
-    view.choose(MenuCommands, menuRow(sendFileCommand));
-    EXPECT_TRUE(editCurrentEntry(state, view));
-    expectSheetOpenedOn(defaultTransferSettings(), transferHostVmCms, TransferDirection::Send);
-    EXPECT_EQ(ownSettings, defaultTransferSettings()) << "an edit starts from its entry's";
-    EXPECT_EQ(entryAt(0).commandId, sendFileCommand);
-    EXPECT_EQ(entryAt(0).commandData, 77U) << "the second word is carried unchanged";
+    setTransferText(entry.transferSettings, transfer::hostFileName, "OWN");
+    have({entry});
+    expectSheet(editCurrentEntry, "OWN", TransferDirection::Send);
+    have({entryOf(MenuCommand, 203)});
+    expectSheet(editCurrentEntry, "", TransferDirection::Receive);
 }
 
 TEST_F(EditingTest, EntriesWithoutParametersAreReplacedFromTheirPalette) {
     const auto expectReplaced = [&](const ScriptEntry& before, Palette palette, int row, bool opens,
-                                    const ScriptEntry& after) {
-        SCOPED_TRACE(testing::Message()
-                     << "row " << row << " of palette " << static_cast<int>(palette));
-        have(before);
-        view.opened.clear();
+                                    const std::string& after) {
+        have({before});
+        const std::string line = lines();
         view.askedFor.clear();
         view.choose(palette, row);
-        view.dialog = cancel;
+        view.dialog = {};
         EXPECT_FALSE(opens && editCurrentEntry(state, view));
-        EXPECT_EQ(entryAt(0), before) << "Cancel leaves it";
+        expectScript(line, {0}, 0);
         view.dialog = ok;
-        EXPECT_EQ(editCurrentEntry(state, view), before != after);
+        EXPECT_EQ(editCurrentEntry(state, view), line != after);
         EXPECT_EQ(view.opened.size(), opens ? 2U : 0U);
-        EXPECT_EQ(entryAt(0).commandCode, after.commandCode);
-        EXPECT_EQ(entryAt(0).commandId, after.commandId);
-        EXPECT_EQ(view.askedFor, std::vector<Palette>(row < 0 ? 1 : 0, palette));
+        expectScript(after, {0}, 0);
+        EXPECT_EQ(view.askedFor, std::vector(row < 0 ? 1 : 0, palette));
     };
-    expectReplaced(entryOf(Beep), ScriptEvents, rowOf(Return), false, entryOf(Return));
-    expectReplaced(entryOf(Return), ScriptEvents, rowOf(Wait), true, entryOf(Wait));
-    expectReplaced(entryOf(Beep), ScriptEvents, rowOf(Beep), false, entryOf(Beep));
-    expectReplaced(entryOf(ClearWatch), ScriptEvents, -1, false, entryOf(ClearWatch));
     const ScriptEntry menu = entryOf(MenuCommand, 201);
-    expectReplaced(menu, MenuCommands, menuRow(268), false, entryOf(MenuCommand, 268));
-    expectReplaced(menu, MenuCommands, menuRow(254), true, entryOf(MenuCommand, 254));
-    expectReplaced(menu, MenuCommands, -1, false, menu);
+    expectReplaced(entryOf(Beep), ScriptEvents, rowOf(Return), false, "Return");
+    expectReplaced(entryOf(Return), ScriptEvents, rowOf(Wait), true, "Wait 0");
+    expectReplaced(entryOf(Beep), ScriptEvents, rowOf(Beep), false, "Beep");
+    expectReplaced(entryOf(ClearWatch), ScriptEvents, -1, false, "Clear_Watch");
+    expectReplaced(menu, MenuCommands, menuRow(268), false, "{11985}");
+    expectReplaced(menu, MenuCommands, menuRow(254), true, "{11971} \"\"");
+    expectReplaced(menu, MenuCommands, -1, false, "{11913}");
+}
+
+TEST_F(EditingTest, LuFunctionsComeFromThePaletteOfTheHostType) {
+    state.currentHostType = HostType::VT;
+    const auto& rows = state.luCatalogues.of(HostType::VT).rows;
+    view.choose(LuFunctions, 0);
+    EXPECT_TRUE(insertLuFunction(state, view));
+    expectScript(rows[0].name, {0}, 0);
+    view.choose(LuFunctions, static_cast<int>(rows.size()) - 1);
+    EXPECT_TRUE(editCurrentEntry(state, view));
+    expectScript(rows.back().name, {0}, 0);
+    view.choose(LuFunctions, -1);
+    EXPECT_FALSE(editCurrentEntry(state, view));
+    EXPECT_EQ(view.askedFor, std::vector{LuFunctions});
 }
 
 TEST_F(EditingTest, EditTakesTheFocusedEntryAndItsFlagIsSetAsLongAsTheDialogIsOpen) {
@@ -301,124 +194,105 @@ TEST_F(EditingTest, EditTakesTheFocusedEntryAndItsFlagIsSetAsLongAsTheDialogIsOp
     view.select({0, 1}, 2);
     for (const bool accepted : {false, true}) {
         view.dialog = [&](ScriptEntry& entry) {
-            EXPECT_TRUE(state.editing);
-            return typing("x")(entry) && accepted;
+            setText(slotFields(entry, Slot::Entry), "x");
+            return state.editing && accepted;
         };
         EXPECT_EQ(editCurrentEntry(state, view), accepted);
         EXPECT_FALSE(state.editing);
         EXPECT_EQ(lines(), accepted ? "1 2 x 4" : "1 2 3 4");
     }
-    expectSelected({2}, 2);
+    expectScript("1 2 x 4", {2}, 2);
     view.dialog = [](ScriptEntry&) -> bool { throw std::bad_alloc(); };
     EXPECT_THROW(editCurrentEntry(state, view), std::bad_alloc);
     EXPECT_FALSE(state.editing);
     view.select({0}, -1);
     EXPECT_FALSE(editCurrentEntry(state, view));
-    EXPECT_EQ(state.currentIndex, -1);
-    view.dialog = [&](ScriptEntry&) { return !state.editing; };
-    view.choose(ScriptEvents, rowOf(Type));
-    EXPECT_TRUE(insertScriptEvent(state, view)) << "an insert is not an edit";
+    expectScript("1 2 x 4", {0}, -1);
 }
 
-TEST_F(EditingTest, HiddenTextThatCannotBeStoredIsRefusedAndNothingChanges) {
-    have(entryOf(Type));
-    const Script before = state.script;
-    view.dialog = typing(std::string(247, 'x'), true);
+TEST_F(EditingTest, WhatVtLacksAndHiddenTextsThatCannotBeStoredAreRefusedAndNothingChanges) {
+    using enum EditRefusal;
+    state.currentHostType = HostType::VT;
+    view.choose(MenuCommands, menuRow(menuCommandRefusedInVt));
     view.choose(ScriptEvents, rowOf(Type));
-    EXPECT_FALSE(insertScriptEvent(state, view));
-    EXPECT_FALSE(editCurrentEntry(state, view));
-    EXPECT_EQ(state.script, before);
-    EXPECT_EQ(view.refusals, std::vector(2, EditRefusal::HiddenTextTooLong));
-    EXPECT_EQ(view.shows, 0);
+    view.dialog = [](ScriptEntry& entry) {
+        entry.hidden = 1;
+        setText(slotFields(entry, Slot::Entry), std::string(247, 'x'));
+        return true;
+    };
+    have({entryOf(MenuCommand, 201)});
+    EXPECT_FALSE(insertMenuCommand(state, view) || editCurrentEntry(state, view));
+    expectScript("{11913}", {0}, 0);
+    have({entryOf(Type)});
+    EXPECT_FALSE(insertScriptEvent(state, view) || editCurrentEntry(state, view));
+    expectScript("Type \"\"", {0}, 0);
+    EXPECT_EQ(view.refusals, (std::vector{MenuCommandNotInVt, MenuCommandNotInVt, HiddenTextTooLong,
+                                          HiddenTextTooLong}));
 }
 
 TEST_F(EditingTest, DeleteAndCutLeaveTheFollowerCurrent) {
-    const auto expectRemoved = [&](std::size_t entries, const Indexes& selected,
-                                   const std::string& left, const Indexes& current) {
-        for (const bool cuts : {false, true}) {
-            SCOPED_TRACE((cuts ? "cut, left: " : "deleted, left: ") + left);
-            fill(entries);
-            std::vector<EntryHandle> taken;
-            for (const std::size_t index : selected)
-                taken.push_back(state.script.entries[index]);
-            view.select(selected, static_cast<int>(selected.back()));
-            view.asked.clear();
-            state.entryClipboard.clear();
-            EXPECT_TRUE(cuts ? cutEntries(state, view) : deleteEntries(state, view));
-            EXPECT_EQ(lines(), left);
-            expectSelected(current, current.empty() ? -1 : static_cast<int>(current[0]));
-            EXPECT_EQ(view.shows, 1);
-            EXPECT_EQ(view.asked, Indexes(cuts ? 0 : 1, selected.size()));
-            EXPECT_EQ(state.entryClipboard, cuts ? taken : std::vector<EntryHandle>());
+    const auto expectRemoved = [&](const Indexes& selected, const std::string& left,
+                                   const Indexes& current) {
+        for (auto* operation : {deleteEntries, cutEntries}) {
+            fill(4);
+            view.select(selected, 0);
+            EXPECT_TRUE(operation(state, view));
+            expectScript(left, current, current.empty() ? -1 : static_cast<int>(current[0]));
         }
+        EXPECT_EQ(view.asked, Indexes{selected.size()}) << "deleting asks, cutting does not";
+        EXPECT_EQ(state.entryClipboard.size(), selected.size());
+        view.asked.clear();
     };
-    expectRemoved(4, {1}, "1 3 4", {1});
-    expectRemoved(4, {3}, "1 2 3", {2});
-    expectRemoved(5, {0, 2, 3}, "2 5", {1});
-    expectRemoved(5, {1, 4}, "1 3 4", {2});
-    expectRemoved(3, {0, 1, 2}, "", {});
+    expectRemoved({3}, "1 2 3", {2});
+    expectRemoved({0, 2}, "2 4", {1});
+    expectRemoved({0, 1, 2, 3}, "", {});
 }
 
 TEST_F(EditingTest, WithoutASelectionOrAYesNothingHappens) {
     fill(3);
-    state.entryClipboard = {comment("kept")};
+    state.entryClipboard.resize(1);
     copyEntries(state, view);
     EXPECT_FALSE(cutEntries(state, view) || deleteEntries(state, view));
-    EXPECT_TRUE(view.asked.empty());
-    EXPECT_EQ(state.entryClipboard, std::vector{comment("kept")});
-    view.select({0, 2}, 0);
+    EXPECT_EQ(state.entryClipboard.size(), 1U);
+    view.select({0, 2}, -1);
     view.agrees = false;
     EXPECT_FALSE(deleteEntries(state, view));
     copyEntries(state, view);
-    EXPECT_EQ(state.entryClipboard, (std::vector{comment("1"), comment("3")}));
-    EXPECT_EQ(lines(), "1 2 3");
-    EXPECT_EQ(view.selection, (EntrySelection{{0, 2}, 0}));
+    EXPECT_EQ(state.entryClipboard,
+              (std::vector{state.script.entries[0], state.script.entries[2]}));
+    expectScript("1 2 3", {0, 2}, -1);
     EXPECT_EQ(view.shows, 0);
 }
 
 TEST_F(EditingTest, PasteGoesBehindTheFocusElseTheFirstSelectedElseNowhere) {
-    state.entryClipboard = {comment("a"), comment("b")};
-    const auto expectPaste = [&](std::size_t entries, const EntrySelection& selection,
-                                 const char* expected, const Indexes& pasted) {
-        SCOPED_TRACE(expected);
-        fill(entries);
-        view.selection = selection;
-        const bool changes = !pasted.empty();
-        EXPECT_EQ(pasteEntries(state, view), changes);
-        EXPECT_EQ(lines(), expected);
-        expectSelected(pasted, changes ? static_cast<int>(pasted.back()) : -1);
-        EXPECT_EQ(view.shows, changes ? 1 : 0);
-        EXPECT_EQ(state.entryClipboard.size(), 2U);
-    };
-    expectPaste(0, {}, "a b", {0, 1});
-    expectPaste(3, {{0}, 1}, "1 2 a b 3", {2, 3});
-    expectPaste(3, {{0, 2}, -1}, "1 a b 2 3", {1, 2});
-    expectPaste(2, {{1}, 1}, "1 2 a b", {2, 3});
-    expectPaste(3, {}, "1 2 3", {});
+    have({entryOf(Beep), entryOf(Return)});
+    view.select({0, 1}, 0);
+    EXPECT_TRUE(cutEntries(state, view));
+    EXPECT_TRUE(pasteEntries(state, view));
+    expectScript("Beep Return", {0, 1}, 1);
+    fill(3);
+    EXPECT_FALSE(pasteEntries(state, view));
+    expectScript("1 2 3", {}, -1);
+    view.select({0}, 1);
+    EXPECT_TRUE(pasteEntries(state, view));
+    expectScript("1 2 Beep Return 3", {2, 3}, 3);
+    view.select({0, 2}, -1);
+    EXPECT_TRUE(pasteEntries(state, view));
+    expectScript("1 Beep Return 2 Beep Return 3", {1, 2}, 2);
 }
 
 TEST_F(EditingTest, PasteAndInsertStopAtTheLimitAndPasteSelectsAsManyAsWereOffered) {
     fill(4090);
-    state.entryClipboard.assign(10, comment("x"));
+    state.entryClipboard.assign(10, state.script.entries[0]);
     view.select({0}, 0);
     EXPECT_TRUE(pasteEntries(state, view));
     EXPECT_EQ(state.script.entryCount(), 4096U);
-    expectSelected({1, 2, 3, 4, 5, 6, 7, 8, 9, 10}, 6);
-    const EntrySelection before = view.selection;
-    EXPECT_FALSE(pasteEntries(state, view));
+    const EntrySelection pasted = {{1, 2, 3, 4, 5, 6, 7, 8, 9, 10}, 6};
+    EXPECT_EQ(view.selection, pasted);
     view.choose(ScriptEvents, rowOf(Beep));
-    EXPECT_FALSE(insertScriptEvent(state, view));
-    EXPECT_EQ(view.selection, before);
+    EXPECT_FALSE(pasteEntries(state, view) || insertScriptEvent(state, view));
+    EXPECT_EQ(view.selection, pasted);
     EXPECT_EQ(state.script.entryCount(), 4096U);
-}
-
-TEST_F(EditingTest, AnotherScriptGoesWhereAnInsertGoes) {
-    fill(3);
-    const std::vector<EntryHandle> other = {comment("a"), comment("b")};
-    EXPECT_EQ(insertScript(state, view, other), 2U);
-    EXPECT_EQ(lines(), "1 2 3 a b");
-    expectSelected({3, 4}, 4);
-    EXPECT_EQ(insertScript(state, view, {}), 0U);
 }
 
 }  // namespace

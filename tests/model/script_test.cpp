@@ -1,6 +1,8 @@
-// The list operations against the plain loops that they replace, and the shared records below them.
+// The list operations against the plain loops that they replace, the shared records below them, and
+// the history of steps. Random edits undone and redone: see editing_property_test.cpp.
 #include "model/script.h"
 
+#include "model/undo_history.h"
 #include "support/fixtures.h"
 
 #include <algorithm>
@@ -17,73 +19,41 @@ EntryHandle numbered(std::size_t number) {
     return storeRecord(joined({{16}, word(static_cast<std::uint32_t>(number))}));
 }
 
-Script numberedScript(std::size_t count) {
-    Script script;
-    for (std::size_t i = 0; i < count; ++i)
-        script.entries.push_back(numbered(i));
-    return script;
-}
-
-std::vector<std::size_t> someIndexes(std::mt19937& random, std::size_t count) {
-    std::vector<std::size_t> indexes;
-    for (std::size_t i = 0; i < count; ++i)
-        if (random() % 3 == 0) indexes.push_back(i);
-    return indexes;
-}
-
-}  // namespace
-
-TEST(Script, insertsUpToTheLimitAndNoFurther) {
-    Script script = numberedScript(4090);
-    const Script added = numberedScript(10);
-    EXPECT_EQ(insertEntries(script, 5, added.entries), 6u);
-    EXPECT_TRUE(script.isFull());
-    EXPECT_EQ(script.entries[5], numbered(0));
-    EXPECT_EQ(script.entries[10], numbered(5));
-    EXPECT_EQ(script.entries[11], numbered(5));
-    EXPECT_EQ(insertEntries(script, 0, added.entries), 0u);
-}
-
-TEST(Script, removesAnySelectionLikeOneByOne) {
-    std::mt19937 random(1);
-    for (std::size_t count = 0; count < 40; ++count) {
-        Script script = numberedScript(count);
-        auto expected = script.entries;
-        const auto indexes = someIndexes(random, count);
-        for (const std::size_t index : std::views::reverse(indexes))
-            expected.erase(expected.begin() + static_cast<std::ptrdiff_t>(index));
-        removeEntries(script, indexes);
-        EXPECT_EQ(script.entries, expected);
-    }
-}
-
-TEST(Script, movesEntriesToTheirPlacesAndKeepsTheOrderOfTheRest) {
+TEST(Script, removesAndMovesEntriesAsOneByOne) {
     std::mt19937 random(2);
     for (std::size_t count = 1; count < 40; ++count) {
-        Script script = numberedScript(count);
-        const auto from = someIndexes(random, count);
-        std::vector<std::size_t> to(count);
-        std::iota(to.begin(), to.end(), std::size_t{0});
-        std::ranges::shuffle(to, random);
-        std::vector<EntryMove> moves;
-        for (std::size_t i = 0; i < from.size(); ++i)
-            moves.push_back({from[i], to[i]});
-        // Those that stay, with the moved ones put among them from the front to the back.
+        Script script;
+        std::vector<std::size_t> chosen;
+        for (std::size_t i = 0; i < count; ++i) {
+            script.entries.push_back(numbered(i));
+            if (random() % 3 == 0) chosen.push_back(i);
+        }
+        Script removed = script;
+        removeEntries(removed, chosen);
         Script expected = script;
-        removeEntries(expected, from);
+        for (const std::size_t index : std::views::reverse(chosen))
+            expected.entries.erase(expected.entries.begin() + static_cast<std::ptrdiff_t>(index));
+        ASSERT_EQ(removed, expected);
+
+        // Those that stay, with the moved ones put among them from the front to the back.
+        std::vector<std::size_t> places(count);
+        std::iota(places.begin(), places.end(), std::size_t{0});
+        std::ranges::shuffle(places, random);
+        std::vector<EntryMove> moves;
+        for (std::size_t i = 0; i < chosen.size(); ++i)
+            moves.push_back({chosen[i], places[i]});
         std::ranges::sort(moves, {}, &EntryMove::to);
         for (const EntryMove& move : moves)
             insertEntries(expected, move.to, {&script.entries[move.from], 1});
         std::ranges::shuffle(moves, random);
         moveEntries(script, moves);
-        EXPECT_EQ(script, expected);
+        ASSERT_EQ(script, expected);
     }
 }
 
 TEST(EntryHandle, wipesARecordWithItsLastHandleOnly) {
-    const std::string secret = "canary-in-a-comment";
     EntryHandle kept = numbered(1);
-    EntryHandle first = storeRecord(joined({{6}, counted(secret)}));
+    EntryHandle first = storeRecord(joined({{6}, counted("canary-in-a-comment")}));
     const std::uint8_t* memory = first.record().data();
     const std::size_t size = first.record().size();
     EntryHandle second = first;
@@ -106,10 +76,36 @@ TEST(EntryHandle, ofARecordInPlaceKeepsTheBytesAndWipesItsOwn) {
     const EntryHandle second = records->record(7, 8);
     records.reset();
     EXPECT_EQ(first.record().data(), memory) << "not copied";
-    EXPECT_EQ(second, storeRecord(std::span(bytes).subspan(7)));
     first = EntryHandle();
     EXPECT_EQ(std::count(memory, memory + 7, 0), 7);
-    EXPECT_EQ(second.record().front(), 6);
+    EXPECT_EQ(second, storeRecord(std::span(bytes).subspan(7)));
 }
 
+TEST(UndoHistory, namesItsStepsAndDropsWhatWasUndoneWithANewChange) {
+    UndoHistory history;
+    ScriptView view;
+    const auto change = [&](const char* name) {
+        const ScriptView before = view;
+        view.script.entries.push_back(numbered(1));
+        history.record(before, view, name);
+    };
+    history.record(view, view, "no change");
+    EXPECT_FALSE(history.canUndo());
+    change("first");
+    change("second");
+    EXPECT_EQ(history.undoName(), "second");
+    history.undo(view.script);
+    EXPECT_EQ(history.redoName(), "second");
+    change("third");
+    EXPECT_FALSE(history.canRedo());
+    EXPECT_EQ(history.undoName(), "third");
+    history.undo(view.script);
+    history.undo(view.script);
+    EXPECT_EQ(view.script, Script());
+    EXPECT_FALSE(history.canUndo());
+    history.clear();
+    EXPECT_FALSE(history.canRedo());
+}
+
+}  // namespace
 }  // namespace quendra::test

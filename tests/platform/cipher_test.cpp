@@ -4,40 +4,29 @@
 #include "scriptfile/hidden_text.h"
 #include "support/fixtures.h"
 
+#include <QByteArray>
+
 #include <gtest/gtest.h>
 
 namespace quendra::test {
 namespace {
 
 std::string hex(std::span<const std::uint8_t> bytes) {
-    constexpr std::string_view digits = "0123456789abcdef";
-    std::string text;
-    for (const std::uint8_t byte : bytes)
-        text.append({digits[byte >> 4], digits[byte & 15]});
-    return text;
+    return QByteArray(reinterpret_cast<const char*>(bytes.data()), std::ssize(bytes))
+        .toHex()
+        .toStdString();
 }
 
 TEST(HiddenText, givesTheKnownAnswers) {
-    const struct {
-        const char* identity;
-        const char* text;
-        const char* key;
-        const char* enciphered;
-    } rows[] = {
+    const char* const rows[][4] = {
         {"", "", "d67c99ba25d88b618d638842271fde098812e8e544bc9da4", "98a5439878b91dfb"},
         {"", "secret", "d67c99ba25d88b618d638842271fde098812e8e544bc9da4", "2fc5b369a23fdc12"},
         {"{01234567-89AB-CDEF-0123-456789ABCDEF}", "secret7",
          "283547bcdcc4ff9bb25926a3b6552c8ff5f24ac4c6c785af", "6e81383ba9c29c0b05cd08b28b5dae68"},
     };
-    for (const auto& row : rows) {
-        EXPECT_EQ(hex(deriveTripleDesKey(row.identity).value()), row.key);
-        const HiddenTextCipher cipher(row.identity);
-        const auto enciphered = cipher.encipher(row.text).value();
-        EXPECT_EQ(hex(enciphered), row.enciphered);
-        const auto plain = cipher.decipher(enciphered);
-        ASSERT_TRUE(plain);
-        EXPECT_EQ(plain->text(), row.text);
-        EXPECT_TRUE(plain->exact());
+    for (const auto& [identity, text, key, enciphered] : rows) {
+        EXPECT_EQ(hex(deriveTripleDesKey(identity).value()), key);
+        EXPECT_EQ(hex(HiddenTextCipher(identity).encipher(text).value()), enciphered);
     }
 }
 
@@ -49,12 +38,12 @@ TEST(HiddenText, readsBackEveryLengthAndCountsOnlySixtyThreeBytesOfTheIdentity) 
         const auto enciphered = cipher.encipher(text).value();
         EXPECT_EQ(enciphered.size(), 8 * ((length + 1) / 8 + 1));
         const auto plain = longer.decipher(enciphered);
-        ASSERT_TRUE(plain);
+        ASSERT_TRUE(plain && plain->exact());
         EXPECT_EQ(plain->text(), text);
     }
 }
 
-TEST(HiddenText, refusesAnotherKeyAndDamagedBytes) {
+TEST(HiddenText, refusesAnotherKeyAndDamagedBytesAndTellsInexactTextsApart) {
     const HiddenTextCipher mine("mine");
     const auto enciphered = mine.encipher("password").value();
     const auto foreign = HiddenTextCipher("theirs").decipher(enciphered);
@@ -62,12 +51,9 @@ TEST(HiddenText, refusesAnotherKeyAndDamagedBytes) {
     EXPECT_TRUE(!foreign || !foreign->exact());
     for (const std::size_t size : {0UL, 7UL, 8UL})
         EXPECT_FALSE(mine.decipher(std::span(enciphered).first(size))) << size;
-}
-
-TEST(HiddenText, tellsATextWithSomethingBehindItsNulFromAnExactOne) {
-    const TripleDesCbc plain(deriveTripleDesKey("").value());
+    const TripleDesCbc bare(deriveTripleDesKey("mine").value());
     for (const std::string& content : {std::string("ab\0cd\0", 6), std::string("ab")}) {
-        const auto text = HiddenTextCipher("").decipher(plain.encipher(bytesOf(content)).value());
+        const auto text = mine.decipher(bare.encipher(bytesOf(content)).value());
         ASSERT_TRUE(text);
         EXPECT_EQ(text->text(), "ab");
         EXPECT_FALSE(text->exact());

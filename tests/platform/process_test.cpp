@@ -1,12 +1,14 @@
 // Programs that are started and left alone.
 #include "platform/process.h"
 
+#include "platform/descriptor.h"
 #include "support/temporary_folder.h"
 
 #include <cstdlib>
+#include <fcntl.h>
 #include <fstream>
 #include <gtest/gtest.h>
-#include <iterator>
+#include <poll.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -28,10 +30,14 @@ class ProcessTest : public testing::Test {
                                          << more << "\n";
         std::filesystem::permissions(programPath(name), std::filesystem::perms::owner_all);
     }
-    // Waits for the program.
+    // Waits for the program, though not for ever.
     [[nodiscard]] std::string notesOfProgram() const {
-        std::ifstream file(notes_);
-        return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+        const Descriptor fifo(::open(notes_.c_str(), O_RDONLY | O_NONBLOCK));
+        pollfd waiting = {fifo.get(), POLLIN, 0};
+        std::string notes;
+        for (char c = 0; ::poll(&waiting, 1, 10'000) == 1 && ::read(fifo.get(), &c, 1) == 1;)
+            notes += c;
+        return notes;
     }
     [[nodiscard]] std::string programPath(const std::string& name) const { return folder_ / name; }
 

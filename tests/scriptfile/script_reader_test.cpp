@@ -1,7 +1,6 @@
 // Damaged and hostile files: what came before the damage is loaded, and the place is named.
 #include "scriptfile/script_reader.h"
 
-#include "scriptfile/entry_codec.h"
 #include "scriptfile/script_writer.h"
 #include "support/fixtures.h"
 
@@ -27,72 +26,60 @@ Bytes nestedCompares(std::size_t depth) {
     return joined({repeated(start, depth), {0}, repeated({0}, depth)});
 }
 
-}  // namespace
-
-TEST(ScriptReader, refusesWhatIsNoScript) {
-    EXPECT_EQ(readScript({}).refusal, ReadRefusal::TooShort);
-    EXPECT_EQ(readScript(bytesOf("QDMDSCR")).refusal, ReadRefusal::TooShort);
-    EXPECT_EQ(readScript(bytesOf("QDMDSCR>")).refusal, ReadRefusal::UnknownSignature);
-    EXPECT_EQ(readScript(bytesOf("QDVTSCR5")).refusal, ReadRefusal::UnknownSignature);
-}
-
 TEST(ScriptReader, stopsAtTheDamageAndSaysWhere) {
-    const Bytes longPrompt = joined({{8}, counted("t"), word(1024), Bytes(1024, 'p'), {255, 0, 0}});
-    const Bytes fullPrompt = joined({{8}, counted("t"), word(1023), Bytes(1023, 'p'), {255, 0, 0}});
-    const Bytes tooDeep = nestedCompares(100'000);
+    const auto prompt = [](std::uint32_t size) {
+        return joined({{8}, counted("t"), word(size), Bytes(size, 'p'), {255, 0, 0}});
+    };
     using enum ReadStop;
     const struct {
         const char* name;
-        std::initializer_list<Bytes> records;
+        Bytes records;
         std::size_t entries;
         ReadStop stop;
         std::size_t offset;
     } rows[] = {
-        {"inside a text", {beep, {6, 5, 'a'}}, 1, EndInsideRecord, 11},
-        {"inside an action", {beep, {20, 0, 15}}, 1, EndInsideRecord, 12},
-        {"before an action", {{20, 0}}, 0, EndInsideRecord, 10},
-        {"code 3", {beep, beep, {3}, beep}, 2, UnknownCode, 10},
-        {"code 24", {{24}}, 0, UnknownCode, 8},
-        {"unknown code of an action", {beep, {20, 0, 99}}, 1, UnknownCode, 11},
-        {"a prompt that does not fit", {beep, longPrompt, beep}, 1, PromptTooLong, 12},
-        {"a prompt that fits", {beep, fullPrompt, beep}, 3, None, 0},
-        {"a prompt of four gigabytes", {{8, 0}, word(0xFFFFFFFF)}, 0, PromptTooLong, 10},
-        {"4096 entries", {repeated(beep, 4096)}, 4096, None, 0},
-        {"one entry more", {repeated(beep, 4097)}, 4096, TooManyEntries, 8 + 4096},
-        {"more than 16 bits count", {repeated({0}, 70'000)}, 4096, TooManyEntries, 8 + 4096},
-        {"actions a few levels deep", {nestedCompares(4), beep}, 2, None, 0},
-        {"actions very many levels deep", {beep, tooDeep}, 1, NestedTooDeep, 34},
+        {"inside a text", {4, 6, 5, 'a'}, 1, EndInsideRecord, 11},
+        {"inside an action", {4, 20, 0, 15}, 1, EndInsideRecord, 12},
+        {"before an action", {20, 0}, 0, EndInsideRecord, 10},
+        {"code 3", {4, 4, 3, 4}, 2, UnknownCode, 10},
+        {"code 24", {24}, 0, UnknownCode, 8},
+        {"unknown code of an action", {4, 20, 0, 99}, 1, UnknownCode, 11},
+        {"a prompt that does not fit", joined({beep, prompt(1024), beep}), 1, PromptTooLong, 12},
+        {"a prompt that fits", joined({beep, prompt(1023), beep}), 3, None, 0},
+        {"a prompt of 4 gigabytes", joined({{8, 0}, word(0xFFFFFFFF)}), 0, PromptTooLong, 10},
+        {"4096 entries", repeated(beep, 4096), 4096, None, 0},
+        {"more than 16 bits count", repeated({0}, 70'000), 4096, TooManyEntries, 8 + 4096},
+        {"actions a few levels deep", joined({nestedCompares(4), beep}), 2, None, 0},
+        {"very many levels deep", joined({beep, nestedCompares(100'000)}), 1, NestedTooDeep, 34},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.name);
-        const ReadResult read = readScript(joined({mainframe, joined(row.records)}));
+        const ReadResult read = readScript(joined({mainframe, row.records}));
         ASSERT_FALSE(read.refusal);
         EXPECT_EQ(read.script.entryCount(), row.entries);
         EXPECT_EQ(read.stop, row.stop);
         EXPECT_EQ(read.stopOffset, row.offset);
     }
+    EXPECT_EQ(readScript(bytesOf("QDMDSCR")).refusal, ReadRefusal::TooShort);
+    EXPECT_EQ(readScript(bytesOf("QDMDSCR>")).refusal, ReadRefusal::UnknownSignature);
     // Renumbering lifts this code out of the range.
     EXPECT_EQ(readScript(bytesOf("QDMDSCR9\x17")).stop, UnknownCode);
 }
 
-// As the bytes of a file are read, which are taken over.
-ReadResult readInPlace(std::span<const std::uint8_t> bytes) {
-    SecretPages pages(bytes.size());
-    std::ranges::copy(bytes, pages.data());
-    return readScript(std::move(pages), bytes.size());
-}
-
-TEST(ScriptReader, loadsTheWholeEntriesOfAFileCutAnywhere) {
-    for (const char* name : {"kinds-mainframe-v2", "kinds-mainframe-vD", "kinds-vt-vD"}) {
+TEST(ScriptReader, loadsTheWholeEntriesOfAFileCutAnywhereAlsoInPlace) {
+    for (const char* name : {"kinds-mainframe-v2", "kinds-vt-vD"}) {
         const Bytes& file = frozenCase(name).file;
-        const Script whole = readScript(file).script;
+        const auto whole = readScript(file).script.entries;
         for (std::size_t size = signatureSize; size < file.size(); size += 7) {
-            const ReadResult cut = readScript(std::span(file).first(size));
-            ASSERT_LE(cut.script.entryCount(), whole.entryCount());
-            ASSERT_TRUE(std::equal(cut.script.entries.begin(), cut.script.entries.end(),
-                                   whole.entries.begin()));
+            const auto bytes = std::span(file).first(size);
+            const ReadResult cut = readScript(bytes);
+            const auto& entries = cut.script.entries;
+            ASSERT_LE(entries.size(), whole.size());
+            ASSERT_TRUE(std::equal(entries.begin(), entries.end(), whole.begin()));
             ASSERT_TRUE(cut.stop == ReadStop::EndInsideRecord || cut.stop == ReadStop::None);
-            const ReadResult inPlace = readInPlace(std::span(file).first(size));
+            SecretPages pages(size);
+            std::ranges::copy(bytes, pages.data());
+            const ReadResult inPlace = readScript(std::move(pages), size);
             ASSERT_EQ(inPlace.script, cut.script);
             ASSERT_EQ(inPlace.stopOffset, cut.stopOffset);
         }
@@ -100,32 +87,17 @@ TEST(ScriptReader, loadsTheWholeEntriesOfAFileCutAnywhere) {
 }
 
 TEST(ScriptReader, readsTheFirstEntriesOfAFileLongerThanAnyScript) {
-    Bytes file = joined({mainframe, beep, {6, 5}});
+    Bytes file = mainframe;
     file.resize(maxScriptFileSize + 1);
-    file[signatureSize + 2] = 1;
-    const ReadResult read = readScript(file);
-    EXPECT_EQ(read.script.entryCount(), 4096u);
-    EXPECT_EQ(read.stop, ReadStop::TooManyEntries);
+    EXPECT_EQ(readScript(file).stop, ReadStop::TooManyEntries);
     // Records so large that the limit is met first.
-    Bytes large = mainframe;
     const Bytes compare =
         joined({{9}, counted(std::string(255, 'a')), {0}, counted(std::string(255, 'b')), {0}});
-    const Bytes inner = joined({{8}, counted(""), word(1023), Bytes(1023, 'p'), {0, 0, 0}});
-    while (large.size() <= maxScriptFileSize) {
-        const Bytes record = joined({compare, compare, inner, inner, compare, inner, inner});
-        large.insert(large.end(), record.begin(), record.end());
-    }
+    const Bytes input = joined({{8}, counted(""), word(1023), Bytes(1023, 'p'), {0, 0, 0}});
+    const Bytes record = joined({compare, compare, input, input, compare, input, input});
+    const Bytes large =
+        joined({mainframe, repeated(record, maxScriptFileSize / record.size() + 1)});
     EXPECT_EQ(readScript(large).stop, ReadStop::FileTooLong);
-}
-
-TEST(ScriptReader, writesForeignBytesOfARecordInTheirCurrentForm) {
-    // The mark of a transfer block is 3 whatever a file had there.
-    Bytes block(935, 0);
-    block[0] = 7;
-    const Bytes file = joined({mainframe, {2}, word(236), word(5), block});
-    block[0] = 3;
-    const Bytes expected = joined({mainframe, {2}, word(236), word(5), block});
-    EXPECT_EQ(writeScript(readScript(file).script, HostType::Mainframe), expected);
 }
 
 TEST(ScriptReader, passesOverTheTimeoutOfAWatchedWaitForAndSaysSo) {
@@ -138,33 +110,33 @@ TEST(ScriptReader, passesOverTheTimeoutOfAWatchedWaitForAndSaysSo) {
     EXPECT_EQ(writeScript(read.script, HostType::Mainframe), joined({before, {0}, {5}}));
 }
 
-TEST(ScriptWriter, knowsWhatVtCannotStore) {
-    ScriptEntry menu;
-    menu.commandCode = CommandCode::MenuCommand;
-    ScriptEntry wait;
-    wait.commandCode = CommandCode::WaitFor;
-    wait.hasTimeout = 1;
-    wait.elseCode = CommandCode::MenuCommand;
-    Script script;
-    const HiddenTextCipher cipher("");
-    const auto add = [&](const ScriptEntry& entry) {
-        script.entries.push_back(packEntry(entry, cipher).entry);
-    };
-    for (const std::uint32_t id : {212u, 213u, 214u, 236u}) {
-        menu.commandId = wait.elseCommandId = id;
-        add(menu);
-        add(wait);
-    }
-    wait.elseTransferSettings = defaultTransferSettings();
-    add(wait);
-    menu.transferHost = 1;
-    add(menu);
-    EXPECT_EQ(unstorableEntries(script, HostType::VT), (std::vector<std::size_t>{2, 3, 8, 9}));
-    EXPECT_TRUE(unstorableEntries(script, HostType::ICL).empty());
-    script.entries.erase(script.entries.begin() + 8, script.entries.end());
-    script.entries.erase(script.entries.begin() + 2, script.entries.begin() + 4);
-    const ReadResult back = readScript(writeScript(script, HostType::VT));
-    EXPECT_EQ(back.script, script);
+TEST(ScriptWriter, setsTheMarkOfATransferBlock) {
+    const Bytes expected = joined({mainframe, transferRecord({}, 236)});
+    Bytes file = expected;
+    file[signatureSize + 9] = 7;
+    EXPECT_EQ(writeScript(readScript(file).script, HostType::Mainframe), expected);
 }
 
+TEST(ScriptWriter, knowsWhatVtCannotStore) {
+    Script script;
+    const auto add = [&](std::uint32_t id, const FileTransferSettings& settings,
+                         std::uint8_t host) {
+        const bool transfers = id == 236;
+        const Bytes menu =
+            transfers ? transferRecord(settings, id, 0, host) : joined({{2}, word(id), word(0)});
+        script.entries.push_back(storeRecord(menu));
+        script.entries.push_back(storeRecord(joined({{9, 0, 0, 0, 0, 0}, menu})));
+    };
+    for (const std::uint32_t id : {212U, 214U, 236U, 213U})
+        add(id, {}, 0);
+    add(236, defaultTransferSettings(), 0);
+    add(236, {}, 1);
+    EXPECT_EQ(unstorableEntries(script, HostType::VT),
+              (std::vector<std::size_t>{6, 7, 8, 9, 10, 11}));
+    EXPECT_TRUE(unstorableEntries(script, HostType::ICL).empty());
+    script.entries.resize(6);
+    EXPECT_EQ(readScript(writeScript(script, HostType::VT)).script, script);
+}
+
+}  // namespace
 }  // namespace quendra::test

@@ -21,22 +21,16 @@ nlohmann::json manifest() {
     return nlohmann::json::parse(stream);
 }
 
-// The manifest writes versions as a hexadecimal digit where the file has the ASCII characters
-// behind '9'.
-char versionCharacter(const std::string& digit) {
-    return digit[0] >= 'A' ? static_cast<char>(digit[0] - 'A' + ':') : digit[0];
-}
-
 Case readCase(const nlohmann::json& row) {
     const auto bytes = [&](const char* key) {
         return readBytes(casesFolder() / row.at(key).get<std::string>());
     };
     const Bytes lines = bytes("lines");
+    const Bytes file = bytes("file");
     return {row.at("name"),
             hostTypeOfName(row.at("host").get<std::string>()).value(),
-            versionCharacter(row.at("version")),
-            row.at("entries"),
-            bytes("file"),
+            static_cast<char>(file.at(7)),
+            file,
             bytes("expected"),
             linesOfText({lines.begin(), lines.end()}),
             row.at("openRows")};
@@ -48,8 +42,7 @@ const std::vector<Case>& frozenCases() {
     static const std::vector<Case> cases = [] {
         std::vector<Case> read;
         const nlohmann::json all = manifest();
-        for (const auto& row : all.at("cases"))
-            read.push_back(readCase(row));
+        std::ranges::transform(all.at("cases"), std::back_inserter(read), readCase);
         return read;
     }();
     return cases;
@@ -95,6 +88,17 @@ Bytes joined(std::initializer_list<Bytes> pieces) {
 
 Bytes counted(std::string_view text) {
     return joined({{static_cast<std::uint8_t>(text.size())}, bytesOf(text)});
+}
+
+Bytes hiddenTypeRecord(std::string_view text, const std::string& identity) {
+    const auto stored = HiddenTextCipher(identity).encipher(text).value();
+    return joined({{15}, counted(std::string(stored.begin(), stored.end())), {1}});
+}
+
+Bytes transferRecord(const FileTransferSettings& settings, std::uint32_t command,
+                     std::uint32_t data, std::uint8_t host) {
+    const Bytes block(settings.bytes.begin(), settings.bytes.end());
+    return joined({{2}, word(command), word(data), {3, host}, block});
 }
 
 Bytes word(std::uint32_t value) {

@@ -7,6 +7,7 @@
 #include "model/entry_display.h"
 #include "model/script.h"
 #include "scriptfile/hidden_text.h"
+#include "transfer/file_transfer_settings.h"
 
 #include <cstdint>
 #include <filesystem>
@@ -24,7 +25,6 @@ struct Case {
     std::string name;
     HostType hostType;
     char version;
-    std::size_t entries;
     Bytes file;
     Bytes expected;
     std::vector<std::string> lines;
@@ -47,6 +47,10 @@ void writeBytes(const std::filesystem::path& path, std::span<const std::uint8_t>
 /// A text with its length byte.
 [[nodiscard]] Bytes counted(std::string_view text);
 [[nodiscard]] Bytes word(std::uint32_t value);
+/// The records of a hidden Type and of a file transfer.
+[[nodiscard]] Bytes hiddenTypeRecord(std::string_view text, const std::string& identity);
+[[nodiscard]] Bytes transferRecord(const FileTransferSettings& settings, std::uint32_t command,
+                                   std::uint32_t data = 0, std::uint8_t host = 0);
 
 /// Catalogues whose texts are their ids in braces: "{12159}".
 struct NumberedNames {
