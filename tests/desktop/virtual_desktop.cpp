@@ -129,9 +129,13 @@ void startDrag(ScreenPoint from, ScreenPoint to) {
     act(words);
 }
 
+// Keys go to the window that the server gives the focus, the manager's own keys to the one that it
+// knows of already.
 std::string activeTitle() {
-    const auto title = xdotool({"getwindowfocus", "getwindowname"});
-    return title ? title->substr(0, title->find('\n')) : "";
+    const auto titles =
+        xdotool({"getwindowfocus", "getwindowname", "getactivewindow", "getwindowname"});
+    const std::string title = titles ? titles->substr(0, titles->find('\n')) : "";
+    return titles == title + '\n' + title + '\n' ? title : "";
 }
 
 void waitForTitle(const std::string& title) {
