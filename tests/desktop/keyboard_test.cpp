@@ -126,12 +126,12 @@ TEST_F(KeyboardTest, BuildsTheLogOnScriptAndASecondStartReadsWhatWasSaved) {
         buildSecondHalf();
         expectSaved("ctrl+s", "=logon", "logon.qds");
         press({"alt+F4"});
-        EXPECT_EQ(editor->exitCode(), 0);
+        EXPECT_EQ(editor->exitCodeAtEnd(), 0);
     }
     const auto again = open("logon.qds");
     expectSaved("ctrl+shift+s", "=again.qds", "again.qds");
     press({"ctrl+q"});
-    EXPECT_EQ(again->exitCode(), 0);
+    EXPECT_EQ(again->exitCodeAtEnd(), 0);
 }
 
 }  // namespace

@@ -85,8 +85,9 @@ TEST_F(WindowsTest, EndOfTheSessionKeepsTheChangesBesideTheScript) {
     expectScript("a (unsaved).qds", cut);
 }
 
-TEST_F(WindowsTest, UndoFindTheClipboardAndOpenAnswerToTheirKeys) {
+TEST_F(WindowsTest, UndoFindTheClipboardAndOpenAnswerToTheirKeysAlsoWithCapsLock) {
     const auto editor = open("a.qds");
+    press({"Caps_Lock"});
     const std::string changed = titleOf("a.qds", true);
     change();
     pressUntil({"ctrl+z"}, titleOf("a.qds"));
@@ -102,6 +103,7 @@ TEST_F(WindowsTest, UndoFindTheClipboardAndOpenAnswerToTheirKeys) {
     pressUntil({"ctrl+z"}, titleOf("a.qds"));
     // In the script's folder.
     pressUntil({"ctrl+o"}, "Open Script");
+    press({"Caps_Lock"});
     pressUntil({"=b.qds", "Return"}, titleOf("b.qds"));
 }
 

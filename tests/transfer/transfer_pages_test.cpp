@@ -1,10 +1,7 @@
 // The pages of the transfer settings: what is enabled when, what opening and ending the sheet does.
-#include "app/ui_text.h"
 #include "transfer/transfer_fixture.h"
 
 #include <QComboBox>
-#include <QDir>
-#include <QFileDialog>
 
 #include <algorithm>
 #include <cstdlib>
@@ -176,28 +173,6 @@ TEST_F(TransferSheetTest, BrowseAsksForAnExistingFileAndTakesOneThatCanBeStored)
     EXPECT_EQ(request.extension, "");
     EXPECT_EQ(request.initialFolder, editor.folder / "Transfer");
     EXPECT_EQ(request.initialFile, "old.txt");
-}
-
-TEST_F(TransferSheetTest, TheRealFileDialogStartsAtTheStoredName) {
-    const std::filesystem::path base = std::filesystem::canonical(editor.folder.path());
-    state.settings.transferDir = base / "Config";
-    const std::tuple<std::string, std::string, std::string> rows[] = {
-        {"", "Config", ""}, {"a.txt", "Config", "a.txt"}, {base / "b.txt", "", "b.txt"}};
-    const FileDialogHandler recorder = replaceFileDialogHandler({});
-    for (const auto& [name, folder, offered] : rows) {
-        setTransferText(settings, transfer::pcFileName, name);
-        steps.in("transferSheet", [](const OpenDialog& d) { d.click("browse"); });
-        steps.in("fileDialog", [&](const OpenDialog& d) {
-            const auto& files = static_cast<const QFileDialog&>(*d.dialog);
-            EXPECT_EQ(pathFromQt(files.directory().absolutePath()) / "", base / folder / "");
-            EXPECT_EQ(d.shown("fileNameEdit"), offered);
-            EXPECT_EQ(files.fileMode(), QFileDialog::ExistingFile);
-            d.dialog->reject();
-        });
-        open([](const OpenDialog&) {});
-        EXPECT_EQ(stored(transfer::pcFileName), name);
-    }
-    replaceFileDialogHandler(recorder);
 }
 
 TEST_F(TransferSheetTest, ASheetThatCannotBeMadeIsReportedAndChangesNothing) {
