@@ -88,7 +88,8 @@ void wipeVectorRegisters(const ucontext_t& context) noexcept {
     _fpx_sw_bytes extent = {};
     constexpr std::size_t extentAt = sizeof(*saved) - sizeof(extent);
     std::memcpy(&extent, reinterpret_cast<const std::byte*>(saved) + extentAt, sizeof(extent));
-    wipeMemory(saved->_st, sizeof(saved->_st) + sizeof(saved->_xmm));
+    wipeMemory(saved->_st, sizeof(saved->_st));
+    wipeMemory(saved->_xmm, sizeof(saved->_xmm));
     constexpr std::size_t extendedAt = sizeof(*saved) + sizeof(_xsave_hdr);
     if (extent.magic1 == FP_XSTATE_MAGIC1 && extent.xstate_size > extendedAt) {
         wipeMemory(reinterpret_cast<std::byte*>(saved) + extendedAt,
