@@ -104,13 +104,7 @@ class Storm {
         ASSERT_TRUE(focused < 0 || state.currentIndex == focused);
         ASSERT_FALSE(state.dropPending);
         ASSERT_FALSE(state.editing);
-        const bool selected = !window_.pane().selectedEntries().empty();
-        ASSERT_EQ(enabled("command302"), state.script.entryCount() > 0);
-        ASSERT_EQ(enabled("command305"), selected);
-        ASSERT_EQ(enabled("command307"), !state.entryClipboard.empty());
-        ASSERT_EQ(enabled("command312"), selected);
-        ASSERT_EQ(enabled("command321"), state.history.canUndo());
-        ASSERT_EQ(enabled("command322"), state.history.canRedo());
+        expectCommandsFit();
         expectQuiet();
         expectHistoryLeadsBackAndForth();
     }
@@ -129,6 +123,17 @@ class Storm {
     }
 
   private:
+    void expectCommandsFit() {
+        const ApplicationState& state = editor_.state;
+        const bool selected = !window_.pane().selectedEntries().empty();
+        ASSERT_EQ(enabled("command302"), state.script.entryCount() > 0);
+        ASSERT_EQ(enabled("command305"), selected);
+        ASSERT_EQ(enabled("command307"), !state.entryClipboard.empty());
+        ASSERT_EQ(enabled("command312"), selected);
+        ASSERT_EQ(enabled("command321"), state.history.canUndo());
+        ASSERT_EQ(enabled("command322"), state.history.canRedo());
+    }
+
     // Nothing is left of a drag, a dialog or a menu.
     void expectQuiet() {
         ASSERT_EQ(QApplication::activeModalWidget(), nullptr);

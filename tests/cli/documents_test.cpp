@@ -51,7 +51,7 @@ class Documents : public QdsTest {
 TEST_F(Documents, examplesAreWhatTheirSourcesBuildAndName) {
     int count = 0;
     for (const auto& entry : fs::directory_iterator(QUENDRA_EXAMPLES)) {
-        const fs::path source = entry.path();
+        const fs::path& source = entry.path();
         if (source.extension() != ".json") continue;
         SCOPED_TRACE(source);
         const Bytes script = readBytes(fs::path(source).replace_extension(".qds"));

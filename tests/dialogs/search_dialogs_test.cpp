@@ -11,7 +11,7 @@ class SearchTest : public SearchDialogTest {
 };
 
 TEST_F(SearchTest, ANewWaitForIsTypedAndItsTimeoutSwitchesTheActionsAtOnce) {
-    constexpr const char* actionParts = "thenButton thenLine elseButton elseLine timeoutSeconds";
+    const std::string actionParts = "thenButton thenLine elseButton elseLine timeoutSeconds";
     entry = newScriptEvent(CommandCode::WaitFor);
     ScriptEntry expected = entry;
     setText(slotFields(expected, Slot::Entry), "READY");
