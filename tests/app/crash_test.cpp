@@ -67,6 +67,8 @@ class CrashTest : public ::testing::Test {
                            QStringLiteral("handle_segv=0:handle_sigbus=0:handle_sigfpe=0:"
                                           "handle_sigill=0:handle_abort=0:"
                                           "max_free_fill_size=65536:free_fill_byte=0"));
+        // A program that lies in the temporary folder works in another one.
+        environment.insert(QStringLiteral("TMPDIR"), qtText(folder.path().string()));
         process.setProcessEnvironment(environment);
         process.setWorkingDirectory(qtText(folder.path().string()));
         process.start(programPath(program), arguments);

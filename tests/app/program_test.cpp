@@ -31,6 +31,8 @@ class ProgramTest : public testing::Test {
     void start(QProcess& program, const QStringList& arguments) {
         auto environment = QProcessEnvironment::systemEnvironment();
         environment.insert(QStringLiteral("XDG_RUNTIME_DIR"), at("run"));
+        // A program that lies in the temporary folder works in another one.
+        environment.insert(QStringLiteral("TMPDIR"), at(""));
         program.setProcessEnvironment(environment);
         program.setWorkingDirectory(at(""));
         program.start(editor, arguments);

@@ -26,6 +26,8 @@ std::unique_ptr<ChildProcess> EditorProcessTest::start(const std::string& script
     editor->setVariable("XDG_DATA_HOME", home_ / "data");
     editor->setVariable("XDG_CONFIG_DIRS", home_ / "etc");
     editor->setVariable("XDG_RUNTIME_DIR", home_ / "runtime");
+    // A program that lies in the temporary folder works in another one.
+    editor->setVariable("TMPDIR", home_.path());
     editor->setVariable("LC_ALL", "C.UTF-8");
     editor->setWorkingDirectory(QString::fromStdString(home_.path()));
     editor->setProcessChannelMode(QProcess::ForwardedChannels);
