@@ -64,6 +64,9 @@ class Editor {
     void repaintList() { list_->viewport()->repaint(); }
     [[nodiscard]] const Script& script() const { return state_.script; }
     [[nodiscard]] std::size_t whole() const { return whole_.entryCount(); }
+    /// Keeps the script as it is for prepared(), apart from what is timed.
+    void markPrepared() { prepared_ = state_.script; }
+    [[nodiscard]] const Script& prepared() const { return prepared_; }
 
   private:
     void showFrom(std::size_t focused);
@@ -71,6 +74,7 @@ class Editor {
 
     ApplicationState state_;
     Script whole_;
+    Script prepared_;
     std::unique_ptr<MainWindow> window_;
     std::unique_ptr<ScriptEditor> commands_;
     QListView* list_ = nullptr;
@@ -160,9 +164,9 @@ struct Action {
     std::size_t (*entriesAfter)(std::size_t whole);
 };
 
-void check(const Action& action, const Script& before, const Editor& editor) {
+void check(const Action& action, const Editor& editor) {
     if (editor.script().entryCount() != action.entriesAfter(editor.whole()) ||
-        editor.script() == before) {
+        editor.script() == editor.prepared()) {
         throw std::runtime_error(std::string(action.name) + " did not do what it should");
     }
 }
@@ -227,56 +231,54 @@ const std::vector<Action>& actions() {
     return all;
 }
 
-Editor& editorOf(std::size_t entries) {
-    static Editor few(fewEntries);
-    static Editor most(maxEntries);
-    return entries == fewEntries ? few : most;
-}
+struct Editors {
+    Editor few{fewEntries};
+    Editor most{maxEntries};
+    /// Only its list is painted.
+    Editor untouched{maxEntries};
+};
 
 void prepare(const Action& action, Editor& editor) {
     editor.reset();
     action.prepare(editor);
     editor.waitUntilPainted();
+    editor.markPrepared();
 }
 
 void perform(const Action& action, Editor& editor) {
-    const Script before = editor.script();
     action.perform(editor);
     editor.waitUntilPainted();
-    check(action, before, editor);
+    check(action, editor);
 }
 
-void untilPainted(benchmark::State& state, const Action& action, Goal goal) {
-    static Editor untouched(maxEntries);
-    Editor& editor = editorOf(maxEntries);
+void untilPainted(benchmark::State& state, const Action& action, Editors& editors, Goal goal) {
     comparePair(
-        state, [&] { untouched.repaintList(); }, [&] { perform(action, editor); },
-        [&] { prepare(action, editor); }, goal);
+        state, [&] { editors.untouched.repaintList(); }, [&] { perform(action, editors.most); },
+        [&] { prepare(action, editors.most); }, goal);
 }
 
-void growth(benchmark::State& state, const Action& action) {
-    Editor& few = editorOf(fewEntries);
-    Editor& most = editorOf(maxEntries);
+void growth(benchmark::State& state, const Action& action, Editors& editors) {
     comparePair(
-        state, [&] { perform(action, few); }, [&] { perform(action, most); },
+        state, [&] { perform(action, editors.few); }, [&] { perform(action, editors.most); },
         [&] {
-            prepare(action, few);
-            prepare(action, most);
+            prepare(action, editors.few);
+            prepare(action, editors.most);
         },
         {.ratio = 5});
 }
 
-void registerAll() {
+void registerAll(Editors& editors) {
     for (const Action& action : actions()) {
         const bool isEdit = std::string_view(action.name) == "edit";
         const Goal goal{.ratio = isEdit ? 1.7 : 0, .microseconds = frame};
         const std::string name = action.name;
-        benchmark::RegisterBenchmark((name + "/painted").c_str(), [&action,
+        benchmark::RegisterBenchmark((name + "/painted").c_str(), [&action, &editors,
                                                                    goal](benchmark::State& state) {
-            untilPainted(state, action, goal);
+            untilPainted(state, action, editors, goal);
         })->UseManualTime();
-        benchmark::RegisterBenchmark((name + "/4096_over_1024").c_str(),
-                                     [&action](benchmark::State& state) { growth(state, action); })
+        benchmark::RegisterBenchmark(
+            (name + "/4096_over_1024").c_str(),
+            [&action, &editors](benchmark::State& state) { growth(state, action, editors); })
             ->UseManualTime();
     }
 }
@@ -292,6 +294,7 @@ int main(int argc, char** argv) {
     quendra::applyAppearance(quendra::Appearance::Light);
     quendra::replaceMessageHandler(
         [](QWidget*, const quendra::Message&) { return quendra::MessageAnswer::Yes; });
-    quendra::bench::registerAll();
+    quendra::bench::Editors editors;
+    quendra::bench::registerAll(editors);
     benchmark::RunSpecifiedBenchmarks();
 }
