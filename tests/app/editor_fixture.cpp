@@ -4,9 +4,7 @@
 
 #include <QApplication>
 
-#include <algorithm>
 #include <fstream>
-#include <iterator>
 
 namespace quendra::test {
 
@@ -25,25 +23,6 @@ EditorState::EditorState(const std::string& language) {
     if (notice) throw std::runtime_error(notice->text);
     state.luCatalogues = buildLuCatalogues(state.language.textSource());
     state.menuCommands = buildMenuCommandCatalogue(state.language.textSource());
-}
-
-Bytes commentRecord(std::string_view text) {
-    return joined({Bytes{6}, counted(text)});
-}
-
-Bytes menuRecord(std::uint32_t commandId) {
-    return joined({Bytes{2}, word(commandId), word(0)});
-}
-
-Bytes scriptFile(std::string_view signature, std::initializer_list<Bytes> records) {
-    return joined({bytesOf(signature), joined(records)});
-}
-
-Bytes commentFile(std::size_t count) {
-    Bytes file = bytesOf("QDMDSCR=");
-    for (std::size_t i = 1; i <= count; ++i)
-        std::ranges::copy(commentRecord(std::to_string(i)), std::back_inserter(file));
-    return file;
 }
 
 namespace {

@@ -30,15 +30,6 @@ struct EditorState {
     ApplicationState state;
 };
 
-/// A Comment record with this text, as a file holds it.
-[[nodiscard]] Bytes commentRecord(std::string_view text);
-/// A record of a menu command without parameters.
-[[nodiscard]] Bytes menuRecord(std::uint32_t commandId);
-/// A current file: signature and records.
-[[nodiscard]] Bytes scriptFile(std::string_view signature, std::initializer_list<Bytes> records);
-/// A current Mainframe file with so many Comments "1", "2", ...
-[[nodiscard]] Bytes commentFile(std::size_t count);
-
 /// Answers message boxes and file dialogs while it lives, and keeps what was asked. A question
 /// without a prepared answer fails the test and is answered with Cancel.
 class Answers {

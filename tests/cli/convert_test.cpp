@@ -17,8 +17,7 @@ class Convert : public QdsTest {};
 TEST_F(Convert, switchesTheHostTypeUnlessItCannotStoreAnEntry) {
     const std::string out = file("out.qds", bytesOf("keep me"));
     // Menu command 213, which VT emulators lack, behind another entry.
-    const std::string source =
-        file("a.qds", scriptFile("QDMDSCR=", {beep, {2}, word(213), word(0)}));
+    const std::string source = file("a.qds", scriptFile("QDMDSCR=", {beep, menuRecord(213)}));
     const QdsRun refused = runQds({"convert", "--host", "vt", "--output", out, source});
     EXPECT_EQ(refused.status, 1);
     EXPECT_TRUE(
@@ -29,9 +28,9 @@ TEST_F(Convert, switchesTheHostTypeUnlessItCannotStoreAnEntry) {
         runQds({"convert", "--host", "vt", "--allow-loss", "--output", out, source});
     EXPECT_EQ(lossy.status, 1);
     EXPECT_EQ(lossy.err, refused.err);
-    EXPECT_EQ(readBytes(out), scriptFile("QDVTSCR=", {beep, {2}, word(211), word(0)}));
+    EXPECT_EQ(readBytes(out), scriptFile("QDVTSCR=", {beep, menuRecord(211)}));
     EXPECT_EQ(runQds({"convert", "--host", "icl", "--output", out, source}).status, 0);
-    EXPECT_EQ(readBytes(out), scriptFile("QD7DSCR=", {beep, {2}, word(213), word(0)}));
+    EXPECT_EQ(readBytes(out), scriptFile("QD7DSCR=", {beep, menuRecord(213)}));
 }
 
 TEST_F(Convert, writesNothingForAFileThatIsNotWhole) {

@@ -39,7 +39,7 @@ std::vector<std::pair<const char*, Bytes>> extremes() {
     const TripleDesCbc cipher(deriveTripleDesKey(frozenIdentity()).value());
     const Bytes withoutNul = cipher.encipher(bytesOf("abcde")).value();
     return {
-        {"text of every byte", joined({{6}, counted(everyByte)})},
+        {"text of every byte", commentRecord(everyByte)},
         {"empty code", {0}},
         {"longest Input", joined({{8}, title, word(1023), Bytes(1023, '\\'), {255, 2, 255}})},
         {"unknown variables", {9, 0, 6, 0, 255, 0, 0}},
@@ -111,9 +111,9 @@ TEST_F(JsonForm, givesBackAFullScriptAndWhatVtStores) {
         full.insert(full.end(), record.begin(), record.end());
     EXPECT_EQ(throughJson(full), full);
     // A file transfer in a VT script has no settings; its stored number is another.
-    const Bytes vt = scriptFile("QDVTSCR=", {joined({{2}, word(234), word(5)}),
-                                             joined({{2}, word(217), word(0), counted("c")}),
-                                             joined({{2}, word(267), word(0)})});
+    const Bytes vt =
+        scriptFile("QDVTSCR=", {joined({{2}, word(234), word(5)}),
+                                joined({{2}, word(217), word(0), counted("c")}), menuRecord(267)});
     EXPECT_EQ(throughJson(vt), vt);
 }
 

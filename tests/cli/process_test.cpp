@@ -24,7 +24,7 @@ class Process : public QdsTest {
 };
 
 TEST_F(Process, readsAStreamAndFindsTheLanguageLibraryFromAnyFolderAndLocale) {
-    file("in.qds", scriptFile("QDMDSCR=", {joined({{2}, word(201), word(0)})}));
+    file("in.qds", scriptFile("QDMDSCR=", {menuRecord(201)}));
     EXPECT_EQ(run("show - <in.qds >out 2>err"), 0);
     EXPECT_EQ(readBytes(file("out")), bytesOf("New Session\n"));
     EXPECT_EQ(readBytes(file("err")), bytesOf(""));

@@ -50,9 +50,4 @@ class QdsTest : public testing::Test {
     const TemporaryFolder folder_;
 };
 
-/// A current script file of a host type: the signature and these records.
-[[nodiscard]] inline Bytes scriptFile(const char* signature, std::initializer_list<Bytes> records) {
-    return joined({bytesOf(signature), joined(records)});
-}
-
 }  // namespace quendra::test

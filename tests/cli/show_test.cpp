@@ -6,7 +6,7 @@
 namespace quendra::test {
 namespace {
 
-const Bytes comment = joined({{6}, counted("one")});
+const Bytes comment = commentRecord("one");
 const Bytes beep = {4};
 
 class Show : public QdsTest {};

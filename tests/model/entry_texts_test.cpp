@@ -18,7 +18,7 @@ TEST(EntryLine, showsWhatAnEntryMeansAndNeverAHiddenText) {
     const std::pair<Bytes, const char*> rows[] = {
         {{0}, ""},
         {{1, 4, 1}, "<Lu Function 4/1>"},
-        {joined({{2}, word(300), word(0)}), "<Menu Command 300>"},
+        {menuRecord(300), "<Menu Command 300>"},
         {{9, 0, 6, 0, 5, 0, 0}, "If_Input_Is  = VarUserPrompt"},
         {joined({{8}, counted("Title"), word(0), {255, 0, 6}}), "Input Title As "},
         {joined({{15}, counted("p\xE4ss"), {0}}), "Type \"p\u00E4ss\""},

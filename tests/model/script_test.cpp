@@ -53,7 +53,7 @@ TEST(Script, removesAndMovesEntriesAsOneByOne) {
 
 TEST(EntryHandle, wipesARecordWithItsLastHandleOnly) {
     EntryHandle kept = numbered(1);
-    EntryHandle first = storeRecord(joined({{6}, counted("canary-in-a-comment")}));
+    EntryHandle first = storeRecord(commentRecord("canary-in-a-comment"));
     const std::uint8_t* memory = first.record().data();
     const std::size_t size = first.record().size();
     EntryHandle second = first;
@@ -67,7 +67,7 @@ TEST(EntryHandle, wipesARecordWithItsLastHandleOnly) {
 }
 
 TEST(EntryHandle, ofARecordInPlaceKeepsTheBytesAndWipesItsOwn) {
-    const Bytes bytes = joined({{6}, counted("first"), {6}, counted("second")});
+    const Bytes bytes = joined({commentRecord("first"), commentRecord("second")});
     SecretPages pages(bytes.size());
     std::ranges::copy(bytes, pages.data());
     const std::uint8_t* memory = pages.data();

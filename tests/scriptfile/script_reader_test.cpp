@@ -122,8 +122,7 @@ TEST(ScriptWriter, knowsWhatVtCannotStore) {
     const auto add = [&](std::uint32_t id, const FileTransferSettings& settings,
                          std::uint8_t host) {
         const bool transfers = id == 236;
-        const Bytes menu =
-            transfers ? transferRecord(settings, id, 0, host) : joined({{2}, word(id), word(0)});
+        const Bytes menu = transfers ? transferRecord(settings, id, 0, host) : menuRecord(id);
         script.entries.push_back(storeRecord(menu));
         script.entries.push_back(storeRecord(joined({{9, 0, 0, 0, 0, 0}, menu})));
     };

@@ -90,6 +90,14 @@ Bytes counted(std::string_view text) {
     return joined({{static_cast<std::uint8_t>(text.size())}, bytesOf(text)});
 }
 
+Bytes commentRecord(std::string_view text) {
+    return joined({Bytes{6}, counted(text)});
+}
+
+Bytes menuRecord(std::uint32_t commandId) {
+    return joined({Bytes{2}, word(commandId), word(0)});
+}
+
 Bytes hiddenTypeRecord(std::string_view text, const std::string& identity) {
     const auto stored = HiddenTextCipher(identity).encipher(text).value();
     return joined({{15}, counted(std::string(stored.begin(), stored.end())), {1}});
@@ -99,6 +107,17 @@ Bytes transferRecord(const FileTransferSettings& settings, std::uint32_t command
                      std::uint32_t data, std::uint8_t host) {
     const Bytes block(settings.bytes.begin(), settings.bytes.end());
     return joined({{2}, word(command), word(data), {3, host}, block});
+}
+
+Bytes scriptFile(std::string_view signature, std::initializer_list<Bytes> records) {
+    return joined({bytesOf(signature), joined(records)});
+}
+
+Bytes commentFile(std::size_t count) {
+    Bytes file = bytesOf("QDMDSCR=");
+    for (std::size_t i = 1; i <= count; ++i)
+        std::ranges::copy(commentRecord(std::to_string(i)), std::back_inserter(file));
+    return file;
 }
 
 Bytes word(std::uint32_t value) {

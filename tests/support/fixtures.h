@@ -11,6 +11,7 @@
 
 #include <cstdint>
 #include <filesystem>
+#include <initializer_list>
 #include <span>
 #include <string>
 #include <string_view>
@@ -47,10 +48,18 @@ void writeBytes(const std::filesystem::path& path, std::span<const std::uint8_t>
 /// A text with its length byte.
 [[nodiscard]] Bytes counted(std::string_view text);
 [[nodiscard]] Bytes word(std::uint32_t value);
+/// A Comment record with this text, as a file holds it, and one of a menu command without
+/// parameters.
+[[nodiscard]] Bytes commentRecord(std::string_view text);
+[[nodiscard]] Bytes menuRecord(std::uint32_t commandId);
 /// The records of a hidden Type and of a file transfer.
 [[nodiscard]] Bytes hiddenTypeRecord(std::string_view text, const std::string& identity);
 [[nodiscard]] Bytes transferRecord(const FileTransferSettings& settings, std::uint32_t command,
                                    std::uint32_t data = 0, std::uint8_t host = 0);
+/// A current file: signature and records.
+[[nodiscard]] Bytes scriptFile(std::string_view signature, std::initializer_list<Bytes> records);
+/// A current Mainframe file with so many Comments "1", "2", ...
+[[nodiscard]] Bytes commentFile(std::size_t count);
 
 /// Catalogues whose texts are their ids in braces: "{12159}".
 struct NumberedNames {
