@@ -1,6 +1,6 @@
 // Loading, saving, formatting, hidden texts and bulk edits, each beside what the machine can do at
 // best.
-#include "model/entry_display.h"
+#include "analysis/entry_display.h"
 #include "pair.h"
 #include "sample_scripts.h"
 #include "scriptfile/entry_codec.h"

@@ -1,15 +1,15 @@
 // Edits in the real window, from the command to the finished painting: beside a bare repaint of the
 // script list, within a frame of the screen, and growing with the script rather than with its
 // square. Without QT_QPA_PLATFORM it needs no screen.
-#include "app/appearance.h"
-#include "app/commands.h"
 #include "app/main_window.h"
-#include "app/message_box.h"
 #include "app/script_editor.h"
-#include "app/ui_text.h"
 #include "pair.h"
 #include "sample_scripts.h"
 #include "scriptfile/entry_codec.h"
+#include "session/commands.h"
+#include "widgets/appearance.h"
+#include "widgets/message_box.h"
+#include "widgets/ui_text.h"
 
 #include <QApplication>
 #include <QItemSelectionModel>

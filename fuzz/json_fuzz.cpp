@@ -1,7 +1,7 @@
 // The JSON form of a script from any bytes: refused, or a script that its own form gives back.
 
-#include "cli/json_text.h"
-#include "cli/script_json.h"
+#include "forms/json_text.h"
+#include "forms/script_json.h"
 #include "scriptfile/script_reader.h"
 #include "scriptfile/script_writer.h"
 

@@ -1,6 +1,6 @@
 // Any bytes at all: they are refused or loaded, what was loaded is stored and read back alike, and
 // every entry survives being taken apart, shown and stored again.
-#include "model/entry_display.h"
+#include "analysis/entry_display.h"
 #include "scriptfile/entry_codec.h"
 #include "scriptfile/script_reader.h"
 #include "scriptfile/script_writer.h"

@@ -1,6 +1,6 @@
 // Compiles the icons for the program: "icon-compiler OUTPUT.cpp NAME.svg..." writes the drawings as
 // the tables that drawings() gives.
-#include "app/drawing.h"
+#include "widgets/drawing.h"
 
 #include <QCoreApplication>
 #include <QFile>
@@ -153,7 +153,7 @@ bool addDrawing(Tables& tables, const QString& file) {
 bool write(const Tables& tables, const QString& output) {
     QFile file(output);
     if (!file.open(QIODevice::WriteOnly)) return false;
-    file.write("#include \"app/drawing.h\"\n\nnamespace quendra {\nnamespace {\n\n");
+    file.write("#include \"widgets/drawing.h\"\n\nnamespace quendra {\nnamespace {\n\n");
     file.write("constexpr PathStep steps[] = {\n" + tables.steps + "};\n\n");
     file.write("constexpr DrawnShape shapes[] = {\n" + tables.shapes + "};\n\n");
     file.write("constexpr Drawing rows[] = {\n" + tables.drawings + "};\n\n}  // namespace\n\n");

@@ -1,9 +1,9 @@
 #include "app/about_box.h"
 
-#include "app/placement.h"
-#include "app/startup_settings.h"
-#include "app/symbol_icon.h"
-#include "app/ui_text.h"
+#include "session/startup_settings.h"
+#include "widgets/placement.h"
+#include "widgets/symbol_icon.h"
+#include "widgets/ui_text.h"
 
 #include <QDialogButtonBox>
 #include <QHBoxLayout>

@@ -1,7 +1,7 @@
 // The About box.
 #pragma once
 
-#include "platform/language_library.h"
+#include "text/language_library.h"
 
 #include <QDialog>
 

@@ -1,21 +1,19 @@
 #include "app/crash_reporter.h"
 
-#include "app/appearance.h"
-#include "app/crash_message.h"
-#include "app/message_box.h"
-#include "platform/crash_dump.h"
-#include "platform/crash_handler.h"
+#include "platform/crash/dump.h"
+#include "platform/crash/handler.h"
+#include "platform/process.h"
+#include "session/crash_message.h"
+#include "widgets/appearance.h"
+#include "widgets/message_box.h"
 
 #include <QApplication>
 
 #include <algorithm>
-#include <cerrno>
 #include <cstdio>
+#include <ctime>
 #include <string>
 #include <string_view>
-#include <sys/resource.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
 namespace quendra {
 
@@ -37,28 +35,12 @@ void withoutReturns(std::string& text) {
     std::erase(text, '\r');
 }
 
-[[noreturn]] void showBox(int& argc, char** argv, const std::string& text) {
-    // The toolkit ends a program that finds no display, and that is no second crash.
-    const rlimit noCore = {0, 0};
-    ::setrlimit(RLIMIT_CORE, &noCore);
+void showBox(int& argc, char** argv, const std::string& text) {
     const QApplication application(argc, argv);
     QGuiApplication::setDesktopFileName(QStringLiteral("quendra-script-editor"));
     applyAppearance({});
     showMessage(nullptr,
                 {text, "Program Exception", MessageIcon::Exclamation, MessageButtons::Ok, false});
-    ::_exit(0);
-}
-
-// In a process of its own, for the toolkit may end it.
-bool showOnScreen(int& argc, char** argv, const std::string& text) {
-    const pid_t box = ::fork();
-    if (box == 0) showBox(argc, argv, text);
-    if (box < 0) return false;
-    int status = 0;
-    while (::waitpid(box, &status, 0) < 0) {
-        if (errno != EINTR) return false;
-    }
-    return WIFEXITED(status) && WEXITSTATUS(status) == 0;
 }
 
 std::tm localTimeNow() {
@@ -95,7 +77,8 @@ std::optional<int> reportCrash(int& argc, char** argv) {
     withoutReturns(text);
     // The arguments are no business of the toolkit's.
     argc = 1;
-    if (!screen || !showOnScreen(argc, argv, text)) std::fprintf(stderr, "%s\n", text.c_str());
+    const bool shown = screen && runApart([&] { showBox(argc, argv, text); });
+    if (!shown) std::fprintf(stderr, "%s\n", text.c_str());
     return 0;
 }
 

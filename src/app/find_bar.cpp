@@ -1,7 +1,7 @@
 #include "app/find_bar.h"
 
-#include "app/ui_text.h"
-#include "model/entry_search.h"
+#include "analysis/entry_search.h"
+#include "widgets/ui_text.h"
 
 #include <QKeyEvent>
 #include <QLabel>

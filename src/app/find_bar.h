@@ -1,8 +1,8 @@
 // The bar under the lists that finds entries by their texts while one is typed.
 #pragma once
 
-#include "app/application_state.h"
-#include "app/editor_pane.h"
+#include "app/pane/editor_pane.h"
+#include "session/application_state.h"
 
 #include <QToolBar>
 

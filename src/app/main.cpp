@@ -1,21 +1,21 @@
 // The desktop editor's start: what has to be known before the window, the window, and the end.
-#include "app/appearance.h"
-#include "app/application_life.h"
-#include "app/command_line.h"
-#include "app/commands.h"
 #include "app/crash_reporter.h"
-#include "app/document.h"
-#include "app/end_signals.h"
 #include "app/font_search.h"
-#include "app/help/editor_help.h"
 #include "app/main_window.h"
-#include "app/message_box.h"
 #include "app/screenshot.h"
 #include "app/script_editor.h"
-#include "app/startup.h"
-#include "app/symbol_icon.h"
-#include "app/toolkit_language.h"
+#include "help/editor_help.h"
 #include "platform/editor_windows.h"
+#include "platform/end_signals.h"
+#include "session/application_life.h"
+#include "session/command_line.h"
+#include "session/commands.h"
+#include "session/document.h"
+#include "session/startup.h"
+#include "widgets/appearance.h"
+#include "widgets/message_box.h"
+#include "widgets/symbol_icon.h"
+#include "widgets/toolkit_language.h"
 
 #include <QApplication>
 #include <QSocketNotifier>
@@ -96,7 +96,8 @@ int runWindow(ApplicationState& state, ShownWindow& shown, const CommandLine& li
     const std::optional<OpenOutcome> opening = applyCommandLine(state, line);
     MainWindow window(state, [&fontSettings] { fontSettings.wait(); });
     const ScriptEditor editor(state, window, editParameters);
-    const EditorHelp help(state, window);
+    EditorHelp help(state);
+    window.setHelpCommands(help.commands());
     shown = {&state, &window};
     bool ended = false;
     const EndSignals endSignals([&] {

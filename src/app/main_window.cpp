@@ -1,14 +1,15 @@
 #include "app/main_window.h"
 
 #include "app/about_box.h"
-#include "app/command_states.h"
-#include "app/commands.h"
-#include "app/file_dialogs.h"
+#include "app/command_facts.h"
 #include "app/find_bar.h"
-#include "app/placement.h"
-#include "app/status_line.h"
-#include "app/symbol_icon.h"
-#include "app/ui_text.h"
+#include "session/commands.h"
+#include "widgets/file_dialogs.h"
+#include "widgets/message_box.h"
+#include "widgets/placement.h"
+#include "widgets/status_line.h"
+#include "widgets/symbol_icon.h"
+#include "widgets/ui_text.h"
 
 #include <QAction>
 #include <QActionGroup>
@@ -214,7 +215,9 @@ void MainWindow::dispatch(int command) {
         case command::saveAs: saveAs(); return;
         case command::exit: QMetaObject::invokeMethod(this, "close", Qt::QueuedConnection); return;
         case command::help: return runIfSet(help_.showHelp);
-        case command::helpOnSelection: return runIfSet(help_.helpOnSelection);
+        case command::helpOnSelection:
+            if (help_.helpOn) help_.helpOn(selectedCommand(state_, *pane_));
+            return;
         case command::find: return findBar_->open();
         case command::about: AboutBox(state_.language, this).exec(); return;
         default: return dispatchEditing(command);

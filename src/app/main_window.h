@@ -2,10 +2,11 @@
 // commands.
 #pragma once
 
-#include "app/application_state.h"
-#include "app/document.h"
 #include "app/editing_commands.h"
-#include "app/editor_pane.h"
+#include "app/pane/editor_pane.h"
+#include "help/editor_help.h"
+#include "session/application_state.h"
+#include "session/document.h"
 
 #include <QMainWindow>
 
@@ -21,12 +22,6 @@ namespace quendra {
 
 class FindBar;
 class StatusLine;
-
-/// What the help commands do; a command whose function is empty does nothing.
-struct HelpCommands {
-    std::function<void()> showHelp;
-    std::function<void()> helpOnSelection;
-};
 
 class MainWindow : public QMainWindow {
     Q_OBJECT

@@ -2,7 +2,7 @@
 // there is no screen.
 #pragma once
 
-#include "app/appearance.h"
+#include "widgets/appearance.h"
 
 #include <QSize>
 #include <QString>

@@ -1,12 +1,12 @@
 #include "app/script_editor.h"
 
-#include "app/command_states.h"
-#include "app/document.h"
-#include "app/file_dialogs.h"
 #include "app/main_window.h"
-#include "app/message_box.h"
-#include "app/ui_text.h"
-#include "platform/text_encoding.h"
+#include "session/command_states.h"
+#include "session/document.h"
+#include "text/text_encoding.h"
+#include "widgets/file_dialogs.h"
+#include "widgets/message_box.h"
+#include "widgets/ui_text.h"
 
 #include <QClipboard>
 #include <QGuiApplication>

@@ -4,7 +4,7 @@
 
 #include "app/editing_commands.h"
 #include "dialogs/parameter_dialogs.h"
-#include "model/editing.h"
+#include "session/editing.h"
 
 #include <QObject>
 

@@ -1,9 +1,9 @@
 // qds build: a script from its JSON form.
 
-#include "cli/json_text.h"
 #include "cli/loss_report.h"
 #include "cli/qds.h"
-#include "cli/script_json.h"
+#include "forms/json_text.h"
+#include "forms/script_json.h"
 #include "platform/registry.h"
 #include "scriptfile/script_writer.h"
 

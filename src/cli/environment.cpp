@@ -1,8 +1,8 @@
 #include "cli/environment.h"
 
 #include "cli/command_line.h"
-#include "platform/text_encoding.h"
 #include "scriptfile/script_files.h"
+#include "text/text_encoding.h"
 
 #include <algorithm>
 #include <fstream>

@@ -2,10 +2,10 @@
 #pragma once
 
 #include "hosts/lu_catalogue.h"
-#include "hosts/menu_catalogue.h"
+#include "model/menu_catalogue.h"
 #include "platform/files.h"
-#include "platform/language_library.h"
 #include "scriptfile/script_reader.h"
+#include "text/language_library.h"
 
 #include <cstdint>
 #include <filesystem>

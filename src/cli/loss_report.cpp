@@ -1,10 +1,10 @@
 #include "cli/loss_report.h"
 
-#include "model/entry_display.h"
+#include "analysis/entry_display.h"
 #include "platform/registry.h"
-#include "platform/text_encoding.h"
 #include "scriptfile/entry_codec.h"
 #include "scriptfile/script_writer.h"
+#include "text/text_encoding.h"
 
 namespace quendra::cli {
 

@@ -1,11 +1,11 @@
 // qds show: the lines of scripts, as the script list of the editor shows them.
 
+#include "analysis/entry_display.h"
 #include "cli/qds.h"
-#include "cli/script_json.h"
-#include "model/entry_display.h"
+#include "forms/script_json.h"
 #include "platform/registry.h"
-#include "platform/text_encoding.h"
 #include "scriptfile/entry_codec.h"
+#include "text/text_encoding.h"
 
 #include <iomanip>
 

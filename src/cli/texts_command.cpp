@@ -1,8 +1,8 @@
 // qds texts: every text that the program asks the language library for.
 
 #include "cli/qds.h"
-#include "platform/string_ids.h"
-#include "platform/text_encoding.h"
+#include "text/string_ids.h"
+#include "text/text_encoding.h"
 
 namespace quendra::cli {
 

@@ -1,7 +1,7 @@
 #include "dialogs/action_choice.h"
 
-#include "hosts/menu_catalogue.h"
-#include "transfer/transfer_sheet_page.h"
+#include "dialogs/transfer/transfer_sheet_page.h"
+#include "model/menu_catalogue.h"
 
 namespace quendra {
 
@@ -18,7 +18,7 @@ bool editTransfer(const DialogContext& context, const SlotFields& action, std::u
     working.direction =
         commandId == sendFileCommand ? TransferDirection::Send : TransferDirection::Receive;
     std::uint8_t host = action.transferHost;
-    if (!editTransferSettings(context, host, working.direction)) return false;
+    if (!editTransferSettings(context.state, context.window, host, working.direction)) return false;
     working.host = host;
     action.transferHost = host;
     action.transferSettings = working.settings;

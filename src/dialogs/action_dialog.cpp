@@ -1,7 +1,7 @@
 // The Action dialog: chooses the then or else action of a Wait_For or an If_Input_Is.
-#include "app/ui_text.h"
 #include "dialogs/action_choice.h"
 #include "dialogs/action_chooser.h"
+#include "widgets/ui_text.h"
 
 namespace quendra {
 

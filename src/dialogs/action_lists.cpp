@@ -1,8 +1,8 @@
 #include "dialogs/action_lists.h"
 
-#include "app/palette_model.h"
-#include "app/pane_list.h"
-#include "app/ui_text.h"
+#include "widgets/palette_model.h"
+#include "widgets/pane_list.h"
+#include "widgets/ui_text.h"
 
 #include <QGridLayout>
 #include <QItemSelectionModel>

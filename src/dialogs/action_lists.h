@@ -2,8 +2,8 @@
 // host type, Menu Commands.
 #pragma once
 
-#include "app/application_state.h"
 #include "dialogs/action_rules.h"
+#include "session/application_state.h"
 
 #include <QWidget>
 

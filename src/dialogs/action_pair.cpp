@@ -1,8 +1,8 @@
 #include "dialogs/action_pair.h"
 
-#include "app/script_list_model.h"
-#include "app/ui_text.h"
-#include "platform/text_encoding.h"
+#include "text/text_encoding.h"
+#include "widgets/tool_tip.h"
+#include "widgets/ui_text.h"
 
 #include <QGridLayout>
 #include <QHelpEvent>

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "dialogs/parameter_dialogs.h"
-#include "platform/language_library.h"
+#include "text/language_library.h"
 
 #include <QGroupBox>
 

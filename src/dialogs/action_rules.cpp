@@ -1,6 +1,6 @@
 #include "dialogs/action_rules.h"
 
-#include "hosts/menu_catalogue.h"
+#include "model/menu_catalogue.h"
 
 #include <algorithm>
 

@@ -2,11 +2,11 @@
 // lacks, what is selected at the start, and the refusals. Plain values, no widgets.
 #pragma once
 
-#include "app/message_box.h"
 #include "hosts/host_type.h"
 #include "hosts/lu_catalogue.h"
 #include "model/script_entry.h"
-#include "platform/language_library.h"
+#include "text/language_library.h"
+#include "widgets/message_box.h"
 
 #include <cstdint>
 #include <optional>

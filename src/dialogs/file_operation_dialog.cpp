@@ -1,7 +1,7 @@
 // Run and the menu commands that take a file name.
-#include "app/file_dialogs.h"
-#include "app/ui_text.h"
 #include "dialogs/command_dialogs.h"
+#include "widgets/file_dialogs.h"
+#include "widgets/ui_text.h"
 
 #include <QHBoxLayout>
 #include <QLabel>

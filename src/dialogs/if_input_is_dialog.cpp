@@ -1,9 +1,9 @@
 // The If_Input_Is dialog: two values to compare, each a variable or a literal, and what to do when
 // they are equal or not.
-#include "app/ui_text.h"
 #include "dialogs/action_pair.h"
 #include "dialogs/compare_operand.h"
 #include "dialogs/parameter_dialog.h"
+#include "widgets/ui_text.h"
 
 #include <QComboBox>
 #include <QLabel>

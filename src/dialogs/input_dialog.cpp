@@ -1,6 +1,6 @@
 // Input: what the script asks its user for.
-#include "app/ui_text.h"
 #include "dialogs/command_dialogs.h"
+#include "widgets/ui_text.h"
 
 #include <QCheckBox>
 #include <QComboBox>

@@ -1,10 +1,10 @@
 #include "dialogs/parameter_dialog.h"
 
-#include "app/placement.h"
-#include "app/symbol_icon.h"
-#include "app/ui_text.h"
-#include "dialogs/input_note.h"
-#include "dialogs/mnemonics.h"
+#include "widgets/input_note.h"
+#include "widgets/mnemonics.h"
+#include "widgets/placement.h"
+#include "widgets/symbol_icon.h"
+#include "widgets/ui_text.h"
 
 #include <QAccessible>
 #include <QApplication>

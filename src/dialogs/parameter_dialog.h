@@ -3,12 +3,12 @@
 // record. None of them needs the dialog to be on the screen.
 #pragma once
 
-#include "app/message_box.h"
-#include "dialogs/input_fault.h"
-#include "dialogs/number_edit.h"
 #include "dialogs/parameter_dialogs.h"
-#include "dialogs/prompt_edit.h"
-#include "dialogs/text_edit.h"
+#include "widgets/input_fault.h"
+#include "widgets/message_box.h"
+#include "widgets/number_edit.h"
+#include "widgets/prompt_edit.h"
+#include "widgets/text_edit.h"
 
 #include <QDialog>
 

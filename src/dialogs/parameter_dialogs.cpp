@@ -2,7 +2,7 @@
 #include "dialogs/parameter_dialogs.h"
 
 #include "dialogs/command_dialogs.h"
-#include "transfer/transfer_sheet_page.h"
+#include "dialogs/transfer/transfer_sheet_page.h"
 
 namespace quendra {
 
@@ -24,7 +24,7 @@ bool editTransfer(const DialogContext& context, const EditTarget& target) {
     working.direction =
         fields.commandId == sendFileCommand ? TransferDirection::Send : TransferDirection::Receive;
     std::uint8_t host = fields.transferHost;
-    if (!editTransferSettings(context, host, working.direction)) return false;
+    if (!editTransferSettings(context.state, context.window, host, working.direction)) return false;
     working.host = host;
     fields.transferHost = host;
     fields.transferSettings = working.settings;

@@ -2,8 +2,8 @@
 // of one entry.
 #pragma once
 
-#include "app/application_state.h"
 #include "model/script_entry.h"
+#include "session/application_state.h"
 
 class QWidget;
 

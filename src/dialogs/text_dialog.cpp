@@ -1,7 +1,7 @@
 // Comment, Goto, Label, Message, Express_Logon and Type: one text.
-#include "app/ui_text.h"
 #include "dialogs/command_dialogs.h"
 #include "platform/registry.h"
+#include "widgets/ui_text.h"
 
 #include <QCheckBox>
 #include <QLabel>

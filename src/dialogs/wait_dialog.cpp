@@ -1,6 +1,6 @@
 // Wait and Wait_Ready: one number.
-#include "app/ui_text.h"
 #include "dialogs/command_dialogs.h"
+#include "widgets/ui_text.h"
 
 #include <QLabel>
 #include <QVBoxLayout>

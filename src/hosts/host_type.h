@@ -1,7 +1,7 @@
 // The six kinds of host terminal that a script can be written for.
 #pragma once
 
-#include "platform/language_library.h"
+#include "text/language_library.h"
 
 #include <array>
 #include <cstdint>

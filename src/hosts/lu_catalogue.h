@@ -2,7 +2,7 @@
 #pragma once
 
 #include "hosts/host_type.h"
-#include "platform/language_library.h"
+#include "text/language_library.h"
 
 #include <array>
 #include <cstdint>

@@ -7,8 +7,8 @@
 #pragma once
 
 #include "model/command_catalogue.h"
+#include "model/file_transfer_settings.h"
 #include "platform/secret_memory.h"
-#include "transfer/file_transfer_settings.h"
 
 #include <array>
 #include <cstdint>

@@ -257,4 +257,10 @@ std::optional<FileFailure> copyFile(const fs::path& from, const fs::path& to) {
     return std::nullopt;
 }
 
+OwnerOnly::OwnerOnly() : before_(::umask(S_IRWXG | S_IRWXO)) {}
+
+OwnerOnly::~OwnerOnly() {
+    ::umask(before_);
+}
+
 }  // namespace quendra

@@ -67,6 +67,18 @@ struct ReplaceResult {
 [[nodiscard]] ReplaceResult replaceFile(const std::filesystem::path& path,
                                         std::span<const std::uint8_t> bytes, OldFile oldFile);
 
+/// New files that this process makes while one lives can be read and written by their owner only.
+class OwnerOnly {
+  public:
+    OwnerOnly();
+    ~OwnerOnly();
+    OwnerOnly(const OwnerOnly&) = delete;
+    OwnerOnly& operator=(const OwnerOnly&) = delete;
+
+  private:
+    unsigned before_;
+};
+
 /// Puts a copy of the file `from`, with its mode, at `to` by the same way. None when it is there;
 /// also when both are the same file, which is left alone.
 [[nodiscard]] std::optional<FileFailure> copyFile(const std::filesystem::path& from,

@@ -4,6 +4,9 @@
 #include <QProcess>
 #include <QStringList>
 
+#include <cerrno>
+#include <sys/resource.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 namespace quendra {
@@ -22,6 +25,27 @@ QString fromSystem(const std::string& text) {
 }
 
 }  // namespace
+
+std::filesystem::path programFile() {
+    std::error_code error;
+    return std::filesystem::read_symlink("/proc/self/exe", error);
+}
+
+bool runApart(const std::function<void()>& work) {
+    const pid_t process = ::fork();
+    if (process < 0) return false;
+    if (process == 0) {
+        const rlimit noCore = {0, 0};
+        ::setrlimit(RLIMIT_CORE, &noCore);
+        work();
+        ::_exit(0);
+    }
+    int status = 0;
+    while (::waitpid(process, &status, 0) < 0) {
+        if (errno != EINTR) return false;
+    }
+    return WIFEXITED(status) && WEXITSTATUS(status) == 0;
+}
 
 std::optional<std::string> startDetached(const std::string& program,
                                          const std::vector<std::string>& arguments) {

@@ -1,11 +1,21 @@
-// Other programs: started and left alone.
+// This program's file, and other programs: started and left alone.
 #pragma once
 
+#include <filesystem>
+#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
 
 namespace quendra {
+
+/// The file of the program that runs, links followed; empty when the system does not tell.
+[[nodiscard]] std::filesystem::path programFile();
+
+/// Does `work` in a process of its own, a copy of this one, and waits for it. True when it came
+/// back; a failure that ends it ends nothing else, and leaves no core file. For a process of one
+/// thread.
+[[nodiscard]] bool runApart(const std::function<void()>& work);
 
 /// Starts a program, looked for on $PATH when its name holds no "/", with its arguments. It runs in
 /// a session of its own in the current directory with this process's variables and none of its open

@@ -1,7 +1,7 @@
 // The IND$FILE command line: what the host side of a file transfer is started with.
 #pragma once
 
-#include "transfer/file_transfer_settings.h"
+#include "model/file_transfer_settings.h"
 
 #include <cstdint>
 #include <string>

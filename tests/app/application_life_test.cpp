@@ -1,5 +1,5 @@
 // Beginning and end of a run, and the copy of a saved script.
-#include "app/application_life.h"
+#include "session/application_life.h"
 
 #include "support/fixtures.h"
 #include "support/temporary_folder.h"

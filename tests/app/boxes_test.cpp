@@ -1,8 +1,8 @@
 // The real message boxes and file dialogs, answered by keys as a user would.
-#include "app/file_dialogs.h"
-#include "app/message_box.h"
 #include "support/fixtures.h"
 #include "support/temporary_folder.h"
+#include "widgets/file_dialogs.h"
+#include "widgets/message_box.h"
 
 #include <QApplication>
 #include <QLineEdit>

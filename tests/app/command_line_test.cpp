@@ -1,5 +1,5 @@
 // Arguments that may be options of the Windows kind, options of the usual kind, or paths.
-#include "app/command_line.h"
+#include "session/command_line.h"
 
 #include <gtest/gtest.h>
 #include <set>

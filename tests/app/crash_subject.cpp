@@ -1,15 +1,15 @@
 // A program that crashes on demand, with the reporter of the real editor:
 //     crash_subject WAY DUMP-FOLDER
-#include "app/application_life.h"
-#include "app/commands.h"
 #include "app/crash_canaries.h"
 #include "app/crash_reporter.h"
 #include "app/main_window.h"
 #include "app/script_editor.h"
-#include "app/ui_text.h"
 #include "dialogs/parameter_dialogs.h"
-#include "platform/crash_handler.h"
+#include "platform/crash/handler.h"
 #include "platform/secret_memory.h"
+#include "session/application_life.h"
+#include "session/commands.h"
+#include "widgets/ui_text.h"
 
 #include <QApplication>
 #include <QCheckBox>

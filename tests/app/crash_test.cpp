@@ -1,10 +1,10 @@
 // Crashes of a whole process: what is told, what the dump holds, and how the process ends.
 #include "app/crash_canaries.h"
-#include "app/ui_text.h"
-#include "platform/crash_fault.h"
+#include "platform/crash/fault.h"
 #include "scriptfile/entry_codec.h"
 #include "scriptfile/script_files.h"
 #include "support/temporary_folder.h"
+#include "widgets/ui_text.h"
 
 #include <QCoreApplication>
 #include <QProcess>

@@ -1,5 +1,5 @@
 // New, Open, Save and Save As without a window: nothing that was read or made is lost.
-#include "app/document.h"
+#include "session/document.h"
 
 #include "app/editor_fixture.h"
 #include "support/full_disk.h"

@@ -1,6 +1,6 @@
 #include "app/editor_fixture.h"
 
-#include "app/ui_text.h"
+#include "widgets/ui_text.h"
 
 #include <QApplication>
 

@@ -2,13 +2,13 @@
 // answers for every question that it may ask.
 #pragma once
 
-#include "app/file_dialogs.h"
 #include "app/main_window.h"
-#include "app/message_box.h"
-#include "app/pane_list.h"
 #include "app/script_editor.h"
 #include "support/fixtures.h"
 #include "support/temporary_folder.h"
+#include "widgets/file_dialogs.h"
+#include "widgets/message_box.h"
+#include "widgets/pane_list.h"
 
 #include <QAction>
 #include <QLabel>

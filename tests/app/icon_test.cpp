@@ -1,5 +1,5 @@
 // The icon set: every bitmap id has a drawing of its own.
-#include "app/symbol_icon.h"
+#include "widgets/symbol_icon.h"
 
 #include <QIcon>
 #include <QImage>

@@ -1,7 +1,7 @@
 // Drags between the lists of the pane, with the mouse on the real window.
-#include "app/drag_image.h"
-#include "app/drop_rules.h"
+#include "app/pane/drag_image.h"
 #include "app/pane_fixture.h"
+#include "session/drop_rules.h"
 
 #include <QApplication>
 #include <QCursor>

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "app/editor_fixture.h"
-#include "app/editor_pane.h"
+#include "app/pane/editor_pane.h"
 
 #include <QMainWindow>
 #include <QTest>

@@ -1,7 +1,7 @@
 // The editor pane without drags: what its lists show, and what keys, clicks and the functions of
 // the pane do to focus, selection and current position.
+#include "app/pane/pane_layout.h"
 #include "app/pane_fixture.h"
-#include "app/pane_layout.h"
 
 #include <QApplication>
 #include <QClipboard>

@@ -1,8 +1,8 @@
 // Where folders, flags and help settings come from, each case in a home folder of its own; and to
 // which help they lead.
-#include "app/startup.h"
+#include "session/startup.h"
 
-#include "app/help/configured_help.h"
+#include "help/configured_help.h"
 #include "support/temporary_folder.h"
 
 #include <fstream>

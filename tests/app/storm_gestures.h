@@ -2,8 +2,8 @@
 #pragma once
 
 #include "app/editor_fixture.h"
-#include "app/pane_list.h"
 #include "app/storm_hands.h"
+#include "widgets/pane_list.h"
 
 #include <QMenu>
 #include <QToolButton>

@@ -2,7 +2,7 @@
 // in docs/format.md the bytes and lines of one, the numbers and names of keys and menu commands,
 // and where the fields of a transfer lie.
 #include "cli/qds_run.h"
-#include "transfer/file_transfer_settings.h"
+#include "model/file_transfer_settings.h"
 
 #include <algorithm>
 #include <nlohmann/json.hpp>

@@ -1,7 +1,7 @@
 // A script shown as JSON and built again is the same file, byte for byte.
 #include "cli/qds_run.h"
+#include "model/file_transfer_settings.h"
 #include "scriptfile/hidden_text.h"
-#include "transfer/file_transfer_settings.h"
 
 #include <algorithm>
 #include <nlohmann/json.hpp>

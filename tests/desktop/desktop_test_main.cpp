@@ -1,6 +1,6 @@
 // Runs the tests on a desktop of their own, those with windows of this process and the others.
-#include "app/appearance.h"
 #include "desktop/virtual_desktop.h"
+#include "widgets/appearance.h"
 
 #include <QApplication>
 

@@ -1,6 +1,6 @@
 // Runs the tests without a screen, in a home folder that holds nothing of the user's.
-#include "app/appearance.h"
 #include "support/temporary_folder.h"
+#include "widgets/appearance.h"
 
 #include <QApplication>
 #include <QLocale>

@@ -1,6 +1,6 @@
 #include "dialogs/look_checks.h"
 
-#include "app/appearance.h"
+#include "widgets/appearance.h"
 
 #include <QAbstractButton>
 #include <QApplication>

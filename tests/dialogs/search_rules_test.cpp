@@ -1,7 +1,7 @@
 // The rules behind the choice of an action and the operands of a comparison, on plain values.
 #include "dialogs/action_rules.h"
 #include "dialogs/compare_operand.h"
-#include "hosts/menu_catalogue.h"
+#include "model/menu_catalogue.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
 // The line edit of all texts: its limits, and how it hides a text.
-#include "dialogs/text_edit.h"
+#include "widgets/text_edit.h"
 
 #include "dialogs/dialog_fixture.h"
 #include "platform/secret_memory.h"

@@ -1,9 +1,9 @@
 // Random sequences of all editing operations, on entries with every kind of field: undone to the
 // start they give the bytes of the start, and redone those of the end.
-#include "model/editing.h"
 #include "model/fake_view.h"
 #include "scriptfile/script_reader.h"
 #include "scriptfile/script_writer.h"
+#include "session/editing.h"
 #include "support/fixtures.h"
 
 #include <gtest/gtest.h>

@@ -1,5 +1,5 @@
 // The editing operations over plain lists and prepared dialog answers.
-#include "model/editing.h"
+#include "session/editing.h"
 
 #include "model/fake_view.h"
 #include "scriptfile/entry_codec.h"

@@ -1,7 +1,7 @@
 // Display lines that the frozen files do not reach, what a search finds in them, and what it must
 // never find.
-#include "model/entry_display.h"
-#include "model/entry_search.h"
+#include "analysis/entry_display.h"
+#include "analysis/entry_search.h"
 #include "scriptfile/entry_codec.h"
 #include "support/fixtures.h"
 

@@ -1,7 +1,7 @@
 // A view for the editing operations whose lists, palettes and dialogs are plain values.
 #pragma once
 
-#include "model/editing.h"
+#include "session/editing.h"
 
 #include <functional>
 #include <utility>

@@ -2,7 +2,7 @@
 // the history of steps. Random edits undone and redone: see editing_property_test.cpp.
 #include "model/script.h"
 
-#include "model/undo_history.h"
+#include "session/undo_history.h"
 #include "support/fixtures.h"
 
 #include <algorithm>

@@ -1,5 +1,5 @@
 // Which library is loaded from where, and what callers get when there is none.
-#include "platform/language_library.h"
+#include "text/language_library.h"
 
 #include "support/temporary_folder.h"
 

@@ -1,7 +1,7 @@
 // The texts of every language library: all there, usable where they are used, with one
 // mnemonic each in a menu. Mnemonics of dialogs are looked at in the dialogs themselves.
-#include "platform/string_ids.h"
 #include "support/fixtures.h"
+#include "text/string_ids.h"
 
 #include <QRegularExpression>
 #include <QTranslator>

@@ -1,6 +1,6 @@
 // windows-1252 and UTF-8, what a terminal may see, and texts of translators, who make mistakes.
-#include "platform/format_text.h"
-#include "platform/text_encoding.h"
+#include "text/format_text.h"
+#include "text/text_encoding.h"
 
 #include <gtest/gtest.h>
 

@@ -1,13 +1,13 @@
 // The frozen script files and small makers of bytes and entries.
 #pragma once
 
+#include "analysis/entry_display.h"
 #include "hosts/host_type.h"
 #include "hosts/lu_catalogue.h"
-#include "hosts/menu_catalogue.h"
-#include "model/entry_display.h"
+#include "model/file_transfer_settings.h"
+#include "model/menu_catalogue.h"
 #include "model/script.h"
 #include "scriptfile/hidden_text.h"
-#include "transfer/file_transfer_settings.h"
 
 #include <cstdint>
 #include <filesystem>

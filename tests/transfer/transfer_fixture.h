@@ -2,9 +2,9 @@
 #pragma once
 
 #include "dialogs/dialog_fixture.h"
-#include "platform/text_encoding.h"
-#include "transfer/file_transfer_settings.h"
-#include "transfer/transfer_sheet_page.h"
+#include "dialogs/transfer/transfer_sheet_page.h"
+#include "model/file_transfer_settings.h"
+#include "text/text_encoding.h"
 
 namespace quendra::test {
 
@@ -22,9 +22,8 @@ class TransferSheetTest : public DialogContextTest {
             work(d);
             if (d.dialog->isVisible()) d.dialog->reject();
         });
-        return steps.run([this] {
-            return editTransferSettings({state, nullptr}, host, TransferDirection::Send);
-        });
+        return steps.run(
+            [this] { return editTransferSettings(state, nullptr, host, TransferDirection::Send); });
     }
     [[nodiscard]] std::string stored(const TransferField& field) const {
         return utf8FromWindows1252(transferText(settings, field));

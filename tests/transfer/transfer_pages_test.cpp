@@ -180,7 +180,7 @@ TEST_F(TransferSheetTest, ASheetThatCannotBeMadeIsReportedAndChangesNothing) {
     const FileTransferSettings before = settings;
     host = transferHostTso;
     nextAllocationFails = true;
-    EXPECT_FALSE(editTransferSettings({state, nullptr}, host, TransferDirection::Send));
+    EXPECT_FALSE(editTransferSettings(state, nullptr, host, TransferDirection::Send));
     EXPECT_EQ(settings, before);
     EXPECT_EQ(host, transferHostTso);
     ASSERT_EQ(answers.messages.size(), 1U);

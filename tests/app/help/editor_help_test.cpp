@@ -1,11 +1,11 @@
 // The Help command, help on the selection, and F1 in every dialog, while the dialog is open.
-#include "app/help/editor_help.h"
+#include "help/editor_help.h"
 
 #include "app/editor_fixture.h"
-#include "app/help/help_window.h"
 #include "app/help/made_up_manual.h"
-#include "app/help/page_view.h"
 #include "dialogs/parameter_dialogs.h"
+#include "help/help_window.h"
+#include "help/page_view.h"
 
 #include <QDialog>
 #include <QListView>
@@ -22,7 +22,10 @@ namespace {
 
 class EditorHelpTest : public EditorTest {
   protected:
-    EditorHelpTest() { state.settings.programDir = pages.bin(); }
+    EditorHelpTest() {
+        state.settings.programDir = pages.bin();
+        window.setHelpCommands(help.commands());
+    }
 
     [[nodiscard]] static HelpWindow* manual() {
         for (QWidget* widget : QApplication::topLevelWidgets()) {
@@ -66,7 +69,7 @@ class EditorHelpTest : public EditorTest {
                                          return starts;
                                      },
                                      [](const std::string&) { return false; }};
-    EditorHelp help{state, window, launchers};
+    EditorHelp help{state, launchers};
 };
 
 TEST_F(EditorHelpTest, HelpOpensTheManualOfAPlainInstallationAndLeavesTheFocusInThePane) {

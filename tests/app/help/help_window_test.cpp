@@ -1,9 +1,9 @@
 // The manual's window, by keys and mouse.
-#include "app/help/help_window.h"
+#include "help/help_window.h"
 
 #include "app/editor_fixture.h"
 #include "app/help/made_up_manual.h"
-#include "app/help/page_view.h"
+#include "help/page_view.h"
 
 #include <QLabel>
 #include <QLineEdit>

@@ -1,7 +1,7 @@
 // A small manual in a folder of its own, for tests.
 #pragma once
 
-#include "app/help/manual.h"
+#include "help/manual.h"
 #include "support/temporary_folder.h"
 
 #include <fstream>

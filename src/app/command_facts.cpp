@@ -1,0 +1,51 @@
+#include "app/command_facts.h"
+
+namespace quendra {
+
+namespace {
+
+std::optional<std::string> selectedText(const EditorPane& pane, Palette palette) {
+    const int row = pane.selectedRow(palette);
+    if (row < 0) return std::nullopt;
+    return pane.paletteText(palette, row).toStdString();
+}
+
+}  // namespace
+
+CommandFacts commandFacts(const ApplicationState& state, const EditorPane& pane) {
+    CommandFacts facts;
+    facts.entryCount = state.script.entryCount();
+    facts.selectedCount = pane.selectedEntries().size();
+    facts.clipboardCount = state.entryClipboard.size();
+    const int focused = pane.focusedEntry();
+    if (focused >= 0 && static_cast<std::size_t>(focused) < facts.entryCount) {
+        const auto index = static_cast<std::size_t>(focused);
+        facts.editSource = editSource(state.script.entries[index], state.cipher);
+        facts.focusedLine = pane.entryText(focused).toStdString();
+    }
+    if (state.history.canUndo()) facts.undoStep = state.history.undoName();
+    if (state.history.canRedo()) facts.redoStep = state.history.redoName();
+    facts.selectedEvent = selectedText(pane, Palette::ScriptEvents);
+    facts.selectedLuFunction = selectedText(pane, Palette::LuFunctions);
+    facts.selectedMenuCommand = selectedText(pane, Palette::MenuCommands);
+    return facts;
+}
+
+std::optional<CommandCode> selectedCommand(const ApplicationState& state, const EditorPane& pane) {
+    const std::optional<Palette> palette = pane.focusedPalette();
+    if (!palette) {
+        const int entry = pane.focusedEntry();
+        if (entry < 0 || pane.selectedEntries().empty()) return std::nullopt;
+        return state.script.entries[static_cast<std::size_t>(entry)].code();
+    }
+    const int row = pane.selectedRow(*palette);
+    if (row < 0) return std::nullopt;
+    switch (*palette) {
+        case Palette::LuFunctions: return CommandCode::LuFunction;
+        case Palette::MenuCommands: return CommandCode::MenuCommand;
+        case Palette::ScriptEvents: break;
+    }
+    return scriptEvents()[static_cast<std::size_t>(row)].code;
+}
+
+}  // namespace quendra

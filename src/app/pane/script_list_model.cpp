@@ -1,0 +1,68 @@
+#include "app/pane/script_list_model.h"
+
+#include "scriptfile/entry_codec.h"
+#include "text/text_encoding.h"
+#include "widgets/symbol_icon.h"
+#include "widgets/tool_tip.h"
+
+#include <QBrush>
+#include <QGuiApplication>
+#include <QPalette>
+
+#include <algorithm>
+#include <utility>
+
+namespace quendra {
+namespace {
+
+QString lineOf(const ScriptEntry& entry, const ApplicationState& state) {
+    return QString::fromStdString(
+        escapeControlCharacters(formatEntryLine(entry, state.displayNames())));
+}
+
+// Faint enough for the text of either palette to stay readable on it.
+QBrush markBrush() {
+    QColor colour = accentColor(QGuiApplication::palette());
+    colour.setAlpha(56);
+    return colour;
+}
+
+}  // namespace
+
+ScriptListModel::ScriptListModel(const ApplicationState& state, QObject* parent)
+    : QAbstractListModel(parent),
+      state_(state),
+      rows_(static_cast<int>(state.script.entryCount())) {}
+
+void ScriptListModel::reload() {
+    beginResetModel();
+    rows_ = static_cast<int>(state_.script.entryCount());
+    endResetModel();
+}
+
+void ScriptListModel::markRows(std::vector<std::size_t> rows) {
+    if (rows == marked_) return;
+    marked_ = std::move(rows);
+    if (rows_ > 0) Q_EMIT dataChanged(index(0), index(rows_ - 1), {Qt::BackgroundRole});
+}
+
+int ScriptListModel::rowCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : rows_;
+}
+
+QVariant ScriptListModel::data(const QModelIndex& index, int role) const {
+    const auto row = static_cast<std::size_t>(index.row());
+    if (!index.isValid() || row >= state_.script.entryCount()) return {};
+    if (role == Qt::BackgroundRole) {
+        return std::ranges::binary_search(marked_, row) ? QVariant(markBrush()) : QVariant();
+    }
+    if (role != Qt::DisplayRole && role != Qt::DecorationRole && role != Qt::ToolTipRole) return {};
+    const ScriptEntry entry = unpackEntry(state_.script.entries[row], state_.cipher);
+    switch (role) {
+        case Qt::DisplayRole: return lineOf(entry, state_);
+        case Qt::ToolTipRole: return wrappingToolTip(lineOf(entry, state_));
+        default: return bitmapIcon(bitmapIdOf(entry.commandCode, entry.commandId));
+    }
+}
+
+}  // namespace quendra

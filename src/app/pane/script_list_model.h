@@ -1,0 +1,37 @@
+// The rows of the script list: each line is made when it is asked for.
+#pragma once
+
+#include "session/application_state.h"
+
+#include <QAbstractListModel>
+
+#include <vector>
+
+namespace quendra {
+
+class ScriptListModel : public QAbstractListModel {
+    Q_OBJECT
+
+  public:
+    /// `state` outlives the model.
+    explicit ScriptListModel(const ApplicationState& state, QObject* parent = nullptr);
+
+    /// Shows the script as it is now. Between two calls the number of rows stays as it was,
+    /// whatever happens to the script.
+    void reload();
+
+    /// Marks these rows (ascending), and no others, with a background of their own.
+    void markRows(std::vector<std::size_t> rows);
+
+    [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
+    /// The display text is one line, with control characters escaped; the tool tip is the same
+    /// text, ready to wrap.
+    [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
+
+  private:
+    const ApplicationState& state_;
+    int rows_ = 0;
+    std::vector<std::size_t> marked_;
+};
+
+}  // namespace quendra

@@ -1,0 +1,47 @@
+// The JSON form of a script: lossless, for review, version control and pipelines.
+//
+// {"hostType": "Mainframe", "entries": [{"command": "Wait_For", ...}, ...]}
+#pragma once
+
+#include "hosts/host_type.h"
+#include "hosts/lu_catalogue.h"
+#include "model/menu_catalogue.h"
+#include "model/script.h"
+#include "scriptfile/hidden_text.h"
+
+#include <iosfwd>
+#include <nlohmann/json_fwd.hpp>
+#include <string>
+
+namespace quendra::cli {
+
+/// What printing needs beside the script.
+struct JsonPrinting {
+    const LuCatalogue& luFunctions;
+    const MenuCommandCatalogue& menuCommands;
+    const HiddenTextCipher& cipher;
+    /// Hidden texts are printed; otherwise they are null, and what comes out cannot be built.
+    bool reveal = false;
+};
+
+/// Prints the JSON form with every field of every entry, without a line break at its end. A hidden
+/// text that the cipher does not open is null with its enciphered bytes beside it.
+void printScript(std::ostream& out, const Script& script, HostType hostType,
+                 const JsonPrinting& printing);
+
+/// A script made from its JSON form, or why it was refused: entry (from 1), slot, field and what is
+/// wrong with it, never the value.
+struct ScriptOfJson {
+    std::string refusal;
+    HostType hostType = HostType::Mainframe;
+    Script script;
+
+    [[nodiscard]] bool ok() const { return refusal.empty(); }
+};
+
+/// Fields left out are those of a new entry. Gives back the very records that printScript was
+/// given when hidden texts were revealed and the cipher is the same.
+[[nodiscard]] ScriptOfJson scriptOfJson(const nlohmann::ordered_json& form,
+                                        const HiddenTextCipher& cipher);
+
+}  // namespace quendra::cli

@@ -1,0 +1,278 @@
+#include "help/help_window.h"
+
+#include "help/page_finder.h"
+#include "help/page_view.h"
+#include "widgets/placement.h"
+#include "widgets/symbol_icon.h"
+#include "widgets/ui_text.h"
+
+#include <QAction>
+#include <QKeyEvent>
+#include <QScreen>
+#include <QScrollBar>
+#include <QSplitter>
+#include <QToolBar>
+#include <QUrl>
+#include <QVBoxLayout>
+
+#include <algorithm>
+#include <array>
+#include <utility>
+
+namespace quendra {
+
+namespace {
+
+constexpr StringId titleText = 15343;
+constexpr StringId backText = 15344;
+constexpr StringId forwardText = 15345;
+constexpr StringId startText = 15346;
+constexpr StringId missingTitle = 15353;
+constexpr StringId missingText = 15354;
+constexpr StringId noManualText = 15355;
+constexpr StringId pageText = 15356;
+constexpr StringId largerText = 15357;
+constexpr StringId smallerText = 15358;
+
+constexpr int backIcon = 401;
+constexpr int forwardIcon = 402;
+constexpr int startIcon = 403;
+constexpr int zoomInIcon = 229;
+constexpr int zoomOutIcon = 230;
+
+constexpr int normalZoom = 100;
+
+// What Markdown takes as its own in a text that is not.
+QString escaped(const QString& text) {
+    QString result;
+    for (const QChar c : text) {
+        if (c.unicode() < 128 && c.isPunct()) result += u'\\';
+        result += c;
+    }
+    return result;
+}
+
+}  // namespace
+
+HelpWindow::HelpWindow(Manual manual, LanguageLibrary& language,
+                       std::function<void(const QString&)> openAddress)
+    : manual_(std::move(manual)), language_(language), openAddress_(std::move(openAddress)) {
+    setObjectName(QStringLiteral("helpWindow"));
+    setWindowIcon(programIcon());
+    setAttribute(Qt::WA_QuitOnClose, false);
+    constexpr QSize comfortable{1020, 720};
+    resize(comfortable.boundedTo(screen()->availableSize()));
+    build();
+    centreOnScreen(*this);
+}
+
+QString HelpWindow::text(StringId id, std::initializer_list<std::string> args) const {
+    return qtText(libraryText(language_, id, args));
+}
+
+void HelpWindow::build() {
+    finder_ = new PageFinder(manual_, language_);
+    connect(finder_, &PageFinder::pageChosen, this, [this](const QString& page) {
+        goTo({page, {}, 0});
+    });
+    connect(finder_, &PageFinder::hitChosen, this,
+            [this](const QString& page, const QStringList& words) {
+                goTo({page, {}, 0});
+                view_->markWords(words);
+            });
+    connect(finder_, &PageFinder::searchEnded, this, [this] { view_->markWords({}); });
+    auto* split = new QSplitter;
+    split->setObjectName(QStringLiteral("helpSplitter"));
+    split->setChildrenCollapsible(false);
+    split->addWidget(finder_);
+    split->addWidget(buildPage());
+    split->setStretchFactor(0, 0);
+    split->setStretchFactor(1, 1);
+    const int left = std::min(fontMetrics().averageCharWidth() * 48, width() / 3);
+    split->setSizes({left, width() - left});
+    auto* all = new QVBoxLayout(this);
+    all->setContentsMargins(8, 8, 8, 8);
+    all->addWidget(split);
+}
+
+QWidget* HelpWindow::buildPage() {
+    view_ = new PageView;
+    view_->setObjectName(QStringLiteral("helpPage"));
+    view_->setAccessibleName(text(pageText));
+    // Queued, since another page takes the place of the document that is handling the click.
+    connect(view_, &QTextBrowser::anchorClicked, this, &HelpWindow::followLink,
+            Qt::QueuedConnection);
+    auto* right = new QWidget;
+    right->setObjectName(QStringLiteral("helpRight"));
+    auto* all = new QVBoxLayout(right);
+    all->setContentsMargins(0, 0, 0, 0);
+    all->addWidget(buildBar());
+    all->addWidget(view_, 1);
+    return right;
+}
+
+QToolBar* HelpWindow::buildBar() {
+    back_ = addCommand("helpBack", backIcon, backText, {Qt::ALT | Qt::Key_Left, Qt::Key_Back},
+                       &HelpWindow::goBack);
+    forward_ = addCommand("helpForward", forwardIcon, forwardText,
+                          {Qt::ALT | Qt::Key_Right, Qt::Key_Forward}, &HelpWindow::goForward);
+    QAction* start = addCommand("helpStart", startIcon, startText, {Qt::ALT | Qt::Key_Home},
+                                &HelpWindow::goToStart);
+    QAction* smaller = addCommand("helpSmaller", zoomOutIcon, smallerText,
+                                  {Qt::CTRL | Qt::Key_Minus}, &HelpWindow::zoomOut);
+    QAction* larger =
+        addCommand("helpLarger", zoomInIcon, largerText,
+                   {Qt::CTRL | Qt::Key_Plus, Qt::CTRL | Qt::Key_Equal}, &HelpWindow::zoomIn);
+    addKeys();
+    auto* bar = new QToolBar;
+    bar->setObjectName(QStringLiteral("helpBar"));
+    bar->setIconSize({20, 20});
+    bar->addActions({back_, forward_, start});
+    bar->addSeparator();
+    bar->addActions({smaller, larger});
+    for (QAction* action : {back_, forward_, start, smaller, larger}) {
+        QWidget* button = bar->widgetForAction(action);
+        button->setObjectName(action->objectName() + QLatin1String("Button"));
+        // Each has a key of its own, and Tab leads from the search to the page.
+        button->setFocusPolicy(Qt::NoFocus);
+    }
+    return bar;
+}
+
+// What has no button.
+void HelpWindow::addKeys() {
+    addCommand("helpNormal", 0, 0, {Qt::CTRL | Qt::Key_0}, &HelpWindow::zoomNormal);
+    addCommand("helpFocusSearch", 0, 0, {QKeySequence(QKeySequence::Find)},
+               &HelpWindow::focusSearch);
+    addCommand("helpNextPart", 0, 0, {Qt::Key_F6}, &HelpWindow::focusNext);
+    addCommand("helpPreviousPart", 0, 0, {Qt::SHIFT | Qt::Key_F6}, &HelpWindow::focusPrevious);
+}
+
+QAction* HelpWindow::addCommand(const char* name, int icon, StringId toolTip,
+                                const QList<QKeySequence>& keys, void (HelpWindow::*act)()) {
+    auto* action = new QAction(this);
+    action->setObjectName(QLatin1String(name));
+    if (icon != 0) action->setIcon(bitmapIcon(icon));
+    if (toolTip != 0) action->setText(text(toolTip));
+    action->setShortcuts(keys);
+    connect(action, &QAction::triggered, this, act);
+    addAction(action);
+    return action;
+}
+
+void HelpWindow::open(const QString& page, const QString& heading) {
+    goTo({page, heading, 0});
+    show();
+    setWindowState(windowState() & ~Qt::WindowMinimized);
+    raise();
+    activateWindow();
+    if (focusWidget() == nullptr) view_->setFocus();
+}
+
+void HelpWindow::goTo(const Place& place) {
+    const bool isThis = place.page == place_.page && place.heading == place_.heading;
+    if (!place_.page.isEmpty() && !isThis) {
+        place_.scrolled = view_->verticalScrollBar()->value();
+        behind_.push_back(place_);
+        ahead_.clear();
+    }
+    showPlace(place);
+}
+
+void HelpWindow::showPlace(const Place& place) {
+    place_ = place;
+    const QString file = manual_.fileOf(place.page);
+    const QString markdown = manual_.markdownOf(place.page);
+    QString title = manual_.titleOf(place.page);
+    if (markdown.isEmpty()) {
+        title = text(missingTitle);
+        showMissing(place.page);
+    } else {
+        view_->showPage(markdown, file.section(u'/', 0, -2));
+    }
+    setWindowTitle(text(titleText, {title.toStdString()}));
+    finder_->selectPage(place.page);
+    back_->setEnabled(!behind_.empty());
+    forward_->setEnabled(!ahead_.empty());
+    if (!place.heading.isEmpty() && view_->scrollToHeading(place.heading)) return;
+    if (place.scrolled > 0) view_->verticalScrollBar()->setValue(place.scrolled);
+}
+
+void HelpWindow::showMissing(const QString& page) {
+    const bool hasManual = !manual_.contents().empty();
+    const QString what = hasManual ? page : manual_.folder();
+    const QString sentence =
+        text(hasManual ? missingText : noManualText, {escaped(what).toStdString()});
+    view_->showPage(QStringLiteral("# %1\n\n%2").arg(text(missingTitle), sentence), {});
+}
+
+void HelpWindow::followLink(const QUrl& link) {
+    if (!link.isRelative()) {
+        openAddress_(link.toString(QUrl::FullyEncoded));
+        return;
+    }
+    const QString page = link.path().isEmpty() ? place_.page : link.fileName();
+    goTo({page, link.fragment(QUrl::FullyDecoded), 0});
+}
+
+void HelpWindow::goBack() {
+    goAlong(behind_, ahead_);
+}
+
+void HelpWindow::goForward() {
+    goAlong(ahead_, behind_);
+}
+
+// To the last place of one way; the present one becomes the last of the other.
+void HelpWindow::goAlong(std::vector<Place>& way, std::vector<Place>& opposite) {
+    if (way.empty()) return;
+    place_.scrolled = view_->verticalScrollBar()->value();
+    opposite.push_back(place_);
+    const Place place = way.back();
+    way.pop_back();
+    showPlace(place);
+}
+
+void HelpWindow::goToStart() {
+    goTo({QLatin1String(Manual::startPage), {}, 0});
+}
+
+void HelpWindow::zoomIn() {
+    view_->setZoom(view_->zoom() + PageView::zoomStep);
+}
+
+void HelpWindow::zoomOut() {
+    view_->setZoom(view_->zoom() - PageView::zoomStep);
+}
+
+void HelpWindow::zoomNormal() {
+    view_->setZoom(normalZoom);
+}
+
+void HelpWindow::focusSearch() {
+    finder_->focusSearch();
+}
+
+void HelpWindow::focusNext() {
+    moveFocus(1);
+}
+
+void HelpWindow::focusPrevious() {
+    moveFocus(-1);
+}
+
+void HelpWindow::moveFocus(int step) {
+    constexpr int count = 3;
+    const std::array<QWidget*, count> parts = {finder_->searchField(), finder_->shownList(), view_};
+    const auto focused =
+        std::ranges::find_if(parts, [](const QWidget* part) { return part->hasFocus(); });
+    const auto at = focused == parts.end() ? 0 : static_cast<int>(focused - parts.begin());
+    parts[static_cast<std::size_t>((at + step + count) % count)]->setFocus(Qt::TabFocusReason);
+}
+
+void HelpWindow::keyPressEvent(QKeyEvent* event) {
+    if (event->key() != Qt::Key_Escape) return QWidget::keyPressEvent(event);
+    close();
+}
+
+}  // namespace quendra

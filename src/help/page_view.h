@@ -1,0 +1,50 @@
+// The part of the help window that shows a page.
+#pragma once
+
+#include "help/manual.h"
+
+#include <QTextBrowser>
+
+namespace quendra {
+
+class PageView : public QTextBrowser {
+    Q_OBJECT
+
+  public:
+    explicit PageView(QWidget* parent = nullptr);
+
+    /// `folder` is where the pictures of the page are looked for.
+    void showPage(const QString& markdown, const QString& folder);
+    /// Marks every occurrence of the words, and scrolls to the first one behind the title.
+    void markWords(const QStringList& words);
+    /// Scrolls to a heading; gives false when the page has none of that name.
+    bool scrollToHeading(const QString& anchor);
+
+    /// In percent of the application's font.
+    [[nodiscard]] int zoom() const { return zoom_; }
+    void setZoom(int percent);
+    static constexpr int zoomStep = 10;
+
+    [[nodiscard]] QVariant loadResource(int type, const QUrl& name) override;
+
+  protected:
+    void wheelEvent(QWheelEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void changeEvent(QEvent* event) override;
+
+  private:
+    void render();
+    void changeLook();
+    /// Gives the first occurrence behind the title; null when there is none.
+    QTextCursor markAll(const QStringList& words);
+    void fitWidth();
+    [[nodiscard]] QFont pageFont() const;
+    [[nodiscard]] int columnWidth() const;
+
+    QString markdown_;
+    QString folder_;
+    QStringList words_;
+    int zoom_ = 100;
+};
+
+}  // namespace quendra

@@ -1,0 +1,49 @@
+#include "session/application_life.h"
+
+#include "platform/files.h"
+#include "platform/registry.h"
+#include "platform/secret_memory.h"
+
+namespace quendra {
+
+std::vector<StartupNotice> loadApplication(ApplicationState& state, const StartupSettings& settings,
+                                           const Environment& environment) {
+    constexpr StringId keyUnusableText = 12514;
+    constexpr StringId keyUnusableCaption = 13700;
+    std::vector<StartupNotice> notices;
+    state.settings = settings;
+    if (const auto notice =
+            state.language.load({settings.programDir, settings.configDir, settings.installDir})) {
+        notices.push_back({notice->text, notice->caption});
+    }
+    state.luCatalogues = buildLuCatalogues(state.language.textSource());
+    state.menuCommands = buildMenuCommandCatalogue(state.language.textSource());
+    state.cipher = HiddenTextCipher(userIdentity(readRegistry(environment)));
+    if (!userRegistryUsable(environment)) {
+        notices.push_back({state.language.loadText(keyUnusableText),
+                           state.language.loadText(keyUnusableCaption), true});
+    }
+    return notices;
+}
+
+void wipeApplication(ApplicationState& state) {
+    state.script.entries.clear();
+    state.document.saved = {};
+    state.history.clear();
+    state.entryClipboard.clear();
+    // It may hold the password of a host file.
+    auto& transfer = state.workingTransfer.settings.bytes;
+    wipeMemory(transfer.data(), transfer.size());
+    state.luCatalogues = {};
+    state.menuCommands = {};
+    state.language.unload();
+}
+
+void backupSavedScript(const StartupSettings& settings, const std::filesystem::path& saved) {
+    if (settings.backupDir.empty() || settings.usingBackupDir) return;
+    const auto folder =
+        settings.withSubfolders ? settings.backupDir / "Scripts" : settings.backupDir;
+    static_cast<void>(copyFile(saved, folder / saved.filename()));
+}
+
+}  // namespace quendra

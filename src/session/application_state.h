@@ -1,0 +1,45 @@
+// The one state of a running editor: a plain record, passed by reference to what needs it.
+#pragma once
+
+#include "analysis/entry_display.h"
+#include "model/menu_catalogue.h"
+#include "platform/files.h"
+#include "session/editing.h"
+#include "session/startup_settings.h"
+#include "session/undo_history.h"
+#include "text/language_library.h"
+
+#include <filesystem>
+#include <optional>
+
+namespace quendra {
+
+/// The file that the script belongs to.
+struct ScriptDocument {
+    /// Empty for an untitled script.
+    std::filesystem::path fileName;
+    /// The script differs from the saved one; the window title then ends in " *".
+    bool modified = false;
+    /// The file as it was when it was loaded or saved last; none when it was neither. A file that
+    /// looks otherwise on disk is not overwritten without asking.
+    std::optional<FileStamp> stamp;
+    /// The file was not read whole: the first save over it keeps the old bytes as a backup.
+    bool keepOldOnSave = false;
+    /// The script as it was loaded or saved last, empty for a new one.
+    Script saved = {};
+};
+
+struct ApplicationState : EditingState {
+    StartupSettings settings;
+    LanguageLibrary language;
+    MenuCommandCatalogue menuCommands;
+    ScriptDocument document;
+    /// Every change of the script since it was opened or begun.
+    UndoHistory history;
+
+    [[nodiscard]] DisplayNames displayNames() const {
+        return {luCatalogues.of(currentHostType), menuCommands};
+    }
+};
+
+}  // namespace quendra

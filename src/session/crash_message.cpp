@@ -1,0 +1,41 @@
+#include "session/crash_message.h"
+
+#include "session/startup_settings.h"
+
+#include <cstdio>
+
+namespace quendra {
+
+namespace {
+
+std::string formatted(const char* format, unsigned long number) {
+    char text[32];
+    std::snprintf(text, sizeof(text), format, number);
+    return text;
+}
+
+}  // namespace
+
+std::filesystem::path crashDumpPath(const std::filesystem::path& folder, const std::string& program,
+                                    const std::tm& localTime) {
+    char minute[16] = {};
+    std::strftime(minute, sizeof(minute), "%m%d%H%M", &localTime);
+    return folder / (program + "." + fullVersion + "." + minute + ".dmp");
+}
+
+std::string crashMessage(const std::string& program, const Fault& fault,
+                         const std::filesystem::path& dump) {
+    std::string text = "Caught program exception in " + program + " " + fullVersion + "\r\n";
+    if (fault.access) {
+        text += "Type = EXCEPTION_ACCESS_VIOLATION\r\n";
+        text += "Address = " + formatted("%08lx", fault.address) + "\r\n";
+        text += std::string("Details = Illegal ") + (fault.access->isWrite ? "write" : "read") +
+                " at address " + formatted("%08lx", fault.access->address) + "\r\n";
+    } else {
+        text += "Type = " + formatted("%lx", fault.code) + "\r\n";
+        text += "Address = " + formatted("%08lx", fault.address);
+    }
+    return text + "\r\nA diagnostic file was written to: " + dump.string();
+}
+
+}  // namespace quendra

@@ -1,0 +1,273 @@
+#include "session/document.h"
+
+#include "scriptfile/entry_codec.h"
+#include "scriptfile/script_files.h"
+#include "scriptfile/script_writer.h"
+#include "session/application_life.h"
+#include "text/path_text.h"
+#include "text/text_encoding.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <utility>
+
+namespace quendra {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+Message fileError(ApplicationState& state, StringId text, StringId title, const fs::path& path,
+                  const std::string& reason) {
+    std::string shown = libraryText(state.language, text, {pathText(path)});
+    if (!reason.empty()) shown += "\n\n" + reason;
+    return {shown, libraryText(state.language, title), MessageIcon::Exclamation, MessageButtons::Ok,
+            false};
+}
+
+// A folder can be opened and a damaged disk may fail later: what failed is then the reading.
+bool failedWhileReading(const FileFailure& failure) {
+    return failure.code == EISDIR || failure.code == EIO;
+}
+
+// A full or failing disk stops the writing; everything else stops the file from being created.
+bool failedWhileWriting(const FileFailure& failure) {
+    return failure.code == ENOSPC || failure.code == EDQUOT || failure.code == EIO ||
+           failure.code == EFBIG;
+}
+
+std::optional<Message> openRefusal(ApplicationState& state, const fs::path& path,
+                                   const LoadedScript& loaded) {
+    constexpr StringId title = 13724;
+    if (loaded.failure) {
+        const StringId text = failedWhileReading(*loaded.failure) ? 13728 : 12465;
+        return fileError(state, text, title, path, loaded.failure->message);
+    }
+    if (loaded.read.refusal == ReadRefusal::TooShort) {
+        return fileError(state, 13728, title, path, {});
+    }
+    if (loaded.read.refusal) return fileError(state, 13727, title, path, {});
+    return std::nullopt;
+}
+
+std::string entryNumbers(const std::vector<std::size_t>& entries) {
+    constexpr std::size_t shown = 10;
+    std::string text;
+    for (std::size_t i = 0; i < std::min(entries.size(), shown); ++i) {
+        text += (i == 0 ? "" : ", ") + std::to_string(entries[i] + 1);
+    }
+    return entries.size() > shown ? text + ", ..." : text;
+}
+
+// The text holds one line for each reason, in the order of ReadStop.
+std::string stopText(ApplicationState& state, const ReadResult& read) {
+    const std::string lines = libraryText(state.language, 15382);
+    std::size_t start = 0;
+    for (auto left = static_cast<int>(read.stop) - 1; left > 0; --left)
+        start = std::min(lines.find('\n', start), lines.size() - 1) + 1;
+    return formatText(lines.substr(start, lines.find('\n', start) - start),
+                      {entryCountText(state.language, read.script.entryCount()),
+                       std::to_string(read.stopOffset)});
+}
+
+// What there is to tell about a loaded file; empty for an ordinary one. `unsaved` is the name of a
+// copy with changes that were not saved, empty for none.
+std::string loadNote(ApplicationState& state, const ReadResult& read,
+                     const std::optional<ReplaceResult>& upgrade, const fs::path& unsaved) {
+    std::string remarks;
+    const auto add = [&](StringId id, const std::string& what) {
+        remarks += "; " + libraryText(state.language, id, {what});
+    };
+    if (!read.droppedActions.empty()) add(15388, entryNumbers(read.droppedActions));
+    if (upgrade && upgrade->failure) add(15387, upgrade->failure->message);
+    if (upgrade && !upgrade->failure) add(15386, pathText(upgrade->backup.filename()));
+    if (!unsaved.empty()) add(15389, pathText(unsaved));
+    if (!read.isWhole()) return stopText(state, read) + remarks;
+    if (remarks.empty()) return {};
+    return entryCountText(state.language, read.script.entryCount()) + remarks;
+}
+
+// Where changes go that were not saved: "login (unsaved).qds", "login (unsaved 2).qds", ...
+fs::path unsavedName(const fs::path& script, int number) {
+    const std::string mark = number == 1 ? "" : " " + std::to_string(number);
+    fs::path name = script.parent_path() / script.stem();
+    name += " (unsaved" + mark + ").qds";
+    return name;
+}
+
+// The name of the latest such copy that is newer than the script itself; empty for none.
+fs::path newerUnsavedCopy(const fs::path& script) {
+    std::error_code error;
+    const auto saved = fs::last_write_time(script, error);
+    fs::path newest;
+    for (int number = 1; !error; ++number) {
+        const fs::path copy = unsavedName(script, number);
+        const auto kept = fs::last_write_time(copy, error);
+        if (!error && kept > saved) newest = copy.filename();
+    }
+    return newest;
+}
+
+// The document takes over what was loaded. From here on nothing can fail.
+void takeOver(ApplicationState& state, const fs::path& path, LoadedScript loaded,
+              const std::optional<ReplaceResult>& upgrade) {
+    const bool upgraded = upgrade && !upgrade->failure;
+    ScriptDocument document;
+    document.fileName = path;
+    document.stamp = upgraded ? upgrade->stamp : loaded.stamp;
+    document.keepOldOnSave = !loaded.read.isWhole() || (loaded.read.isOlderVersion() && !upgraded);
+    document.saved = loaded.read.script;
+    state.document = std::move(document);
+    state.history.clear();
+    state.currentHostType = loaded.read.signature.hostType;
+    state.script = std::move(loaded.read.script);
+    state.currentIndex = state.script.entryCount() == 0 ? -1 : 0;
+    state.dropPending = false;
+}
+
+bool isOwnFile(const ScriptDocument& document, const fs::path& path) {
+    if (document.fileName.empty()) return false;
+    std::error_code ignored;
+    return path == document.fileName || fs::equivalent(path, document.fileName, ignored);
+}
+
+bool changedOnDisk(const ScriptDocument& document, const fs::path& path) {
+    if (!isOwnFile(document, path)) return false;
+    const auto now = fileStamp(path);
+    return now && now != document.stamp;
+}
+
+std::string shortEntryLine(const ApplicationState& state, std::size_t index) {
+    constexpr std::size_t longest = 72;
+    const ScriptEntry entry = unpackEntry(state.script.entries[index], state.cipher);
+    return std::to_string(index + 1) + ":  " +
+           shortened(escapeControlCharacters(formatEntryLine(entry, state.displayNames())),
+                     longest);
+}
+
+Message lossQuestion(ApplicationState& state, const std::vector<std::size_t>& entries) {
+    constexpr std::size_t shown = 10;
+    std::string lines;
+    for (std::size_t i = 0; i < std::min(entries.size(), shown); ++i) {
+        lines += shortEntryLine(state, entries[i]) + "\n";
+    }
+    if (entries.size() > shown) lines += "...\n";
+    const std::string text = libraryText(state.language, 15381, {lines});
+    return {text, libraryText(state.language, 13730), MessageIcon::Question, MessageButtons::YesNo,
+            true};
+}
+
+}  // namespace
+
+std::string documentTitle(const ScriptDocument& document) {
+    return "Quendra Script Editor  -  " +
+           (document.fileName.empty() ? "Untitled" : pathText(document.fileName)) +
+           (document.modified ? " *" : "");
+}
+
+std::string entryCountText(LanguageLibrary& language, std::size_t count) {
+    if (count == 0) return libraryText(language, 13707);
+    if (count == 1) return libraryText(language, 13708);
+    return libraryText(language, 13709, {std::to_string(count)});
+}
+
+Message savePrompt(ApplicationState& state, DiscardingCommand command) {
+    const fs::path& fileName = state.document.fileName;
+    return {fileName.empty() ? libraryText(state.language, 13711)
+                             : libraryText(state.language, 13710, {pathText(fileName)}),
+            libraryText(state.language, command == DiscardingCommand::Exit ? 13717 : 13712),
+            MessageIcon::Question, MessageButtons::YesNoCancel, false};
+}
+
+void newDocument(ApplicationState& state) {
+    state.script = {};
+    state.document = {};
+    state.history.clear();
+    state.currentIndex = -1;
+    state.dropPending = false;
+}
+
+OpenOutcome openDocument(ApplicationState& state, const fs::path& path) {
+    LoadedScript loaded = loadScriptFile(path);
+    if (auto refusal = openRefusal(state, path, loaded)) return {false, std::move(refusal), {}};
+    // Asked before the upgrade, which makes the script itself the newer one.
+    const fs::path unsaved = newerUnsavedCopy(path);
+    const auto upgrade = upgradeScriptFile(path, loaded);
+    std::string note = loadNote(state, loaded.read, upgrade, unsaved);
+    takeOver(state, path, std::move(loaded), upgrade);
+    return {true, std::nullopt, std::move(note)};
+}
+
+OpenOutcome openDocumentAtStart(ApplicationState& state, const fs::path& path) {
+    OpenOutcome outcome = openDocument(state, path);
+    if (outcome.opened) return outcome;
+    state.document.fileName = path;
+    state.document.stamp = fileStamp(path);
+    state.document.keepOldOnSave = state.document.stamp.has_value();
+    if (!readFile(path, 1).failure) return outcome;
+    // It cannot be opened at all: no box, but a file that is there is not passed over unseen.
+    if (state.document.stamp)
+        outcome.note = outcome.refusal->text.substr(0, outcome.refusal->text.find('\n'));
+    outcome.refusal.reset();
+    return outcome;
+}
+
+OtherScript readOtherScript(ApplicationState& state, const fs::path& path) {
+    LoadedScript loaded = loadScriptFile(path);
+    if (auto refusal = openRefusal(state, path, loaded)) return {{}, {}, std::move(refusal), {}};
+    std::string note = loadNote(state, loaded.read, std::nullopt, {});
+    return {std::move(loaded.read.script), loaded.read.signature.hostType, std::nullopt,
+            std::move(note)};
+}
+
+std::vector<Message> questionsBeforeSave(ApplicationState& state, const fs::path& path) {
+    std::vector<Message> questions;
+    if (changedOnDisk(state.document, path)) {
+        questions.push_back({libraryText(state.language, 15380, {pathText(path)}),
+                             libraryText(state.language, 13730), MessageIcon::Question,
+                             MessageButtons::YesNo, true});
+    }
+    const auto unstorable = unstorableEntries(state.script, state.currentHostType);
+    if (!unstorable.empty()) questions.push_back(lossQuestion(state, unstorable));
+    return questions;
+}
+
+SaveOutcome saveDocument(ApplicationState& state, const fs::path& path) {
+    const bool keepOld = !isOwnFile(state.document, path) || state.document.keepOldOnSave ||
+                         changedOnDisk(state.document, path);
+    const ReplaceResult result = saveScriptFile(path, state.script, state.currentHostType,
+                                                keepOld ? OldFile::KeepAsBackup : OldFile::Drop);
+    if (result.failure) {
+        const StringId text = failedWhileWriting(*result.failure) ? 13731 : 13729;
+        return {false, fileError(state, text, 13730, path, result.failure->message), {}};
+    }
+    state.document = {path, false, result.stamp, false, state.script};
+    backupSavedScript(state.settings, path);
+    if (result.backup.empty()) return {true, std::nullopt, {}};
+    return {true, std::nullopt,
+            libraryText(state.language, 15383, {pathText(result.backup.filename())})};
+}
+
+std::optional<fs::path> keepUnsavedScript(const ApplicationState& state) {
+    if (!state.document.modified || state.script.entryCount() == 0) return std::nullopt;
+    // A VT file cannot store every entry; there is nobody to ask, and the others can.
+    const bool storable = unstorableEntries(state.script, state.currentHostType).empty();
+    const HostType hostType = storable ? state.currentHostType : HostType::Mainframe;
+    const fs::path& own = state.document.fileName;
+    const fs::path script = own.empty() ? state.settings.scriptsDir / "Untitled.qds" : own;
+    for (const fs::path& folder : {script.parent_path(), state.settings.scriptsDir}) {
+        std::error_code ignored;
+        int number = 1;
+        const fs::path name = folder / script.filename();
+        while (fs::exists(fs::symlink_status(unsavedName(name, number), ignored)))
+            ++number;
+        fs::path copy = unsavedName(name, number);
+        // Nobody else has been allowed to read it.
+        const OwnerOnly readers;
+        const auto result = saveScriptFile(copy, state.script, hostType, OldFile::KeepAsBackup);
+        if (!result.failure) return copy;
+    }
+    return std::nullopt;
+}
+
+}  // namespace quendra

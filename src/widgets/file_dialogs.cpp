@@ -1,0 +1,71 @@
+#include "widgets/file_dialogs.h"
+
+#include "widgets/ui_text.h"
+
+#include <QFileDialog>
+#include <QHeaderView>
+#include <QTreeView>
+
+#include <utility>
+
+namespace quendra {
+
+namespace {
+
+constexpr QSize comfortableDialogSize{820, 520};
+
+FileDialogHandler& currentHandler() {
+    static FileDialogHandler handler;
+    return handler;
+}
+
+// Sizes and dates whole, all the rest of the width for the names.
+void fitColumns(const QFileDialog& dialog) {
+    const auto* files = dialog.findChild<QTreeView*>(QStringLiteral("treeView"));
+    if (files == nullptr) return;
+    files->header()->setStretchLastSection(false);
+    files->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    files->header()->setSectionResizeMode(0, QHeaderView::Stretch);
+}
+
+std::optional<std::filesystem::path> runDialog(QWidget* owner, const FileDialogRequest& request) {
+    QFileDialog dialog(owner, qtText(request.title));
+    dialog.setObjectName(QStringLiteral("fileDialog"));
+    dialog.resize(comfortableDialogSize);
+    const bool saving = request.mode == FileDialogMode::Save;
+    dialog.setAcceptMode(saving ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
+    dialog.setFileMode(saving ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
+    dialog.setOption(QFileDialog::DontConfirmOverwrite);
+    dialog.setNameFilter(fileDialogFilter(request));
+    if (!request.extension.empty()) dialog.setDefaultSuffix(qtText(request.extension));
+    if (!request.initialFolder.empty()) {
+        dialog.setDirectory(QFile::decodeName(request.initialFolder.c_str()));
+    }
+    fitColumns(dialog);
+    if (!request.initialFile.empty()) {
+        dialog.selectFile(QFile::decodeName(request.initialFile.c_str()));
+    }
+    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return std::nullopt;
+    return std::filesystem::absolute(pathFromQt(dialog.selectedFiles().constFirst()));
+}
+
+}  // namespace
+
+QString fileDialogFilter(const FileDialogRequest& request) {
+    const std::string pattern =
+        "(*" + (request.extension.empty() ? std::string() : "." + request.extension) + ")";
+    const QString description = qtText(request.filterDescription);
+    if (description.endsWith(qtText(pattern))) return description;
+    return description + QLatin1Char(' ') + qtText(pattern);
+}
+
+std::optional<std::filesystem::path> chooseFile(QWidget* owner, const FileDialogRequest& request) {
+    const FileDialogHandler handler = currentHandler();
+    return handler ? handler(owner, request) : runDialog(owner, request);
+}
+
+FileDialogHandler replaceFileDialogHandler(FileDialogHandler handler) {
+    return std::exchange(currentHandler(), std::move(handler));
+}
+
+}  // namespace quendra

@@ -1,0 +1,25 @@
+#include "widgets/status_line.h"
+
+#include <QPainter>
+#include <QStyle>
+
+namespace quendra {
+
+StatusLine::StatusLine(QWidget* parent) : QLabel(parent) {
+    setTextFormat(Qt::PlainText);
+    setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+}
+
+void StatusLine::setLine(const QString& line) {
+    setText(line);
+    setToolTip(fontMetrics().horizontalAdvance(line) > width() ? line : QString());
+}
+
+void StatusLine::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    style()->drawItemText(
+        &painter, contentsRect(), Qt::AlignLeft | Qt::AlignVCenter, palette(), isEnabled(),
+        fontMetrics().elidedText(text(), Qt::ElideRight, contentsRect().width()), foregroundRole());
+}
+
+}  // namespace quendra

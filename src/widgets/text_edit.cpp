@@ -1,0 +1,255 @@
+#include "widgets/text_edit.h"
+
+#include "model/script_entry.h"
+#include "text/text_encoding.h"
+
+#include <QClipboard>
+#include <QContextMenuEvent>
+#include <QGuiApplication>
+#include <QInputMethodEvent>
+#include <QKeyEvent>
+#include <QMenu>
+#include <QValidator>
+
+#include <algorithm>
+#include <memory>
+#include <utility>
+
+namespace quendra {
+
+namespace {
+
+constexpr QChar maskCharacter = u'*';
+
+bool isLineBreak(QChar character) {
+    return character == u'\n' || character == u'\r' || character == QChar::LineSeparator ||
+           character == QChar::ParagraphSeparator;
+}
+
+qsizetype firstLineBreak(QStringView text) {
+    return std::find_if(text.begin(), text.end(), isLineBreak) - text.begin();
+}
+
+QString fromBytes(std::string_view windows1252) {
+    const std::string utf8 = utf8FromWindows1252(windows1252);
+    return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
+}
+
+// Piece by piece, so that no buffer in between holds the whole text.
+SecretText toBytes(QStringView text) {
+    SecretText bytes;
+    for (const QChar character : text) {
+        const auto byte = windows1252FromCharacter(character.unicode());
+        if (byte) bytes.replace(bytes.size(), 0, {&*byte, 1});
+    }
+    return bytes;
+}
+
+bool insertsText(const QKeyEvent& event) {
+    const QString text = event.text();
+    const auto modifiers = event.modifiers() & ~Qt::ShiftModifier;
+    return !text.isEmpty() && text.front().isPrint() && modifiers != Qt::ControlModifier &&
+           modifiers != Qt::AltModifier;
+}
+
+}  // namespace
+
+// Accepts what the file's encoding has, and remembers what it did not accept.
+class TextValidator : public QValidator {
+  public:
+    using QValidator::QValidator;
+
+    /// A text from a file may hold line breaks, and then keeps them.
+    void setBreaksAllowed(bool allowed) { breaksAllowed_ = allowed; }
+
+    State validate(QString& input, int& cursor) const override {
+        if (!breaksAllowed_) dropFurtherLines(input, cursor);
+        rejected_ = firstForeignCharacter(input);
+        return rejected_.isEmpty() ? Acceptable : Invalid;
+    }
+
+    QString takeRejected() { return std::exchange(rejected_, {}); }
+
+  private:
+    // The cursor stands behind what was pasted: what follows it was there before.
+    static void dropFurtherLines(QString& input, int& cursor) {
+        const auto first = static_cast<int>(firstLineBreak(QStringView(input).left(cursor)));
+        input.remove(first, cursor - first);
+        cursor = first;
+    }
+
+    bool breaksAllowed_ = false;
+    mutable QString rejected_;
+};
+
+QString firstForeignCharacter(QStringView text) {
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        if (windows1252FromCharacter(text[i].unicode())) continue;
+        return text.mid(i, text[i].isHighSurrogate() ? 2 : 1).toString();
+    }
+    return {};
+}
+
+TextEdit::TextEdit(QWidget* parent) : QLineEdit(parent), validator_(new TextValidator(this)) {
+    setMaxLength(static_cast<int>(maxTextLength));
+    setValidator(validator_);
+    connect(this, &QLineEdit::inputRejected, this, &TextEdit::reportRejection);
+    connect(this, &QLineEdit::textChanged, this, &TextEdit::followMaskedChange);
+}
+
+void TextEdit::setBytes(std::string_view windows1252) {
+    if (masked_) {
+        secret_ = SecretText(windows1252);
+        showMask(secret_.size());
+        return;
+    }
+    const QString text = fromBytes(windows1252);
+    validator_->setBreaksAllowed(firstLineBreak(text) < text.size());
+    setText(text);
+}
+
+std::size_t TextEdit::lengthLimit() const {
+    return static_cast<std::size_t>(maxLength());
+}
+
+SecretText TextEdit::bytes() const {
+    return masked_ ? SecretText(secret_.view()) : toBytes(text());
+}
+
+bool TextEdit::takeText(const QString& text) {
+    const QString foreign = firstForeignCharacter(text);
+    if (!foreign.isEmpty()) {
+        Q_EMIT refused({InputFault::Kind::Character, foreign});
+        return false;
+    }
+    if (text.size() > maxLength()) {
+        Q_EMIT refused({InputFault::Kind::Length, {}, lengthLimit()});
+        return false;
+    }
+    selectAll();
+    insert(text);
+    return true;
+}
+
+void TextEdit::setMasked(bool masked) {
+    if (masked == masked_) return;
+    const auto cursor = static_cast<std::size_t>(cursorPosition());
+    if (masked) {
+        secret_ = bytes();
+        masked_ = true;
+        setEchoMode(QLineEdit::Password);
+        showMask(cursor);
+    } else {
+        masked_ = false;
+        setEchoMode(QLineEdit::Normal);
+        setBytes(secret_.view());
+        secret_ = {};
+        setCursorPosition(static_cast<int>(cursor));
+    }
+    setAcceptDrops(!masked);
+}
+
+void TextEdit::insertMasked(QStringView text) {
+    const QStringView line = text.left(firstLineBreak(text));
+    const QString foreign = firstForeignCharacter(line);
+    if (!foreign.isEmpty()) {
+        Q_EMIT refused({InputFault::Kind::Character, foreign});
+        return;
+    }
+    const auto removed = static_cast<std::size_t>(selectionLength());
+    const auto at = static_cast<std::size_t>(removed > 0 ? selectionStart() : cursorPosition());
+    const auto added = static_cast<std::size_t>(line.size());
+    const std::size_t limit = std::min(lengthLimit(), maxHiddenTextLength);
+    if (added > 0 && secret_.size() - removed + added > limit) {
+        const auto kind =
+            limit < maxHiddenTextLength ? InputFault::Kind::Length : InputFault::Kind::HiddenLength;
+        Q_EMIT refused({kind, {}, limit});
+        return;
+    }
+    secret_.replace(at, removed, toBytes(line).view());
+    showMask(at + added);
+    Q_EMIT textEdited(this->text());
+}
+
+void TextEdit::removeMaskedSelection() {
+    if (selectionLength() > 0) insertMasked({});
+}
+
+// Setting the text empties the undo history too, which would bring back asterisks without a text.
+void TextEdit::showMask(std::size_t cursor) {
+    showingMask_ = true;
+    setText(QString(static_cast<qsizetype>(secret_.size()), maskCharacter));
+    setCursorPosition(static_cast<int>(cursor));
+    showingMask_ = false;
+}
+
+// The line edit's own keys only ever remove something; the cursor then stands where it was.
+void TextEdit::followMaskedChange() {
+    if (!masked_ || showingMask_) return;
+    const auto size = static_cast<std::size_t>(text().size());
+    const auto cursor = static_cast<std::size_t>(cursorPosition());
+    if (size < secret_.size()) secret_.replace(cursor, secret_.size() - size, {});
+    showMask(std::min(cursor, secret_.size()));
+}
+
+void TextEdit::reportRejection() {
+    const QString foreign = validator_->takeRejected();
+    if (foreign.isEmpty()) {
+        Q_EMIT refused({InputFault::Kind::Length, {}, lengthLimit()});
+    } else {
+        Q_EMIT refused({InputFault::Kind::Character, foreign});
+    }
+}
+
+void TextEdit::keyPressEvent(QKeyEvent* event) {
+    if (masked_ && event->matches(QKeySequence::Paste)) {
+        insertMasked(QGuiApplication::clipboard()->text());
+    } else if (masked_ && event->matches(QKeySequence::Undo)) {
+        // The line edit's own undo would empty the field.
+    } else if (masked_ && insertsText(*event)) {
+        insertMasked(event->text());
+    } else {
+        QLineEdit::keyPressEvent(event);
+        return;
+    }
+    event->accept();
+}
+
+void TextEdit::inputMethodEvent(QInputMethodEvent* event) {
+    if (!masked_) {
+        QLineEdit::inputMethodEvent(event);
+        return;
+    }
+    if (!event->commitString().isEmpty()) insertMasked(event->commitString());
+    event->accept();
+}
+
+void TextEdit::mouseReleaseEvent(QMouseEvent* event) {
+    const QClipboard& clipboard = *QGuiApplication::clipboard();
+    if (masked_ && event->button() == Qt::MiddleButton && clipboard.supportsSelection()) {
+        deselect();
+        insertMasked(clipboard.text(QClipboard::Selection));
+        return;
+    }
+    QLineEdit::mouseReleaseEvent(event);
+}
+
+void TextEdit::contextMenuEvent(QContextMenuEvent* event) {
+    const std::unique_ptr<QMenu> menu(createStandardContextMenu());
+    if (masked_) useForMaskedText(*menu);
+    menu->exec(event->globalPos());
+}
+
+void TextEdit::useForMaskedText(QMenu& menu) {
+    if (auto* paste = menu.findChild<QAction*>(QStringLiteral("edit-paste"))) {
+        paste->disconnect();
+        connect(paste, &QAction::triggered, this,
+                [this] { insertMasked(QGuiApplication::clipboard()->text()); });
+    }
+    if (auto* remove = menu.findChild<QAction*>(QStringLiteral("edit-delete"))) {
+        remove->disconnect();
+        connect(remove, &QAction::triggered, this, &TextEdit::removeMaskedSelection);
+    }
+}
+
+}  // namespace quendra
