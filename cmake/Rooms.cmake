@@ -59,5 +59,8 @@ function(quendra_make_rooms)
         if(floor_${room} GREATER_EQUAL 6 AND NOT room STREQUAL cli)
             set_target_properties(${library} PROPERTIES AUTOMOC ON)
         endif()
+        string(APPEND linked "${room} $<JOIN:$<TARGET_PROPERTY:${library},LINK_LIBRARIES>, >\n")
     endforeach()
+    # What scripts/check-layers holds to the table: whoever adds a library to a room elsewhere is found.
+    file(GENERATE OUTPUT ${CMAKE_BINARY_DIR}/rooms-linked CONTENT "${linked}")
 endfunction()
