@@ -1,6 +1,6 @@
 // Editing and finding as a user does it: palettes, keys and the mouse on the real window, with
 // prepared answers for the dialogs.
-#include "app/editor_fixture.h"
+#include "support/editor_fixture.h"
 
 #include <QApplication>
 #include <QClipboard>

@@ -1,7 +1,7 @@
 // The window as its user meets it: menus, keys, titles, prompts and what stands in the status bar.
-#include "app/editor_fixture.h"
 #include "session/command_states.h"
 #include "session/commands.h"
+#include "support/editor_fixture.h"
 
 #include <QAccessible>
 #include <QApplication>

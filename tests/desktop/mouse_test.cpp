@@ -1,7 +1,7 @@
 // The log-on script of the examples built by mouse, text fields apart, and the drags of a real
 // mouse under a real window manager.
-#include "app/editor_fixture.h"
 #include "desktop/mouse_user.h"
+#include "support/editor_fixture.h"
 
 #include <iostream>
 

@@ -1,6 +1,6 @@
 // Several editors beside each other, and the ways in which a window closes.
-#include "app/editor_fixture.h"
 #include "desktop/editor_process.h"
+#include "support/editor_fixture.h"
 
 namespace quendra::test {
 namespace {

@@ -1,6 +1,6 @@
 // The choice of an action: what is selected, what OK and double-click ask for, and what Cancel
 // takes back; and where a file transfer starts from.
-#include "dialogs/dialog_fixture.h"
+#include "support/dialog_fixture.h"
 #include "transfer/command_builder.h"
 
 #include <QListView>

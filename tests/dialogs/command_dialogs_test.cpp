@@ -1,5 +1,5 @@
 // What each dialog refuses, enables and takes.
-#include "dialogs/dialog_fixture.h"
+#include "support/dialog_fixture.h"
 
 #include <QDateTime>
 

@@ -1,99 +1,18 @@
-// How the dialogs look, in each language: no mnemonic twice, nothing cut off, nothing empty; and
-// pictures of all of them for those who want to see.
-#include "dialogs/dialog_fixture.h"
+// How the dialogs look, in each language: no mnemonic twice, nothing cut off, nothing empty.
 #include "dialogs/look_checks.h"
-
-#include <QApplication>
+#include "support/dialog_showcase.h"
 
 namespace quendra::test {
 namespace {
 
-using Code = CommandCode;
-
-/// A dialog as it opens on a filled entry, and what is then done in it.
-struct LookRow {
-    const char* name;
-    Code code;
-    std::uint32_t commandId = 0;
-    /// Presses this, or types this into it.
-    const char* field = "";
-    const char* text = "";
-    Slot slot = Slot::Entry;
-    /// The then action is chosen for this one.
-    ActionOwner chooses = ActionOwner::None;
-};
-
-constexpr LookRow lookRows[] = {
-    {"Comment", Code::Comment},
-    {"Goto", Code::Goto},
-    {"Label", Code::Label},
-    {"Message", Code::Message},
-    {"Type", Code::Type},
-    {"TypeHidden", Code::Type, 0, "hide"},
-    {"ExpressLogon", Code::ExpressLogon},
-    {"Wait", Code::Wait},
-    {"WaitReady", Code::WaitReady},
-    {.name = "WaitElse", .code = Code::Wait, .slot = Slot::Else},
-    {.name = "WaitReadyElse", .code = Code::WaitReady, .slot = Slot::Else},
-    {"Run", Code::Run},
-    {"Menu202", Code::MenuCommand, 202},
-    {"Menu204", Code::MenuCommand, 204},
-    {"Menu219", Code::MenuCommand, 219},
-    {"Menu254", Code::MenuCommand, 254},
-    {"Menu257", Code::MenuCommand, 257},
-    {"SetCursor", Code::SetCursor},
-    {"Copy", Code::Copy},
-    {"Paste", Code::Paste},
-    {"Input", Code::Input, 0, "prompt", "Code of the day.\nIt has six digits.\u4e2d"},
-    {"WaitUntil", Code::WaitUntil, 0, "hasTime"},
-    {"WaitFor", Code::WaitFor, 0, "noTimeout"},
-    {"WaitForFault", Code::WaitFor, 0, "row", "70"},
-    {.name = "WatchedWaitFor", .code = Code::WaitFor, .slot = Slot::Then},
-    {"IfInputIs", Code::IfInputIs},
-    {"WatchFor", Code::WatchFor},
-    {"TransferFault", Code::MenuCommand, 236, "pcFileName", "report\u0416"},
-    {"TransferVmCms", Code::MenuCommand, 236, "transferHost0"},
-    {"TransferTso", Code::MenuCommand, 236, "transferHost1"},
-    {"TransferCics", Code::MenuCommand, 237, "transferHost2"},
-    {"TransferAdvanced", Code::MenuCommand, 236, "tabs"},
-    {.name = "WaitForAction", .code = Code::WaitFor, .chooses = ActionOwner::WaitForOrWatchFor},
-    {.name = "IfInputIsAction", .code = Code::IfInputIs, .chooses = ActionOwner::IfInputIs},
-};
-
-class DialogLook : public SearchDialogTest,
-                   public ::testing::WithParamInterface<std::tuple<LookRow, std::string>> {
+class DialogLook : public DialogShowcase,
+                   public ::testing::WithParamInterface<std::tuple<ShownDialog, std::string>> {
   protected:
-    DialogLook() : SearchDialogTest(std::get<std::string>(GetParam())) {}
-
-    /// Runs the dialog, and looks at it before Cancel.
-    void show(const std::function<void(QDialog&)>& look) {
-        const LookRow& row = std::get<LookRow>(GetParam());
-        startWith(row.code, row.slot, row.commandId);
-        setText(own(), "TSO LOGON");
-        entry.hasTimeout = 1;
-        entry.transferHost = transferHostTso;
-        entry.secondOperandKind = 2;
-        if (row.slot != Slot::Else) otherwise().code = Code::Message;
-        setText(otherwise(), "The host did not answer within half a minute & the script goes on.");
-        if (row.slot == Slot::Then) entry.commandCode = Code::WatchFor;
-        steps.in(anyDialog, [&](const OpenDialog& d) {
-            const std::string field = row.field;
-            if (field == "tabs") {
-                d.showTab(1);
-            } else if (!field.empty()) {
-                *row.text != '\0' ? d.retype(field, row.text) : d.click(field);
-            }
-            QCoreApplication::processEvents();
-            look(*d.dialog);
-            d.click("cancel");
-        });
-        EXPECT_FALSE(row.chooses == ActionOwner::None ? run(row.slot)
-                                                      : choose(Slot::Then, row.chooses));
-    }
+    DialogLook() : DialogShowcase(std::get<std::string>(GetParam())) {}
 };
 
 TEST_P(DialogLook, EveryTextIsWholeAndEveryMnemonicWorks) {
-    show([](QDialog& dialog) {
+    show(std::get<ShownDialog>(GetParam()), [](QDialog& dialog) {
         expectWholeTexts(dialog, "thenLine elseLine");
         EXPECT_FALSE(dialog.property("helpPage").toString().isEmpty());
         EXPECT_EQ(dialog.size().boundedTo({1024, 768}), dialog.size());
@@ -101,18 +20,8 @@ TEST_P(DialogLook, EveryTextIsWholeAndEveryMnemonicWorks) {
     });
 }
 
-TEST_P(DialogLook, CanBeSeenInPictures) {
-    if (!wantsPictures()) GTEST_SKIP() << "QUENDRA_PICTURES names no folder";
-    forLightAndDark([this](const std::string& appearance) {
-        show([&](QDialog& dialog) {
-            const auto& [row, language] = GetParam();
-            savePicture(dialog, std::string(row.name) + '-' + language + '-' + appearance);
-        });
-    });
-}
-
 INSTANTIATE_TEST_SUITE_P(Dialogs, DialogLook,
-                         ::testing::Combine(::testing::ValuesIn(lookRows),
+                         ::testing::Combine(::testing::ValuesIn(shownDialogs()),
                                             ::testing::Values("qdstring", "qdstring_de")),
                          [](const auto& row) {
                              return std::string(std::get<0>(row.param).name) + '_' +

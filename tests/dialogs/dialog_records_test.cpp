@@ -1,6 +1,6 @@
 // From the record to the widgets and back, for every command in every slot: nothing that was not
 // edited changes, what was edited goes where the file looks for it, and what is empty is refused.
-#include "dialogs/dialog_fixture.h"
+#include "support/dialog_fixture.h"
 
 #include <QDateEdit>
 

@@ -1,13 +1,9 @@
 #include "dialogs/look_checks.h"
 
-#include "widgets/appearance.h"
-
 #include <QAbstractButton>
 #include <QApplication>
-#include <QDir>
 #include <QKeySequence>
 #include <QLabel>
-#include <QPixmap>
 #include <QTest>
 
 #include <gtest/gtest.h>
@@ -19,10 +15,6 @@ namespace {
 
 std::string textOfWidget(const QWidget& widget) {
     return widget.property("text").toString().toStdString();
-}
-
-QString pictureFolder() {
-    return qEnvironmentVariable("QUENDRA_PICTURES");
 }
 
 }  // namespace
@@ -62,26 +54,6 @@ void expectWholeTexts(const QWidget& dialog, const std::string& eliding) {
         EXPECT_GE(part->width(), part->sizeHint().width()) << name << " is cut off";
         EXPECT_GE(part->height(), part->sizeHint().height()) << name << " is cut off";
     }
-}
-
-bool wantsPictures() {
-    return !pictureFolder().isEmpty();
-}
-
-void forLightAndDark(const std::function<void(const std::string& appearance)>& draw) {
-    const QPalette before = QApplication::palette();
-    QApplication::setPalette(appearancePalette(Appearance::Light));
-    draw("light");
-    QApplication::setPalette(appearancePalette(Appearance::Dark));
-    draw("dark");
-    QApplication::setPalette(before);
-}
-
-void savePicture(QWidget& widget, const std::string& name) {
-    ASSERT_TRUE(QDir().mkpath(pictureFolder()));
-    const QString file =
-        pictureFolder() + u'/' + QString::fromStdString(name) + QStringLiteral(".png");
-    EXPECT_TRUE(widget.grab().save(file)) << name;
 }
 
 }  // namespace quendra::test

@@ -1,7 +1,6 @@
-// What is checked of every dialog's look, and pictures for those who want to see.
+// What is checked of every dialog's look.
 #pragma once
 
-#include <functional>
 #include <string>
 
 class QWidget;
@@ -14,12 +13,5 @@ void expectMnemonicsThatWork(const QWidget& dialog);
 /// Every visible label and button has a name and its text whole. Those that cut their text
 /// themselves are `eliding` (object names, parted by blanks).
 void expectWholeTexts(const QWidget& dialog, const std::string& eliding = {});
-
-/// QUENDRA_PICTURES names a folder.
-[[nodiscard]] bool wantsPictures();
-/// Calls `draw` with the palette of each appearance, which it names.
-void forLightAndDark(const std::function<void(const std::string& appearance)>& draw);
-/// Saves a picture of the widget there, under `name`.
-void savePicture(QWidget& widget, const std::string& name);
 
 }  // namespace quendra::test

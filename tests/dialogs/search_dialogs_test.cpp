@@ -1,6 +1,6 @@
 // The Wait_For, If_Input_Is and Watch_For dialogs with keys and mouse.
 #include "analysis/entry_display.h"
-#include "dialogs/dialog_fixture.h"
+#include "support/dialog_fixture.h"
 
 namespace quendra::test {
 namespace {

@@ -1,5 +1,5 @@
 // A hidden text on the real window with its real dialog: from the palette to the file and back.
-#include "dialogs/dialog_fixture.h"
+#include "support/dialog_fixture.h"
 
 #include <algorithm>
 

@@ -1,8 +1,6 @@
-// The list operations against the plain loops that they replace, the shared records below them, and
-// the history of steps. Random edits undone and redone: see editing_property_test.cpp.
+// The list operations against the plain loops that they replace, and the shared records below them.
 #include "model/script.h"
 
-#include "session/undo_history.h"
 #include "support/fixtures.h"
 
 #include <algorithm>
@@ -79,32 +77,6 @@ TEST(EntryHandle, ofARecordInPlaceKeepsTheBytesAndWipesItsOwn) {
     first = EntryHandle();
     EXPECT_EQ(std::count(memory, memory + 7, 0), 7);
     EXPECT_EQ(second, storeRecord(std::span(bytes).subspan(7)));
-}
-
-TEST(UndoHistory, namesItsStepsAndDropsWhatWasUndoneWithANewChange) {
-    UndoHistory history;
-    ScriptView view;
-    const auto change = [&](const char* name) {
-        const ScriptView before = view;
-        view.script.entries.push_back(numbered(1));
-        history.record(before, view, name);
-    };
-    history.record(view, view, "no change");
-    EXPECT_FALSE(history.canUndo());
-    change("first");
-    change("second");
-    EXPECT_EQ(history.undoName(), "second");
-    history.undo(view.script);
-    EXPECT_EQ(history.redoName(), "second");
-    change("third");
-    EXPECT_FALSE(history.canRedo());
-    EXPECT_EQ(history.undoName(), "third");
-    history.undo(view.script);
-    history.undo(view.script);
-    EXPECT_EQ(view.script, Script());
-    EXPECT_FALSE(history.canUndo());
-    history.clear();
-    EXPECT_FALSE(history.canRedo());
 }
 
 }  // namespace

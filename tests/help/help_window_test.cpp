@@ -1,0 +1,123 @@
+// The manual's window, by keys and mouse.
+#include "help/help_window.h"
+
+#include "help/made_up_manual.h"
+#include "help/page_view.h"
+#include "support/editor_fixture.h"
+
+#include <QLabel>
+#include <QLineEdit>
+#include <QListView>
+#include <QScrollBar>
+#include <QTreeView>
+#include <QtTest>
+
+namespace quendra::test {
+
+namespace {
+
+class HelpWindowTest : public ::testing::Test {
+  protected:
+    HelpWindowTest() { open("index.md"); }
+
+    void open(const char* page) {
+        window.open(QLatin1String(page));
+        QApplication::setActiveWindow(&window);
+        QCoreApplication::processEvents();
+    }
+    template <class T>
+    [[nodiscard]] T& widget(const char* name) {
+        return *window.findChild<T*>(QLatin1String(name));
+    }
+    [[nodiscard]] PageView& view() { return widget<PageView>("helpPage"); }
+    [[nodiscard]] std::string page() const { return window.page().toStdString(); }
+    [[nodiscard]] std::string shown() { return view().toPlainText().toStdString(); }
+    [[nodiscard]] int scrolled() { return view().verticalScrollBar()->value(); }
+    [[nodiscard]] std::string focused() const {
+        return window.focusWidget()->objectName().toStdString();
+    }
+    // To the window as the system would, so that shortcuts and modality count.
+    void press(Qt::Key key, Qt::KeyboardModifiers held = {}) {
+        QTest::keyClick(window.windowHandle(), key, held);
+    }
+    void search(const std::string& text) {
+        press(Qt::Key_F, Qt::ControlModifier);
+        ASSERT_EQ(focused(), "helpSearch");
+        for (const char c : text)
+            QTest::keyClick(window.windowHandle(), c);
+    }
+    void clickLink(const char* text) {
+        QTextCursor link = view().document()->find(QLatin1String(text));
+        link.setPosition(link.selectionStart() + 1);
+        QTest::mouseClick(view().viewport(), Qt::LeftButton, {}, view().cursorRect(link).center());
+        QCoreApplication::processEvents();
+    }
+
+    MadeUpManual pages;
+    EditorState editor;
+    std::vector<std::string> addresses;
+    HelpWindow window{pages.read(), editor.state.language, [this](const QString& address) {
+                          addresses.push_back(address.toStdString());
+                      }};
+};
+
+TEST_F(HelpWindowTest, ShowsAPageAndWhereItStandsInTheContents) {
+    ASSERT_EQ(focused(), "helpPage") << "keys scroll at once";
+    open("wait-for.md");
+    EXPECT_NE(shown().find("Waits for a text"), std::string::npos);
+    const QModelIndex line = widget<QTreeView>("helpContents").currentIndex();
+    EXPECT_EQ(line.data().toString(), u"Wait_For");
+    EXPECT_EQ(line.parent().data().toString(), u"Waiting");
+    EXPECT_EQ(line.parent().parent().data().toString(), u"Commands");
+    open("beep.md");
+    widget<QWidget>("helpContents").setFocus();
+    press(Qt::Key_Down);
+    press(Qt::Key_Down);
+    EXPECT_EQ(page(), "wait-for.md") << "a group opens nothing";
+}
+
+TEST_F(HelpWindowTest, LinksLeadToPagesHeadingsAndOutOfTheManual) {
+    open("beep.md");
+    clickLink("the site");
+    EXPECT_EQ(addresses, std::vector<std::string>{"https://quendra.example/a?b=c"});
+    EXPECT_EQ(page(), "beep.md");
+    clickLink("nothing");
+    EXPECT_EQ(shown(), "Page not found\nThe manual has no page \u201cnowhere.md\u201d.");
+    press(Qt::Key_Left, Qt::AltModifier);
+    EXPECT_EQ(page(), "beep.md");
+    press(Qt::Key_Right, Qt::AltModifier);
+    EXPECT_EQ(page(), "nowhere.md");
+    press(Qt::Key_Left, Qt::AltModifier);
+    clickLink("Wait_For");
+    EXPECT_EQ(page(), "wait-for.md");
+    EXPECT_GT(scrolled(), 0);
+    const QTextCursor options = view().document()->find(QStringLiteral("Options"));
+    EXPECT_TRUE(view().viewport()->rect().contains(view().cursorRect(options).center()));
+}
+
+TEST_F(HelpWindowTest, SearchesWhileOneTypes) {
+    search("beep");
+    const QAbstractItemModel& results = *widget<QListView>("helpResults").model();
+    EXPECT_EQ(results.index(0, 0).data(Qt::AccessibleTextRole).toString(),
+              QStringLiteral("Beep: Makes a noise. See Wait_For, the site and nothing."));
+    EXPECT_EQ(widget<QLabel>("helpResultCount").text(), QStringLiteral("Found on 4 pages"));
+    EXPECT_EQ(page(), "index.md") << "nothing opens before it is chosen";
+    press(Qt::Key_Return);
+    EXPECT_EQ(page(), "beep.md");
+    for (int i = 0; i < 3; ++i)
+        press(Qt::Key_Down);
+    EXPECT_EQ(page(), "wait-for.md");
+    ASSERT_EQ(view().extraSelections().size(), 1);
+    const QRect word = view().cursorRect(view().extraSelections()[0].cursor);
+    EXPECT_TRUE(view().viewport()->rect().contains(word)) << "scrolls to what was found";
+    search("zebra");
+    EXPECT_EQ(widget<QLabel>("helpResultCount").text(), QStringLiteral("Not found"));
+    press(Qt::Key_Escape);
+    EXPECT_TRUE(widget<QTreeView>("helpContents").isVisible());
+    EXPECT_TRUE(view().extraSelections().isEmpty());
+    press(Qt::Key_Escape);
+    EXPECT_FALSE(window.isVisible());
+}
+
+}  // namespace
+}  // namespace quendra::test
