@@ -1,6 +1,7 @@
 #include "app/about_box.h"
 
 #include "session/startup_settings.h"
+#include "text/text_ids.h"
 #include "widgets/placement.h"
 #include "widgets/symbol_icon.h"
 #include "widgets/ui_text.h"
@@ -29,7 +30,7 @@ QLabel* addLine(QVBoxLayout* lines, const char* objectName, const QString& text)
 
 AboutBox::AboutBox(LanguageLibrary& language, QWidget* parent) : QDialog(parent) {
     setObjectName(QStringLiteral("aboutBox"));
-    setWindowTitle(qtText(libraryText(language, 11206)));
+    setWindowTitle(qtText(libraryText(language, textid::aboutToolTip)));
 
     auto* icon = new QLabel;
     icon->setObjectName(QStringLiteral("aboutIcon"));

@@ -1,6 +1,7 @@
 #include "app/find_bar.h"
 
 #include "analysis/entry_search.h"
+#include "text/text_ids.h"
 #include "widgets/ui_text.h"
 
 #include <QKeyEvent>
@@ -13,18 +14,6 @@
 
 namespace quendra {
 
-namespace {
-
-constexpr StringId findText = 15327;
-constexpr StringId previousText = 15329;
-constexpr StringId nextText = 15330;
-constexpr StringId positionText = 15331;
-constexpr StringId nothingText = 15332;
-constexpr StringId countText = 15333;
-constexpr StringId closeText = 15334;
-
-}  // namespace
-
 FindBar::FindBar(ApplicationState& state, EditorPane& pane, QWidget* parent)
     : QToolBar(parent),
       state_(state),
@@ -34,19 +23,19 @@ FindBar::FindBar(ApplicationState& state, EditorPane& pane, QWidget* parent)
     setObjectName(QStringLiteral("findBar"));
     setMovable(false);
     edit_->setObjectName(QStringLiteral("findText"));
-    edit_->setPlaceholderText(text(findText));
-    edit_->setAccessibleName(text(findText));
+    edit_->setPlaceholderText(text(textid::findToolTip));
+    edit_->setAccessibleName(text(textid::findToolTip));
     edit_->setMaximumWidth(24 * fontMetrics().averageCharWidth() * 2);
     edit_->installEventFilter(this);
     addWidget(edit_);
-    addButton("findPrevious", previousText, Qt::UpArrow, &FindBar::goToPrevious);
-    addButton("findNext", nextText, Qt::DownArrow, &FindBar::goToNext);
+    addButton("findPrevious", textid::findPrevious, Qt::UpArrow, &FindBar::goToPrevious);
+    addButton("findNext", textid::findNext, Qt::DownArrow, &FindBar::goToNext);
     count_->setObjectName(QStringLiteral("findCount"));
     count_->setTextFormat(Qt::PlainText);
     count_->setContentsMargins(8, 0, 8, 0);
     count_->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
     addWidget(count_);
-    addButton("findClose", closeText, Qt::NoArrow, &FindBar::close);
+    addButton("findClose", textid::findClose, Qt::NoArrow, &FindBar::close);
     connect(edit_, &QLineEdit::textEdited, this, &FindBar::typed);
     connect(&pane_, &EditorPane::listRebuilt, this, [this] {
         if (isVisible()) search();
@@ -146,15 +135,15 @@ void FindBar::goTo(std::size_t entry) {
 
 void FindBar::showCount() {
     if (edit_->text().isEmpty()) return count_->clear();
-    if (matches_.empty()) return count_->setText(text(nothingText));
+    if (matches_.empty()) return count_->setText(text(textid::findNothing));
     const std::string all = std::to_string(matches_.size());
     const int focused = pane_.focusedEntry();
     const auto place = std::ranges::find(matches_, static_cast<std::size_t>(focused));
     if (focused < 0 || place == matches_.end()) {
-        return count_->setText(qtText(libraryText(state_.language, countText, {all})));
+        return count_->setText(qtText(libraryText(state_.language, textid::findCount, {all})));
     }
     const std::string number = std::to_string(place - matches_.begin() + 1);
-    count_->setText(qtText(libraryText(state_.language, positionText, {number, all})));
+    count_->setText(qtText(libraryText(state_.language, textid::findPosition, {number, all})));
 }
 
 }  // namespace quendra

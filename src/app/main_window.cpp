@@ -4,6 +4,7 @@
 #include "app/command_facts.h"
 #include "app/find_bar.h"
 #include "session/commands.h"
+#include "text/text_ids.h"
 #include "widgets/file_dialogs.h"
 #include "widgets/message_box.h"
 #include "widgets/placement.h"
@@ -73,7 +74,7 @@ MainWindow::MainWindow(ApplicationState& state, const std::function<void()>& bef
     findBar_ = new FindBar(state_, *pane_, this);
     addToolBar(Qt::BottomToolBarArea, findBar_);
     findBar_->hide();
-    nameExtensionButtons(*this, qtText(libraryText(state_.language, 15384)));
+    nameExtensionButtons(*this, qtText(libraryText(state_.language, textid::moreCommands)));
     connect(pane_, &EditorPane::commandRequested, this, &MainWindow::runCommand);
     connect(pane_, &EditorPane::selectionChanged, this, &MainWindow::updateCommandStates);
     watchSession();
@@ -252,9 +253,9 @@ void MainWindow::newScript() {
 
 void MainWindow::openScript() {
     if (!mayDiscardChanges(DiscardingCommand::NewOrOpen)) return;
-    const auto path =
-        chooseFile(this, {FileDialogMode::Open, libraryText(state_.language, 13713),
-                          "Quendra Script Files(*.qds)", "qds", state_.settings.scriptsDir});
+    const auto path = chooseFile(
+        this, {FileDialogMode::Open, libraryText(state_.language, textid::openScriptDialogTitle),
+               "Quendra Script Files(*.qds)", "qds", state_.settings.scriptsDir});
     if (!path) return;
     const OpenOutcome outcome = openDocument(state_, *path);
     if (outcome.refusal) showMessage(this, *outcome.refusal);
@@ -276,9 +277,9 @@ bool MainWindow::save() {
 }
 
 bool MainWindow::saveAs() {
-    const auto path =
-        chooseFile(this, {FileDialogMode::Save, libraryText(state_.language, 13714),
-                          "Quendra Script Files(*.qds)", "qds", state_.settings.scriptsDir});
+    const auto path = chooseFile(
+        this, {FileDialogMode::Save, libraryText(state_.language, textid::saveScriptDialogTitle),
+               "Quendra Script Files(*.qds)", "qds", state_.settings.scriptsDir});
     // Cancel is an answer, not a failure: closing and New go on after it.
     return !path || saveTo(*path);
 }

@@ -4,6 +4,7 @@
 #include "session/command_states.h"
 #include "session/document.h"
 #include "text/text_encoding.h"
+#include "text/text_ids.h"
 #include "widgets/file_dialogs.h"
 #include "widgets/message_box.h"
 #include "widgets/ui_text.h"
@@ -17,26 +18,17 @@ namespace quendra {
 
 namespace {
 
-constexpr StringId editStep = 15311;
-constexpr StringId deleteStep = 15312;
-constexpr StringId cutStep = 15313;
-constexpr StringId pasteStep = 15314;
-constexpr StringId moveStep = 15315;
-constexpr StringId insertScriptText = 15323;
-constexpr StringId scriptFullText = 15325;
-constexpr StringId otherModeText = 15335;
-constexpr StringId oneEntryText = 15390;
-constexpr StringId entriesText = 15391;
-
 // "Insert Script Event %s" and its like, by palette.
-constexpr StringId insertSteps[] = {13701, 13702, 13703};
-constexpr StringId paletteLabels[] = {11203, 11204, 11205};
+constexpr StringId insertSteps[] = {textid::insertNamedScriptEvent, textid::insertNamedLuFunction,
+                                    textid::insertNamedMenuCommand};
+constexpr StringId paletteLabels[] = {textid::scriptEventsLabel, textid::luFunctionsLabel,
+                                      textid::menuCommandsLabel};
 
 StringId refusalText(EditRefusal refusal) {
     switch (refusal) {
-        case EditRefusal::MenuCommandNotInVt: return 13732;
-        case EditRefusal::HiddenTextTooLong: return 15317;
-        case EditRefusal::CannotEncipher: return 15318;
+        case EditRefusal::MenuCommandNotInVt: return textid::refusedMenuCommand;
+        case EditRefusal::HiddenTextTooLong: return textid::hiddenTextOfEntryTooLong;
+        case EditRefusal::CannotEncipher: return textid::hiddenTextNeedsKey;
     }
     return 0;
 }
@@ -59,7 +51,7 @@ EditingCommands ScriptEditor::commands() {
     EditingCommands commands;
     commands.undo = [this] { takeStep(&UndoHistory::undo); };
     commands.redo = [this] { takeStep(&UndoHistory::redo); };
-    commands.cutEntries = [this] { removeSelected(cutStep, quendra::cutEntries); };
+    commands.cutEntries = [this] { removeSelected(textid::cutStep, quendra::cutEntries); };
     commands.copyEntries = [this] { copy(); };
     commands.pasteEntries = [this] { paste(); };
     commands.insertScriptEvent = [this] {
@@ -71,9 +63,9 @@ EditingCommands ScriptEditor::commands() {
     };
     commands.editCurrentEntry = [this] {
         change([this] { return quendra::editCurrentEntry(state_, *this); },
-               [this] { return libraryText(state_.language, editStep); });
+               [this] { return libraryText(state_.language, textid::editStep); });
     };
-    commands.deleteEntries = [this] { removeSelected(deleteStep, quendra::deleteEntries); };
+    commands.deleteEntries = [this] { removeSelected(textid::deleteStep, quendra::deleteEntries); };
     commands.copyAsText = [this] { copyAsText(); };
     commands.insertScript = [this] { insertOtherScript(); };
     return commands;
@@ -104,7 +96,7 @@ void ScriptEditor::copy() {
 void ScriptEditor::paste() {
     const std::size_t before = state_.script.entryCount();
     change([this] { return quendra::pasteEntries(state_, *this); },
-           [&] { return countedName(pasteStep, state_.script.entryCount() - before); });
+           [&] { return countedName(textid::pasteStep, state_.script.entryCount() - before); });
 }
 
 void ScriptEditor::copyAsText() {
@@ -116,9 +108,9 @@ void ScriptEditor::copyAsText() {
 }
 
 void ScriptEditor::insertOtherScript() {
-    const auto path =
-        chooseFile(&window_, {FileDialogMode::Open, libraryText(state_.language, insertScriptText),
-                              "Quendra Script Files(*.qds)", "qds", state_.settings.scriptsDir});
+    const auto path = chooseFile(
+        &window_, {FileDialogMode::Open, libraryText(state_.language, textid::insertScriptToolTip),
+                   "Quendra Script Files(*.qds)", "qds", state_.settings.scriptsDir});
     if (!path) return;
     const OtherScript other = readOtherScript(state_, *path);
     if (other.refusal) return showMessage(&window_, *other.refusal);
@@ -128,7 +120,7 @@ void ScriptEditor::insertOtherScript() {
             inserted = quendra::insertScript(state_, *this, other.script.entries);
             return inserted > 0;
         },
-        [this] { return libraryText(state_.language, insertScriptText); });
+        [this] { return libraryText(state_.language, textid::insertScriptToolTip); });
     window_.showNote(insertedNote(other, inserted));
 }
 
@@ -139,11 +131,11 @@ std::string ScriptEditor::insertedNote(const OtherScript& other, std::size_t ins
     };
     const std::size_t count = other.script.entryCount();
     if (inserted < count) {
-        add(libraryText(state_.language, scriptFullText,
+        add(libraryText(state_.language, textid::scriptInsertedUntilFull,
                         {std::to_string(inserted), std::to_string(count)}));
     }
     if (other.hostType != state_.currentHostType) {
-        add(libraryText(state_.language, otherModeText,
+        add(libraryText(state_.language, textid::insertedScriptOfOtherMode,
                         {std::string(hostTypeInfo(other.hostType).name)}));
     }
     return note;
@@ -166,7 +158,7 @@ void ScriptEditor::takeStep(std::optional<EntrySelection> (UndoHistory::*step)(S
 void ScriptEditor::recordMove() {
     const ScriptView after = currentView();
     state_.history.record(beforeMove_, after,
-                          countedName(moveStep, after.selection.entries.size()));
+                          countedName(textid::moveStep, after.selection.entries.size()));
     beforeMove_ = {};
     window_.scriptChanged();
 }
@@ -178,9 +170,9 @@ ScriptView ScriptEditor::currentView() const {
 std::string ScriptEditor::countedName(StringId name, std::size_t count) const {
     LanguageLibrary& language = state_.language;
     // A step's name stands in a menu: in English with capitals, unlike the count in a sentence.
-    const std::string entries = count == 1
-                                    ? libraryText(language, oneEntryText)
-                                    : libraryText(language, entriesText, {std::to_string(count)});
+    const std::string entries =
+        count == 1 ? libraryText(language, textid::oneEntryInStep)
+                   : libraryText(language, textid::entriesInStep, {std::to_string(count)});
     return libraryText(language, name, {entries});
 }
 
@@ -206,8 +198,8 @@ bool ScriptEditor::editParameters(ScriptEntry& entry) {
 
 bool ScriptEditor::confirmDelete(std::size_t count) {
     const Message question{deleteText(state_.language, count) + "?",
-                           libraryText(state_.language, 13224), MessageIcon::Question,
-                           MessageButtons::YesNo, false};
+                           libraryText(state_.language, textid::confirmDeleteTitle),
+                           MessageIcon::Question, MessageButtons::YesNo, false};
     return askMessage(&window_, question) == MessageAnswer::Yes;
 }
 
@@ -216,13 +208,14 @@ void ScriptEditor::refuse(EditRefusal refusal, const ScriptEntry& entry) {
     if (refusal != EditRefusal::MenuCommandNotInVt) {
         text += "\n\n" + escapeControlCharacters(formatEntryLine(entry, state_.displayNames()));
     }
-    showMessage(&window_, {text, libraryText(state_.language, 13733), MessageIcon::Information,
-                           MessageButtons::Ok, false});
+    showMessage(&window_, {text, libraryText(state_.language, textid::refusedMenuCommandTitle),
+                           MessageIcon::Information, MessageButtons::Ok, false});
 }
 
 void ScriptEditor::askForRow(Palette palette) {
     const StringId label = paletteLabels[static_cast<std::size_t>(palette)];
-    window_.showNote(libraryText(state_.language, 15316, {libraryText(state_.language, label)}));
+    window_.showNote(libraryText(state_.language, textid::replacementNeedsSelection,
+                                 {libraryText(state_.language, label)}));
 }
 
 }  // namespace quendra

@@ -1,18 +1,13 @@
 #include "dialogs/action_chooser.h"
 
 #include "dialogs/action_choice.h"
+#include "text/text_ids.h"
 
 #include <QLabel>
 #include <QScreen>
 #include <QVBoxLayout>
 
 namespace quendra {
-
-namespace {
-
-constexpr StringId promptText = 11214;
-
-}  // namespace
 
 ActionChooser::ActionChooser(const DialogContext& context, const EditTarget& target,
                              const EditTarget& action, const char* name, const char* helpPage)
@@ -22,7 +17,7 @@ ActionChooser::ActionChooser(const DialogContext& context, const EditTarget& tar
 }
 
 void ActionChooser::addLists() {
-    body().addWidget(makeLabel("actionPrompt", text(promptText)));
+    body().addWidget(makeLabel("actionPrompt", text(textid::actionHeading)));
     lists_ = new ActionLists(context().state, this);
     body().addWidget(lists_, 1);
     connect(lists_, &ActionLists::doubleClicked, this,

@@ -1,13 +1,12 @@
 // The Action dialog: chooses the then or else action of a Wait_For or an If_Input_Is.
 #include "dialogs/action_choice.h"
 #include "dialogs/action_chooser.h"
+#include "text/text_ids.h"
 #include "widgets/ui_text.h"
 
 namespace quendra {
 
 namespace {
-
-constexpr StringId okText = 14424;
 
 class ActionDialog : public ActionChooser {
   public:
@@ -17,7 +16,7 @@ class ActionDialog : public ActionChooser {
         setWindowTitle(qtText(actionCaption(place)));
         setPicture(bitmapIdOf(place.owner, 0));
         addLists();
-        addButtons(text(okText));
+        addButtons(text(textid::okButton));
     }
 
     void store() override {}

@@ -1,5 +1,6 @@
 #include "dialogs/action_lists.h"
 
+#include "text/text_ids.h"
 #include "widgets/palette_model.h"
 #include "widgets/pane_list.h"
 #include "widgets/ui_text.h"
@@ -23,9 +24,10 @@ struct ListParts {
     const char* listName;
     const char* labelName;
 };
-constexpr std::array<ListParts, 3> listParts = {{{11203, "scriptEventsList", "scriptEventsLabel"},
-                                                 {11204, "luFunctionsList", "luFunctionsLabel"},
-                                                 {11205, "menuCommandsList", "menuCommandsLabel"}}};
+constexpr std::array<ListParts, 3> listParts = {
+    {{textid::scriptEventsLabel, "scriptEventsList", "scriptEventsLabel"},
+     {textid::luFunctionsLabel, "luFunctionsList", "luFunctionsLabel"},
+     {textid::menuCommandsLabel, "menuCommandsList", "menuCommandsLabel"}}};
 
 }  // namespace
 

@@ -1,6 +1,7 @@
 #include "dialogs/action_pair.h"
 
 #include "text/text_encoding.h"
+#include "text/text_ids.h"
 #include "widgets/tool_tip.h"
 #include "widgets/ui_text.h"
 
@@ -16,8 +17,6 @@ namespace quendra {
 
 namespace {
 
-constexpr StringId groupTitle = 14300;
-constexpr StringId needsTimeoutText = 15393;
 constexpr int preferredCharacters = 48;
 constexpr int fewestCharacters = 20;
 
@@ -70,7 +69,7 @@ void loadTransfer(ApplicationState& state, const ConstSlotFields& action) {
 
 ActionPair::ActionPair(ApplicationState& state, ScriptEntry& entry, ActionOwner owner,
                        const ActionTexts& thenTexts, const ActionTexts& elseTexts)
-    : QGroupBox(qtText(libraryText(state.language, groupTitle))),
+    : QGroupBox(qtText(libraryText(state.language, textid::actionGroup))),
       state_(state),
       entry_(entry),
       owner_(owner) {
@@ -108,7 +107,7 @@ void ActionPair::refresh() {
 }
 
 void ActionPair::setActionsEnabled(bool enabled) {
-    const QString reason = qtText(libraryText(state_.language, needsTimeoutText));
+    const QString reason = qtText(libraryText(state_.language, textid::actionsNeedTimeout));
     for (const Row& row : {then_, else_}) {
         row.button->setEnabled(enabled);
         row.button->setToolTip(enabled ? QString() : reason);

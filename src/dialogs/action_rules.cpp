@@ -1,6 +1,7 @@
 #include "dialogs/action_rules.h"
 
 #include "model/menu_catalogue.h"
+#include "text/text_ids.h"
 
 #include <algorithm>
 
@@ -42,9 +43,12 @@ std::string nothingSelectedText(const ActionPlace& place) {
 
 Message watchForRefusal(ActionRefusal refusal, const TextSource& texts) {
     switch (refusal) {
-        case ActionRefusal::NothingSelected: return {texts(13758), texts(13757)};
-        case ActionRefusal::CarriesActions: return {texts(13759), texts(13757)};
-        case ActionRefusal::NotInVt: return {texts(13732), texts(13733)};
+        case ActionRefusal::NothingSelected:
+            return {texts(textid::watchForNeedsAction), texts(textid::watchForRefusalTitle)};
+        case ActionRefusal::CarriesActions:
+            return {texts(textid::watchForActionRefused), texts(textid::watchForRefusalTitle)};
+        case ActionRefusal::NotInVt:
+            return {texts(textid::refusedMenuCommand), texts(textid::refusedMenuCommandTitle)};
     }
     return {};
 }

@@ -1,5 +1,6 @@
 // Run and the menu commands that take a file name.
 #include "dialogs/command_dialogs.h"
+#include "text/text_ids.h"
 #include "widgets/file_dialogs.h"
 #include "widgets/ui_text.h"
 
@@ -15,9 +16,6 @@ namespace quendra {
 
 namespace {
 
-constexpr StringId browseText = 10152;
-constexpr StringId refusalCaption = 13745;
-
 /// Which files "Browse" offers.
 enum class FileKind : std::uint8_t { Program, Session, Any, Macro };
 
@@ -30,12 +28,12 @@ struct FileOperation {
 };
 
 constexpr std::array<FileOperation, 6> fileOperations = {{
-    {0, 13734, 13735, FileKind::Program},
-    {202, 12519, 13736, FileKind::Session},
-    {204, 13737, 13738, FileKind::Session},
-    {219, 11724, 13739, FileKind::Any},
-    {254, 13740, 13741, FileKind::Macro},
-    {257, 13742, 13743, FileKind::Macro},
+    {0, textid::runTitle, textid::runLabel, FileKind::Program},
+    {202, textid::openSessionTitle, textid::openSessionLabel, FileKind::Session},
+    {204, textid::saveSessionAsTitle, textid::saveSessionAsLabel, FileKind::Session},
+    {219, textid::pasteFromFileTitle, textid::pasteFromFileLabel, FileKind::Any},
+    {254, textid::runMacroTitle, textid::runMacroLabel, FileKind::Macro},
+    {257, textid::editMacroTitle, textid::editMacroLabel, FileKind::Macro},
 }};
 
 const FileOperation& fileOperation(const ConstSlotFields& fields) {
@@ -72,7 +70,7 @@ class FileOperationDialog : public ParameterDialog {
           operation_(fileOperation(fields())) {
         setWindowTitle(text(operation_.caption));
         file_ = named(new TextEdit, "file");
-        auto* browse = named(new QPushButton(text(browseText)), "browse");
+        auto* browse = named(new QPushButton(text(textid::browseButton)), "browse");
         connect(browse, &QPushButton::clicked, this, [this] { chooseName(); });
         body().addWidget(makeLabel("fileLabel", text(operation_.label), file_));
         auto* row = new QHBoxLayout;
@@ -85,7 +83,7 @@ class FileOperationDialog : public ParameterDialog {
     void load() override { file_->setBytes(textOf(fields())); }
 
     [[nodiscard]] std::optional<Refusal> check() const override {
-        if (file_->text().isEmpty()) return required(file_, text(refusalCaption));
+        if (file_->text().isEmpty()) return required(file_, text(textid::fileNameMissingTitle));
         return std::nullopt;
     }
 

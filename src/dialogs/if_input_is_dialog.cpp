@@ -3,6 +3,7 @@
 #include "dialogs/action_pair.h"
 #include "dialogs/compare_operand.h"
 #include "dialogs/parameter_dialog.h"
+#include "text/text_ids.h"
 #include "widgets/ui_text.h"
 
 #include <QComboBox>
@@ -13,10 +14,8 @@ namespace quendra {
 
 namespace {
 
-constexpr StringId operandsLabel = 15243;
-constexpr ActionTexts equalTexts = {15244, 15245};
-constexpr ActionTexts notEqualTexts = {15246, 15247};
-constexpr StringId okText = 14424;
+constexpr ActionTexts equalTexts = {textid::equalButton, textid::equalLine};
+constexpr ActionTexts notEqualTexts = {textid::notEqualButton, textid::notEqualLine};
 
 /// A box that offers the variables and takes any text that a script can store.
 struct OperandBox {
@@ -46,11 +45,11 @@ class IfInputIsDialog : public ParameterDialog {
         setWindowTitle(QStringLiteral("If_Input_Is"));
         first_ = makeBox("firstOperand", "firstOperandText");
         second_ = makeBox("secondOperand", "secondOperandText");
-        addLabelled("operandsLabel", text(operandsLabel), first_.box);
+        addLabelled("operandsLabel", text(textid::ifInputIsOperands), first_.box);
         body().addWidget(second_.box);
         body().addSpacing(4);
         body().addWidget(actions_);
-        addButtons(text(okText));
+        addButtons(text(textid::okButton));
     }
 
     void load() override {
@@ -77,7 +76,7 @@ class IfInputIsDialog : public ParameterDialog {
     OperandBox makeBox(const char* name, const char* textName) {
         OperandBox made = {named(new QComboBox, name), new TextEdit};
         // The label leads to the first box only.
-        made.box->setAccessibleName(plainLabel(text(operandsLabel)));
+        made.box->setAccessibleName(plainLabel(text(textid::ifInputIsOperands)));
         made.box->setEditable(true);
         made.box->setLineEdit(made.text);
         made.box->setInsertPolicy(QComboBox::NoInsert);

@@ -1,5 +1,6 @@
 // Input: what the script asks its user for.
 #include "dialogs/command_dialogs.h"
+#include "text/text_ids.h"
 #include "widgets/ui_text.h"
 
 #include <QCheckBox>
@@ -12,15 +13,6 @@
 namespace quendra {
 
 namespace {
-
-constexpr StringId refusalCaption = 11215;
-constexpr StringId titleText = 11216;
-constexpr StringId promptText = 11217;
-constexpr StringId characterText = 11218;
-constexpr StringId stringText = 11219;
-constexpr StringId lengthText = 11220;
-constexpr StringId hideText = 11221;
-constexpr StringId storeAsText = 15242;
 
 constexpr NumberRange lengthRange = {2, 255};
 constexpr std::uint8_t singleCharacter = 0;
@@ -54,10 +46,10 @@ class InputDialog : public ParameterDialog {
 
     [[nodiscard]] std::optional<Refusal> check() const override {
         const QString caption =
-            target().slot == Slot::Else ? QStringLiteral("Input") : text(refusalCaption);
+            target().slot == Slot::Else ? QStringLiteral("Input") : text(textid::inputRefusalTitle);
         if (title_->text().isEmpty()) return required(title_, caption);
         if (string_->isChecked() && !length_->number()) {
-            return outOfRange(length_, text(lengthText), caption);
+            return outOfRange(length_, text(textid::inputLength), caption);
         }
         return std::nullopt;
     }
@@ -76,18 +68,18 @@ class InputDialog : public ParameterDialog {
   private:
     void addTexts() {
         title_ = named(new TextEdit, "title");
-        addLabelled("titleLabel", text(titleText), title_);
+        addLabelled("titleLabel", text(textid::inputTitle), title_);
         prompt_ = named(new PromptEdit, "prompt");
         prompt_->setFixedHeight(promptLines * prompt_->fontMetrics().lineSpacing() +
                                 2 * prompt_->frameWidth() + 8);
-        addLabelled("promptLabel", text(promptText), prompt_);
+        addLabelled("promptLabel", text(textid::inputPrompt), prompt_);
     }
 
     void addLength() {
-        character_ = named(new QRadioButton(text(characterText).trimmed()), "character");
-        string_ = named(new QRadioButton(text(stringText).trimmed()), "string");
+        character_ = named(new QRadioButton(text(textid::inputCharacter).trimmed()), "character");
+        string_ = named(new QRadioButton(text(textid::inputString).trimmed()), "string");
         length_ = named(new SpinEdit(lengthRange), "maximumLength");
-        lengthLabel_ = makeLabel("maximumLengthLabel", text(lengthText), length_);
+        lengthLabel_ = makeLabel("maximumLengthLabel", text(textid::inputLength), length_);
         body().addSpacing(4);
         body().addWidget(character_);
         body().addWidget(string_);
@@ -106,13 +98,13 @@ class InputDialog : public ParameterDialog {
     }
 
     void addRest() {
-        hide_ = named(new QCheckBox(text(hideText)), "hideInput");
+        hide_ = named(new QCheckBox(text(textid::inputHide)), "hideInput");
         body().addWidget(hide_);
         variable_ = named(new QComboBox, "variable");
         for (const std::string_view name : inputVariableNames)
             variable_->addItem(qtText(name));
         QGridLayout& grid = *addGrid();
-        grid.addWidget(makeLabel("variableLabel", text(storeAsText), variable_), 0, 0);
+        grid.addWidget(makeLabel("variableLabel", text(textid::inputStoreAs), variable_), 0, 0);
         grid.addWidget(variable_, 0, 1);
     }
 

@@ -1,5 +1,6 @@
 #include "dialogs/parameter_dialog.h"
 
+#include "text/text_ids.h"
 #include "widgets/input_note.h"
 #include "widgets/mnemonics.h"
 #include "widgets/placement.h"
@@ -22,10 +23,6 @@
 namespace quendra {
 
 namespace {
-
-constexpr StringId cancelText = 10167;
-constexpr StringId requiredText = 13744;
-constexpr StringId outOfRangeText = 16005;
 
 constexpr int pictureSide = 32;
 /// Wide enough for most texts.
@@ -144,7 +141,7 @@ void ParameterDialog::addButtons(const QString& okText) {
 
     auto* ok = new QPushButton(okText);
     ok->setObjectName(QStringLiteral("ok"));
-    auto* cancel = new QPushButton(text(cancelText));
+    auto* cancel = new QPushButton(text(textid::cancelButton));
     cancel->setObjectName(QStringLiteral("cancel"));
     auto* buttons = new QDialogButtonBox;
     buttons->setObjectName(QStringLiteral("buttons"));
@@ -289,14 +286,14 @@ Refusal ParameterDialog::refusal(QWidget* field, const QString& text, const QStr
 }
 
 Refusal ParameterDialog::required(QWidget* field, const QString& caption) const {
-    return refusal(field, text(requiredText), caption);
+    return refusal(field, text(textid::valueRequired), caption);
 }
 
 Refusal ParameterDialog::outOfRange(const SpinEdit* field, const QString& label,
                                     const QString& caption) const {
     const NumberRange& range = field->range();
     const std::string text =
-        libraryText(context_.state.language, outOfRangeText,
+        libraryText(context_.state.language, textid::numberOutOfRange,
                     {plainLabel(label).toStdString(), std::to_string(range.smallest),
                      std::to_string(range.largest)});
     return refusal(const_cast<SpinEdit*>(field), qtText(text), caption);

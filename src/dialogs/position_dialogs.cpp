@@ -1,5 +1,6 @@
 // Set_Cursor, Copy and Paste: positions on the host's screen.
 #include "dialogs/command_dialogs.h"
+#include "text/text_ids.h"
 
 #include <QCheckBox>
 #include <QGridLayout>
@@ -12,9 +13,6 @@ namespace quendra {
 
 namespace {
 
-constexpr StringId rowText = 10156;
-constexpr StringId columnText = 10157;
-
 constexpr std::uint32_t largestPosition = 255;
 
 std::uint8_t byteOf(const NumberEdit& field) {
@@ -26,13 +24,13 @@ class SetCursorDialog : public ParameterDialog {
     SetCursorDialog(const DialogContext& context, const EditTarget& target)
         : ParameterDialog(context, target, "setCursorDialog", "Set_Cursor") {
         setWindowTitle(QStringLiteral("Set_Cursor"));
-        body().addWidget(makeLabel("heading", text(14557)));
+        body().addWidget(makeLabel("heading", text(textid::setCursorHeading)));
         QGridLayout& grid = *addGrid();
         row_ = named(new NumberEdit(largestPosition), "row");
         column_ = named(new NumberEdit(largestPosition), "column");
-        grid.addWidget(makeLabel("rowLabel", text(rowText), row_), 0, 0);
+        grid.addWidget(makeLabel("rowLabel", text(textid::setCursorRow), row_), 0, 0);
         grid.addWidget(row_, 0, 1);
-        grid.addWidget(makeLabel("columnLabel", text(columnText), column_), 0, 2);
+        grid.addWidget(makeLabel("columnLabel", text(textid::setCursorColumn), column_), 0, 2);
         grid.addWidget(column_, 0, 3);
         addButtons();
     }
@@ -82,8 +80,9 @@ class AreaDialog : public ParameterDialog {
         int place = 1;
         for (const char* name : names) {
             auto* field = named(new NumberEdit(largestPosition), name);
-            field->setAccessibleName(plainLabel(label) + QStringLiteral(": ") +
-                                     plainLabel(text(place == 1 ? rowText : columnText)));
+            field->setAccessibleName(
+                plainLabel(label) + QStringLiteral(": ") +
+                plainLabel(text(place == 1 ? textid::setCursorRow : textid::setCursorColumn)));
             grid.addWidget(field, line, place++);
             positions_.push_back(field);
         }
@@ -127,12 +126,12 @@ class CopyDialog : public AreaDialog {
   public:
     CopyDialog(const DialogContext& context, const EditTarget& target)
         : AreaDialog(context, target, "copyDialog", "Copy") {
-        setWindowTitle(text(10279));
-        body().addWidget(makeLabel("heading", text(14834)));
+        setWindowTitle(text(textid::copyDialogTitle));
+        body().addWidget(makeLabel("heading", text(textid::copyDialogHeading)));
         QGridLayout& grid = *addGrid();
-        addPosition(grid, text(14835), {"startRow", "startColumn"});
-        addPosition(grid, text(14836), {"endRow", "endColumn"});
-        addInstead(text(14837), "entireScreen");
+        addPosition(grid, text(textid::copyDialogStart), {"startRow", "startColumn"});
+        addPosition(grid, text(textid::copyDialogEnd), {"endRow", "endColumn"});
+        addInstead(text(textid::copyDialogEntireScreen), "entireScreen");
         addButtons();
     }
 
@@ -148,10 +147,10 @@ class PasteDialog : public AreaDialog {
   public:
     PasteDialog(const DialogContext& context, const EditTarget& target)
         : AreaDialog(context, target, "pasteDialog", "Paste") {
-        setWindowTitle(text(10303));
-        body().addWidget(makeLabel("heading", text(14838)));
-        addPosition(*addGrid(), text(14839), {"row", "column"});
-        addInstead(text(14840), "atCursor");
+        setWindowTitle(text(textid::pasteDialogTitle));
+        body().addWidget(makeLabel("heading", text(textid::pasteDialogHeading)));
+        addPosition(*addGrid(), text(textid::pasteDialogPosition), {"row", "column"});
+        addInstead(text(textid::pasteDialogAtCursor), "atCursor");
         addButtons();
     }
 

@@ -1,6 +1,7 @@
 // Comment, Goto, Label, Message, Express_Logon and Type: one text.
 #include "dialogs/command_dialogs.h"
 #include "platform/registry.h"
+#include "text/text_ids.h"
 #include "widgets/ui_text.h"
 
 #include <QCheckBox>
@@ -11,19 +12,14 @@ namespace quendra {
 
 namespace {
 
-constexpr StringId hideText = 11209;
-constexpr StringId hiddenLengthText = 16003;
-constexpr StringId onlyObscuredText = 16006;
-constexpr StringId sealedText = 16007;
-
 StringId labelOf(CommandCode code) {
     switch (code) {
-        case CommandCode::Comment: return 13746;
-        case CommandCode::Goto: return 13747;
-        case CommandCode::Label: return 13748;
-        case CommandCode::Message: return 13749;
-        case CommandCode::ExpressLogon: return 14833;
-        default: return 13750;
+        case CommandCode::Comment: return textid::commentLabel;
+        case CommandCode::Goto: return textid::gotoLabel;
+        case CommandCode::Label: return textid::labelLabel;
+        case CommandCode::Message: return textid::messageLabel;
+        case CommandCode::ExpressLogon: return textid::expressLogonLabel;
+        default: return textid::typeLabel;
     }
 }
 
@@ -43,7 +39,7 @@ class TextDialog : public ParameterDialog {
         if (isHiddenText(fields())) text_->setMasked(true);
         text_->setBytes(textOf(fields()));
         const bool sealed = isHiddenText(fields()) && fields().kept && textOf(fields()).empty();
-        text_->setPlaceholderText(sealed ? text(sealedText) : QString());
+        text_->setPlaceholderText(sealed ? text(textid::hiddenUnderOtherIdentity) : QString());
     }
 
     [[nodiscard]] std::optional<Refusal> check() const override {
@@ -51,9 +47,10 @@ class TextDialog : public ParameterDialog {
         const bool hides = isHiddenText(fields()) || (hide_ != nullptr && hide_->isChecked());
         if (hides && text_->bytes().size() > maxHiddenTextLength) {
             const auto limit = std::to_string(maxHiddenTextLength);
-            return refusal(text_,
-                           qtText(libraryText(context().state.language, hiddenLengthText, {limit})),
-                           caption());
+            return refusal(
+                text_,
+                qtText(libraryText(context().state.language, textid::hiddenTextTooLong, {limit})),
+                caption());
         }
         return std::nullopt;
     }
@@ -68,10 +65,11 @@ class TextDialog : public ParameterDialog {
     [[nodiscard]] QString caption() const { return qtText(commandKeyword(fields().code)); }
 
     void addHidingParts() {
-        const QString note = userIdentity().empty() ? text(onlyObscuredText) : QString();
+        const QString note =
+            userIdentity().empty() ? text(textid::hiddenTextOnlyObscured) : QString();
         text_->setToolTip(note);
         if (context().state.editing) return;
-        hide_ = named(new QCheckBox(text(hideText)), "hide");
+        hide_ = named(new QCheckBox(text(textid::typeHide)), "hide");
         hide_->setToolTip(note);
         connect(hide_, &QCheckBox::toggled, text_, &TextEdit::setMasked);
         body().addWidget(hide_);

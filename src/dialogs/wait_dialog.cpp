@@ -1,5 +1,6 @@
 // Wait and Wait_Ready: one number.
 #include "dialogs/command_dialogs.h"
+#include "text/text_ids.h"
 #include "widgets/ui_text.h"
 
 #include <QLabel>
@@ -10,9 +11,6 @@
 namespace quendra {
 
 namespace {
-
-constexpr StringId secondsText = 13753;
-constexpr StringId restoresText = 13754;
 
 class WaitDialog : public ParameterDialog {
   public:
@@ -40,7 +38,8 @@ class WaitDialog : public ParameterDialog {
 
     [[nodiscard]] QString label() const {
         const bool seconds = fields().code == CommandCode::Wait;
-        if (target().slot != Slot::Else) return text(seconds ? secondsText : restoresText);
+        if (target().slot != Slot::Else)
+            return text(seconds ? textid::waitSeconds : textid::waitReadyRestores);
         return seconds ? QStringLiteral("&Enter time to Wait(seconds):")
                        : QStringLiteral("&Enter the number of Keyboard Restores to wait for:");
     }

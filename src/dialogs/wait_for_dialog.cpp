@@ -2,6 +2,7 @@
 // a Watch_For it has the text and the search options only.
 #include "dialogs/action_pair.h"
 #include "dialogs/parameter_dialog.h"
+#include "text/text_ids.h"
 
 #include <QCheckBox>
 #include <QGridLayout>
@@ -17,19 +18,8 @@ namespace quendra {
 
 namespace {
 
-constexpr StringId textLabel = 13751;
-constexpr StringId findGroup = 13807;
-constexpr StringId startPosition = 14414;
-constexpr StringId rowText = 10316;
-constexpr StringId columnText = 10317;
-constexpr StringId exactText = 14415;
-constexpr StringId caseText = 14416;
-constexpr StringId timeoutGroup = 14417;
-constexpr StringId noTimeoutText = 14418;
-constexpr StringId timeoutText = 14419;
-constexpr ActionTexts foundTexts = {14420, 14421};
-constexpr ActionTexts notFoundTexts = {14422, 14423};
-constexpr StringId okText = 14424;
+constexpr ActionTexts foundTexts = {textid::foundButton, textid::foundLine};
+constexpr ActionTexts notFoundTexts = {textid::notFoundButton, textid::notFoundLine};
 
 constexpr NumberRange rowRange = {1, 62};
 constexpr NumberRange columnRange = {1, 160};
@@ -52,14 +42,14 @@ class WaitForDialog : public ParameterDialog {
         : ParameterDialog(context, target, "waitForDialog", "Wait_For"),
           text_(named(new TextEdit, "text")) {
         setWindowTitle(QStringLiteral("Wait_For"));
-        addLabelled("textLabel", text(textLabel), text_);
+        addLabelled("textLabel", text(textid::waitForText), text_);
         body().addSpacing(4);
         auto* groups = new QHBoxLayout;
         groups->addWidget(makeFindGroup(), 1);
         if (target.slot == Slot::Entry) groups->addWidget(makeTimeoutGroup(), 1);
         body().addLayout(groups);
         if (target.slot == Slot::Entry) addActions();
-        addButtons(text(okText));
+        addButtons(text(textid::okButton));
     }
 
     void load() override {
@@ -79,10 +69,10 @@ class WaitForDialog : public ParameterDialog {
     [[nodiscard]] std::optional<Refusal> check() const override {
         const QString caption = QStringLiteral("Wait_For");
         if (text_->text().isEmpty()) return required(text_, caption);
-        if (!row_->number()) return outOfRange(row_, text(rowText), caption);
-        if (!column_->number()) return outOfRange(column_, text(columnText), caption);
+        if (!row_->number()) return outOfRange(row_, text(textid::waitForRow), caption);
+        if (!column_->number()) return outOfRange(column_, text(textid::waitForColumn), caption);
         if (waits() && !seconds_->number()) {
-            return outOfRange(seconds_, text(timeoutText), caption);
+            return outOfRange(seconds_, text(textid::waitForTimeout), caption);
         }
         return std::nullopt;
     }
@@ -109,16 +99,16 @@ class WaitForDialog : public ParameterDialog {
 
     QGroupBox* makeFindGroup() {
         const ScriptEntry& entry = target().entry;
-        QGroupBox* group = makeGroup("findGroup", findGroup);
+        QGroupBox* group = makeGroup("findGroup", textid::waitForFindText);
         auto* grid = new QGridLayout(group);
         row_ = named(new SpinEdit(widened(rowRange, entry.searchRow)), "row");
         column_ = named(new SpinEdit(widened(columnRange, entry.searchColumn)), "column");
-        exact_ = named(new QCheckBox(text(exactText)), "exactPosition");
-        case_ = named(new QCheckBox(text(caseText)), "caseSensitive");
-        grid->addWidget(makeLabel("startLabel", text(startPosition)), 0, 0, 1, 5);
-        grid->addWidget(makeLabel("rowLabel", text(rowText), row_), 1, 0);
+        exact_ = named(new QCheckBox(text(textid::waitForExactPosition)), "exactPosition");
+        case_ = named(new QCheckBox(text(textid::waitForCaseSensitive)), "caseSensitive");
+        grid->addWidget(makeLabel("startLabel", text(textid::waitForStartPosition)), 0, 0, 1, 5);
+        grid->addWidget(makeLabel("rowLabel", text(textid::waitForRow), row_), 1, 0);
         grid->addWidget(row_, 1, 1);
-        grid->addWidget(makeLabel("columnLabel", text(columnText), column_), 1, 2);
+        grid->addWidget(makeLabel("columnLabel", text(textid::waitForColumn), column_), 1, 2);
         grid->addWidget(column_, 1, 3);
         grid->addWidget(exact_, 2, 0, 1, 5);
         grid->addWidget(case_, 3, 0, 1, 5);
@@ -127,12 +117,12 @@ class WaitForDialog : public ParameterDialog {
     }
 
     QGroupBox* makeTimeoutGroup() {
-        QGroupBox* group = makeGroup("timeoutGroup", timeoutGroup);
+        QGroupBox* group = makeGroup("timeoutGroup", textid::waitForTimeoutGroup);
         auto* grid = new QGridLayout(group);
-        noTimeout_ = named(new QRadioButton(text(noTimeoutText)), "noTimeout");
-        timeout_ = named(new QRadioButton(text(timeoutText)), "timeout");
+        noTimeout_ = named(new QRadioButton(text(textid::waitForNoTimeout)), "noTimeout");
+        timeout_ = named(new QRadioButton(text(textid::waitForTimeout)), "timeout");
         seconds_ = named(new SpinEdit(secondsRange), "timeoutSeconds");
-        seconds_->setAccessibleName(plainLabel(text(timeoutText)));
+        seconds_->setAccessibleName(plainLabel(text(textid::waitForTimeout)));
         grid->addWidget(noTimeout_, 0, 0, 1, 3);
         grid->addWidget(timeout_, 1, 0);
         grid->addWidget(seconds_, 1, 1);

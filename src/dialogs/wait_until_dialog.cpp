@@ -1,5 +1,6 @@
 // Wait_Until: a date, a time of day, or both.
 #include "dialogs/command_dialogs.h"
+#include "text/text_ids.h"
 
 #include <QCheckBox>
 #include <QDateEdit>
@@ -11,10 +12,6 @@
 namespace quendra {
 
 namespace {
-
-constexpr StringId headingText = 11212;
-constexpr StringId dateText = 16008;
-constexpr StringId timeText = 16009;
 
 constexpr int daysOfWeek = 7;
 const QDate firstDate(1601, 1, 1);
@@ -51,11 +48,11 @@ class WaitUntilDialog : public ParameterDialog {
     WaitUntilDialog(const DialogContext& context, const EditTarget& target)
         : ParameterDialog(context, target, "waitUntilDialog", "Wait_Until") {
         setWindowTitle(QStringLiteral("Wait_Until"));
-        body().addWidget(makeLabel("heading", text(headingText)));
+        body().addWidget(makeLabel("heading", text(textid::waitUntilHeading)));
         QGridLayout& grid = *addGrid();
-        hasDate_ = named(new QCheckBox(text(dateText)), "hasDate");
+        hasDate_ = named(new QCheckBox(text(textid::waitUntilDate)), "hasDate");
         date_ = named(new QDateEdit, "date");
-        hasTime_ = named(new QCheckBox(text(timeText)), "hasTime");
+        hasTime_ = named(new QCheckBox(text(textid::waitUntilTime)), "hasTime");
         time_ = named(new QTimeEdit, "time");
         date_->setDateRange(firstDate, lastDate);
         date_->setDisplayFormat(dateFormat());

@@ -1,12 +1,10 @@
 // The Watch_For dialog: a text to watch for, and the action to run when it shows.
 #include "dialogs/action_chooser.h"
+#include "text/text_ids.h"
 
 namespace quendra {
 
 namespace {
-
-constexpr StringId textLabel = 13752;
-constexpr StringId refusalCaption = 13757;
 
 class WatchForDialog : public ActionChooser {
   public:
@@ -15,7 +13,7 @@ class WatchForDialog : public ActionChooser {
                         "watchForDialog", "Watch_For"),
           text_(named(new TextEdit, "text")) {
         setWindowTitle(QStringLiteral("Watch_For"));
-        addLabelled("textLabel", text(textLabel), text_);
+        addLabelled("textLabel", text(textid::watchForText), text_);
         addLists();
         addButtons();
     }
@@ -27,7 +25,7 @@ class WatchForDialog : public ActionChooser {
     }
 
     [[nodiscard]] std::optional<Refusal> check() const override {
-        if (text_->text().isEmpty()) return required(text_, text(refusalCaption));
+        if (text_->text().isEmpty()) return required(text_, text(textid::watchForRefusalTitle));
         return ActionChooser::check();
     }
 

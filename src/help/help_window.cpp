@@ -2,6 +2,7 @@
 
 #include "help/page_finder.h"
 #include "help/page_view.h"
+#include "text/text_ids.h"
 #include "widgets/placement.h"
 #include "widgets/symbol_icon.h"
 #include "widgets/ui_text.h"
@@ -22,17 +23,6 @@
 namespace quendra {
 
 namespace {
-
-constexpr StringId titleText = 15343;
-constexpr StringId backText = 15344;
-constexpr StringId forwardText = 15345;
-constexpr StringId startText = 15346;
-constexpr StringId missingTitle = 15353;
-constexpr StringId missingText = 15354;
-constexpr StringId noManualText = 15355;
-constexpr StringId pageText = 15356;
-constexpr StringId largerText = 15357;
-constexpr StringId smallerText = 15358;
 
 constexpr int backIcon = 401;
 constexpr int forwardIcon = 402;
@@ -98,7 +88,7 @@ void HelpWindow::build() {
 QWidget* HelpWindow::buildPage() {
     view_ = new PageView;
     view_->setObjectName(QStringLiteral("helpPage"));
-    view_->setAccessibleName(text(pageText));
+    view_->setAccessibleName(text(textid::helpPage));
     // Queued, since another page takes the place of the document that is handling the click.
     connect(view_, &QTextBrowser::anchorClicked, this, &HelpWindow::followLink,
             Qt::QueuedConnection);
@@ -112,16 +102,16 @@ QWidget* HelpWindow::buildPage() {
 }
 
 QToolBar* HelpWindow::buildBar() {
-    back_ = addCommand("helpBack", backIcon, backText, {Qt::ALT | Qt::Key_Left, Qt::Key_Back},
-                       &HelpWindow::goBack);
-    forward_ = addCommand("helpForward", forwardIcon, forwardText,
+    back_ = addCommand("helpBack", backIcon, textid::helpBack,
+                       {Qt::ALT | Qt::Key_Left, Qt::Key_Back}, &HelpWindow::goBack);
+    forward_ = addCommand("helpForward", forwardIcon, textid::helpForward,
                           {Qt::ALT | Qt::Key_Right, Qt::Key_Forward}, &HelpWindow::goForward);
-    QAction* start = addCommand("helpStart", startIcon, startText, {Qt::ALT | Qt::Key_Home},
-                                &HelpWindow::goToStart);
-    QAction* smaller = addCommand("helpSmaller", zoomOutIcon, smallerText,
+    QAction* start = addCommand("helpStart", startIcon, textid::helpStartPage,
+                                {Qt::ALT | Qt::Key_Home}, &HelpWindow::goToStart);
+    QAction* smaller = addCommand("helpSmaller", zoomOutIcon, textid::helpSmallerText,
                                   {Qt::CTRL | Qt::Key_Minus}, &HelpWindow::zoomOut);
     QAction* larger =
-        addCommand("helpLarger", zoomInIcon, largerText,
+        addCommand("helpLarger", zoomInIcon, textid::helpLargerText,
                    {Qt::CTRL | Qt::Key_Plus, Qt::CTRL | Qt::Key_Equal}, &HelpWindow::zoomIn);
     addKeys();
     auto* bar = new QToolBar;
@@ -185,12 +175,12 @@ void HelpWindow::showPlace(const Place& place) {
     const QString markdown = manual_.markdownOf(place.page);
     QString title = manual_.titleOf(place.page);
     if (markdown.isEmpty()) {
-        title = text(missingTitle);
+        title = text(textid::helpPageMissingTitle);
         showMissing(place.page);
     } else {
         view_->showPage(markdown, file.section(u'/', 0, -2));
     }
-    setWindowTitle(text(titleText, {title.toStdString()}));
+    setWindowTitle(text(textid::helpWindowTitle, {title.toStdString()}));
     finder_->selectPage(place.page);
     back_->setEnabled(!behind_.empty());
     forward_->setEnabled(!ahead_.empty());
@@ -201,9 +191,10 @@ void HelpWindow::showPlace(const Place& place) {
 void HelpWindow::showMissing(const QString& page) {
     const bool hasManual = !manual_.contents().empty();
     const QString what = hasManual ? page : manual_.folder();
-    const QString sentence =
-        text(hasManual ? missingText : noManualText, {escaped(what).toStdString()});
-    view_->showPage(QStringLiteral("# %1\n\n%2").arg(text(missingTitle), sentence), {});
+    const QString sentence = text(hasManual ? textid::helpPageMissing : textid::helpManualMissing,
+                                  {escaped(what).toStdString()});
+    view_->showPage(QStringLiteral("# %1\n\n%2").arg(text(textid::helpPageMissingTitle), sentence),
+                    {});
 }
 
 void HelpWindow::followLink(const QUrl& link) {

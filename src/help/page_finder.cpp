@@ -1,6 +1,7 @@
 #include "help/page_finder.h"
 
 #include "help/search_results.h"
+#include "text/text_ids.h"
 #include "widgets/ui_text.h"
 
 #include <QKeyEvent>
@@ -18,13 +19,6 @@
 namespace quendra {
 
 namespace {
-
-constexpr StringId contentsText = 15347;
-constexpr StringId searchText = 15348;
-constexpr StringId resultsText = 15349;
-constexpr StringId countText = 15350;
-constexpr StringId onePageText = 15351;
-constexpr StringId nothingText = 15352;
 
 constexpr int pageRole = Qt::UserRole;
 
@@ -90,8 +84,8 @@ PageFinder::PageFinder(Manual& manual, LanguageLibrary& language, QWidget* paren
 
 void PageFinder::makeSearchField() {
     field_->setObjectName(QStringLiteral("helpSearch"));
-    field_->setPlaceholderText(text(searchText));
-    field_->setAccessibleName(text(searchText));
+    field_->setPlaceholderText(text(textid::helpSearch));
+    field_->setAccessibleName(text(textid::helpSearch));
     field_->setClearButtonEnabled(true);
     field_->installEventFilter(this);
     connect(field_, &QLineEdit::textChanged, this, &PageFinder::search);
@@ -102,7 +96,7 @@ void PageFinder::makeContents() {
     bold.setWeight(QFont::DemiBold);
     addLines(*lines_->invisibleRootItem(), manual_.contents(), bold);
     contents_->setObjectName(QStringLiteral("helpContents"));
-    contents_->setAccessibleName(text(contentsText));
+    contents_->setAccessibleName(text(textid::helpContents));
     contents_->setModel(lines_);
     contents_->setItemDelegate(new RoomyRows(contents_));
     contents_->setHeaderHidden(true);
@@ -118,7 +112,7 @@ void PageFinder::makeContents() {
 
 void PageFinder::makeResults() {
     results_->setObjectName(QStringLiteral("helpResults"));
-    results_->setAccessibleName(text(resultsText));
+    results_->setAccessibleName(text(textid::helpResults));
     results_->setModel(hits_);
     results_->setItemDelegate(hitRows_);
     results_->setUniformItemSizes(true);
@@ -178,9 +172,9 @@ void PageFinder::search() {
     const std::size_t count = found.size();
     hitRows_->setWords(words());
     hits_->setHits(std::move(found));
-    count_->setText(count == 0   ? text(nothingText)
-                    : count == 1 ? text(onePageText)
-                                 : text(countText, {std::to_string(count)}));
+    count_->setText(count == 0   ? text(textid::helpFoundNothing)
+                    : count == 1 ? text(textid::helpFoundOnePage)
+                                 : text(textid::helpFoundPages, {std::to_string(count)}));
     const bool isOver = words().isEmpty();
     lists_->setCurrentIndex(isOver ? 0 : 1);
     if (isOver) Q_EMIT searchEnded();

@@ -1,5 +1,7 @@
 #include "hosts/host_type.h"
 
+#include "text/text_ids.h"
+
 #include <algorithm>
 
 namespace quendra {
@@ -7,11 +9,12 @@ namespace quendra {
 namespace {
 
 constexpr std::array<HostTypeInfo, 6> infos = {{
-    {HostType::Mainframe, "Mainframe", "mainframe", 313, 11199, "", "QDMDSCR", '2',
-     "Quendra Mainframe Display(*.qmd)", "qmd"},
-    {HostType::ISeries, "ISeries", "iseries", 314, 11200, "", "QDADSCR", '2',
+    {HostType::Mainframe, "Mainframe", "mainframe", 313, textid::mainframeModeMenuText, "",
+     "QDMDSCR", '2', "Quendra Mainframe Display(*.qmd)", "qmd"},
+    {HostType::ISeries, "ISeries", "iseries", 314, textid::iSeriesModeMenuText, "", "QDADSCR", '2',
      "Quendra iSeries Display(*.qad)", "qad"},
-    {HostType::VT, "VT", "vt", 315, 10010, "", "QDVTSCR", '6', "Quendra VT(*.qvt)", "qvt"},
+    {HostType::VT, "VT", "vt", 315, textid::vtModeMenuText, "", "QDVTSCR", '6', "Quendra VT(*.qvt)",
+     "qvt"},
     {HostType::UTS, "UTS", "uts", 316, 0, "  &UTS", "QDUDSCR", '8', "Quendra UTS Display(*.qud)",
      "qud"},
     {HostType::T27, "T27", "t27", 317, 0, "  &T27", "QDTDSCR", '8', "Quendra T27 Display(*.qtd)",

@@ -1,6 +1,7 @@
 #include "model/menu_catalogue.h"
 
 #include "model/script_entry.h"
+#include "text/text_ids.h"
 
 namespace quendra {
 
@@ -13,14 +14,14 @@ struct NameRange {
 };
 
 constexpr std::array<NameRange, 8> nameRanges = {{
-    {201, 237, 11913},
-    {238, 240, 11952},
-    {241, 241, 13722},
-    {242, 243, 11959},
-    {244, 244, 13723},
-    {245, 266, 11962},
-    {267, 267, 13326},
-    {268, 268, 11985},
+    {201, 237, textid::menuCommandNewSession},
+    {238, 240, textid::menuCommandEditTransferList},
+    {241, 241, textid::menuCommandSessionSettings},
+    {242, 243, textid::menuCommandDisplaySettings},
+    {244, 244, textid::menuCommandFontSettings},
+    {245, 266, textid::menuCommandKeyboardMap},
+    {267, 267, textid::menuCommandWebSupport},
+    {268, 268, textid::menuCommandAboutQuendra},
 }};
 
 }  // namespace

@@ -3,13 +3,12 @@
 #include "platform/files.h"
 #include "platform/registry.h"
 #include "platform/secret_memory.h"
+#include "text/text_ids.h"
 
 namespace quendra {
 
 std::vector<StartupNotice> loadApplication(ApplicationState& state, const StartupSettings& settings,
                                            const Environment& environment) {
-    constexpr StringId keyUnusableText = 12514;
-    constexpr StringId keyUnusableCaption = 13700;
     std::vector<StartupNotice> notices;
     state.settings = settings;
     if (const auto notice =
@@ -20,8 +19,8 @@ std::vector<StartupNotice> loadApplication(ApplicationState& state, const Startu
     state.menuCommands = buildMenuCommandCatalogue(state.language.textSource());
     state.cipher = HiddenTextCipher(userIdentity(readRegistry(environment)));
     if (!userRegistryUsable(environment)) {
-        notices.push_back({state.language.loadText(keyUnusableText),
-                           state.language.loadText(keyUnusableCaption), true});
+        notices.push_back({state.language.loadText(textid::registryKeyUnusable),
+                           state.language.loadText(textid::registryKeyUnusableTitle), true});
     }
     return notices;
 }

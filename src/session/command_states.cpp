@@ -2,6 +2,7 @@
 
 #include "session/commands.h"
 #include "session/document.h"
+#include "text/text_ids.h"
 
 namespace quendra {
 
@@ -50,20 +51,26 @@ std::string commandToolTip(int id, const CommandFacts& facts, LanguageLibrary& l
     const StringId plain = commandInfo(id).toolTipId;
     switch (id) {
         case command::insertScriptEvent:
-            return itemText(13701, facts.selectedEvent, plain, language);
+            return itemText(textid::insertNamedScriptEvent, facts.selectedEvent, plain, language);
         case command::insertLuFunction:
-            return itemText(13702, facts.selectedLuFunction, plain, language);
+            return itemText(textid::insertNamedLuFunction, facts.selectedLuFunction, plain,
+                            language);
         case command::insertMenuCommand:
-            return itemText(13703, facts.selectedMenuCommand, plain, language);
+            return itemText(textid::insertNamedMenuCommand, facts.selectedMenuCommand, plain,
+                            language);
         case command::editEntry:
             if (facts.editSource == EditSource::None) break;
-            return libraryText(language, facts.editSource == EditSource::Dialog ? 13705 : 13704,
+            return libraryText(language,
+                               facts.editSource == EditSource::Dialog ? textid::editNamedEntry
+                                                                      : textid::replaceNamedEntry,
                                {facts.focusedLine});
         case command::deleteEntries:
             if (facts.selectedCount == 0) break;
             return deleteText(language, facts.selectedCount);
-        case command::undo: return itemText(15306, facts.undoStep, plain, language);
-        case command::redo: return itemText(15308, facts.redoStep, plain, language);
+        case command::undo:
+            return itemText(textid::undoStepToolTip, facts.undoStep, plain, language);
+        case command::redo:
+            return itemText(textid::redoStepToolTip, facts.redoStep, plain, language);
         default: break;
     }
     return libraryText(language, plain);
@@ -80,15 +87,17 @@ std::optional<std::string> commandMenuText(int id, const CommandFacts& facts,
         return step;
     };
     switch (id) {
-        case command::undo: return itemText(15302, shown(facts.undoStep), plain, language);
-        case command::redo: return itemText(15304, shown(facts.redoStep), plain, language);
+        case command::undo:
+            return itemText(textid::undoStepMenuText, shown(facts.undoStep), plain, language);
+        case command::redo:
+            return itemText(textid::redoStepMenuText, shown(facts.redoStep), plain, language);
         default: return std::nullopt;
     }
 }
 
 std::string deleteText(LanguageLibrary& language, std::size_t count) {
-    return libraryText(language, 15392,
-                       {libraryText(language, 12159), entryCountText(language, count)});
+    return libraryText(language, textid::deleteVerbAndObject,
+                       {libraryText(language, textid::luDelete), entryCountText(language, count)});
 }
 
 }  // namespace quendra

@@ -1,6 +1,7 @@
 #include "session/commands.h"
 
 #include "hosts/host_type.h"
+#include "text/text_ids.h"
 
 #include <array>
 
@@ -11,33 +12,43 @@ namespace {
 using namespace command;
 
 constexpr CommandInfo table[] = {
-    {newScript, 10001, 12715, 13682, "Ctrl+N"},
-    {open, 10002, 11709, 13683, "Ctrl+O"},
-    {save, 10003, 13619, 13684, "Ctrl+S"},
-    {saveAs, 10004, 11710, 13685, "Ctrl+Shift+S"},
-    {command::exit, 10017, 11720, 13686, "Ctrl+Q"},
-    {cut, 11190, 13673, 13687, "Ctrl+X"},
-    {copy, 11191, 12655, 13688, "Ctrl+C"},
-    {paste, 11192, 10516, 13689, "Ctrl+V"},
-    {insertScriptEvent, 11194, 13674, 13690, ""},
-    {insertLuFunction, 11195, 13675, 13691, ""},
-    {insertMenuCommand, 11196, 13676, 13692, ""},
-    {editEntry, 11197, 13677, 13693, ""},
-    {deleteEntries, 11198, 12159, 13694, "Del"},
-    {313, 0, 13678, 13695, ""},
-    {314, 0, 13679, 13696, ""},
-    {315, 0, 13680, 13697, ""},
-    {316, 0, 14201, 14204, ""},
-    {317, 0, 14202, 14205, ""},
-    {318, 0, 14203, 14206, ""},
-    {help, 11201, 13681, 13698, "F1"},
-    {about, 11202, 11206, 13699, ""},
-    {undo, 15301, 15305, 15309, "Ctrl+Z"},
-    {redo, 15303, 15307, 15310, "Ctrl+Shift+Z; Ctrl+Y"},
-    {find, 15326, 15327, 15328, "Ctrl+F"},
-    {copyAsText, 15319, 15320, 15321, "Ctrl+Shift+C"},
-    {insertScript, 15322, 15323, 15324, "Ctrl+Shift+O"},
-    {helpOnSelection, 15340, 15341, 15342, "Shift+F1"},
+    {newScript, textid::newMenuText, textid::newToolTip, textid::newStatusText, "Ctrl+N"},
+    {open, textid::openMenuText, textid::openToolTip, textid::openStatusText, "Ctrl+O"},
+    {save, textid::saveMenuText, textid::saveToolTip, textid::saveStatusText, "Ctrl+S"},
+    {saveAs, textid::saveAsMenuText, textid::saveAsToolTip, textid::saveAsStatusText,
+     "Ctrl+Shift+S"},
+    {command::exit, textid::exitMenuText, textid::exitToolTip, textid::exitStatusText, "Ctrl+Q"},
+    {cut, textid::cutMenuText, textid::cutToolTip, textid::cutStatusText, "Ctrl+X"},
+    {copy, textid::copyMenuText, textid::copyToolTip, textid::copyStatusText, "Ctrl+C"},
+    {paste, textid::pasteMenuText, textid::pasteToolTip, textid::pasteStatusText, "Ctrl+V"},
+    {insertScriptEvent, textid::insertScriptEventMenuText, textid::insertScriptEventToolTip,
+     textid::insertScriptEventStatusText, ""},
+    {insertLuFunction, textid::insertLuFunctionMenuText, textid::insertLuFunctionToolTip,
+     textid::insertLuFunctionStatusText, ""},
+    {insertMenuCommand, textid::insertMenuCommandMenuText, textid::insertMenuCommandToolTip,
+     textid::insertMenuCommandStatusText, ""},
+    {editEntry, textid::editEntryMenuText, textid::editEntryToolTip, textid::editEntryStatusText,
+     ""},
+    {deleteEntries, textid::deleteEntriesMenuText, textid::luDelete,
+     textid::deleteEntriesStatusText, "Del"},
+    {313, 0, textid::mainframeModeToolTip, textid::mainframeModeStatusText, ""},
+    {314, 0, textid::iSeriesModeToolTip, textid::iSeriesModeStatusText, ""},
+    {315, 0, textid::vtModeToolTip, textid::vtModeStatusText, ""},
+    {316, 0, textid::utsModeToolTip, textid::utsModeStatusText, ""},
+    {317, 0, textid::t27ModeToolTip, textid::t27ModeStatusText, ""},
+    {318, 0, textid::iclModeToolTip, textid::iclModeStatusText, ""},
+    {help, textid::helpMenuText, textid::helpToolTip, textid::helpStatusText, "F1"},
+    {about, textid::aboutMenuText, textid::aboutToolTip, textid::aboutStatusText, ""},
+    {undo, textid::undoMenuText, textid::undoToolTip, textid::undoStatusText, "Ctrl+Z"},
+    {redo, textid::redoMenuText, textid::redoToolTip, textid::redoStatusText,
+     "Ctrl+Shift+Z; Ctrl+Y"},
+    {find, textid::findMenuText, textid::findToolTip, textid::findStatusText, "Ctrl+F"},
+    {copyAsText, textid::copyAsTextMenuText, textid::copyAsTextToolTip,
+     textid::copyAsTextStatusText, "Ctrl+Shift+C"},
+    {insertScript, textid::insertScriptMenuText, textid::insertScriptToolTip,
+     textid::insertScriptStatusText, "Ctrl+Shift+O"},
+    {helpOnSelection, textid::helpOnSelectionMenuText, textid::helpOnSelectionToolTip,
+     textid::helpOnSelectionStatusText, "Shift+F1"},
 };
 
 constexpr int fileItems[] = {newScript, open, save, saveAs, separator, command::exit};
@@ -49,9 +60,9 @@ constexpr int modeItems[] = {313, 314, 315, 316, 317, 318};
 constexpr int helpItems[] = {help, helpOnSelection, separator, about};
 
 constexpr MenuInfo menuTable[] = {
-    {10000, "fileMenu", fileItems},   {10018, "editMenu", editItems},
-    {11193, "entryMenu", entryItems}, {10935, "modeMenu", modeItems},
-    {10070, "helpMenu", helpItems},
+    {textid::fileMenu, "fileMenu", fileItems},    {textid::editMenu, "editMenu", editItems},
+    {textid::entryMenu, "entryMenu", entryItems}, {textid::modeMenu, "modeMenu", modeItems},
+    {textid::helpMenu, "helpMenu", helpItems},
 };
 
 constexpr int toolbarItems[] = {

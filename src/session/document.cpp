@@ -6,6 +6,7 @@
 #include "session/application_life.h"
 #include "text/path_text.h"
 #include "text/text_encoding.h"
+#include "text/text_ids.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -38,15 +39,17 @@ bool failedWhileWriting(const FileFailure& failure) {
 
 std::optional<Message> openRefusal(ApplicationState& state, const fs::path& path,
                                    const LoadedScript& loaded) {
-    constexpr StringId title = 13724;
     if (loaded.failure) {
-        const StringId text = failedWhileReading(*loaded.failure) ? 13728 : 12465;
-        return fileError(state, text, title, path, loaded.failure->message);
+        const StringId text = failedWhileReading(*loaded.failure) ? textid::scriptCannotBeRead
+                                                                  : textid::scriptCannotBeOpened;
+        return fileError(state, text, textid::openScriptErrorTitle, path, loaded.failure->message);
     }
     if (loaded.read.refusal == ReadRefusal::TooShort) {
-        return fileError(state, 13728, title, path, {});
+        return fileError(state, textid::scriptCannotBeRead, textid::openScriptErrorTitle, path, {});
     }
-    if (loaded.read.refusal) return fileError(state, 13727, title, path, {});
+    if (loaded.read.refusal)
+        return fileError(state, textid::scriptOfUnknownVersion, textid::openScriptErrorTitle, path,
+                         {});
     return std::nullopt;
 }
 
@@ -61,7 +64,7 @@ std::string entryNumbers(const std::vector<std::size_t>& entries) {
 
 // The text holds one line for each reason, in the order of ReadStop.
 std::string stopText(ApplicationState& state, const ReadResult& read) {
-    const std::string lines = libraryText(state.language, 15382);
+    const std::string lines = libraryText(state.language, textid::stoppedReadingReasons);
     std::size_t start = 0;
     for (auto left = static_cast<int>(read.stop) - 1; left > 0; --left)
         start = std::min(lines.find('\n', start), lines.size() - 1) + 1;
@@ -78,10 +81,12 @@ std::string loadNote(ApplicationState& state, const ReadResult& read,
     const auto add = [&](StringId id, const std::string& what) {
         remarks += "; " + libraryText(state.language, id, {what});
     };
-    if (!read.droppedActions.empty()) add(15388, entryNumbers(read.droppedActions));
-    if (upgrade && upgrade->failure) add(15387, upgrade->failure->message);
-    if (upgrade && !upgrade->failure) add(15386, pathText(upgrade->backup.filename()));
-    if (!unsaved.empty()) add(15389, pathText(unsaved));
+    if (!read.droppedActions.empty())
+        add(textid::watchedWaitForDropped, entryNumbers(read.droppedActions));
+    if (upgrade && upgrade->failure) add(textid::conversionFailed, upgrade->failure->message);
+    if (upgrade && !upgrade->failure)
+        add(textid::convertedKeeping, pathText(upgrade->backup.filename()));
+    if (!unsaved.empty()) add(textid::unsavedChangesKept, pathText(unsaved));
     if (!read.isWhole()) return stopText(state, read) + remarks;
     if (remarks.empty()) return {};
     return entryCountText(state.language, read.script.entryCount()) + remarks;
@@ -152,9 +157,9 @@ Message lossQuestion(ApplicationState& state, const std::vector<std::size_t>& en
         lines += shortEntryLine(state, entries[i]) + "\n";
     }
     if (entries.size() > shown) lines += "...\n";
-    const std::string text = libraryText(state.language, 15381, {lines});
-    return {text, libraryText(state.language, 13730), MessageIcon::Question, MessageButtons::YesNo,
-            true};
+    const std::string text = libraryText(state.language, textid::lossInVtQuestion, {lines});
+    return {text, libraryText(state.language, textid::saveScriptErrorTitle), MessageIcon::Question,
+            MessageButtons::YesNo, true};
 }
 
 }  // namespace
@@ -166,17 +171,20 @@ std::string documentTitle(const ScriptDocument& document) {
 }
 
 std::string entryCountText(LanguageLibrary& language, std::size_t count) {
-    if (count == 0) return libraryText(language, 13707);
-    if (count == 1) return libraryText(language, 13708);
-    return libraryText(language, 13709, {std::to_string(count)});
+    if (count == 0) return libraryText(language, textid::noEntriesCount);
+    if (count == 1) return libraryText(language, textid::oneEntryCount);
+    return libraryText(language, textid::entriesCount, {std::to_string(count)});
 }
 
 Message savePrompt(ApplicationState& state, DiscardingCommand command) {
     const fs::path& fileName = state.document.fileName;
-    return {fileName.empty() ? libraryText(state.language, 13711)
-                             : libraryText(state.language, 13710, {pathText(fileName)}),
-            libraryText(state.language, command == DiscardingCommand::Exit ? 13717 : 13712),
-            MessageIcon::Question, MessageButtons::YesNoCancel, false};
+    return {
+        fileName.empty()
+            ? libraryText(state.language, textid::saveUntitledScriptQuestion)
+            : libraryText(state.language, textid::saveNamedScriptQuestion, {pathText(fileName)}),
+        libraryText(state.language, command == DiscardingCommand::Exit ? textid::exitTitle
+                                                                       : textid::saveChangesTitle),
+        MessageIcon::Question, MessageButtons::YesNoCancel, false};
 }
 
 void newDocument(ApplicationState& state) {
@@ -223,9 +231,10 @@ OtherScript readOtherScript(ApplicationState& state, const fs::path& path) {
 std::vector<Message> questionsBeforeSave(ApplicationState& state, const fs::path& path) {
     std::vector<Message> questions;
     if (changedOnDisk(state.document, path)) {
-        questions.push_back({libraryText(state.language, 15380, {pathText(path)}),
-                             libraryText(state.language, 13730), MessageIcon::Question,
-                             MessageButtons::YesNo, true});
+        questions.push_back(
+            {libraryText(state.language, textid::replaceChangedFileQuestion, {pathText(path)}),
+             libraryText(state.language, textid::saveScriptErrorTitle), MessageIcon::Question,
+             MessageButtons::YesNo, true});
     }
     const auto unstorable = unstorableEntries(state.script, state.currentHostType);
     if (!unstorable.empty()) questions.push_back(lossQuestion(state, unstorable));
@@ -238,14 +247,17 @@ SaveOutcome saveDocument(ApplicationState& state, const fs::path& path) {
     const ReplaceResult result = saveScriptFile(path, state.script, state.currentHostType,
                                                 keepOld ? OldFile::KeepAsBackup : OldFile::Drop);
     if (result.failure) {
-        const StringId text = failedWhileWriting(*result.failure) ? 13731 : 13729;
-        return {false, fileError(state, text, 13730, path, result.failure->message), {}};
+        const StringId text = failedWhileWriting(*result.failure) ? textid::scriptCannotBeWritten
+                                                                  : textid::scriptCannotBeCreated;
+        return {false,
+                fileError(state, text, textid::saveScriptErrorTitle, path, result.failure->message),
+                {}};
     }
     state.document = {path, false, result.stamp, false, state.script};
     backupSavedScript(state.settings, path);
     if (result.backup.empty()) return {true, std::nullopt, {}};
     return {true, std::nullopt,
-            libraryText(state.language, 15383, {pathText(result.backup.filename())})};
+            libraryText(state.language, textid::oldFileKept, {pathText(result.backup.filename())})};
 }
 
 std::optional<fs::path> keepUnsavedScript(const ApplicationState& state) {

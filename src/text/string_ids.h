@@ -1,5 +1,5 @@
-// The numbers of the user-interface texts. The texts themselves lie in the language libraries
-// (language/*.ts).
+// The numbers of the user-interface texts. The texts themselves, with the names that they have in
+// "text/text_ids.h", lie in the language libraries (language/*.ts).
 #pragma once
 
 #include <span>
@@ -9,9 +9,8 @@ namespace quendra {
 // The number of a text in the language library; every number in use is one of stringIds().
 using StringId = int;
 
-// Every string id that the program uses, ascending and without repetition. A language library is
-// whole when it holds exactly these; an id that code asks for and that is missing here would be an
-// empty text on the screen.
+// Every string id of the language libraries, ascending and without repetition: each of them holds
+// exactly these.
 [[nodiscard]] std::span<const StringId> stringIds();
 
 }  // namespace quendra

@@ -2,6 +2,7 @@
 #include "session/command_states.h"
 #include "session/commands.h"
 #include "support/editor_fixture.h"
+#include "text/text_ids.h"
 
 #include <QAccessible>
 #include <QApplication>
@@ -52,7 +53,7 @@ TEST_F(MainWindowTest, CancelledAndFailedOpenLeaveScriptAndTitle) {
     run(301, std::nullopt);
     const fs::path refused = open("letter.qds", letter);
     EXPECT_EQ(title(), program + path.string());
-    EXPECT_EQ(answers.messages.at(0).title, state.language.loadText(13724));
+    EXPECT_EQ(answers.messages.at(0).title, state.language.loadText(textid::openScriptErrorTitle));
     run(302);
     EXPECT_EQ(readBytes(refused), letter) << "a later Save must not reach the refused file";
     EXPECT_EQ(readBytes(path), commentFile(3));
@@ -82,7 +83,8 @@ TEST_F(MainWindowTest, UntitledSaveIsSaveAsAndClosingGoesOnWhenThatIsCancelled) 
     answers.toMessages.push_back(Yes);
     answers.toFileDialogs.emplace_back(std::nullopt);
     EXPECT_TRUE(window.close());
-    EXPECT_EQ(answers.messages.at(0).text, state.language.loadText(13711));
+    EXPECT_EQ(answers.messages.at(0).text,
+              state.language.loadText(textid::saveUntitledScriptQuestion));
     EXPECT_EQ(readBytes(editor.folder / "Untitled (unsaved).qds"), untitled) << "Yes was to save";
     writeBytes(editor.folder / "b.qds", letter);
     run(302, editor.folder / "b.qds");
@@ -132,7 +134,9 @@ TEST_F(MainWindowTest, AsksBeforeNewOpenAndExitDiscardChanges) {
             const Message& prompt = answers.messages[0];
             EXPECT_EQ(prompt.buttons, MessageButtons::YesNoCancel);
             EXPECT_NE(prompt.text.find(path.string()), std::string::npos);
-            EXPECT_EQ(prompt.title, state.language.loadText(command == 304 ? 13717 : 13712));
+            EXPECT_EQ(prompt.title,
+                      state.language.loadText(command == 304 ? textid::exitTitle
+                                                             : textid::saveChangesTitle));
             EXPECT_EQ(readBytes(path), answer == Yes ? scriptFile("QDMDSCR=", {commentRecord("2")})
                                                      : commentFile(2));
             state.document.modified = false;

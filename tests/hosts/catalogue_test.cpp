@@ -2,6 +2,7 @@
 #include "hosts/lu_catalogue.h"
 #include "model/menu_catalogue.h"
 #include "support/fixtures.h"
+#include "text/text_ids.h"
 
 #include <gtest/gtest.h>
 
@@ -17,8 +18,10 @@ TEST(Catalogues, haveTheirRowsAndKnowNoOtherNumbers) {
     for (const auto& [type, count] : counts)
         EXPECT_EQ(names.luFunctions.of(type).rows.size(), count) << hostTypeInfo(type).name;
     EXPECT_FALSE(findLuFunction(names.luFunctions.of(HostType::VT), {4, 24}));
-    EXPECT_EQ(menuCommandName(names.menuCommands, 201), "{11913}");
-    EXPECT_EQ(menuCommandName(names.menuCommands, 268), "{11985}");
+    EXPECT_EQ(menuCommandName(names.menuCommands, 201),
+              numberedName(textid::menuCommandNewSession));
+    EXPECT_EQ(menuCommandName(names.menuCommands, 268),
+              numberedName(textid::menuCommandAboutQuendra));
     for (const std::uint32_t none : {200U, 269U, 4294967295U})
         EXPECT_EQ(menuCommandName(names.menuCommands, none),
                   "<Menu Command " + std::to_string(none) + ">");

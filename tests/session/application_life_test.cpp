@@ -3,6 +3,7 @@
 
 #include "support/fixtures.h"
 #include "support/temporary_folder.h"
+#include "text/text_ids.h"
 
 #include <fstream>
 #include <gtest/gtest.h>
@@ -50,13 +51,13 @@ TEST_F(ApplicationLife, LoadFillsTheStateWithoutAWordAndWipeLetsGoOfEverything) 
     EXPECT_TRUE(state.document.saved.entries.empty()) << "it would keep the records alive";
     EXPECT_FALSE(state.history.canUndo());
     EXPECT_TRUE(state.entryClipboard.empty());
-    EXPECT_EQ(state.language.loadText(13700), "");
+    EXPECT_EQ(state.language.loadText(textid::registryKeyUnusableTitle), "");
 }
 
 TEST_F(ApplicationLife, GoesOnWithoutALanguageLibraryOrARegistryThatCanBeUsed) {
     const auto first = loadApplication(state, settings, {});
     ASSERT_EQ(first.size(), 1U);
-    EXPECT_EQ(first[0].text, state.language.loadText(12514));
+    EXPECT_EQ(first[0].text, state.language.loadText(textid::registryKeyUnusable));
     EXPECT_TRUE(first[0].beep);
     settings.programDir = folder.path();
     ApplicationState speechless;

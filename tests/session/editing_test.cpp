@@ -4,6 +4,7 @@
 #include "scriptfile/entry_codec.h"
 #include "session/fake_view.h"
 #include "support/fixtures.h"
+#include "text/text_ids.h"
 
 #include <algorithm>
 #include <gtest/gtest.h>
@@ -170,9 +171,11 @@ TEST_F(EditingTest, EntriesWithoutParametersAreReplacedFromTheirPalette) {
     expectReplaced(entryOf(Return), ScriptEvents, rowOf(Wait), true, "Wait 0");
     expectReplaced(entryOf(Beep), ScriptEvents, rowOf(Beep), false, "Beep");
     expectReplaced(entryOf(ClearWatch), ScriptEvents, -1, false, "Clear_Watch");
-    expectReplaced(menu, MenuCommands, menuRow(268), false, "{11985}");
-    expectReplaced(menu, MenuCommands, menuRow(254), true, "{11971} \"\"");
-    expectReplaced(menu, MenuCommands, -1, false, "{11913}");
+    expectReplaced(menu, MenuCommands, menuRow(268), false,
+                   numberedName(textid::menuCommandAboutQuendra));
+    expectReplaced(menu, MenuCommands, menuRow(254), true,
+                   numberedName(textid::menuCommandRunMacro) + " \"\"");
+    expectReplaced(menu, MenuCommands, -1, false, numberedName(textid::menuCommandNewSession));
 }
 
 TEST_F(EditingTest, LuFunctionsComeFromThePaletteOfTheHostType) {
@@ -222,7 +225,7 @@ TEST_F(EditingTest, WhatVtLacksAndHiddenTextsThatCannotBeStoredAreRefusedAndNoth
     };
     have({entryOf(MenuCommand, 201)});
     EXPECT_FALSE(insertMenuCommand(state, view) || editCurrentEntry(state, view));
-    expectScript("{11913}", {0}, 0);
+    expectScript(numberedName(textid::menuCommandNewSession), {0}, 0);
     have({entryOf(Type)});
     EXPECT_FALSE(insertScriptEvent(state, view) || editCurrentEntry(state, view));
     expectScript("Type \"\"", {0}, 0);

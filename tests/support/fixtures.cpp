@@ -125,10 +125,13 @@ Bytes word(std::uint32_t value) {
             static_cast<std::uint8_t>(value >> 16), static_cast<std::uint8_t>(value >> 24)};
 }
 
+std::string numberedName(StringId id) {
+    return "{" + std::to_string(id) + "}";
+}
+
 NumberedNames::NumberedNames() {
-    const TextSource numbers = [](StringId id) { return "{" + std::to_string(id) + "}"; };
-    luFunctions = buildLuCatalogues(numbers);
-    menuCommands = buildMenuCommandCatalogue(numbers);
+    luFunctions = buildLuCatalogues(numberedName);
+    menuCommands = buildMenuCommandCatalogue(numberedName);
 }
 
 DisplayNames NumberedNames::of(HostType type) const {

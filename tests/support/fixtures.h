@@ -61,7 +61,10 @@ void writeBytes(const std::filesystem::path& path, std::span<const std::uint8_t>
 /// A current Mainframe file with so many Comments "1", "2", ...
 [[nodiscard]] Bytes commentFile(std::size_t count);
 
-/// Catalogues whose texts are their ids in braces: "{12159}".
+/// The text that numbered names have for an id: the id in braces, "{12159}".
+[[nodiscard]] std::string numberedName(StringId id);
+
+/// Catalogues of numbered names.
 struct NumberedNames {
     NumberedNames();
     [[nodiscard]] DisplayNames of(HostType type) const;

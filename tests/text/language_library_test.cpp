@@ -2,6 +2,7 @@
 #include "text/language_library.h"
 
 #include "support/temporary_folder.h"
+#include "text/text_ids.h"
 
 #include <atomic>
 #include <barrier>
@@ -14,7 +15,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr StringId cancelButton = 10167;
 const fs::path english = fs::path(LANGUAGE_BUILT_DIR) / "qdstring.qm";
 const fs::path german = fs::path(LANGUAGE_BUILT_DIR) / "qdstring_de.qm";
 
@@ -36,7 +36,7 @@ class LanguageLibraryTest : public testing::Test {
     // The text of the Cancel button, which tells the libraries apart.
     std::string cancelAfterLoad() {
         EXPECT_FALSE(library.load(folders));
-        return library.loadText(cancelButton);
+        return library.loadText(textid::cancelButton);
     }
 
     const TemporaryFolder root;
@@ -66,7 +66,7 @@ TEST_F(LanguageLibraryTest, MissingIsReportedWithTheLastPathAndNotReplacedByASho
     ASSERT_TRUE(notice);
     EXPECT_EQ(notice->text, (folders.installDir / "qdstring_fr.qm").string());
     EXPECT_EQ(notice->caption, "Unable to load language library");
-    EXPECT_EQ(library.loadText(cancelButton), "");
+    EXPECT_EQ(library.loadText(textid::cancelButton), "");
     configure("Language=" + (german.parent_path() / german.stem()).string());
     EXPECT_TRUE(library.load(folders)) << "an absolute name stays below the folders";
     configure("Language=");
@@ -97,14 +97,14 @@ TEST_F(LanguageLibraryTest, ServesThirtyTwoThreadsAndReportsTheNext) {
     std::vector<std::jthread> threads;
     for (int i = 0; i < served; ++i) {
         threads.emplace_back([&] {
-            texts += library.loadText(cancelButton) == "Cancel" ? 1 : 0;
+            texts += library.loadText(textid::cancelButton) == "Cancel" ? 1 : 0;
             everyone.arrive_and_wait();
             everyone.arrive_and_wait();
-            texts += library.loadText(cancelButton) == "Cancel" ? 1 : 0;
+            texts += library.loadText(textid::cancelButton) == "Cancel" ? 1 : 0;
         });
     }
     everyone.arrive_and_wait();
-    EXPECT_EQ(library.loadText(cancelButton), "");
+    EXPECT_EQ(library.loadText(textid::cancelButton), "");
     everyone.arrive_and_wait();
     threads.clear();
     EXPECT_EQ(texts, 2 * served);

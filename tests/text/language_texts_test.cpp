@@ -2,6 +2,7 @@
 // mnemonic each in a menu. Mnemonics of dialogs are looked at in the dialogs themselves.
 #include "support/fixtures.h"
 #include "text/string_ids.h"
+#include "text/text_ids.h"
 
 #include <QRegularExpression>
 #include <QTranslator>
@@ -67,15 +68,49 @@ TEST_P(LanguageTexts, AreThoseThatTheProgramUsesFinishedAndWithARoleForTranslato
 
 TEST_P(LanguageTexts, HaveTheFormatPlacesThatTheProgramFills) {
     std::map<StringId, std::string> filled = {
-        {15325, "%d%d"}, {15331, "%d%d"}, {15382, "%s%d%s%d%s%d%s%d%s%d%s%d"},
-        {15392, "%s%s"}, {16004, "%d%d"}, {16005, "%s%d%d"},
+        {textid::scriptInsertedUntilFull, "%d%d"},
+        {textid::findPosition, "%d%d"},
+        {textid::stoppedReadingReasons, "%s%d%s%d%s%d%s%d%s%d%s%d"},
+        {textid::deleteVerbAndObject, "%s%s"},
+        {textid::numberRange, "%d%d"},
+        {textid::numberOutOfRange, "%s%d%d"},
     };
-    for (const StringId id :
-         {12465, 13701, 13702, 13703, 13704, 13705, 13710, 13727, 13728, 13729, 13731,
-          15302, 15304, 15306, 15308, 15312, 15313, 15314, 15315, 15316, 15335, 15343,
-          15354, 15355, 15380, 15381, 15383, 15386, 15387, 15388, 15389, 16001})
+    for (const StringId id : {textid::scriptCannotBeOpened,
+                              textid::insertNamedScriptEvent,
+                              textid::insertNamedLuFunction,
+                              textid::insertNamedMenuCommand,
+                              textid::replaceNamedEntry,
+                              textid::editNamedEntry,
+                              textid::saveNamedScriptQuestion,
+                              textid::scriptOfUnknownVersion,
+                              textid::scriptCannotBeRead,
+                              textid::scriptCannotBeCreated,
+                              textid::scriptCannotBeWritten,
+                              textid::undoStepMenuText,
+                              textid::redoStepMenuText,
+                              textid::undoStepToolTip,
+                              textid::redoStepToolTip,
+                              textid::deleteStep,
+                              textid::cutStep,
+                              textid::pasteStep,
+                              textid::moveStep,
+                              textid::replacementNeedsSelection,
+                              textid::insertedScriptOfOtherMode,
+                              textid::helpWindowTitle,
+                              textid::helpPageMissing,
+                              textid::helpManualMissing,
+                              textid::replaceChangedFileQuestion,
+                              textid::lossInVtQuestion,
+                              textid::oldFileKept,
+                              textid::convertedKeeping,
+                              textid::conversionFailed,
+                              textid::watchedWaitForDropped,
+                              textid::unsavedChangesKept,
+                              textid::characterCannotBeStored})
         filled[id] = "%s";
-    for (const StringId id : {13709, 15333, 15350, 15391, 16002, 16003})
+    for (const StringId id :
+         {textid::entriesCount, textid::findCount, textid::helpFoundPages, textid::entriesInStep,
+          textid::atMostCharacters, textid::hiddenTextTooLong})
         filled[id] = "%d";
     for (const auto& [id, text] : texts)
         EXPECT_EQ(places(text), filled[id]) << id << ": " << text;
@@ -90,18 +125,24 @@ TEST_P(LanguageTexts, CarryAMnemonicWhereTheOtherLanguagesDo) {
 
 TEST_P(LanguageTexts, GiveItemsOfAMenuAMnemonicOfTheirOwnEach) {
     const std::vector<StringId> menus[] = {
-        {10000, 10018, 11193, 10935, 10070},
-        {10001, 10002, 10003, 10004, 10017},
-        {15301, 15303, 11190, 11191, 11192, 15319, 15326},
-        {15302, 15304, 11190, 11191, 11192, 15319, 15326},
-        {11194, 11195, 11196, 15322, 11197, 11198},
-        {11199, 11200, 10010},
-        {11201, 15340, 11202},
+        {textid::fileMenu, textid::editMenu, textid::entryMenu, textid::modeMenu, textid::helpMenu},
+        {textid::newMenuText, textid::openMenuText, textid::saveMenuText, textid::saveAsMenuText,
+         textid::exitMenuText},
+        {textid::undoMenuText, textid::redoMenuText, textid::cutMenuText, textid::copyMenuText,
+         textid::pasteMenuText, textid::copyAsTextMenuText, textid::findMenuText},
+        {textid::undoStepMenuText, textid::redoStepMenuText, textid::cutMenuText,
+         textid::copyMenuText, textid::pasteMenuText, textid::copyAsTextMenuText,
+         textid::findMenuText},
+        {textid::insertScriptEventMenuText, textid::insertLuFunctionMenuText,
+         textid::insertMenuCommandMenuText, textid::insertScriptMenuText, textid::editEntryMenuText,
+         textid::deleteEntriesMenuText},
+        {textid::mainframeModeMenuText, textid::iSeriesModeMenuText, textid::vtModeMenuText},
+        {textid::helpMenuText, textid::helpOnSelectionMenuText, textid::aboutMenuText},
     };
     for (const auto& menu : menus) {
         std::set<QChar> taken;
         // Items that the program names itself, the same in every language: "&UTS", "&T27", "IC&L".
-        if (menu[0] == 11199) taken = {u'u', u't', u'l'};
+        if (menu[0] == textid::mainframeModeMenuText) taken = {u'u', u't', u'l'};
         for (const StringId id : menu) {
             const QChar letter = mnemonic(texts.at(id));
             EXPECT_TRUE(letter.isLetterOrNumber() && taken.insert(letter).second) << id;

@@ -3,6 +3,7 @@
 
 #include "platform/secret_memory.h"
 #include "support/dialog_fixture.h"
+#include "text/text_ids.h"
 
 #include <QApplication>
 #include <QtTest>
@@ -179,7 +180,7 @@ TEST_F(TextEditTest, WithoutAnIdentityTheToolTipSaysThatTextsAreOnlyObscured) {
         EXPECT_EQ(edit().toolTip(), widget("hide").toolTip());
         return edit().toolTip().toStdString();
     };
-    EXPECT_EQ(toolTip(), state.language.loadText(16006));
+    EXPECT_EQ(toolTip(), state.language.loadText(textid::hiddenTextOnlyObscured));
     const auto folder = std::filesystem::path(qgetenv("XDG_CONFIG_HOME").toStdString()) / "quendra";
     std::filesystem::create_directories(folder);
     std::ofstream(folder / "registry.ini") << "[Identities]\nDefault User ID = {1234}\n";

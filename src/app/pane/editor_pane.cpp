@@ -4,6 +4,7 @@
 #include "app/pane/pane_layout.h"
 #include "app/pane/script_list_model.h"
 #include "session/drop_rules.h"
+#include "text/text_ids.h"
 #include "widgets/palette_model.h"
 #include "widgets/pane_list.h"
 
@@ -30,9 +31,9 @@ struct PaletteParts {
     const char* listName;
 };
 constexpr std::array<PaletteParts, paletteCount> paletteParts = {
-    {{11203, "scriptEventsLabel", "scriptEventsPalette"},
-     {11204, "luFunctionsLabel", "luFunctionsPalette"},
-     {11205, "menuCommandsLabel", "menuCommandsPalette"}}};
+    {{textid::scriptEventsLabel, "scriptEventsLabel", "scriptEventsPalette"},
+     {textid::luFunctionsLabel, "luFunctionsLabel", "luFunctionsPalette"},
+     {textid::menuCommandsLabel, "menuCommandsLabel", "menuCommandsPalette"}}};
 
 QItemSelection selectionOf(const QAbstractItemModel& model, std::span<const std::size_t> rows) {
     QItemSelection selection;
@@ -122,8 +123,9 @@ EditorPane::Private::Private(EditorPane& pane, ApplicationState& state)
       scriptModel_(new ScriptListModel(state, &pane)),
       luModel_(
           new PaletteModel(luFunctionRows(state.luCatalogues.of(state.currentHostType)), &pane)) {
-    lists_[0] =
-        addList("scriptList", QString::fromStdString(state.language.loadText(15385)), scriptModel_);
+    lists_[0] = addList("scriptList",
+                        QString::fromStdString(state.language.loadText(textid::scriptListName)),
+                        scriptModel_);
     lists_[0]->setSelectionMode(QAbstractItemView::ExtendedSelection);
     addPalette(0, new PaletteModel(scriptEventRows(), &pane));
     addPalette(1, luModel_);

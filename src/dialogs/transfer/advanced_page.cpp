@@ -1,5 +1,7 @@
 #include "dialogs/transfer/advanced_page.h"
 
+#include "text/text_ids.h"
+
 #include <QAbstractButton>
 #include <QGridLayout>
 #include <QGroupBox>
@@ -18,24 +20,67 @@ using enum HostSet;
 constexpr const char* codePages[] = {"1256", "Unicode", "UTF-8"};
 
 constexpr TransferControl table[] = {
-    {.kind = Radio, .field = recordFormat, .caption = 10102, .value = 0, .hosts = VmCmsAndTso},
-    {.kind = Radio, .field = recordFormat, .caption = 10997, .value = 1, .hosts = VmCmsAndTso},
-    {.kind = Radio, .field = recordFormat, .caption = 10998, .value = 2, .hosts = VmCmsAndTso},
-    {.kind = Radio, .field = recordFormat, .caption = 10999, .value = 3, .hosts = Tso},
-    {.kind = Number, .field = recordLength, .caption = 11000, .hosts = VmCmsAndTso},
-    {.kind = Number, .field = blockSize, .caption = 11001, .hosts = Tso},
-    {.kind = Radio, .field = spaceUnit, .caption = 11005, .value = 0, .hosts = Tso},
-    {.kind = Radio, .field = spaceUnit, .caption = 11006, .value = 1, .hosts = Tso},
+    {.kind = Radio,
+     .field = recordFormat,
+     .caption = textid::recordFormatDefault,
+     .value = 0,
+     .hosts = VmCmsAndTso},
+    {.kind = Radio,
+     .field = recordFormat,
+     .caption = textid::recordFormatVariable,
+     .value = 1,
+     .hosts = VmCmsAndTso},
+    {.kind = Radio,
+     .field = recordFormat,
+     .caption = textid::recordFormatFixed,
+     .value = 2,
+     .hosts = VmCmsAndTso},
+    {.kind = Radio,
+     .field = recordFormat,
+     .caption = textid::recordFormatUndefined,
+     .value = 3,
+     .hosts = Tso},
+    {.kind = Number,
+     .field = recordLength,
+     .caption = textid::transferRecordLength,
+     .hosts = VmCmsAndTso},
+    {.kind = Number, .field = blockSize, .caption = textid::transferBlockSize, .hosts = Tso},
+    {.kind = Radio,
+     .field = spaceUnit,
+     .caption = textid::spaceUnspecified,
+     .value = 0,
+     .hosts = Tso},
+    {.kind = Radio,
+     .field = spaceUnit,
+     .caption = textid::spaceAverageBlocks,
+     .value = 1,
+     .hosts = Tso},
     {.kind = Number, .field = averageBlock, .hosts = Tso},
-    {.kind = Radio, .field = spaceUnit, .caption = 11007, .value = 2, .hosts = Tso},
-    {.kind = Radio, .field = spaceUnit, .caption = 11008, .value = 3, .hosts = Tso},
-    {.kind = Number, .field = primarySpace, .caption = 11003, .hosts = Tso},
-    {.kind = Number, .field = secondarySpace, .caption = 11004, .hosts = Tso},
-    {.kind = Password, .field = hostFilePassword, .caption = 11009, .hosts = Tso},
-    {.kind = Text, .field = transferProgramName, .caption = 11010},
-    {.kind = CheckBox, .field = includeLeftParenthesis, .caption = 11011, .hosts = Cics},
-    {.kind = CheckBox, .field = includeRightParenthesis, .caption = 11012, .hosts = Cics},
-    {.kind = Text, .field = additionalParameters, .caption = 11013},
+    {.kind = Radio,
+     .field = spaceUnit,
+     .caption = textid::spaceCylinders,
+     .value = 2,
+     .hosts = Tso},
+    {.kind = Radio, .field = spaceUnit, .caption = textid::spaceTracks, .value = 3, .hosts = Tso},
+    {.kind = Number, .field = primarySpace, .caption = textid::transferPrimarySpace, .hosts = Tso},
+    {.kind = Number,
+     .field = secondarySpace,
+     .caption = textid::transferSecondarySpace,
+     .hosts = Tso},
+    {.kind = Password,
+     .field = hostFilePassword,
+     .caption = textid::transferHostFilePassword,
+     .hosts = Tso},
+    {.kind = Text, .field = transferProgramName, .caption = textid::transferProgramName},
+    {.kind = CheckBox,
+     .field = includeLeftParenthesis,
+     .caption = textid::transferLeftParenthesis,
+     .hosts = Cics},
+    {.kind = CheckBox,
+     .field = includeRightParenthesis,
+     .caption = textid::transferRightParenthesis,
+     .hosts = Cics},
+    {.kind = Text, .field = additionalParameters, .caption = textid::transferAdditionalParameters},
     {.kind = CheckBox,
      .field = arabicProcessing,
      .literal = "Enable Arabic Processing",
@@ -67,7 +112,7 @@ AdvancedPage::AdvancedPage(TransferSheetModel& model) : BoundPage(model) {
 }
 
 QGroupBox* AdvancedPage::recordFormatGroup() {
-    QGroupBox* box = addGroup("recordFormatGroup", text(10996), VmCmsAndTso);
+    QGroupBox* box = addGroup("recordFormatGroup", text(textid::recordFormat), VmCmsAndTso);
     auto* grid = new QGridLayout(box);
     grid->setColumnStretch(2, 1);
     for (std::uint8_t format = 0; format < 4; ++format)
@@ -78,7 +123,7 @@ QGroupBox* AdvancedPage::recordFormatGroup() {
 }
 
 QGroupBox* AdvancedPage::spaceGroup() {
-    QGroupBox* box = addGroup("spaceGroup", text(11002), Tso);
+    QGroupBox* box = addGroup("spaceGroup", text(textid::transferSpace), Tso);
     auto* grid = new QGridLayout(box);
     grid->setColumnStretch(2, 1);
     for (std::uint8_t unit = 0; unit < 4; ++unit)
@@ -90,7 +135,7 @@ QGroupBox* AdvancedPage::spaceGroup() {
 }
 
 QGroupBox* AdvancedPage::optionsGroup() {
-    QGroupBox* box = addGroup("optionsGroup", text(10093));
+    QGroupBox* box = addGroup("optionsGroup", text(textid::transferAdvancedOptions));
     auto* grid = new QGridLayout(box);
     addLabelled(*grid, hostFilePassword, 0, 0, 2);
     addLabelled(*grid, transferProgramName, 1, 0, 2);

@@ -1,5 +1,6 @@
 #include "dialogs/transfer/settings_page.h"
 
+#include "text/text_ids.h"
 #include "widgets/file_dialogs.h"
 #include "widgets/text_edit.h"
 #include "widgets/ui_text.h"
@@ -19,33 +20,34 @@ namespace {
 using namespace transfer;
 using enum ControlKind;
 
-constexpr StringId sheetTitle = 11998;
-constexpr StringId clearScreenText = 14934;
-constexpr StringId eraseInputText = 10994;
-
 constexpr const char* packetSizes[] = {"2K", "4K", "8K", "16K", "32K"};
 
 constexpr TransferControl table[] = {
-    {.kind = Text, .field = hostFileName, .caption = 10983},
-    {.kind = Text, .field = member, .caption = 10984, .hosts = HostSet::Tso},
-    {.kind = Text, .field = fileType, .caption = 10985, .hosts = HostSet::VmCms},
-    {.kind = Text, .field = fileMode, .caption = 10986, .hosts = HostSet::VmCms},
-    {.kind = Text, .field = pcFileName, .caption = 10988},
-    {.kind = Radio, .field = binary, .caption = 10989, .value = 0},
-    {.kind = Radio, .field = binary, .caption = 10811, .value = 1},
+    {.kind = Text, .field = hostFileName, .caption = textid::transferHostFileName},
+    {.kind = Text, .field = member, .caption = textid::transferMember, .hosts = HostSet::Tso},
+    {.kind = Text, .field = fileType, .caption = textid::transferFileType, .hosts = HostSet::VmCms},
+    {.kind = Text, .field = fileMode, .caption = textid::transferFileMode, .hosts = HostSet::VmCms},
+    {.kind = Text, .field = pcFileName, .caption = textid::transferPcFileName},
+    {.kind = Radio, .field = binary, .caption = textid::transferText, .value = 0},
+    {.kind = Radio, .field = binary, .caption = textid::transferBinary, .value = 1},
     {.kind = CheckBox, .field = crlf, .literal = "C&R/LF", .hosts = HostSet::VmCmsAndTso},
-    {.kind = CheckBox, .field = append, .caption = 10991, .hosts = HostSet::VmCmsAndTso},
+    {.kind = CheckBox,
+     .field = append,
+     .caption = textid::transferAppend,
+     .hosts = HostSet::VmCmsAndTso},
     {.kind = CheckBox,
      .field = useLocalTranslateTables,
-     .caption = 10992,
+     .caption = textid::transferLocalTables,
      .when = EnableWhen::TextIsSelected},
     {.kind = List,
      .field = packetSizeIndex,
-     .caption = 10993,
+     .caption = textid::transferPacketSize,
      .items = packetSizes,
      .when = EnableWhen::PacketSizeCanBeChosen},
-    {.kind = CheckBox, .field = autoEraseInput, .caption = eraseInputText},
-    {.kind = CheckBox, .field = showSettingsBeforeTransfer, .caption = 14592},
+    {.kind = CheckBox, .field = autoEraseInput, .caption = textid::transferEraseInput},
+    {.kind = CheckBox,
+     .field = showSettingsBeforeTransfer,
+     .caption = textid::transferShowSettings},
 };
 
 constexpr const char* hostNames[] = {"&VM/CMS", "&TSO", "CIC&S/VS"};
@@ -104,18 +106,19 @@ void SettingsPage::chooseHost(std::uint8_t host) {
 
 void SettingsPage::load() {
     BoundPage::load();
-    const StringId caption = model().host == transferHostVmCms ? clearScreenText : eraseInputText;
+    const StringId caption = model().host == transferHostVmCms ? textid::transferClearScreen
+                                                               : textid::transferEraseInput;
     static_cast<QCheckBox*>(control(autoEraseInput))->setText(text(caption));
 }
 
 QGroupBox* SettingsPage::hostSystemGroup() {
-    QGroupBox* box = addGroup("hostSystemGroup", text(10980));
+    QGroupBox* box = addGroup("hostSystemGroup", text(textid::transferHostSystem));
     addButtons(box, {hosts_.begin(), hosts_.end()});
     return box;
 }
 
 QGroupBox* SettingsPage::hostFileGroup() {
-    QGroupBox* box = addGroup("hostFileGroup", text(10982));
+    QGroupBox* box = addGroup("hostFileGroup", text(textid::transferHostFile));
     auto* grid = new QGridLayout(box);
     addLabelled(*grid, hostFileName, 0, 0, 5);
     addLabelled(*grid, member, 1, 0);
@@ -125,10 +128,10 @@ QGroupBox* SettingsPage::hostFileGroup() {
 }
 
 QGroupBox* SettingsPage::pcFileGroup() {
-    QGroupBox* box = addGroup("pcFileGroup", text(10987));
+    QGroupBox* box = addGroup("pcFileGroup", text(textid::transferPcFile));
     auto* grid = new QGridLayout(box);
     addLabelled(*grid, pcFileName, 0);
-    auto* browse = new QPushButton(text(10152), this);
+    auto* browse = new QPushButton(text(textid::browseButton), this);
     browse->setObjectName(QStringLiteral("browse"));
     connect(browse, &QPushButton::clicked, this, &SettingsPage::choosePcFile);
     setTabOrder(control(pcFileName), browse);
@@ -137,13 +140,13 @@ QGroupBox* SettingsPage::pcFileGroup() {
 }
 
 QGroupBox* SettingsPage::fileOptionsGroup() {
-    QGroupBox* box = addGroup("fileOptionsGroup", text(10297));
+    QGroupBox* box = addGroup("fileOptionsGroup", text(textid::transferFileOptions));
     addButtons(box, {control(binary, 0), control(binary, 1), control(crlf), control(append)});
     return box;
 }
 
 QGroupBox* SettingsPage::transferOptionsGroup() {
-    QGroupBox* box = addGroup("transferOptionsGroup", text(10857));
+    QGroupBox* box = addGroup("transferOptionsGroup", text(textid::transferOptions));
     auto* grid = new QGridLayout(box);
     grid->addWidget(control(useLocalTranslateTables), 0, 0);
     grid->setColumnStretch(1, 1);
@@ -156,7 +159,7 @@ QGroupBox* SettingsPage::transferOptionsGroup() {
 void SettingsPage::choosePcFile() {
     auto* field = static_cast<TextEdit*>(control(pcFileName));
     FileDialogRequest request;
-    request.title = text(sheetTitle).toStdString();
+    request.title = text(textid::transferSettingsTitle).toStdString();
     request.filterDescription = "All Files(*.*)";
     request.initialFolder = model().state.settings.transferDir;
     request.initialFile = pathFromQt(field->text());

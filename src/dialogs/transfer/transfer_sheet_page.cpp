@@ -2,6 +2,7 @@
 
 #include "dialogs/transfer/advanced_page.h"
 #include "dialogs/transfer/settings_page.h"
+#include "text/text_ids.h"
 #include "widgets/message_box.h"
 #include "widgets/mnemonics.h"
 #include "widgets/placement.h"
@@ -51,14 +52,14 @@ TransferSheet::TransferSheet(ApplicationState& state, QWidget* window, std::uint
     : QDialog(window), model_{state, host} {
     setObjectName(QStringLiteral("transferSheet"));
     setProperty("helpPage", QStringLiteral("File_Transfer_Settings"));
-    setWindowTitle(text(11998));
+    setWindowTitle(text(textid::transferSettingsTitle));
     // The editor waits for the sheet, the help window stays usable.
     setWindowModality(Qt::WindowModal);
     auto* tabs = new QTabWidget;
     tabs->setObjectName(QStringLiteral("tabs"));
     settings_ = new SettingsPage(model_);
-    addPage(*tabs, settings_, 10208);
-    addPage(*tabs, new AdvancedPage(model_), 10995);
+    addPage(*tabs, settings_, textid::transferSettingsTab);
+    addPage(*tabs, new AdvancedPage(model_), textid::transferAdvancedTab);
     note_ = new QLabel;
     note_->setObjectName(QStringLiteral("note"));
     note_->setTextFormat(Qt::PlainText);
@@ -92,7 +93,7 @@ void TransferSheet::showNote(const QString& note) {
 QDialogButtonBox* TransferSheet::makeButtons() {
     auto* ok = new QPushButton(QStringLiteral("OK"));
     ok->setObjectName(QStringLiteral("ok"));
-    auto* cancel = new QPushButton(text(10167));
+    auto* cancel = new QPushButton(text(textid::cancelButton));
     cancel->setObjectName(QStringLiteral("cancel"));
     auto* buttons = new QDialogButtonBox;
     buttons->setObjectName(QStringLiteral("buttons"));
@@ -128,7 +129,8 @@ bool editTransferSettings(ApplicationState& state, QWidget* window, std::uint8_t
     const auto sheet = makeSheet(state, window, host);
     if (!sheet) {
         LanguageLibrary& language = state.language;
-        showMessage(window, {language.loadText(13015), language.loadText(11990),
+        showMessage(window, {language.loadText(textid::transferSettingsCannotBeShown),
+                             language.loadText(textid::transferRefusalTitle),
                              MessageIcon::Exclamation, MessageButtons::Ok, false});
         return false;
     }

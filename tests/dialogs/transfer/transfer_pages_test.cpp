@@ -1,5 +1,6 @@
 // The pages of the transfer settings: what is enabled when, what opening and ending the sheet does.
 #include "dialogs/transfer/transfer_fixture.h"
+#include "text/text_ids.h"
 
 #include <QComboBox>
 
@@ -184,8 +185,9 @@ TEST_F(TransferSheetTest, ASheetThatCannotBeMadeIsReportedAndChangesNothing) {
     EXPECT_EQ(settings, before);
     EXPECT_EQ(host, transferHostTso);
     ASSERT_EQ(answers.messages.size(), 1U);
-    EXPECT_EQ(answers.messages[0].text, state.language.loadText(13015));
-    EXPECT_EQ(answers.messages[0].title, state.language.loadText(11990));
+    EXPECT_EQ(answers.messages[0].text,
+              state.language.loadText(textid::transferSettingsCannotBeShown));
+    EXPECT_EQ(answers.messages[0].title, state.language.loadText(textid::transferRefusalTitle));
 }
 
 }  // namespace

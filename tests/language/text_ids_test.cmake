@@ -1,0 +1,56 @@
+# The header of text names is made of whole language files only: each case spoils the files in one way.
+# usage: cmake -D GENERATOR=language/text_ids.cmake -D FOLDER=OUTPUT-FOLDER -P text_ids_test.cmake
+
+set(first "<message id=\"1\">\n<source>a;b [</source>\n<extra-name>first</extra-name>\n</message>\n")
+set(second "<message id=\"2\">\n<source>b</source>\n<extra-name>second</extra-name>\n</message>\n")
+file(REMOVE_RECURSE ${FOLDER})
+
+function(make named other)
+    file(WRITE ${FOLDER}/named.ts "${named}")
+    file(WRITE ${FOLDER}/other.ts "${other}")
+    file(REMOVE ${FOLDER}/text_ids.h)
+    execute_process(
+        COMMAND ${CMAKE_COMMAND} -D NAMED=${FOLDER}/named.ts -D OTHERS=${FOLDER}/other.ts -D OUTPUT=${FOLDER}/text_ids.h
+            -P ${GENERATOR}
+        RESULT_VARIABLE result ERROR_VARIABLE said)
+    set(result ${result} PARENT_SCOPE)
+    string(REGEX REPLACE "[ \n]+" " " said "${said}")
+    set(said "${said}" PARENT_SCOPE)
+endfunction()
+
+function(expect_refusal case from to reason)
+    set(named "${first}${second}")
+    string(REPLACE "${from}" "${to}" spoilt "${named}")
+    if(case MATCHES "^other")
+        make("${named}" "${spoilt}")
+    else()
+        make("${spoilt}" "${named}")
+    endif()
+    string(FIND "${said}" "${reason}" at)
+    if(result EQUAL 0 OR at EQUAL -1 OR EXISTS ${FOLDER}/text_ids.h)
+        message(SEND_ERROR "${case}: gave ${result}, said: ${said}")
+    endif()
+endfunction()
+
+make("${second}${first}" "${first}${second}")
+if(NOT result EQUAL 0)
+    message(FATAL_ERROR "whole files are refused: ${said}")
+endif()
+file(READ ${FOLDER}/text_ids.h header)
+foreach(line "first = 1;" "second = 2;" "{\n    1,\n    2,\n}")
+    string(FIND "${header}" "${line}" at)
+    if(at EQUAL -1)
+        message(SEND_ERROR "the header lacks ${line}: ${header}")
+    endif()
+endforeach()
+
+expect_refusal("no name" "<extra-name>second</extra-name>\n" "" "text 2 has no name")
+expect_refusal("empty name" ">second<" "><" "text 2 needs one name")
+expect_refusal("no identifier" ">second<" ">second text<" "text 2 needs one name")
+expect_refusal("two names" ">second</extra-name>\n" ">second</extra-name>\n<extra-name>third</extra-name>\n" "text 2 needs one name")
+expect_refusal("name twice" ">second<" ">first<" "text 2 has a name that another text has: first")
+expect_refusal("id twice" "\"2\"" "\"1\"" "text 1 stands there twice")
+expect_refusal("id of letters" "\"2\"" "\"two\"" "a message without a number")
+expect_refusal("no texts" "${first}${second}" "" "no texts")
+expect_refusal("other language lacks a text" "${second}" "" "lacks the texts \"2\"")
+expect_refusal("other language has another text" "${second}" "${second}<message id=\"3\">\n" "has \"3\"")
