@@ -31,10 +31,6 @@ constexpr std::array<ScriptEventInfo, 20> catalogue = {{
 
 }  // namespace
 
-bool isCommandCode(std::uint8_t value) {
-    return value <= 23 && value != 3;
-}
-
 bool isScriptEvent(CommandCode code) {
     return code >= CommandCode::Beep && code <= CommandCode::Paste;
 }
