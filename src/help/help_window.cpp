@@ -42,16 +42,6 @@ constexpr int zoomOutIcon = 230;
 
 constexpr int normalZoom = 100;
 
-// What Markdown takes as its own in a text that is not.
-QString escaped(const QString& text) {
-    QString result;
-    for (const QChar c : text) {
-        if (c.unicode() < 128 && c.isPunct()) result += u'\\';
-        result += c;
-    }
-    return result;
-}
-
 }  // namespace
 
 HelpWindow::HelpWindow(Manual manual, LanguageLibrary& language,
@@ -182,13 +172,13 @@ void HelpWindow::goTo(const Place& place) {
 void HelpWindow::showPlace(const Place& place) {
     place_ = place;
     const QString file = manual_.fileOf(place.page);
-    const QString markdown = manual_.markdownOf(place.page);
+    const QString html = manual_.htmlOf(place.page);
     QString title = manual_.titleOf(place.page);
-    if (markdown.isEmpty()) {
+    if (html.isEmpty()) {
         title = text(missingTitle);
         showMissing(place.page);
     } else {
-        view_->showPage(markdown, file.section(u'/', 0, -2));
+        view_->showPage(html, file.section(u'/', 0, -2));
     }
     setWindowTitle(text(titleText, {title.toStdString()}));
     finder_->selectPage(place.page);
@@ -201,9 +191,10 @@ void HelpWindow::showPlace(const Place& place) {
 void HelpWindow::showMissing(const QString& page) {
     const bool hasManual = !manual_.contents().empty();
     const QString what = hasManual ? page : manual_.folder();
-    const QString sentence =
-        text(hasManual ? missingText : noManualText, {escaped(what).toStdString()});
-    view_->showPage(QStringLiteral("# %1\n\n%2").arg(text(missingTitle), sentence), {});
+    const QString sentence = text(hasManual ? missingText : noManualText, {what.toStdString()});
+    view_->showPage(QStringLiteral("<h1>%1</h1><p>%2</p>")
+                        .arg(text(missingTitle).toHtmlEscaped(), sentence.toHtmlEscaped()),
+                    {});
 }
 
 void HelpWindow::followLink(const QUrl& link) {
