@@ -7,17 +7,18 @@ namespace quendra {
 namespace {
 
 constexpr std::array<HostTypeInfo, 6> infos = {{
-    {HostType::Mainframe, "Mainframe", "mainframe", 313, 11199, "", "QDMDSCR", '2',
+    {HostType::Mainframe, "Mainframe", "mainframe", 313, 11199, "", 13678, 13695, "QDMDSCR", '2',
      "Quendra Mainframe Display(*.qmd)", "qmd"},
-    {HostType::ISeries, "ISeries", "iseries", 314, 11200, "", "QDADSCR", '2',
+    {HostType::ISeries, "ISeries", "iseries", 314, 11200, "", 13679, 13696, "QDADSCR", '2',
      "Quendra iSeries Display(*.qad)", "qad"},
-    {HostType::VT, "VT", "vt", 315, 10010, "", "QDVTSCR", '6', "Quendra VT(*.qvt)", "qvt"},
-    {HostType::UTS, "UTS", "uts", 316, 0, "  &UTS", "QDUDSCR", '8', "Quendra UTS Display(*.qud)",
-     "qud"},
-    {HostType::T27, "T27", "t27", 317, 0, "  &T27", "QDTDSCR", '8', "Quendra T27 Display(*.qtd)",
-     "qtd"},
-    {HostType::ICL, "ICL", "icl", 318, 0, "  IC&L", "QD7DSCR", '8', "Quendra ICL Display(*.q7d)",
-     "q7d"},
+    {HostType::VT, "VT", "vt", 315, 10010, "", 13680, 13697, "QDVTSCR", '6', "Quendra VT(*.qvt)",
+     "qvt"},
+    {HostType::UTS, "UTS", "uts", 316, 0, "  &UTS", 14201, 14204, "QDUDSCR", '8',
+     "Quendra UTS Display(*.qud)", "qud"},
+    {HostType::T27, "T27", "t27", 317, 0, "  &T27", 14202, 14205, "QDTDSCR", '8',
+     "Quendra T27 Display(*.qtd)", "qtd"},
+    {HostType::ICL, "ICL", "icl", 318, 0, "  IC&L", 14203, 14206, "QD7DSCR", '8',
+     "Quendra ICL Display(*.q7d)", "q7d"},
 }};
 
 template <class Value>
@@ -39,10 +40,6 @@ std::optional<HostType> hostTypeOfName(std::string_view name) {
 
 std::optional<HostType> hostTypeOfCommandLineName(std::string_view name) {
     return findBy(&HostTypeInfo::commandLineName, name);
-}
-
-std::optional<HostType> hostTypeOfModeCommand(int command) {
-    return findBy(&HostTypeInfo::modeCommand, command);
 }
 
 }  // namespace quendra

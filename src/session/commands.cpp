@@ -1,113 +1,243 @@
 #include "session/commands.h"
 
-#include "hosts/host_type.h"
+#include "session/command_rules.h"
 
-#include <array>
+#include <algorithm>
+#include <functional>
+#include <iterator>
 
 namespace quendra {
 
 namespace {
 
-using namespace command;
+using enum EditorCommand;
 
-constexpr CommandInfo table[] = {
-    {newScript, 10001, 12715, 13682, "Ctrl+N"},
-    {open, 10002, 11709, 13683, "Ctrl+O"},
-    {save, 10003, 13619, 13684, "Ctrl+S"},
-    {saveAs, 10004, 11710, 13685, "Ctrl+Shift+S"},
-    {command::exit, 10017, 11720, 13686, "Ctrl+Q"},
-    {cut, 11190, 13673, 13687, "Ctrl+X"},
-    {copy, 11191, 12655, 13688, "Ctrl+C"},
-    {paste, 11192, 10516, 13689, "Ctrl+V"},
-    {insertScriptEvent, 11194, 13674, 13690, ""},
-    {insertLuFunction, 11195, 13675, 13691, ""},
-    {insertMenuCommand, 11196, 13676, 13692, ""},
-    {editEntry, 11197, 13677, 13693, ""},
-    {deleteEntries, 11198, 12159, 13694, "Del"},
-    {313, 0, 13678, 13695, ""},
-    {314, 0, 13679, 13696, ""},
-    {315, 0, 13680, 13697, ""},
-    {316, 0, 14201, 14204, ""},
-    {317, 0, 14202, 14205, ""},
-    {318, 0, 14203, 14206, ""},
-    {help, 11201, 13681, 13698, "F1"},
-    {about, 11202, 11206, 13699, ""},
-    {undo, 15301, 15305, 15309, "Ctrl+Z"},
-    {redo, 15303, 15307, 15310, "Ctrl+Shift+Z; Ctrl+Y"},
-    {find, 15326, 15327, 15328, "Ctrl+F"},
-    {copyAsText, 15319, 15320, 15321, "Ctrl+Shift+C"},
-    {insertScript, 15322, 15323, 15324, "Ctrl+Shift+O"},
-    {helpOnSelection, 15340, 15341, 15342, "Shift+F1"},
+// Those of one menu in its order. The Mode commands follow from the host types.
+constexpr CommandInfo rows[] = {
+    {.id = NewScript,
+     .texts = {10001, 12715, 13682},
+     .shortcut = "Ctrl+N",
+     .menu = EditorMenu::File},
+    {.id = Open,
+     .texts = {10002, 11709, 13683},
+     .shortcut = "Ctrl+O",
+     .menu = EditorMenu::File,
+     .toolbarGroup = 1},
+    {.id = Save,
+     .texts = {10003, 13619, 13684},
+     .shortcut = "Ctrl+S",
+     .menu = EditorMenu::File,
+     .toolbarGroup = 1,
+     .isEnabled = hasEntries},
+    {.id = SaveAs,
+     .texts = {10004, 11710, 13685},
+     .shortcut = "Ctrl+Shift+S",
+     .menu = EditorMenu::File,
+     .isEnabled = hasEntries},
+    {.id = Exit,
+     .texts = {10017, 11720, 13686},
+     .shortcut = "Ctrl+Q",
+     .menu = EditorMenu::File,
+     .menuGroup = 2},
+    {.id = Undo,
+     .texts = {15301, 15305, 15309},
+     .shortcut = "Ctrl+Z",
+     .menu = EditorMenu::Edit,
+     .toolbarGroup = 3,
+     .isEnabled = canUndo,
+     .toolTip = undoTip,
+     .menuText = undoItem},
+    {.id = Redo,
+     .texts = {15303, 15307, 15310},
+     .shortcut = "Ctrl+Shift+Z; Ctrl+Y",
+     .menu = EditorMenu::Edit,
+     .toolbarGroup = 3,
+     .isEnabled = canRedo,
+     .toolTip = redoTip,
+     .menuText = redoItem},
+    {.id = Cut,
+     .texts = {11190, 13673, 13687},
+     .shortcut = "Ctrl+X",
+     .menu = EditorMenu::Edit,
+     .menuGroup = 2,
+     .toolbarGroup = 2,
+     .isEnabled = hasSelection},
+    {.id = Copy,
+     .texts = {11191, 12655, 13688},
+     .shortcut = "Ctrl+C",
+     .menu = EditorMenu::Edit,
+     .menuGroup = 2,
+     .toolbarGroup = 2,
+     .isEnabled = hasSelection},
+    {.id = CopyAsText,
+     .texts = {15319, 15320, 15321},
+     .shortcut = "Ctrl+Shift+C",
+     .menu = EditorMenu::Edit,
+     .menuGroup = 2,
+     .isEnabled = hasSelection},
+    {.id = Paste,
+     .texts = {11192, 10516, 13689},
+     .shortcut = "Ctrl+V",
+     .menu = EditorMenu::Edit,
+     .menuGroup = 2,
+     .toolbarGroup = 2,
+     .isEnabled = hasClipboard,
+     .addsEntries = true},
+    {.id = Find,
+     .texts = {15326, 15327, 15328},
+     .shortcut = "Ctrl+F",
+     .menu = EditorMenu::Edit,
+     .menuGroup = 3,
+     .isEnabled = hasEntries,
+     .movesFocus = true},
+    {.id = InsertScriptEvent,
+     .texts = {11194, 13674, 13690},
+     .menu = EditorMenu::Entry,
+     .toolbarGroup = 4,
+     .isEnabled = hasEvent,
+     .toolTip = insertEventTip,
+     .addsEntries = true},
+    {.id = InsertLuFunction,
+     .texts = {11195, 13675, 13691},
+     .menu = EditorMenu::Entry,
+     .toolbarGroup = 4,
+     .isEnabled = hasLuFunction,
+     .toolTip = insertLuFunctionTip,
+     .addsEntries = true},
+    {.id = InsertMenuCommand,
+     .texts = {11196, 13676, 13692},
+     .menu = EditorMenu::Entry,
+     .toolbarGroup = 4,
+     .isEnabled = hasMenuCommand,
+     .toolTip = insertMenuCommandTip,
+     .addsEntries = true},
+    {.id = InsertScript,
+     .texts = {15322, 15323, 15324},
+     .shortcut = "Ctrl+Shift+O",
+     .menu = EditorMenu::Entry,
+     .addsEntries = true},
+    {.id = EditEntry,
+     .texts = {11197, 13677, 13693},
+     .menu = EditorMenu::Entry,
+     .menuGroup = 2,
+     .toolbarGroup = 5,
+     .isEnabled = canEdit,
+     .toolTip = editTip},
+    {.id = DeleteEntries,
+     .texts = {11198, 12159, 13694},
+     .shortcut = "Del",
+     .menu = EditorMenu::Entry,
+     .menuGroup = 3,
+     .toolbarGroup = 6,
+     .isEnabled = hasSelection,
+     .toolTip = deleteTip},
+    {.id = Help,
+     .texts = {11201, 13681, 13698},
+     .shortcut = "F1",
+     .menu = EditorMenu::Help,
+     .toolbarGroup = 8},
+    {.id = HelpOnSelection,
+     .texts = {15340, 15341, 15342},
+     .shortcut = "Shift+F1",
+     .menu = EditorMenu::Help},
+    {.id = About,
+     .texts = {11202, 11206, 13699},
+     .menu = EditorMenu::Help,
+     .menuGroup = 2,
+     .toolbarGroup = 8},
 };
 
-constexpr int fileItems[] = {newScript, open, save, saveAs, separator, command::exit};
-constexpr int editItems[] = {undo, redo, separator, cut, copy, copyAsText, paste, separator, find};
-constexpr int entryItems[] = {
-    insertScriptEvent, insertLuFunction, insertMenuCommand, command::insertScript,
-    separator,         editEntry,        separator,         deleteEntries};
-constexpr int modeItems[] = {313, 314, 315, 316, 317, 318};
-constexpr int helpItems[] = {help, helpOnSelection, separator, about};
+CommandInfo modeRow(HostType type) {
+    const HostTypeInfo& host = hostTypeInfo(type);
+    return {.id = modeCommand(type),
+            .texts = {host.menuTextId, host.toolTipId, host.statusTextId, host.menuTextLiteral},
+            .menu = EditorMenu::Mode,
+            .toolbarGroup = 7,
+            .hostType = type};
+}
+
+std::vector<CommandInfo> allRows() {
+    std::vector<CommandInfo> all(std::begin(rows), std::end(rows));
+    std::ranges::transform(allHostTypes, std::back_inserter(all), modeRow);
+    return all;
+}
 
 constexpr MenuInfo menuTable[] = {
-    {10000, "fileMenu", fileItems},   {10018, "editMenu", editItems},
-    {11193, "entryMenu", entryItems}, {10935, "modeMenu", modeItems},
-    {10070, "helpMenu", helpItems},
+    {EditorMenu::File, 10000, "fileMenu"},   {EditorMenu::Edit, 10018, "editMenu"},
+    {EditorMenu::Entry, 11193, "entryMenu"}, {EditorMenu::Mode, 10935, "modeMenu"},
+    {EditorMenu::Help, 10070, "helpMenu"},
 };
 
-constexpr int toolbarItems[] = {
-    open,
-    save,
-    separator,
-    cut,
-    copy,
-    paste,
-    separator,
-    undo,
-    redo,
-    separator,
-    insertScriptEvent,
-    insertLuFunction,
-    insertMenuCommand,
-    separator,
-    editEntry,
-    separator,
-    deleteEntries,
-    separator,
-    313,
-    314,
-    315,
-    316,
-    317,
-    318,
-    separator,
-    help,
-    about,
-};
+// The commands of groups in their order, with separators between the groups.
+CommandItems itemsOf(const std::vector<CommandInfo>& sorted, int CommandInfo::*group) {
+    CommandItems items;
+    for (std::size_t i = 0; i < sorted.size(); ++i) {
+        if (i > 0 && sorted[i].*group != sorted[i - 1].*group) items.emplace_back();
+        items.emplace_back(sorted[i].id);
+    }
+    return items;
+}
 
 }  // namespace
 
 std::span<const CommandInfo> commands() {
-    return table;
+    static const std::vector<CommandInfo> all = allRows();
+    return all;
 }
 
-const CommandInfo& commandInfo(int id) {
-    return table[id - newScript];
+const CommandInfo& commandInfo(EditorCommand id) {
+    return *std::ranges::find(commands(), id, &CommandInfo::id);
+}
+
+EditorCommand modeCommand(HostType type) {
+    return static_cast<EditorCommand>(hostTypeInfo(type).modeCommand);
+}
+
+bool isCommandEnabled(const CommandInfo& info, const CommandFacts& facts) {
+    return info.isEnabled == nullptr || info.isEnabled(facts);
+}
+
+bool isCommandChecked(const CommandInfo& info, const CommandFacts& facts) {
+    return info.hostType == facts.hostType;
+}
+
+std::string commandToolTip(const CommandInfo& info, const CommandFacts& facts,
+                           LanguageLibrary& language) {
+    if (info.toolTip != nullptr) {
+        if (auto text = info.toolTip(facts, language)) return *std::move(text);
+    }
+    return libraryText(language, info.texts.toolTip);
 }
 
 std::string commandMenuText(const CommandInfo& info, LanguageLibrary& language) {
-    const auto host = hostTypeOfModeCommand(info.id);
-    if (!host) return language.loadText(info.menuTextId);
-    const HostTypeInfo& hostInfo = hostTypeInfo(*host);
-    return hostInfo.menuTextId != 0 ? language.loadText(hostInfo.menuTextId)
-                                    : std::string(hostInfo.menuTextLiteral);
+    return info.texts.menu != 0 ? language.loadText(info.texts.menu)
+                                : std::string(info.texts.menuLiteral);
+}
+
+std::optional<std::string> commandMenuText(const CommandInfo& info, const CommandFacts& facts,
+                                           LanguageLibrary& language) {
+    if (info.menuText == nullptr) return std::nullopt;
+    if (auto text = info.menuText(facts, language)) return text;
+    return commandMenuText(info, language);
 }
 
 std::span<const MenuInfo> menus() {
     return menuTable;
 }
 
-std::span<const int> toolbarCommands() {
-    return toolbarItems;
+CommandItems menuItems(EditorMenu menu) {
+    std::vector<CommandInfo> found;
+    std::ranges::copy_if(commands(), std::back_inserter(found),
+                         [menu](const CommandInfo& info) { return info.menu == menu; });
+    return itemsOf(found, &CommandInfo::menuGroup);
+}
+
+CommandItems toolbarItems() {
+    std::vector<CommandInfo> found;
+    std::ranges::copy_if(commands(), std::back_inserter(found),
+                         [](const CommandInfo& info) { return info.toolbarGroup > 0; });
+    std::ranges::stable_sort(found, std::ranges::less(), &CommandInfo::toolbarGroup);
+    return itemsOf(found, &CommandInfo::toolbarGroup);
 }
 
 }  // namespace quendra
