@@ -14,6 +14,7 @@ std::optional<std::string> selectedText(const EditorPane& pane, Palette palette)
 
 CommandFacts commandFacts(const ApplicationState& state, const EditorPane& pane) {
     CommandFacts facts;
+    facts.hostType = state.currentHostType;
     facts.entryCount = state.script.entryCount();
     facts.selectedCount = pane.selectedEntries().size();
     facts.clipboardCount = state.entryClipboard.size();

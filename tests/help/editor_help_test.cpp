@@ -20,12 +20,11 @@ namespace quendra::test {
 
 namespace {
 
+using enum EditorCommand;
+
 class EditorHelpTest : public EditorTest {
   protected:
-    EditorHelpTest() {
-        state.settings.programDir = pages.bin();
-        window.setHelpCommands(help.commands());
-    }
+    EditorHelpTest() { state.settings.programDir = pages.bin(); }
 
     [[nodiscard]] static HelpWindow* manual() {
         for (QWidget* widget : QApplication::topLevelWidgets()) {
@@ -70,6 +69,7 @@ class EditorHelpTest : public EditorTest {
                                      },
                                      [](const std::string&) { return false; }};
     EditorHelp help{state, launchers};
+    CommandHandlers withHelp{state, window, scriptEditor, &help};
 };
 
 TEST_F(EditorHelpTest, HelpOpensTheManualOfAPlainInstallationAndLeavesTheFocusInThePane) {
@@ -85,13 +85,13 @@ TEST_F(EditorHelpTest, HelpStartsWhatIsInstalledElseTheManualInTheLanguageOfTheI
     std::filesystem::create_directories(state.settings.installDir);
     state.settings.helpFilePath = state.settings.installDir / "quendra.chm";
     std::ofstream(state.settings.helpFilePath) << "x";
-    run(319);
+    run(Help);
     EXPECT_EQ(started, std::vector<std::string>{"kchmviewer"});
     EXPECT_EQ(manual(), nullptr);
     starts = false;
     std::ofstream(state.settings.configDir / "language.ini")
         << "[Language]\nLanguage=qdstring_de\n";
-    run(319);
+    run(Help);
     EXPECT_EQ(started.size(), 3U) << "all viewers were tried";
     EXPECT_TRUE(answers.messages.empty());
     EXPECT_TRUE(manual()->findChild<PageView*>()->toPlainText().contains(u"Der Editor"));
