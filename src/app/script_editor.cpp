@@ -28,10 +28,6 @@ constexpr StringId otherModeText = 15335;
 constexpr StringId oneEntryText = 15390;
 constexpr StringId entriesText = 15391;
 
-// "Insert Script Event %s" and its like, by palette.
-constexpr StringId insertSteps[] = {13701, 13702, 13703};
-constexpr StringId paletteLabels[] = {11203, 11204, 11205};
-
 StringId refusalText(EditRefusal refusal) {
     switch (refusal) {
         case EditRefusal::MenuCommandNotInVt: return 13732;
@@ -91,7 +87,7 @@ void ScriptEditor::insert(Palette palette, bool (*operation)(EditingState&, Edit
     change([&] { return operation(state_, *this); },
            [&] {
                const int row = selectedRow(palette);
-               return libraryText(state_.language, insertSteps[static_cast<std::size_t>(palette)],
+               return libraryText(state_.language, paletteInfo(palette).insertTextId,
                                   {window_.pane().paletteText(palette, row).toStdString()});
            });
 }
@@ -221,7 +217,7 @@ void ScriptEditor::refuse(EditRefusal refusal, const ScriptEntry& entry) {
 }
 
 void ScriptEditor::askForRow(Palette palette) {
-    const StringId label = paletteLabels[static_cast<std::size_t>(palette)];
+    const StringId label = paletteInfo(palette).titleId;
     window_.showNote(libraryText(state_.language, 15316, {libraryText(state_.language, label)}));
 }
 

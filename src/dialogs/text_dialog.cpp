@@ -23,8 +23,26 @@ StringId labelOf(CommandCode code) {
         case CommandCode::Label: return 13748;
         case CommandCode::Message: return 13749;
         case CommandCode::ExpressLogon: return 14833;
-        default: return 13750;
+        case CommandCode::Type: return 13750;
+        case CommandCode::None:
+        case CommandCode::LuFunction:
+        case CommandCode::MenuCommand:
+        case CommandCode::Beep:
+        case CommandCode::ClearWatch:
+        case CommandCode::Input:
+        case CommandCode::IfInputIs:
+        case CommandCode::Return:
+        case CommandCode::Run:
+        case CommandCode::SetCursor:
+        case CommandCode::Wait:
+        case CommandCode::WaitFor:
+        case CommandCode::WaitReady:
+        case CommandCode::WaitUntil:
+        case CommandCode::WatchFor:
+        case CommandCode::Copy:
+        case CommandCode::Paste: break;
     }
+    return 0;
 }
 
 class TextDialog : public ParameterDialog {

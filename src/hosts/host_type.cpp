@@ -1,12 +1,14 @@
 #include "hosts/host_type.h"
 
+#include "model/menu_commands.h"
+
 #include <algorithm>
 
 namespace quendra {
 
 namespace {
 
-constexpr std::array<HostTypeInfo, 6> infos = {{
+constexpr std::array infos = std::to_array<HostTypeInfo>({
     {HostType::Mainframe, "Mainframe", "mainframe", 313, 11199, "", "QDMDSCR", '2',
      "Quendra Mainframe Display(*.qmd)", "qmd"},
     {HostType::ISeries, "ISeries", "iseries", 314, 11200, "", "QDADSCR", '2',
@@ -18,7 +20,9 @@ constexpr std::array<HostTypeInfo, 6> infos = {{
      "qtd"},
     {HostType::ICL, "ICL", "icl", 318, 0, "  IC&L", "QD7DSCR", '8', "Quendra ICL Display(*.q7d)",
      "q7d"},
-}};
+});
+static_assert(infos.size() == allHostTypes.size());
+static_assert(std::ranges::equal(infos, allHostTypes, {}, &HostTypeInfo::type));
 
 template <class Value>
 std::optional<HostType> findBy(Value HostTypeInfo::*member, const Value& value) {
@@ -43,6 +47,10 @@ std::optional<HostType> hostTypeOfCommandLineName(std::string_view name) {
 
 std::optional<HostType> hostTypeOfModeCommand(int command) {
     return findBy(&HostTypeInfo::modeCommand, command);
+}
+
+bool refusesMenuCommand(HostType type, std::uint32_t commandId) {
+    return type == HostType::VT && isRefusedInVt(commandId);
 }
 
 }  // namespace quendra

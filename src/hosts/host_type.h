@@ -44,8 +44,7 @@ struct HostTypeInfo {
 /// The host type of a Mode command, 313 to 318.
 [[nodiscard]] std::optional<HostType> hostTypeOfModeCommand(int command);
 
-/// The menu command that VT emulators lack: refused wherever it is picked, and a VT file cannot
-/// store it.
-inline constexpr std::uint32_t menuCommandRefusedInVt = 213;
+/// True for a menu command that the host type's emulator lacks.
+[[nodiscard]] bool refusesMenuCommand(HostType type, std::uint32_t commandId);
 
 }  // namespace quendra

@@ -50,11 +50,14 @@ std::string commandToolTip(int id, const CommandFacts& facts, LanguageLibrary& l
     const StringId plain = commandInfo(id).toolTipId;
     switch (id) {
         case command::insertScriptEvent:
-            return itemText(13701, facts.selectedEvent, plain, language);
+            return itemText(paletteInfo(Palette::ScriptEvents).insertTextId, facts.selectedEvent,
+                            plain, language);
         case command::insertLuFunction:
-            return itemText(13702, facts.selectedLuFunction, plain, language);
+            return itemText(paletteInfo(Palette::LuFunctions).insertTextId,
+                            facts.selectedLuFunction, plain, language);
         case command::insertMenuCommand:
-            return itemText(13703, facts.selectedMenuCommand, plain, language);
+            return itemText(paletteInfo(Palette::MenuCommands).insertTextId,
+                            facts.selectedMenuCommand, plain, language);
         case command::editEntry:
             if (facts.editSource == EditSource::None) break;
             return libraryText(language, facts.editSource == EditSource::Dialog ? 13705 : 13704,

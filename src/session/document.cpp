@@ -59,15 +59,23 @@ std::string entryNumbers(const std::vector<std::size_t>& entries) {
     return entries.size() > shown ? text + ", ..." : text;
 }
 
-// The text holds one line for each reason, in the order of ReadStop.
+StringId stopTextId(ReadStop stop) {
+    switch (stop) {
+        case ReadStop::None: break;
+        case ReadStop::EndInsideRecord: return 15382;
+        case ReadStop::UnknownCode: return 15394;
+        case ReadStop::PromptTooLong: return 15395;
+        case ReadStop::NestedTooDeep: return 15396;
+        case ReadStop::TooManyEntries: return 15397;
+        case ReadStop::FileTooLong: return 15398;
+    }
+    return 0;
+}
+
 std::string stopText(ApplicationState& state, const ReadResult& read) {
-    const std::string lines = libraryText(state.language, 15382);
-    std::size_t start = 0;
-    for (auto left = static_cast<int>(read.stop) - 1; left > 0; --left)
-        start = std::min(lines.find('\n', start), lines.size() - 1) + 1;
-    return formatText(lines.substr(start, lines.find('\n', start) - start),
-                      {entryCountText(state.language, read.script.entryCount()),
-                       std::to_string(read.stopOffset)});
+    return libraryText(state.language, stopTextId(read.stop),
+                       {entryCountText(state.language, read.script.entryCount()),
+                        std::to_string(read.stopOffset)});
 }
 
 // What there is to tell about a loaded file; empty for an ordinary one. `unsaved` is the name of a

@@ -5,6 +5,7 @@
 #include "app/editor_fixture.h"
 #include "dialogs/command_dialogs.h"
 #include "dialogs/modal_steps.h"
+#include "model/new_command.h"
 #include "session/editing.h"
 
 #include <memory>

@@ -1,7 +1,7 @@
 // Catalogues of keys and menu commands, and the numbering of older files; the frozen cases hold
 // every command code and key of every version.
 #include "hosts/lu_catalogue.h"
-#include "model/menu_catalogue.h"
+#include "model/menu_commands.h"
 #include "scriptfile/format_version.h"
 #include "support/fixtures.h"
 

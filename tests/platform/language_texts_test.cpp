@@ -67,7 +67,7 @@ TEST_P(LanguageTexts, AreThoseThatTheProgramUsesFinishedAndWithARoleForTranslato
 
 TEST_P(LanguageTexts, HaveTheFormatPlacesThatTheProgramFills) {
     std::map<StringId, std::string> filled = {
-        {15325, "%d%d"}, {15331, "%d%d"}, {15382, "%s%d%s%d%s%d%s%d%s%d%s%d"},
+        {15325, "%d%d"}, {15331, "%d%d"}, {15382, "%s%d"},
         {15392, "%s%s"}, {16004, "%d%d"}, {16005, "%s%d%d"},
     };
     for (const StringId id :
@@ -75,6 +75,8 @@ TEST_P(LanguageTexts, HaveTheFormatPlacesThatTheProgramFills) {
           15302, 15304, 15306, 15308, 15312, 15313, 15314, 15315, 15316, 15335, 15343,
           15354, 15355, 15380, 15381, 15383, 15386, 15387, 15388, 15389, 16001})
         filled[id] = "%s";
+    for (const StringId id : {15394, 15395, 15396, 15397, 15398})
+        filled[id] = "%s%d";
     for (const StringId id : {13709, 15333, 15350, 15391, 16002, 16003})
         filled[id] = "%d";
     for (const auto& [id, text] : texts)

@@ -22,17 +22,11 @@ namespace {
 
 constexpr int insertScriptEventCommand = 308;
 constexpr int editEntryCommand = 311;
-constexpr std::size_t paletteCount = 3;
+constexpr std::size_t paletteCount = allPalettes.size();
 
-struct PaletteParts {
-    StringId labelId;
-    const char* labelName;
-    const char* listName;
-};
-constexpr std::array<PaletteParts, paletteCount> paletteParts = {
-    {{11203, "scriptEventsLabel", "scriptEventsPalette"},
-     {11204, "luFunctionsLabel", "luFunctionsPalette"},
-     {11205, "menuCommandsLabel", "menuCommandsPalette"}}};
+std::vector<PaletteRow> rowsOf(const ApplicationState& state, Palette palette) {
+    return paletteRows(palette, state.luCatalogues.of(state.currentHostType), state.menuCommands);
+}
 
 QItemSelection selectionOf(const QAbstractItemModel& model, std::span<const std::size_t> rows) {
     QItemSelection selection;
@@ -85,8 +79,9 @@ class EditorPane::Private : public QObject {
     /// currentIndex stays. The outermost tells of all of them at once, if there is one to tell.
     class QuietChange;
 
-    PaneList* addList(const char* name, const QString& accessibleName, QAbstractItemModel* model);
-    void addPalette(std::size_t number, PaletteModel* model);
+    PaneList* addList(const QString& name, const QString& accessibleName,
+                      QAbstractItemModel* model);
+    void addPalette(Palette palette, PaletteModel* model);
     void watchSelection(PaneList& list);
     bool pressKey(PaneList& list, QKeyEvent& event);
     bool doubleClick(PaneList& list, const QMouseEvent& event);
@@ -120,14 +115,14 @@ EditorPane::Private::Private(EditorPane& pane, ApplicationState& state)
     : pane_(pane),
       state_(state),
       scriptModel_(new ScriptListModel(state, &pane)),
-      luModel_(
-          new PaletteModel(luFunctionRows(state.luCatalogues.of(state.currentHostType)), &pane)) {
-    lists_[0] =
-        addList("scriptList", QString::fromStdString(state.language.loadText(15385)), scriptModel_);
+      luModel_(new PaletteModel(rowsOf(state, Palette::LuFunctions), &pane)) {
+    lists_[0] = addList(QStringLiteral("scriptList"),
+                        QString::fromStdString(state.language.loadText(15385)), scriptModel_);
     lists_[0]->setSelectionMode(QAbstractItemView::ExtendedSelection);
-    addPalette(0, new PaletteModel(scriptEventRows(), &pane));
-    addPalette(1, luModel_);
-    addPalette(2, new PaletteModel(menuCommandRows(state.menuCommands), &pane));
+    for (const Palette palette : allPalettes) {
+        const bool changes = palette == Palette::LuFunctions;
+        addPalette(palette, changes ? luModel_ : new PaletteModel(rowsOf(state, palette), &pane));
+    }
     lastFocused_ = lists_[0];
     for (std::size_t i = 1; i < lists_.size(); ++i) {
         QWidget::setTabOrder(lists_[i - 1], lists_[i]);
@@ -137,10 +132,10 @@ EditorPane::Private::Private(EditorPane& pane, ApplicationState& state)
     connect(drag_.get(), &DragController::dropped, this, &Private::drop);
 }
 
-PaneList* EditorPane::Private::addList(const char* name, const QString& accessibleName,
+PaneList* EditorPane::Private::addList(const QString& name, const QString& accessibleName,
                                        QAbstractItemModel* model) {
     auto* list = new PaneList(&pane_);
-    list->setObjectName(QLatin1String(name));
+    list->setObjectName(name);
     list->setAccessibleName(accessibleName);
     list->setModel(model);
     list->installEventFilter(this);
@@ -149,12 +144,13 @@ PaneList* EditorPane::Private::addList(const char* name, const QString& accessib
     return list;
 }
 
-void EditorPane::Private::addPalette(std::size_t number, PaletteModel* model) {
-    const PaletteParts& parts = paletteParts[number];
-    const QString text = QString::fromStdString(state_.language.loadText(parts.labelId));
-    PaneList* list = addList(parts.listName, text, model);
+void EditorPane::Private::addPalette(Palette palette, PaletteModel* model) {
+    const PaletteInfo& info = paletteInfo(palette);
+    const auto number = static_cast<std::size_t>(palette);
+    const QString text = QString::fromStdString(state_.language.loadText(info.titleId));
+    PaneList* list = addList(paletteObjectName(palette, "Palette"), text, model);
     auto* label = new QLabel(text, &pane_);
-    label->setObjectName(QLatin1String(parts.labelName));
+    label->setObjectName(paletteObjectName(palette, "Label"));
     label->setTextFormat(Qt::PlainText);
     label->setBuddy(list);
     labels_[number] = label;
@@ -361,7 +357,7 @@ void EditorPane::showScript(const EntrySelection& selection) {
 
 void EditorPane::refillLuPalette() {
     d_->drag_->cancel();
-    d_->luModel_->setRows(luFunctionRows(d_->state_.luCatalogues.of(d_->state_.currentHostType)));
+    d_->luModel_->setRows(rowsOf(d_->state_, Palette::LuFunctions));
     Q_EMIT selectionChanged();
 }
 
@@ -387,8 +383,7 @@ int EditorPane::selectedRow(Palette palette) const {
 }
 
 std::optional<Palette> EditorPane::focusedPalette() const {
-    for (const Palette palette :
-         {Palette::ScriptEvents, Palette::LuFunctions, Palette::MenuCommands}) {
+    for (const Palette palette : allPalettes) {
         if (&d_->listOf(palette) == d_->lastFocused_) return palette;
     }
     return std::nullopt;
