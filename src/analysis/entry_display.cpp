@@ -25,11 +25,6 @@ std::string luFunctionName(const ConstSlotFields& f, const DisplayNames& names) 
     return "<Lu Function " + std::to_string(key.group) + "/" + std::to_string(key.number) + ">";
 }
 
-TransferInputs transferInputs(const ConstSlotFields& f) {
-    return {f.transferSettings, f.transferHost,
-            f.commandId == sendFileCommand ? TransferDirection::Send : TransferDirection::Receive};
-}
-
 std::string menuCommandLine(const ConstSlotFields& f, const DisplayNames& names) {
     std::string line = menuCommandName(names.menuCommands, f.commandId);
     if (isFileTransfer(f.commandId)) {

@@ -41,12 +41,7 @@ std::optional<CommandCode> selectedCommand(const ApplicationState& state, const 
     }
     const int row = pane.selectedRow(*palette);
     if (row < 0) return std::nullopt;
-    switch (*palette) {
-        case Palette::LuFunctions: return CommandCode::LuFunction;
-        case Palette::MenuCommands: return CommandCode::MenuCommand;
-        case Palette::ScriptEvents: break;
-    }
-    return scriptEvents()[static_cast<std::size_t>(row)].code;
+    return commandOf({*palette, row});
 }
 
 }  // namespace quendra

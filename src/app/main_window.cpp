@@ -2,9 +2,9 @@
 
 #include "app/command_facts.h"
 #include "app/find_bar.h"
+#include "session/command_rules.h"
 #include "session/commands.h"
 #include "text/text_ids.h"
-#include "session/command_rules.h"
 #include "widgets/file_dialogs.h"
 #include "widgets/message_box.h"
 #include "widgets/placement.h"

@@ -18,9 +18,6 @@ namespace quendra {
 
 namespace {
 
-// "Insert Script Event %s" and its like, by palette.
-constexpr StringId insertSteps[] = {textid::insertNamedScriptEvent, textid::insertNamedLuFunction, textid::insertNamedMenuCommand};
-constexpr StringId paletteLabels[] = {textid::scriptEventsLabel, textid::luFunctionsLabel, textid::menuCommandsLabel};
 constexpr bool (*insertOperations[])(EditingState&, EditingView&) = {
     insertScriptEvent, insertLuFunction, insertMenuCommand};
 
@@ -76,7 +73,7 @@ void ScriptEditor::insertFrom(Palette palette) {
     change([&] { return operation(state_, *this); },
            [&] {
                const int row = selectedRow(palette);
-               return libraryText(state_.language, insertSteps[static_cast<std::size_t>(palette)],
+               return libraryText(state_.language, paletteInfo(palette).insertTextId,
                                   {window_.pane().paletteText(palette, row).toStdString()});
            });
 }
@@ -206,7 +203,7 @@ void ScriptEditor::refuse(EditRefusal refusal, const ScriptEntry& entry) {
 }
 
 void ScriptEditor::askForRow(Palette palette) {
-    const StringId label = paletteLabels[static_cast<std::size_t>(palette)];
+    const StringId label = paletteInfo(palette).titleId;
     window_.showNote(libraryText(state_.language, textid::replacementNeedsSelection,
                                  {libraryText(state_.language, label)}));
 }

@@ -19,7 +19,6 @@ namespace quendra {
 
 namespace {
 
-
 constexpr int pictureSide = 32;
 /// Wide enough for most texts.
 constexpr int bodyCharacters = 52;

@@ -5,6 +5,7 @@
 // have the same names in an entry, a then action and an else action.
 #pragma once
 
+#include "model/menu_commands.h"
 #include "model/script_entry.h"
 #include "scriptfile/record_layout.h"
 

@@ -5,6 +5,7 @@
 #include "forms/object_reader.h"
 #include "forms/script_json.h"
 #include "forms/transfer_json.h"
+#include "model/new_command.h"
 #include "scriptfile/entry_codec.h"
 #include "scriptfile/script_reader.h"
 #include "scriptfile/script_writer.h"
@@ -18,24 +19,6 @@ namespace quendra::cli {
 namespace {
 
 using Json = nlohmann::ordered_json;
-
-// What a new entry of the command starts from; all else is empty or 0.
-void setDefaults(ScriptEntry& entry, Slot slot) {
-    const SlotFields f = slotFields(entry, slot);
-    switch (f.code) {
-        case CommandCode::Wait: f.number = 3; break;
-        case CommandCode::WaitReady: f.number = 1; break;
-        case CommandCode::Input: f.maxLength = 255; break;
-        case CommandCode::Copy: f.area = packArea({1, 1, 24, 80}); break;
-        case CommandCode::Paste: f.area = packArea({1, 1, 0, 0}); break;
-        case CommandCode::WaitFor:
-            entry.searchRow = 1;
-            entry.searchColumn = 1;
-            entry.caseSensitive = 1;
-            break;
-        default: break;
-    }
-}
 
 // A date typed by hand need not say which day of the week it is.
 std::uint16_t dayOfWeek(const DateTime& date) {
@@ -96,7 +79,7 @@ void EntryReader::slot(ScriptEntry& entry, Slot slot) {
         return;
     }
     setCode(slotFields(entry, slot), *code);
-    setDefaults(entry, slot);
+    startCommand(entry, slot);
     json_layout::fieldsAfterCommand(*this, entry, slot);
     object_.finish();
 }

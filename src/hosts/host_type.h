@@ -45,8 +45,7 @@ struct HostTypeInfo {
 [[nodiscard]] std::optional<HostType> hostTypeOfName(std::string_view name);
 [[nodiscard]] std::optional<HostType> hostTypeOfCommandLineName(std::string_view name);
 
-/// The menu command that VT emulators lack: refused wherever it is picked, and a VT file cannot
-/// store it.
-inline constexpr std::uint32_t menuCommandRefusedInVt = 213;
+/// True for a menu command that the host type's emulator lacks.
+[[nodiscard]] bool refusesMenuCommand(HostType type, std::uint32_t commandId);
 
 }  // namespace quendra

@@ -1,5 +1,6 @@
 #include "model/script_entry.h"
 
+#include "model/menu_commands.h"
 #include "platform/secret_memory.h"
 
 #include <algorithm>
@@ -79,19 +80,10 @@ std::uint32_t packArea(const ScreenArea& area) {
            std::uint32_t{area.endRow} << 16 | std::uint32_t{area.endColumn} << 24;
 }
 
-bool takesFileName(std::uint32_t commandId) {
-    return commandId == 202 || commandId == 204 || commandId == 219 || commandId == 254 ||
-           commandId == 257;
-}
-
-bool isFileTransfer(std::uint32_t commandId) {
-    return commandId == sendFileCommand || commandId == receiveFileCommand;
-}
-
 int bitmapIdOf(CommandCode code, std::uint32_t commandId) {
     if (code == CommandCode::LuFunction) return luFunctionBitmapId;
     if (code == CommandCode::MenuCommand) {
-        return commandId >= 201 && commandId <= 268 ? static_cast<int>(commandId) : 0;
+        return findMenuCommand(commandId) != nullptr ? static_cast<int>(commandId) : 0;
     }
     return isScriptEvent(code) ? static_cast<int>(code) + 106 : 0;
 }

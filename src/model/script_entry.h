@@ -250,14 +250,8 @@ struct ScreenArea {
 [[nodiscard]] ScreenArea unpackArea(std::uint32_t packed);
 [[nodiscard]] std::uint32_t packArea(const ScreenArea& area);
 
-/// Menu commands with parameters: five take a file name, two are file transfers with settings.
-inline constexpr std::uint32_t sendFileCommand = 236;
-inline constexpr std::uint32_t receiveFileCommand = 237;
-[[nodiscard]] bool takesFileName(std::uint32_t commandId);
-[[nodiscard]] bool isFileTransfer(std::uint32_t commandId);
-
-/// The picture of an entry: the bitmap of its kind; 0 for an empty entry and a menu command outside
-/// 201 to 268.
+/// The picture of an entry: the bitmap of its kind; 0 for an empty entry and for a menu command
+/// that there is not.
 [[nodiscard]] int bitmapIdOf(CommandCode code, std::uint32_t commandId);
 
 }  // namespace quendra

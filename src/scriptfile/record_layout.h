@@ -5,6 +5,7 @@
 // record is driven to its end and tested once.
 #pragma once
 
+#include "model/menu_commands.h"
 #include "model/script_entry.h"
 #include "scriptfile/format_version.h"
 

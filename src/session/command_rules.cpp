@@ -68,21 +68,24 @@ bool canRedo(const CommandFacts& facts) {
 }
 
 CommandText insertEventTip(const CommandFacts& facts, LanguageLibrary& language) {
-    return itemText(textid::insertNamedScriptEvent, facts.selectedEvent, language);
+    return itemText(paletteInfo(Palette::ScriptEvents).insertTextId, facts.selectedEvent, language);
 }
 
 CommandText insertLuFunctionTip(const CommandFacts& facts, LanguageLibrary& language) {
-    return itemText(textid::insertNamedLuFunction, facts.selectedLuFunction, language);
+    return itemText(paletteInfo(Palette::LuFunctions).insertTextId, facts.selectedLuFunction,
+                    language);
 }
 
 CommandText insertMenuCommandTip(const CommandFacts& facts, LanguageLibrary& language) {
-    return itemText(textid::insertNamedMenuCommand, facts.selectedMenuCommand, language);
+    return itemText(paletteInfo(Palette::MenuCommands).insertTextId, facts.selectedMenuCommand,
+                    language);
 }
 
 CommandText editTip(const CommandFacts& facts, LanguageLibrary& language) {
     if (facts.editSource == EditSource::None) return std::nullopt;
-    return itemText(facts.editSource == EditSource::Dialog ? textid::editNamedEntry : textid::replaceNamedEntry, facts.focusedLine,
-                    language);
+    return itemText(
+        facts.editSource == EditSource::Dialog ? textid::editNamedEntry : textid::replaceNamedEntry,
+        facts.focusedLine, language);
 }
 
 CommandText deleteTip(const CommandFacts& facts, LanguageLibrary& language) {

@@ -1,8 +1,8 @@
 #include "session/commands.h"
 
 #include "hosts/host_type.h"
-#include "text/text_ids.h"
 #include "session/command_rules.h"
+#include "text/text_ids.h"
 
 #include <algorithm>
 #include <functional>
@@ -93,28 +93,32 @@ constexpr CommandInfo rows[] = {
      .isEnabled = hasEntries,
      .movesFocus = true},
     {.id = InsertScriptEvent,
-     .texts = {textid::insertScriptEventMenuText, textid::insertScriptEventToolTip, textid::insertScriptEventStatusText},
+     .texts = {textid::insertScriptEventMenuText, textid::insertScriptEventToolTip,
+               textid::insertScriptEventStatusText},
      .menu = EditorMenu::Entry,
      .toolbarGroup = 4,
      .isEnabled = hasEvent,
      .toolTip = insertEventTip,
      .addsEntries = true},
     {.id = InsertLuFunction,
-     .texts = {textid::insertLuFunctionMenuText, textid::insertLuFunctionToolTip, textid::insertLuFunctionStatusText},
+     .texts = {textid::insertLuFunctionMenuText, textid::insertLuFunctionToolTip,
+               textid::insertLuFunctionStatusText},
      .menu = EditorMenu::Entry,
      .toolbarGroup = 4,
      .isEnabled = hasLuFunction,
      .toolTip = insertLuFunctionTip,
      .addsEntries = true},
     {.id = InsertMenuCommand,
-     .texts = {textid::insertMenuCommandMenuText, textid::insertMenuCommandToolTip, textid::insertMenuCommandStatusText},
+     .texts = {textid::insertMenuCommandMenuText, textid::insertMenuCommandToolTip,
+               textid::insertMenuCommandStatusText},
      .menu = EditorMenu::Entry,
      .toolbarGroup = 4,
      .isEnabled = hasMenuCommand,
      .toolTip = insertMenuCommandTip,
      .addsEntries = true},
     {.id = InsertScript,
-     .texts = {textid::insertScriptMenuText, textid::insertScriptToolTip, textid::insertScriptStatusText},
+     .texts = {textid::insertScriptMenuText, textid::insertScriptToolTip,
+               textid::insertScriptStatusText},
      .shortcut = "Ctrl+Shift+O",
      .menu = EditorMenu::Entry,
      .addsEntries = true},
@@ -139,7 +143,8 @@ constexpr CommandInfo rows[] = {
      .menu = EditorMenu::Help,
      .toolbarGroup = 8},
     {.id = HelpOnSelection,
-     .texts = {textid::helpOnSelectionMenuText, textid::helpOnSelectionToolTip, textid::helpOnSelectionStatusText},
+     .texts = {textid::helpOnSelectionMenuText, textid::helpOnSelectionToolTip,
+               textid::helpOnSelectionStatusText},
      .shortcut = "Shift+F1",
      .menu = EditorMenu::Help},
     {.id = About,
@@ -165,8 +170,10 @@ std::vector<CommandInfo> allRows() {
 }
 
 constexpr MenuInfo menuTable[] = {
-    {EditorMenu::File, textid::fileMenu, "fileMenu"},   {EditorMenu::Edit, textid::editMenu, "editMenu"},
-    {EditorMenu::Entry, textid::entryMenu, "entryMenu"}, {EditorMenu::Mode, textid::modeMenu, "modeMenu"},
+    {EditorMenu::File, textid::fileMenu, "fileMenu"},
+    {EditorMenu::Edit, textid::editMenu, "editMenu"},
+    {EditorMenu::Entry, textid::entryMenu, "entryMenu"},
+    {EditorMenu::Mode, textid::modeMenu, "modeMenu"},
     {EditorMenu::Help, textid::helpMenu, "helpMenu"},
 };
 

@@ -1,9 +1,9 @@
 #include "widgets/dialog_frame.h"
 
+#include "text/text_ids.h"
 #include "widgets/mnemonics.h"
 #include "widgets/placement.h"
 #include "widgets/ui_text.h"
-#include "text/text_ids.h"
 
 #include <QAccessible>
 #include <QDialogButtonBox>

@@ -1,10 +1,10 @@
 // The window as its user meets it: menus, keys, titles, prompts and what stands in the status bar.
+#include "app/editor_fixture.h"
+#include "session/command_rules.h"
 #include "session/command_states.h"
 #include "session/commands.h"
 #include "support/editor_fixture.h"
 #include "text/text_ids.h"
-#include "app/editor_fixture.h"
-#include "session/command_rules.h"
 
 #include <QAccessible>
 #include <QApplication>
@@ -138,7 +138,9 @@ TEST_F(MainWindowTest, AsksBeforeNewOpenAndExitDiscardChanges) {
             const Message& prompt = answers.messages[0];
             EXPECT_EQ(prompt.buttons, MessageButtons::YesNoCancel);
             EXPECT_NE(prompt.text.find(path.string()), std::string::npos);
-            EXPECT_EQ(prompt.title, state.language.loadText(command == Exit ? textid::exitTitle : textid::saveChangesTitle));
+            EXPECT_EQ(prompt.title,
+                      state.language.loadText(command == Exit ? textid::exitTitle
+                                                              : textid::saveChangesTitle));
             EXPECT_EQ(readBytes(path), answer == Yes ? scriptFile("QDMDSCR=", {commentRecord("2")})
                                                      : commentFile(2));
             state.document.modified = false;

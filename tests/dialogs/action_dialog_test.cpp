@@ -52,7 +52,7 @@ TEST_F(ActionDialogTest, SelectsNothingWhereNothingWasChosenAndRefusesInItsWords
                  "compare string and/or variable(s) are not equal."}};
     state.currentHostType = HostType::VT;
     for (const auto& row : rows) {
-        entry = newScriptEvent(row.owner);
+        entry = newCommand(row.owner);
         const ScriptEntry before = entry;
         steps.in("actionDialog", [&](const OpenDialog& d) {
             EXPECT_EQ(d.title(), row.title);

@@ -12,7 +12,7 @@ class SearchTest : public SearchDialogTest {
 
 TEST_F(SearchTest, ANewWaitForIsTypedAndItsTimeoutSwitchesTheActionsAtOnce) {
     const std::string actionParts = "thenButton thenLine elseButton elseLine timeoutSeconds";
-    entry = newScriptEvent(CommandCode::WaitFor);
+    entry = newCommand(CommandCode::WaitFor);
     ScriptEntry expected = entry;
     setText(slotFields(expected, Slot::Entry), "READY");
     expected.hasTimeout = 1;
@@ -135,7 +135,7 @@ TEST_F(SearchTest, ActionsThatCannotBeReadSurviveAnEditOfTheText) {
 }
 
 TEST_F(SearchTest, ANewIfInputIsTakesAVariableInAnyCaseAndALiteral) {
-    entry = newScriptEvent(CommandCode::IfInputIs);
+    entry = newCommand(CommandCode::IfInputIs);
     steps.in("ifInputIsDialog", [this](const OpenDialog& d) {
         EXPECT_EQ(d.shown("firstOperand") + d.shown("secondOperand"), "InputStr");
         d.retype("secondOperandText", "");
@@ -179,7 +179,7 @@ TEST_F(SearchTest, ANewIfInputIsTakesAVariableInAnyCaseAndALiteral) {
 }
 
 TEST_F(SearchTest, AWaitForActionOfAWatchForHasATextAndSearchOptionsOnly) {
-    entry = newScriptEvent(CommandCode::WatchFor);
+    entry = newCommand(CommandCode::WatchFor);
     setText(own(), "ERROR");
     steps.in("watchForDialog", [](const OpenDialog& d) {
         d.clickRow("scriptEventsList", "Wait_For");
@@ -214,7 +214,7 @@ TEST_F(SearchTest, AWaitForActionOfAWatchForHasATextAndSearchOptionsOnly) {
 }
 
 TEST_F(SearchTest, ANewWatchForOffersBeepAndRefusesInTheWordsOfTheLibraryAndOnlyAtOk) {
-    entry = newScriptEvent(CommandCode::WatchFor);
+    entry = newCommand(CommandCode::WatchFor);
     state.currentHostType = HostType::VT;
     steps.in("watchForDialog", [this](const OpenDialog& d) {
         EXPECT_EQ(d.focused(), "text");

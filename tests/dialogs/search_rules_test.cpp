@@ -1,7 +1,7 @@
 // The rules behind the choice of an action and the operands of a comparison, on plain values.
 #include "dialogs/action_rules.h"
 #include "dialogs/compare_operand.h"
-#include "model/menu_catalogue.h"
+#include "model/menu_commands.h"
 
 #include <gtest/gtest.h>
 
@@ -10,7 +10,7 @@ namespace {
 
 using Code = CommandCode;
 
-ActionChoice choiceOfCode(Code code, std::uint32_t commandId = 0) {
+PaletteChoice choiceOfCode(Code code, std::uint32_t commandId = 0) {
     ScriptEntry entry;
     entry.thenCode = code;
     entry.commandId = commandId;
@@ -76,8 +76,8 @@ TEST(ActionRules, MenuCommandsLackFileNamesAndTransferFiles) {
 TEST(ActionRules, AHiddenTextIsNotHandedOnToACommandThatShowsIt) {
     const LuCatalogues catalogues = buildLuCatalogues([](StringId) { return std::string(); });
     for (const bool hidden : {true, false}) {
-        for (const ActionChoice& choice :
-             {choiceOfCode(Code::Message), ActionChoice{ActionList::LuFunctions, 0},
+        for (const PaletteChoice& choice :
+             {choiceOfCode(Code::Message), PaletteChoice{Palette::LuFunctions, 0},
               choiceOfCode(Code::MenuCommand, 202)}) {
             ScriptEntry entry;
             const SlotFields action = slotFields(entry, Slot::Else);

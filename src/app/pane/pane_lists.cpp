@@ -2,9 +2,9 @@
 
 #include "app/pane/pane_layout.h"
 #include "app/pane/script_list_model.h"
+#include "text/text_ids.h"
 #include "widgets/palette_model.h"
 #include "widgets/pane_list.h"
-#include "text/text_ids.h"
 
 #include <QLabel>
 
@@ -13,18 +13,8 @@
 namespace quendra {
 namespace {
 
-struct PaletteParts {
-    StringId labelId;
-    const char* labelName;
-    const char* listName;
-};
-constexpr std::array<PaletteParts, PaneLists::paletteCount> paletteParts = {
-    {{textid::scriptEventsLabel, "scriptEventsLabel", "scriptEventsPalette"},
-     {textid::luFunctionsLabel, "luFunctionsLabel", "luFunctionsPalette"},
-     {textid::menuCommandsLabel, "menuCommandsLabel", "menuCommandsPalette"}}};
-
-std::vector<PaletteRow> currentLuFunctions(const ApplicationState& state) {
-    return luFunctionRows(state.luCatalogues.of(state.currentHostType));
+std::vector<PaletteRow> rowsOf(const ApplicationState& state, Palette palette) {
+    return paletteRows(palette, state.luCatalogues.of(state.currentHostType), state.menuCommands);
 }
 
 }  // namespace
@@ -33,22 +23,24 @@ PaneLists::PaneLists(QWidget& pane, ApplicationState& state)
     : pane_(pane),
       state_(state),
       scriptModel_(new ScriptListModel(state, &pane)),
-      luModel_(new PaletteModel(currentLuFunctions(state), &pane)) {
-    lists_[0] =
-        addList("scriptList", QString::fromStdString(state.language.loadText(textid::scriptListName)), scriptModel_);
+      luModel_(new PaletteModel(rowsOf(state, Palette::LuFunctions), &pane)) {
+    lists_[0] = addList(QStringLiteral("scriptList"),
+                        QString::fromStdString(state.language.loadText(textid::scriptListName)),
+                        scriptModel_);
     lists_[0]->setSelectionMode(QAbstractItemView::ExtendedSelection);
-    addPalette(Palette::ScriptEvents, new PaletteModel(scriptEventRows(), &pane));
-    addPalette(Palette::LuFunctions, luModel_);
-    addPalette(Palette::MenuCommands, new PaletteModel(menuCommandRows(state.menuCommands), &pane));
+    for (const Palette palette : allPalettes) {
+        const bool changes = palette == Palette::LuFunctions;
+        addPalette(palette, changes ? luModel_ : new PaletteModel(rowsOf(state, palette), &pane));
+    }
     for (std::size_t i = 1; i < lists_.size(); ++i) {
         QWidget::setTabOrder(lists_[i - 1], lists_[i]);
     }
 }
 
-PaneList* PaneLists::addList(const char* name, const QString& accessibleName,
+PaneList* PaneLists::addList(const QString& name, const QString& accessibleName,
                              QAbstractItemModel* model) {
     auto* list = new PaneList(&pane_);
-    list->setObjectName(QLatin1String(name));
+    list->setObjectName(name);
     list->setAccessibleName(accessibleName);
     list->setModel(model);
     return list;
@@ -56,11 +48,11 @@ PaneList* PaneLists::addList(const char* name, const QString& accessibleName,
 
 void PaneLists::addPalette(Palette palette, PaletteModel* model) {
     const auto number = static_cast<std::size_t>(palette);
-    const PaletteParts& parts = paletteParts[number];
-    const QString text = QString::fromStdString(state_.language.loadText(parts.labelId));
-    PaneList* list = addList(parts.listName, text, model);
+    const QString text =
+        QString::fromStdString(state_.language.loadText(paletteInfo(palette).titleId));
+    PaneList* list = addList(paletteObjectName(palette, "Palette"), text, model);
     auto* label = new QLabel(text, &pane_);
-    label->setObjectName(QLatin1String(parts.labelName));
+    label->setObjectName(paletteObjectName(palette, "Label"));
     label->setTextFormat(Qt::PlainText);
     label->setBuddy(list);
     labels_[number] = label;
@@ -72,7 +64,7 @@ std::size_t PaneLists::numberOf(const QObject* list) const {
 }
 
 void PaneLists::refillLuFunctions() {
-    luModel_->setRows(currentLuFunctions(state_));
+    luModel_->setRows(rowsOf(state_, Palette::LuFunctions));
 }
 
 void PaneLists::place() {

@@ -5,6 +5,7 @@
 #include "session/application_state.h"
 
 #include <QSize>
+#include <QString>
 
 #include <array>
 
@@ -22,7 +23,7 @@ class ScriptListModel;
 /// Lists, labels and models are children of the pane.
 class PaneLists {
   public:
-    static constexpr std::size_t paletteCount = 3;
+    static constexpr std::size_t paletteCount = allPalettes.size();
 
     /// `pane` and `state` outlive it. The palettes are filled from the state's catalogues.
     PaneLists(QWidget& pane, ApplicationState& state);
@@ -45,7 +46,8 @@ class PaneLists {
     [[nodiscard]] QSize leastSize() const;
 
   private:
-    PaneList* addList(const char* name, const QString& accessibleName, QAbstractItemModel* model);
+    PaneList* addList(const QString& name, const QString& accessibleName,
+                      QAbstractItemModel* model);
     void addPalette(Palette palette, PaletteModel* model);
 
     QWidget& pane_;
