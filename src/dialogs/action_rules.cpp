@@ -87,10 +87,6 @@ ActionChoice choiceOf(const ConstSlotFields& action, const LuCatalogue& luFuncti
     }
 }
 
-bool mayBeAction(CommandCode code, CommandCode owner) {
-    return !ownsActions(code) || (code == CommandCode::WaitFor && owner == CommandCode::WatchFor);
-}
-
 std::optional<ActionRefusal> refusalOf(const ActionChoice& choice, CommandCode owner,
                                        HostType hostType) {
     if (choice.row < 0) return ActionRefusal::NothingSelected;

@@ -36,10 +36,6 @@ struct ActionChoice {
 /// that the catalogue lacks and for a menu command outside the list.
 [[nodiscard]] ActionChoice choiceOf(const ConstSlotFields& action, const LuCatalogue& luFunctions);
 
-/// True for a command that an action at this place may be: none that carries actions itself, but
-/// a Watch_For may run a Wait_For.
-[[nodiscard]] bool mayBeAction(CommandCode code, CommandCode owner);
-
 enum class ActionRefusal : std::uint8_t { NothingSelected, CarriesActions, NotInVt };
 
 /// Why a choice cannot be taken, or none.

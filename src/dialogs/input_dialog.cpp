@@ -1,5 +1,6 @@
 // Input: what the script asks its user for.
 #include "dialogs/command_dialogs.h"
+#include "model/entry_fields.h"
 #include "widgets/ui_text.h"
 
 #include <QCheckBox>
@@ -22,7 +23,6 @@ constexpr StringId lengthText = 11220;
 constexpr StringId hideText = 11221;
 constexpr StringId storeAsText = 15242;
 
-constexpr NumberRange lengthRange = {2, 255};
 constexpr std::uint8_t singleCharacter = 0;
 /// A string whose length nobody has chosen yet.
 constexpr std::uint8_t stringOfAnyLength = 1;
@@ -44,7 +44,7 @@ class InputDialog : public ParameterDialog {
         prompt_->setBytes(promptOf(fields()));
         const std::uint8_t length = fields().maxLength;
         (length == singleCharacter ? character_ : string_)->setChecked(true);
-        length_->setNumber(length < lengthRange.smallest ? lengthRange.largest : length);
+        length_->setNumber(length < inputLengthRange.smallest ? inputLengthRange.largest : length);
         enableLength();
         hide_->setChecked(fields().hidden != 0);
         // A damaged file may hold another kind: then none is shown, and none is stored.
@@ -86,7 +86,7 @@ class InputDialog : public ParameterDialog {
     void addLength() {
         character_ = named(new QRadioButton(text(characterText).trimmed()), "character");
         string_ = named(new QRadioButton(text(stringText).trimmed()), "string");
-        length_ = named(new SpinEdit(lengthRange), "maximumLength");
+        length_ = named(new SpinEdit(inputLengthRange), "maximumLength");
         lengthLabel_ = makeLabel("maximumLengthLabel", text(lengthText), length_);
         body().addSpacing(4);
         body().addWidget(character_);

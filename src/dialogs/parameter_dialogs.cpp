@@ -37,7 +37,7 @@ bool editActionOwner(const DialogContext& context, const EditTarget& target) {
     switch (slotFields(target.entry, target.slot).code) {
         case CommandCode::WaitFor:
             if (isEntry) return editWaitFor(context, target.entry);
-            if (target.entry.commandCode != CommandCode::WatchFor) return true;
+            if (target.entry.code != CommandCode::WatchFor) return true;
             return editWatchedWaitFor(context, target.entry);
         case CommandCode::IfInputIs: return !isEntry || editIfInputIs(context, target.entry);
         case CommandCode::WatchFor: return !isEntry || editWatchFor(context, target.entry);

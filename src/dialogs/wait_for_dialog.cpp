@@ -2,6 +2,7 @@
 // a Watch_For it has the text and the search options only.
 #include "dialogs/action_pair.h"
 #include "dialogs/parameter_dialog.h"
+#include "model/entry_fields.h"
 
 #include <QCheckBox>
 #include <QGridLayout>
@@ -31,8 +32,6 @@ constexpr ActionTexts foundTexts = {14420, 14421};
 constexpr ActionTexts notFoundTexts = {14422, 14423};
 constexpr StringId okText = 14424;
 
-constexpr NumberRange rowRange = {1, 62};
-constexpr NumberRange columnRange = {1, 160};
 constexpr NumberRange secondsRange = {0, 255};
 
 // A position from a foreign file that lies outside is offered too, so that OK does not change what
@@ -111,8 +110,8 @@ class WaitForDialog : public ParameterDialog {
         const ScriptEntry& entry = target().entry;
         QGroupBox* group = makeGroup("findGroup", findGroup);
         auto* grid = new QGridLayout(group);
-        row_ = named(new SpinEdit(widened(rowRange, entry.searchRow)), "row");
-        column_ = named(new SpinEdit(widened(columnRange, entry.searchColumn)), "column");
+        row_ = named(new SpinEdit(widened(searchRowRange, entry.searchRow)), "row");
+        column_ = named(new SpinEdit(widened(searchColumnRange, entry.searchColumn)), "column");
         exact_ = named(new QCheckBox(text(exactText)), "exactPosition");
         case_ = named(new QCheckBox(text(caseText)), "caseSensitive");
         grid->addWidget(makeLabel("startLabel", text(startPosition)), 0, 0, 1, 5);

@@ -1,5 +1,6 @@
 #include "session/editing.h"
 
+#include "model/entry_fields.h"
 #include "model/menu_catalogue.h"
 #include "scriptfile/entry_codec.h"
 
@@ -100,7 +101,7 @@ std::optional<ScriptEntry> makeLuFunction(const EditingState& state, const Editi
     const int row = view.selectedRow(Palette::LuFunctions);
     if (row < 0) return std::nullopt;
     ScriptEntry entry;
-    entry.commandCode = CommandCode::LuFunction;
+    entry.code = CommandCode::LuFunction;
     setLuKey(state, entry, row);
     return entry;
 }
@@ -109,7 +110,7 @@ std::optional<ScriptEntry> makeMenuCommand(EditingState& state, EditingView& vie
     const int row = view.selectedRow(Palette::MenuCommands);
     if (row < 0) return std::nullopt;
     ScriptEntry entry;
-    entry.commandCode = CommandCode::MenuCommand;
+    entry.code = CommandCode::MenuCommand;
     entry.commandId = firstMenuCommand + static_cast<std::uint32_t>(row);
     if (refusedInVt(state, view, entry)) return std::nullopt;
     if (!editMenuParameters(state, view, entry)) return std::nullopt;
@@ -146,13 +147,13 @@ bool replaceScriptEvent(EditingView& view, ScriptEntry& entry) {
     const int row = replacingRow(view, Palette::ScriptEvents);
     if (row < 0) return false;
     const CommandCode code = scriptEvents()[static_cast<std::size_t>(row)].code;
-    if (code == entry.commandCode) return false;
+    if (code == entry.code) return false;
     setCode(slotFields(entry, Slot::Entry), code);
     return editSource(entry) != EditSource::Dialog || view.editParameters(entry);
 }
 
 bool editInDialog(EditingState& state, EditingView& view, ScriptEntry& entry) {
-    if (entry.commandCode != CommandCode::MenuCommand) return view.editParameters(entry);
+    if (entry.code != CommandCode::MenuCommand) return view.editParameters(entry);
     if (isFileTransfer(entry.commandId)) state.workingTransfer.settings = entry.transferSettings;
     return editMenuParameters(state, view, entry);
 }
@@ -222,7 +223,7 @@ std::optional<std::size_t> pastePoint(const EditingState& state, const EditingVi
 }  // namespace
 
 EditSource editSource(const ScriptEntry& entry) {
-    switch (entry.commandCode) {
+    switch (entry.code) {
         case CommandCode::None: return EditSource::None;
         case CommandCode::LuFunction: return EditSource::LuFunctions;
         case CommandCode::MenuCommand:
@@ -238,32 +239,19 @@ EditSource editSource(const ScriptEntry& entry) {
 EditSource editSource(const EntryHandle& entry, const HiddenTextCipher& cipher) {
     if (entry.code() == CommandCode::MenuCommand) return editSource(unpackEntry(entry, cipher));
     ScriptEntry bare;
-    bare.commandCode = entry.code();
+    bare.code = entry.code();
     return editSource(bare);
 }
 
 ScriptEntry newScriptEvent(CommandCode code) {
     ScriptEntry entry;
-    entry.commandCode = code;
-    entry.maxLength = newMaxLength;
-    entry.number = newWaitSeconds;
-    switch (code) {
-        case CommandCode::WaitFor:
-            entry.searchRow = 1;
-            entry.searchColumn = 1;
-            entry.caseSensitive = 1;
-            break;
-        case CommandCode::WaitReady: entry.number = 1; break;
-        case CommandCode::Copy:
-            entry.number = 0;
-            entry.commandId = packArea({1, 1, 24, 80});
-            break;
-        case CommandCode::Paste:
-            entry.number = 0;
-            entry.commandId = packArea({1, 1, 0, 0});
-            break;
-        default: break;
+    entry.code = code;
+    // Its first action too: a Wait that is chosen for it needs no dialog.
+    for (Step* step : {static_cast<Step*>(&entry), &entry.thenAction}) {
+        step->maxLength = newMaxLength;
+        step->number = newWaitSeconds;
     }
+    setInitialFields(entry, Slot::Entry);
     return entry;
 }
 
