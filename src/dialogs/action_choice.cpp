@@ -32,7 +32,7 @@ void openTransfer(const DialogContext& context, const EditTarget& target,
 }  // namespace
 
 ActionPlace placeOf(const EditTarget& target) {
-    if (target.entry.commandCode == CommandCode::WatchFor) {
+    if (target.entry.code == CommandCode::WatchFor) {
         return {CommandCode::WatchFor, target.slot};
     }
     const bool compares = target.owner == ActionOwner::IfInputIs;

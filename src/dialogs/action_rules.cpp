@@ -1,6 +1,5 @@
 #include "dialogs/action_rules.h"
 
-#include "model/menu_catalogue.h"
 #include "model/menu_commands.h"
 #include "model/new_command.h"
 #include "text/text_ids.h"
@@ -51,10 +50,6 @@ bool menuCommandLacksParameters(const ConstSlotFields& action) {
 }
 
 }  // namespace
-
-bool mayBeAction(CommandCode code, CommandCode owner) {
-    return !ownsActions(code) || (code == CommandCode::WaitFor && owner == CommandCode::WatchFor);
-}
 
 std::optional<ActionRefusal> refusalOf(const PaletteChoice& choice, CommandCode owner,
                                        HostType hostType) {

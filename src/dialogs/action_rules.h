@@ -21,10 +21,6 @@ struct ActionPlace {
     Slot slot = Slot::Then;
 };
 
-/// True for a command that an action at this place may be: none that carries actions itself, but
-/// a Watch_For may run a Wait_For.
-[[nodiscard]] bool mayBeAction(CommandCode code, CommandCode owner);
-
 enum class ActionRefusal : std::uint8_t { NothingSelected, CarriesActions, NotInVt };
 
 /// Why a choice cannot be taken, or none.

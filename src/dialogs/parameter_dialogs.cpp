@@ -22,7 +22,7 @@ bool editActionOwner(const DialogContext& context, const EditTarget& target) {
     const CommandCode code = slotFields(target.entry, target.slot).code;
     if (target.slot != Slot::Entry) {
         const bool watched =
-            code == CommandCode::WaitFor && target.entry.commandCode == CommandCode::WatchFor;
+            code == CommandCode::WaitFor && target.entry.code == CommandCode::WatchFor;
         return !watched || editWatchedWaitFor(context, target.entry);
     }
     if (code == CommandCode::WaitFor) return editWaitFor(context, target.entry);

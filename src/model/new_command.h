@@ -5,12 +5,12 @@
 
 namespace quendra {
 
-/// A step as its dialog first shows it when it is inserted. Beside what the command itself starts
-/// with it has what an action that will share its fields would: 3 seconds and a text of any length.
+/// A step as its dialog first shows it when it is inserted. Its first action starts with 3 seconds
+/// and a text of any length too: a Wait that is chosen for it needs no dialog.
 [[nodiscard]] ScriptEntry newCommand(CommandCode code);
 
-/// Gives the command of a slot what a new one of its kind starts with, in the fields that this
-/// command uses, and leaves all others alone.
+/// Gives the numbers that the command of a slot uses what a new one starts with, and leaves texts
+/// and all other fields alone.
 void startCommand(ScriptEntry& entry, Slot slot);
 
 }  // namespace quendra

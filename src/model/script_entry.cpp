@@ -24,13 +24,13 @@ void wipeField(std::array<char, Size>& field) {
 
 }  // namespace
 
-ScriptEntry::~ScriptEntry() {
+Step::~Step() {
     wipeField(text);
-    wipeField(thenText);
-    wipeField(elseText);
-    wipeField(compareText);
     wipeMemory(transferSettings.bytes.data(), transferSettings.bytes.size());
-    wipeMemory(elseTransferSettings.bytes.data(), elseTransferSettings.bytes.size());
+}
+
+ScriptEntry::~ScriptEntry() {
+    wipeField(compareText);
 }
 
 std::string_view textOf(const ConstSlotFields& fields) {
@@ -67,17 +67,12 @@ void setCode(const SlotFields& fields, CommandCode code) {
 }
 
 bool isHiddenText(const ConstSlotFields& fields) {
-    return fields.code == CommandCode::Type && fields.hidden != 0;
+    return fields.code == CommandCode::Type && fields.hidden == 1;
 }
 
 ScreenArea unpackArea(std::uint32_t packed) {
     return {static_cast<std::uint8_t>(packed), static_cast<std::uint8_t>(packed >> 8),
             static_cast<std::uint8_t>(packed >> 16), static_cast<std::uint8_t>(packed >> 24)};
-}
-
-std::uint32_t packArea(const ScreenArea& area) {
-    return std::uint32_t{area.startRow} | std::uint32_t{area.startColumn} << 8 |
-           std::uint32_t{area.endRow} << 16 | std::uint32_t{area.endColumn} << 24;
 }
 
 int bitmapIdOf(CommandCode code, std::uint32_t commandId) {

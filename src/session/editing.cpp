@@ -1,5 +1,6 @@
 #include "session/editing.h"
 
+#include "model/entry_fields.h"
 #include "model/menu_commands.h"
 #include "model/new_command.h"
 #include "scriptfile/entry_codec.h"
@@ -139,13 +140,13 @@ bool replaceMenuCommand(EditingState& state, EditingView& view, ScriptEntry& ent
 
 bool replaceScriptEvent(const EditingState& state, EditingView& view, ScriptEntry& entry) {
     const PaletteChoice choice = replacing(view, Palette::ScriptEvents);
-    if (choice.row < 0 || commandOf(choice) == entry.commandCode) return false;
+    if (choice.row < 0 || commandOf(choice) == entry.code) return false;
     takeRow(state, entry, choice);
     return editSource(entry) != EditSource::Dialog || view.editParameters(entry);
 }
 
 bool editInDialog(EditingState& state, EditingView& view, ScriptEntry& entry) {
-    if (entry.commandCode != CommandCode::MenuCommand) return view.editParameters(entry);
+    if (entry.code != CommandCode::MenuCommand) return view.editParameters(entry);
     if (isFileTransfer(entry.commandId)) state.workingTransfer.settings = entry.transferSettings;
     return editMenuParameters(state, view, entry);
 }
@@ -215,7 +216,7 @@ std::optional<std::size_t> pastePoint(const EditingState& state, const EditingVi
 }  // namespace
 
 EditSource editSource(const ScriptEntry& entry) {
-    switch (entry.commandCode) {
+    switch (entry.code) {
         case CommandCode::None: return EditSource::None;
         case CommandCode::LuFunction: return EditSource::LuFunctions;
         case CommandCode::MenuCommand:
@@ -248,7 +249,7 @@ EditSource editSource(const ScriptEntry& entry) {
 EditSource editSource(const EntryHandle& entry, const HiddenTextCipher& cipher) {
     if (entry.code() == CommandCode::MenuCommand) return editSource(unpackEntry(entry, cipher));
     ScriptEntry bare;
-    bare.commandCode = entry.code();
+    bare.code = entry.code();
     return editSource(bare);
 }
 

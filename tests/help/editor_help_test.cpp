@@ -48,7 +48,7 @@ class EditorHelpTest : public EditorTest {
     // Opens the dialog of a new entry, and cancels it after these steps.
     void inDialogOf(CommandCode code, std::uint32_t id, const std::function<void(QDialog&)>& step) {
         ScriptEntry entry;
-        entry.commandCode = code;
+        entry.code = code;
         entry.commandId = id;
         QTimer::singleShot(0, &window, [&] { inOpenDialog(step); });
         EXPECT_FALSE(editParameters({state, &window}, {entry}));

@@ -33,7 +33,7 @@ constexpr int menuRow(std::uint32_t commandId) {
 
 ScriptEntry entryOf(CommandCode code, std::uint32_t commandId = 0) {
     ScriptEntry entry;
-    entry.commandCode = code;
+    entry.code = code;
     entry.commandId = commandId;
     return entry;
 }

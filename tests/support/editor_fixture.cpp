@@ -64,7 +64,7 @@ EditorTest::EditorTest()
     : window(state),
       scriptEditor(state, window,
                    [this](const DialogContext&, const EditTarget& target) {
-                       EXPECT_FALSE(toDialogs.empty()) << commandKeyword(target.entry.commandCode);
+                       EXPECT_FALSE(toDialogs.empty()) << commandKeyword(target.entry.code);
                        return takeFirst<DialogAnswer>(
                            toDialogs, [](ScriptEntry&) { return false; })(target.entry);
                    }),

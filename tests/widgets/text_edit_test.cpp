@@ -88,7 +88,7 @@ TEST_F(TextEditTest, TheBoxOfATypeMasksAndUnmasksAtOnceAndOtherCommandsHaveNone)
     click("ok");
     EXPECT_EQ(entry.hidden, 0) << "checked and unchecked again";
     EXPECT_EQ(stored(), "logon!");
-    entry.commandCode = CommandCode::Message;
+    entry.code = CommandCode::Message;
     entry.hidden = 1;
     open();
     EXPECT_FALSE(has("hide"));
