@@ -8,7 +8,7 @@ namespace {
 
 ScriptEntry entryOf(CommandCode code, std::string_view text = {}) {
     ScriptEntry entry;
-    entry.commandCode = code;
+    entry.code = code;
     setText(slotFields(entry, Slot::Entry), text);
     return entry;
 }

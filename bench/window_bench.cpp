@@ -1,12 +1,12 @@
 // Edits in the real window, from the command to the finished painting: beside a bare repaint of the
 // script list, within a frame of the screen, and growing with the script rather than with its
 // square. Without QT_QPA_PLATFORM it needs no screen.
+#include "app/command_handlers.h"
 #include "app/main_window.h"
 #include "app/script_editor.h"
 #include "pair.h"
 #include "sample_scripts.h"
 #include "scriptfile/entry_codec.h"
-#include "session/commands.h"
 #include "widgets/appearance.h"
 #include "widgets/message_box.h"
 #include "widgets/ui_text.h"
@@ -49,7 +49,7 @@ class Editor {
 
     /// The whole script, untouched, with its middle in sight.
     void reset();
-    void run(int command) { window_->runCommand(command); }
+    void run(EditorCommand command) { window_->runCommand(command); }
     void select(const std::vector<std::size_t>& entries, std::size_t focused) {
         window_->pane().selectEntries(entries, static_cast<int>(focused));
     }
@@ -77,6 +77,7 @@ class Editor {
     Script prepared_;
     std::unique_ptr<MainWindow> window_;
     std::unique_ptr<ScriptEditor> commands_;
+    std::unique_ptr<CommandHandlers> handlers_;
     QListView* list_ = nullptr;
     std::unique_ptr<PaintWatch> watch_;
 };
@@ -97,6 +98,7 @@ Editor::Editor(std::size_t entries) : whole_(typicalScript(state_.cipher)) {
             setText(f, textOf(f) == "edited" ? "edited again" : "edited");
             return true;
         });
+    handlers_ = std::make_unique<CommandHandlers>(state_, *window_, *commands_);
     list_ = window_->findChild<QListView*>(QStringLiteral("scriptList"));
     watch_ = std::make_unique<PaintWatch>(*list_->viewport());
     window_->show();
@@ -198,7 +200,7 @@ std::size_t withoutMany(std::size_t whole) {
 
 void deleteAll(Editor& editor) {
     editor.selectAll();
-    editor.run(command::deleteEntries);
+    editor.run(EditorCommand::DeleteEntries);
 }
 
 void preparePaste(Editor& editor) {
@@ -207,15 +209,16 @@ void preparePaste(Editor& editor) {
 }
 
 const std::vector<Action>& actions() {
-    const auto undo = [](Editor& editor) { editor.run(command::undo); };
-    const auto paste = [](Editor& editor) { editor.run(command::paste); };
+    const auto undo = [](Editor& editor) { editor.run(EditorCommand::Undo); };
+    const auto paste = [](Editor& editor) { editor.run(EditorCommand::Paste); };
     const auto drag = [](Editor& editor) { editor.drag(-5); };
     const auto selectEvery = [](std::size_t step) {
         return
             [step](Editor& editor) { editor.select(rowsAround(editor, step), editor.whole() / 2); };
     };
     static const std::vector<Action> all = {
-        {"edit", [](Editor&) {}, [](Editor& editor) { editor.run(command::editEntry); }, allOf},
+        {"edit", [](Editor&) {}, [](Editor& editor) { editor.run(EditorCommand::EditEntry); },
+         allOf},
         {"deleteAll", [](Editor&) {}, deleteAll, noneOf},
         {"undoDeleteAll", deleteAll, undo, allOf},
         {"paste", preparePaste, paste, allOf},

@@ -34,23 +34,22 @@ const MenuCommandCatalogue& menuCommands() {
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     static const HiddenTextCipher cipher("");
-    const cli::ParsedJson parsed = cli::parseJson({data, size});
+    const ParsedJson parsed = parseJson({data, size});
     require((parsed.value != nullptr) == parsed.refusal.empty());
     if (!parsed.value) return 0;
-    const cli::ScriptOfJson made = cli::scriptOfJson(*parsed.value, cipher);
+    const ScriptOfJson made = scriptOfJson(*parsed.value, cipher);
     if (!made.ok()) return 0;
 
     const ReadResult read = readScript(writeScript(made.script, HostType::Mainframe));
     require(read.isWhole() && read.script == made.script);
-    const cli::JsonPrinting printing = {luFunctions().of(made.hostType), menuCommands(), cipher,
-                                        true};
+    const JsonPrinting printing = {luFunctions().of(made.hostType), menuCommands(), cipher, true};
     std::ostringstream out;
-    cli::printScript(out, made.script, made.hostType, printing);
+    printScript(out, made.script, made.hostType, printing);
     const std::string printed = out.str();
-    const cli::ParsedJson again =
-        cli::parseJson({reinterpret_cast<const std::uint8_t*>(printed.data()), printed.size()});
+    const ParsedJson again =
+        parseJson({reinterpret_cast<const std::uint8_t*>(printed.data()), printed.size()});
     require(again.value != nullptr);
-    const cli::ScriptOfJson remade = cli::scriptOfJson(*again.value, cipher);
+    const ScriptOfJson remade = scriptOfJson(*again.value, cipher);
     require(remade.ok() && remade.script == made.script && remade.hostType == made.hostType);
     return 0;
 }

@@ -3350,20 +3350,10 @@ Save, and lose what the file cannot store?</translation>
         <extra-name>lossInVtQuestion</extra-name>
     </message>
     <message id="15382">
-        <source>%s loaded: the file ends inside an entry (byte %d)
-%s loaded: unknown command code (byte %d)
-%s loaded: an Input prompt is longer than 1023 characters (byte %d)
-%s loaded: actions are nested too deep (byte %d)
-%s loaded: the file has more than 4096 entries (byte %d)
-%s loaded: the file is longer than any script (byte %d)</source>
-        <extracomment>Status bar: a file was not read whole. Six reasons in this order, one in each line; %s is the number of entries, as “12 entries”, %d the place in the file</extracomment>
-        <translation>%s loaded: the file ends inside an entry (byte %d)
-%s loaded: unknown command code (byte %d)
-%s loaded: an Input prompt is longer than 1023 characters (byte %d)
-%s loaded: actions are nested too deep (byte %d)
-%s loaded: the file has more than 4096 entries (byte %d)
-%s loaded: the file is longer than any script (byte %d)</translation>
-        <extra-name>stoppedReadingReasons</extra-name>
+        <source>%s loaded: the file ends inside an entry (byte %d)</source>
+        <extracomment>Status bar: a file was not read whole: the file ends inside an entry; %s is the number of entries, as “12 entries”, %d the place in the file</extracomment>
+        <translation>%s loaded: the file ends inside an entry (byte %d)</translation>
+        <extra-name>fileEndsInsideEntry</extra-name>
     </message>
     <message id="15383">
         <source>The old file is kept as %s</source>
@@ -3430,6 +3420,36 @@ Save, and lose what the file cannot store?</translation>
         <extracomment>Wait_For dialog: tooltip of the action buttons while they are off</extracomment>
         <translation>Actions need a timeout: first select “Timeout in Seconds”.</translation>
         <extra-name>actionsNeedTimeout</extra-name>
+    </message>
+    <message id="15394">
+        <source>%s loaded: unknown command code (byte %d)</source>
+        <extracomment>Status bar: a file was not read whole: a record is of an unknown command; %s is the number of entries, as “12 entries”, %d the place in the file</extracomment>
+        <translation>%s loaded: unknown command code (byte %d)</translation>
+        <extra-name>fileHasUnknownCommand</extra-name>
+    </message>
+    <message id="15395">
+        <source>%s loaded: an Input prompt is longer than 1023 characters (byte %d)</source>
+        <extracomment>Status bar: a file was not read whole: an Input prompt is longer than its field; %s is the number of entries, as “12 entries”, %d the place in the file</extracomment>
+        <translation>%s loaded: an Input prompt is longer than 1023 characters (byte %d)</translation>
+        <extra-name>fileHasTooLongPrompt</extra-name>
+    </message>
+    <message id="15396">
+        <source>%s loaded: actions are nested too deep (byte %d)</source>
+        <extracomment>Status bar: a file was not read whole: actions inside of actions; %s is the number of entries, as “12 entries”, %d the place in the file</extracomment>
+        <translation>%s loaded: actions are nested too deep (byte %d)</translation>
+        <extra-name>fileHasTooDeepActions</extra-name>
+    </message>
+    <message id="15397">
+        <source>%s loaded: the file has more than 4096 entries (byte %d)</source>
+        <extracomment>Status bar: a file was not read whole: more entries than a script may have; %s is the number of entries, as “12 entries”, %d the place in the file</extracomment>
+        <translation>%s loaded: the file has more than 4096 entries (byte %d)</translation>
+        <extra-name>fileHasTooManyEntries</extra-name>
+    </message>
+    <message id="15398">
+        <source>%s loaded: the file is longer than any script (byte %d)</source>
+        <extracomment>Status bar: a file was not read whole: more bytes than the largest script; %s is the number of entries, as “12 entries”, %d the place in the file</extracomment>
+        <translation>%s loaded: the file is longer than any script (byte %d)</translation>
+        <extra-name>fileIsTooLong</extra-name>
     </message>
     <message id="16001">
         <source>The character %s cannot be stored in a script.</source>

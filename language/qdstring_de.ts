@@ -2794,19 +2794,9 @@ Save, and lose what the file cannot store?</source>
 Speichern und verlieren, was die Datei nicht aufnehmen kann?</translation>
     </message>
     <message id="15382">
-        <source>%s loaded: the file ends inside an entry (byte %d)
-%s loaded: unknown command code (byte %d)
-%s loaded: an Input prompt is longer than 1023 characters (byte %d)
-%s loaded: actions are nested too deep (byte %d)
-%s loaded: the file has more than 4096 entries (byte %d)
-%s loaded: the file is longer than any script (byte %d)</source>
-        <extracomment>Status bar: a file was not read whole. Six reasons in this order, one in each line; %s is the number of entries, as “12 entries”, %d the place in the file</extracomment>
-        <translation>%s geladen: die Datei endet mitten in einem Eintrag (Byte %d)
-%s geladen: unbekannter Befehlscode (Byte %d)
-%s geladen: eine Input-Aufforderung ist länger als 1023 Zeichen (Byte %d)
-%s geladen: Aktionen sind zu tief verschachtelt (Byte %d)
-%s geladen: die Datei hat mehr als 4096 Einträge (Byte %d)
-%s geladen: die Datei ist länger als jedes Skript (Byte %d)</translation>
+        <source>%s loaded: the file ends inside an entry (byte %d)</source>
+        <extracomment>Status bar: a file was not read whole: the file ends inside an entry; %s is the number of entries, as “12 entries”, %d the place in the file</extracomment>
+        <translation>%s geladen: die Datei endet mitten in einem Eintrag (Byte %d)</translation>
     </message>
     <message id="15383">
         <source>The old file is kept as %s</source>
@@ -2862,6 +2852,31 @@ Speichern und verlieren, was die Datei nicht aufnehmen kann?</translation>
         <source>Actions need a timeout: first select “Timeout in Seconds”.</source>
         <extracomment>Wait_For dialog: tooltip of the action buttons while they are off</extracomment>
         <translation>Aktionen brauchen ein Zeitlimit: Wählen Sie zuerst „Zeitlimit in Sekunden“ aus.</translation>
+    </message>
+    <message id="15394">
+        <source>%s loaded: unknown command code (byte %d)</source>
+        <extracomment>Status bar: a file was not read whole: a record is of an unknown command; %s is the number of entries, as “12 entries”, %d the place in the file</extracomment>
+        <translation>%s geladen: unbekannter Befehlscode (Byte %d)</translation>
+    </message>
+    <message id="15395">
+        <source>%s loaded: an Input prompt is longer than 1023 characters (byte %d)</source>
+        <extracomment>Status bar: a file was not read whole: an Input prompt is longer than its field; %s is the number of entries, as “12 entries”, %d the place in the file</extracomment>
+        <translation>%s geladen: eine Input-Aufforderung ist länger als 1023 Zeichen (Byte %d)</translation>
+    </message>
+    <message id="15396">
+        <source>%s loaded: actions are nested too deep (byte %d)</source>
+        <extracomment>Status bar: a file was not read whole: actions inside of actions; %s is the number of entries, as “12 entries”, %d the place in the file</extracomment>
+        <translation>%s geladen: Aktionen sind zu tief verschachtelt (Byte %d)</translation>
+    </message>
+    <message id="15397">
+        <source>%s loaded: the file has more than 4096 entries (byte %d)</source>
+        <extracomment>Status bar: a file was not read whole: more entries than a script may have; %s is the number of entries, as “12 entries”, %d the place in the file</extracomment>
+        <translation>%s geladen: die Datei hat mehr als 4096 Einträge (Byte %d)</translation>
+    </message>
+    <message id="15398">
+        <source>%s loaded: the file is longer than any script (byte %d)</source>
+        <extracomment>Status bar: a file was not read whole: more bytes than the largest script; %s is the number of entries, as “12 entries”, %d the place in the file</extracomment>
+        <translation>%s geladen: die Datei ist länger als jedes Skript (Byte %d)</translation>
     </message>
     <message id="16001">
         <source>The character %s cannot be stored in a script.</source>

@@ -9,7 +9,7 @@ export CCACHE_BASEDIR="${CCACHE_BASEDIR:-$root}" CCACHE_NOHASHDIR="${CCACHE_NOHA
 
 # One list per purpose, so that ./run does not install what only the checks need.
 declare -A packages=(
-    [build]="g++ cmake ninja-build ccache
+    [build]="g++ cmake ninja-build ccache cmark-gfm
         qt6-base-dev qt6-svg-dev qt6-tools-dev qt6-l10n-tools libfontconfig-dev
         libssl-dev libcli11-dev nlohmann-json3-dev libgtest-dev libgmock-dev libbenchmark-dev"
     # qt6-qpa-plugins holds both xcb and offscreen, and Qt's own package only recommends it; without a font

@@ -25,11 +25,6 @@ std::string luFunctionName(const ConstSlotFields& f, const DisplayNames& names) 
     return "<Lu Function " + std::to_string(key.group) + "/" + std::to_string(key.number) + ">";
 }
 
-TransferInputs transferInputs(const ConstSlotFields& f) {
-    return {f.transferSettings, f.transferHost,
-            f.commandId == sendFileCommand ? TransferDirection::Send : TransferDirection::Receive};
-}
-
 std::string menuCommandLine(const ConstSlotFields& f, const DisplayNames& names) {
     std::string line = menuCommandName(names.menuCommands, f.commandId);
     if (isFileTransfer(f.commandId)) {
@@ -106,15 +101,9 @@ std::string slotLine(const ConstSlotFields& f, const DisplayNames& names) {
 }
 
 // An action that no editor offers shows nothing; the keyword before it stays on the line.
-bool isShownAsAction(const ScriptEntry& entry, Slot slot, CommandCode code) {
-    if (!ownsActions(code)) return true;
-    return slot == Slot::Then && code == CommandCode::WaitFor &&
-           entry.commandCode == CommandCode::WatchFor;
-}
-
 std::string actionLine(const ScriptEntry& entry, Slot slot, const DisplayNames& names) {
     const ConstSlotFields f = slotFields(entry, slot);
-    return isShownAsAction(entry, slot, f.code) ? slotLine(f, names) : std::string();
+    return isForeignAction(entry, slot) ? std::string() : slotLine(f, names);
 }
 
 std::string operand(std::string_view literal, std::uint8_t kind) {
@@ -122,14 +111,14 @@ std::string operand(std::string_view literal, std::uint8_t kind) {
 }
 
 std::string branches(const ScriptEntry& entry, const DisplayNames& names) {
-    const bool compares = entry.commandCode == CommandCode::IfInputIs;
+    const bool compares = entry.code == CommandCode::IfInputIs;
     std::string line;
-    if (entry.thenCode != CommandCode::None) {
+    if (entry.thenAction.code != CommandCode::None) {
         line += compares ? " If Equal Then " : " If Found Then ";
         line += actionLine(entry, Slot::Then, names);
     }
-    if (entry.elseCode != CommandCode::None) {
-        if (entry.thenCode != CommandCode::None) {
+    if (entry.elseAction.code != CommandCode::None) {
+        if (entry.thenAction.code != CommandCode::None) {
             line += " Else ";
         } else {
             line += compares ? " If Not Equal Then " : " If Not Found Then ";
@@ -140,9 +129,8 @@ std::string branches(const ScriptEntry& entry, const DisplayNames& names) {
 }
 
 bool showsActions(const ScriptEntry& entry) {
-    return entry.commandCode == CommandCode::IfInputIs ||
-           entry.commandCode == CommandCode::WatchFor ||
-           (entry.commandCode == CommandCode::WaitFor && entry.hasTimeout != 0);
+    return entry.code == CommandCode::IfInputIs || entry.code == CommandCode::WatchFor ||
+           (entry.code == CommandCode::WaitFor && entry.hasTimeout != 0);
 }
 
 std::optional<TransferInputs> lastTransferOf(const ScriptEntry& entry) {
@@ -160,11 +148,11 @@ std::optional<TransferInputs> lastTransferOf(const ScriptEntry& entry) {
 
 std::string formatEntryLine(const ScriptEntry& entry, const DisplayNames& names) {
     std::string line = slotLine(slotFields(entry, Slot::Entry), names);
-    if (entry.commandCode == CommandCode::IfInputIs) {
+    if (entry.code == CommandCode::IfInputIs) {
         line += " " + operand(textOf(slotFields(entry, Slot::Entry)), entry.firstOperandKind) +
                 " = " + operand(compareTextOf(entry), entry.secondOperandKind);
     }
-    if (entry.commandCode == CommandCode::WatchFor) {
+    if (entry.code == CommandCode::WatchFor) {
         line += " Then " + actionLine(entry, Slot::Then, names);
     } else if (showsActions(entry)) {
         line += branches(entry, names);
@@ -177,7 +165,7 @@ ActionSummaries actionSummaries(const ScriptEntry& entry, bool isCompare,
     ActionSummaries summaries;
     summaries.thenLine =
         (isCompare ? "If Equal Then " : "If Found Then ") + actionLine(entry, Slot::Then, names);
-    if (entry.elseCode != CommandCode::None) {
+    if (entry.elseAction.code != CommandCode::None) {
         summaries.elseLine = (isCompare ? "If Not Equal Then " : "If Not Found Then ") +
                              actionLine(entry, Slot::Else, names);
     }

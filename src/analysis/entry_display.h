@@ -3,7 +3,7 @@
 
 #include "hosts/host_type.h"
 #include "hosts/lu_catalogue.h"
-#include "model/menu_catalogue.h"
+#include "model/menu_commands.h"
 #include "model/script.h"
 #include "model/script_entry.h"
 #include "scriptfile/hidden_text.h"

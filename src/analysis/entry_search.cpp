@@ -1,5 +1,6 @@
 #include "analysis/entry_search.h"
 
+#include "model/menu_commands.h"
 #include "scriptfile/entry_codec.h"
 #include "text/text_encoding.h"
 #include "text/text_folding.h"

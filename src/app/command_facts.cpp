@@ -14,6 +14,7 @@ std::optional<std::string> selectedText(const EditorPane& pane, Palette palette)
 
 CommandFacts commandFacts(const ApplicationState& state, const EditorPane& pane) {
     CommandFacts facts;
+    facts.hostType = state.currentHostType;
     facts.entryCount = state.script.entryCount();
     facts.selectedCount = pane.selectedEntries().size();
     facts.clipboardCount = state.entryClipboard.size();
@@ -40,12 +41,7 @@ std::optional<CommandCode> selectedCommand(const ApplicationState& state, const 
     }
     const int row = pane.selectedRow(*palette);
     if (row < 0) return std::nullopt;
-    switch (*palette) {
-        case Palette::LuFunctions: return CommandCode::LuFunction;
-        case Palette::MenuCommands: return CommandCode::MenuCommand;
-        case Palette::ScriptEvents: break;
-    }
-    return scriptEvents()[static_cast<std::size_t>(row)].code;
+    return commandOf({*palette, row});
 }
 
 }  // namespace quendra

@@ -3,7 +3,7 @@
 
 #include "app/pane/editor_pane.h"
 #include "session/application_state.h"
-#include "session/command_states.h"
+#include "session/command_rules.h"
 
 namespace quendra {
 

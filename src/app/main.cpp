@@ -1,4 +1,5 @@
 // The desktop editor's start: what has to be known before the window, the window, and the end.
+#include "app/command_handlers.h"
 #include "app/crash_reporter.h"
 #include "app/font_search.h"
 #include "app/main_window.h"
@@ -9,7 +10,6 @@
 #include "platform/end_signals.h"
 #include "session/application_life.h"
 #include "session/command_line.h"
-#include "session/commands.h"
 #include "session/document.h"
 #include "session/startup.h"
 #include "widgets/appearance.h"
@@ -95,9 +95,9 @@ int runWindow(ApplicationState& state, ShownWindow& shown, const CommandLine& li
               const PictureOptions& picture, const FontSettings& fontSettings) {
     const std::optional<OpenOutcome> opening = applyCommandLine(state, line);
     MainWindow window(state, [&fontSettings] { fontSettings.wait(); });
-    const ScriptEditor editor(state, window, editParameters);
+    ScriptEditor editor(state, window, editParameters);
     EditorHelp help(state);
-    window.setHelpCommands(help.commands());
+    const CommandHandlers handlers(state, window, editor, &help);
     shown = {&state, &window};
     bool ended = false;
     const EndSignals endSignals([&] {

@@ -1,8 +1,8 @@
 #include "app/main_window.h"
 
-#include "app/about_box.h"
 #include "app/command_facts.h"
 #include "app/find_bar.h"
+#include "session/command_rules.h"
 #include "session/commands.h"
 #include "text/text_ids.h"
 #include "widgets/file_dialogs.h"
@@ -45,10 +45,6 @@ QString asToolTip(const std::string& text) {
     return QStringLiteral("<qt>") + plain.toHtmlEscaped() + QStringLiteral("</qt>");
 }
 
-void runIfSet(const std::function<void()>& operation) {
-    if (operation) operation();
-}
-
 // Qt's own buttons for what a narrow window has no room for.
 void nameExtensionButtons(QWidget& window, const QString& text) {
     for (const char* name : {"qt_toolbar_ext_button", "qt_menubar_ext_button"}) {
@@ -78,7 +74,7 @@ MainWindow::MainWindow(ApplicationState& state, const std::function<void()>& bef
     connect(pane_, &EditorPane::commandRequested, this, &MainWindow::runCommand);
     connect(pane_, &EditorPane::selectionChanged, this, &MainWindow::updateCommandStates);
     watchSession();
-    showHostType();
+    pane_->refillLuPalette();
     showDocument();
     placeOnScreen();
 }
@@ -101,26 +97,23 @@ void MainWindow::watchSession() {
         Qt::DirectConnection);
 }
 
-void MainWindow::setEditingCommands(EditingCommands commands) {
-    editing_ = std::move(commands);
-}
-
-void MainWindow::setHelpCommands(HelpCommands commands) {
-    help_ = std::move(commands);
+void MainWindow::setCommandRunner(std::function<void(EditorCommand)> runner) {
+    runner_ = std::move(runner);
 }
 
 void MainWindow::buildActions() {
     auto* modes = new QActionGroup(this);
     for (const CommandInfo& info : commands()) {
+        const int number = commandNumber(info.id);
         auto* action =
-            new QAction(toolbarIcon(info.id), qtText(commandMenuText(info, state_.language)), this);
-        action->setObjectName(QStringLiteral("command%1").arg(info.id));
+            new QAction(toolbarIcon(number), qtText(commandMenuText(info, state_.language)), this);
+        action->setObjectName(QStringLiteral("command%1").arg(number));
         action->setShortcuts(QKeySequence::listFromString(QLatin1String(info.shortcut)));
-        action->setIconText(qtText(libraryText(state_.language, info.toolTipId)));
-        action->setStatusTip(qtText(libraryText(state_.language, info.statusTextId)));
+        action->setIconText(qtText(libraryText(state_.language, info.texts.toolTip)));
+        action->setStatusTip(qtText(libraryText(state_.language, info.texts.status)));
         action->setMenuRole(QAction::NoRole);
         action->setIconVisibleInMenu(false);
-        if (hostTypeOfModeCommand(info.id)) {
+        if (info.hostType) {
             action->setCheckable(true);
             modes->addAction(action);
         }
@@ -134,11 +127,11 @@ void MainWindow::buildMenus() {
     for (const MenuInfo& info : menus()) {
         QMenu* menu = menuBar()->addMenu(qtText(libraryText(state_.language, info.titleId)));
         menu->setObjectName(QLatin1String(info.objectName));
-        for (const int id : info.items) {
-            if (id == command::separator) {
-                menu->addSeparator();
+        for (const auto& id : menuItems(info.menu)) {
+            if (id) {
+                menu->addAction(actions_.at(*id));
             } else {
-                menu->addAction(actions_.at(id));
+                menu->addSeparator();
             }
         }
     }
@@ -154,15 +147,16 @@ void MainWindow::buildToolBar() {
     CommandFacts begun;
     begun.entryCount = state_.script.entryCount();
     begun.selectedCount = begun.entryCount > 0 ? 1 : 0;
-    for (const int id : toolbarCommands()) {
-        if (id == command::separator) {
+    for (const auto& id : toolbarItems()) {
+        if (!id) {
             toolBar_->addSeparator();
             continue;
         }
-        toolBar_->addAction(actions_.at(id));
-        drawAhead(actions_.at(id)->icon(), isCommandEnabled(id, begun));
-        toolBar_->widgetForAction(actions_.at(id))
-            ->setObjectName(QStringLiteral("toolButton%1").arg(id));
+        QAction* action = actions_.at(*id);
+        toolBar_->addAction(action);
+        drawAhead(action->icon(), isCommandEnabled(commandInfo(*id), begun));
+        toolBar_->widgetForAction(action)->setObjectName(
+            QStringLiteral("toolButton%1").arg(commandNumber(*id)));
     }
     addToolBar(toolBar_);
 }
@@ -187,18 +181,15 @@ void MainWindow::placeOnScreen() {
     centreOnScreen(*this);
 }
 
-void MainWindow::runCommand(int command) {
+void MainWindow::runCommand(EditorCommand command) {
+    const CommandInfo& info = commandInfo(command);
     sessionEnds_ = false;
-    if (!refusedAtLimit(command)) dispatch(command);
-    // Find is typed into its bar.
-    if (command != command::find) pane_->takeFocus();
+    if (!refusedAtLimit(info) && runner_) runner_(command);
+    if (!info.movesFocus) pane_->takeFocus();
 }
 
-bool MainWindow::refusedAtLimit(int command) {
-    const bool inserts = (command >= command::paste && command <= command::insertMenuCommand) ||
-                         command == command::insertScript;
-    if (!inserts) return false;
-    if (!state_.script.isFull()) return false;
+bool MainWindow::refusedAtLimit(const CommandInfo& command) {
+    if (!command.addsEntries || !state_.script.isFull()) return false;
     // The insert that would have used it up does not come.
     if (std::exchange(state_.dropPending, false)) state_.currentIndex = pane_->focusedEntry();
     showMessage(
@@ -207,40 +198,12 @@ bool MainWindow::refusedAtLimit(int command) {
     return true;
 }
 
-void MainWindow::dispatch(int command) {
-    if (const auto host = hostTypeOfModeCommand(command)) return setHostType(*host);
-    switch (command) {
-        case command::newScript: return newScript();
-        case command::open: return openScript();
-        case command::save: save(); return;
-        case command::saveAs: saveAs(); return;
-        case command::exit: QMetaObject::invokeMethod(this, "close", Qt::QueuedConnection); return;
-        case command::help: return runIfSet(help_.showHelp);
-        case command::helpOnSelection:
-            if (help_.helpOn) help_.helpOn(selectedCommand(state_, *pane_));
-            return;
-        case command::find: return findBar_->open();
-        case command::about: AboutBox(state_.language, this).exec(); return;
-        default: return dispatchEditing(command);
-    }
+void MainWindow::openFindBar() {
+    findBar_->open();
 }
 
-void MainWindow::dispatchEditing(int command) {
-    switch (command) {
-        case command::undo: return runIfSet(editing_.undo);
-        case command::redo: return runIfSet(editing_.redo);
-        case command::cut: return runIfSet(editing_.cutEntries);
-        case command::copy: return runIfSet(editing_.copyEntries);
-        case command::paste: return runIfSet(editing_.pasteEntries);
-        case command::insertScriptEvent: return runIfSet(editing_.insertScriptEvent);
-        case command::insertLuFunction: return runIfSet(editing_.insertLuFunction);
-        case command::insertMenuCommand: return runIfSet(editing_.insertMenuCommand);
-        case command::editEntry: return runIfSet(editing_.editCurrentEntry);
-        case command::deleteEntries: return runIfSet(editing_.deleteEntries);
-        case command::copyAsText: return runIfSet(editing_.copyAsText);
-        case command::insertScript: return runIfSet(editing_.insertScript);
-        default: return;
-    }
+void MainWindow::closeSoon() {
+    QMetaObject::invokeMethod(this, "close", Qt::QueuedConnection);
 }
 
 void MainWindow::newScript() {
@@ -261,13 +224,13 @@ void MainWindow::openScript() {
     if (outcome.refusal) showMessage(this, *outcome.refusal);
     if (!outcome.opened) return;
     note_ = outcome.note;
-    showHostType();
+    pane_->refillLuPalette();
     showDocument();
 }
 
 void MainWindow::showOpened(const OpenOutcome& outcome) {
     note_ = outcome.note;
-    showHostType();
+    pane_->refillLuPalette();
     showDocument();
     if (outcome.refusal) showMessage(this, *outcome.refusal);
 }
@@ -316,15 +279,10 @@ bool MainWindow::mayDiscardChanges(DiscardingCommand command) {
 
 void MainWindow::setHostType(HostType hostType) {
     state_.currentHostType = hostType;
-    showHostType();
+    pane_->refillLuPalette();
     pane_->rebuildScriptList();
     updateCommandStates();
     pane_->takeFocus();
-}
-
-void MainWindow::showHostType() {
-    actions_.at(hostTypeInfo(state_.currentHostType).modeCommand)->setChecked(true);
-    pane_->refillLuPalette();
 }
 
 void MainWindow::showDocument() {
@@ -359,10 +317,12 @@ void MainWindow::showNote(const std::string& note) {
 
 void MainWindow::updateCommandStates() {
     const CommandFacts facts = commandFacts(state_, *pane_);
-    for (const auto& [id, action] : actions_) {
-        action->setEnabled(isCommandEnabled(id, facts));
-        action->setToolTip(asToolTip(commandToolTip(id, facts, state_.language)));
-        if (const auto text = commandMenuText(id, facts, state_.language)) {
+    for (const CommandInfo& info : commands()) {
+        QAction* action = actions_.at(info.id);
+        action->setEnabled(isCommandEnabled(info, facts));
+        if (action->isCheckable()) action->setChecked(isCommandChecked(info, facts));
+        action->setToolTip(asToolTip(commandToolTip(info, facts, state_.language)));
+        if (const auto text = commandMenuText(info, facts, state_.language)) {
             action->setText(qtText(*text));
         }
     }

@@ -2,10 +2,9 @@
 // commands.
 #pragma once
 
-#include "app/editing_commands.h"
 #include "app/pane/editor_pane.h"
-#include "help/editor_help.h"
 #include "session/application_state.h"
+#include "session/commands.h"
 #include "session/document.h"
 
 #include <QMainWindow>
@@ -33,14 +32,22 @@ class MainWindow : public QMainWindow {
     explicit MainWindow(
         ApplicationState& state, const std::function<void()>& beforeText = [] {});
 
-    /// The commands that change the script run these from now on.
-    void setEditingCommands(EditingCommands commands);
-
-    /// The help commands run these from now on.
-    void setHelpCommands(HelpCommands commands);
+    /// What commands run from now on, to its end, dialogs included; it leaves pane, title and
+    /// command states right through scriptChanged(). While it is empty, commands do nothing.
+    void setCommandRunner(std::function<void(EditorCommand)> runner);
 
     /// Runs a command as its menu item does, whether it is enabled or not.
-    void runCommand(int command);
+    void runCommand(EditorCommand command);
+
+    /// The commands that the window runs itself.
+    void newScript();
+    void openScript();
+    /// Gives false when something was not saved that the user wanted saved.
+    bool save();
+    bool saveAs();
+    void openFindBar();
+    /// Closes the window when the present event has been handled.
+    void closeSoon();
 
     /// Makes a host type the current one and shows the script under its names. The document is not
     /// modified by it.
@@ -86,27 +93,18 @@ class MainWindow : public QMainWindow {
     /// Follows the end of the desktop's session and has its next one open the script again.
     void watchSession();
 
-    void dispatch(int command);
-    void dispatchEditing(int command);
-    [[nodiscard]] bool refusedAtLimit(int command);
-    void newScript();
-    void openScript();
-    /// Gives false when something was not saved that the user wanted saved.
-    bool save();
-    bool saveAs();
+    [[nodiscard]] bool refusedAtLimit(const CommandInfo& command);
     bool saveTo(const std::filesystem::path& path);
     [[nodiscard]] bool mayDiscardChanges(DiscardingCommand command);
     [[nodiscard]] bool agreedToAll(const std::vector<Message>& questions);
 
     void showDocument();
-    void showHostType();
     void updateTitle();
     void updateStatus();
 
     ApplicationState& state_;
-    EditingCommands editing_;
-    HelpCommands help_;
-    std::map<int, QAction*> actions_;
+    std::function<void(EditorCommand)> runner_;
+    std::map<EditorCommand, QAction*> actions_;
     QToolBar* toolBar_ = nullptr;
     EditorPane* pane_ = nullptr;
     FindBar* findBar_ = nullptr;

@@ -1,7 +1,7 @@
 #include "app/script_editor.h"
 
 #include "app/main_window.h"
-#include "session/command_states.h"
+#include "session/command_rules.h"
 #include "session/document.h"
 #include "text/text_encoding.h"
 #include "text/text_ids.h"
@@ -18,11 +18,8 @@ namespace quendra {
 
 namespace {
 
-// "Insert Script Event %s" and its like, by palette.
-constexpr StringId insertSteps[] = {textid::insertNamedScriptEvent, textid::insertNamedLuFunction,
-                                    textid::insertNamedMenuCommand};
-constexpr StringId paletteLabels[] = {textid::scriptEventsLabel, textid::luFunctionsLabel,
-                                      textid::menuCommandsLabel};
+constexpr bool (*insertOperations[])(EditingState&, EditingView&) = {
+    insertScriptEvent, insertLuFunction, insertMenuCommand};
 
 StringId refusalText(EditRefusal refusal) {
     switch (refusal) {
@@ -37,38 +34,30 @@ StringId refusalText(EditRefusal refusal) {
 
 ScriptEditor::ScriptEditor(ApplicationState& state, MainWindow& window, EditParameters dialog)
     : state_(state), window_(window), dialog_(std::move(dialog)) {
-    window_.setEditingCommands(commands());
     connect(&window_.pane(), &EditorPane::entriesAboutToMove, this,
             [this] { beforeMove_ = currentView(); });
     connect(&window_.pane(), &EditorPane::entriesMoved, this, &ScriptEditor::recordMove);
 }
 
-ScriptEditor::~ScriptEditor() {
-    window_.setEditingCommands({});
+void ScriptEditor::undo() {
+    takeStep(&UndoHistory::undo);
 }
 
-EditingCommands ScriptEditor::commands() {
-    EditingCommands commands;
-    commands.undo = [this] { takeStep(&UndoHistory::undo); };
-    commands.redo = [this] { takeStep(&UndoHistory::redo); };
-    commands.cutEntries = [this] { removeSelected(textid::cutStep, quendra::cutEntries); };
-    commands.copyEntries = [this] { copy(); };
-    commands.pasteEntries = [this] { paste(); };
-    commands.insertScriptEvent = [this] {
-        insert(Palette::ScriptEvents, quendra::insertScriptEvent);
-    };
-    commands.insertLuFunction = [this] { insert(Palette::LuFunctions, quendra::insertLuFunction); };
-    commands.insertMenuCommand = [this] {
-        insert(Palette::MenuCommands, quendra::insertMenuCommand);
-    };
-    commands.editCurrentEntry = [this] {
-        change([this] { return quendra::editCurrentEntry(state_, *this); },
-               [this] { return libraryText(state_.language, textid::editStep); });
-    };
-    commands.deleteEntries = [this] { removeSelected(textid::deleteStep, quendra::deleteEntries); };
-    commands.copyAsText = [this] { copyAsText(); };
-    commands.insertScript = [this] { insertOtherScript(); };
-    return commands;
+void ScriptEditor::redo() {
+    takeStep(&UndoHistory::redo);
+}
+
+void ScriptEditor::cut() {
+    removeSelected(textid::cutStep, quendra::cutEntries);
+}
+
+void ScriptEditor::deleteSelected() {
+    removeSelected(textid::deleteStep, quendra::deleteEntries);
+}
+
+void ScriptEditor::editEntry() {
+    change([this] { return quendra::editCurrentEntry(state_, *this); },
+           [this] { return libraryText(state_.language, textid::editStep); });
 }
 
 void ScriptEditor::change(const std::function<bool()>& operation,
@@ -79,11 +68,12 @@ void ScriptEditor::change(const std::function<bool()>& operation,
     window_.scriptChanged();
 }
 
-void ScriptEditor::insert(Palette palette, bool (*operation)(EditingState&, EditingView&)) {
+void ScriptEditor::insertFrom(Palette palette) {
+    const auto operation = insertOperations[static_cast<std::size_t>(palette)];
     change([&] { return operation(state_, *this); },
            [&] {
                const int row = selectedRow(palette);
-               return libraryText(state_.language, insertSteps[static_cast<std::size_t>(palette)],
+               return libraryText(state_.language, paletteInfo(palette).insertTextId,
                                   {window_.pane().paletteText(palette, row).toStdString()});
            });
 }
@@ -213,7 +203,7 @@ void ScriptEditor::refuse(EditRefusal refusal, const ScriptEntry& entry) {
 }
 
 void ScriptEditor::askForRow(Palette palette) {
-    const StringId label = paletteLabels[static_cast<std::size_t>(palette)];
+    const StringId label = paletteInfo(palette).titleId;
     window_.showNote(libraryText(state_.language, textid::replacementNeedsSelection,
                                  {libraryText(state_.language, label)}));
 }

@@ -1,8 +1,7 @@
-// The editing commands on the real window: the operations of model/editing.h between its lists, its
-// dialogs and the undo history.
+// The editing commands on the real window: the operations of session/editing.h between its lists,
+// its dialogs and the undo history.
 #pragma once
 
-#include "app/editing_commands.h"
 #include "dialogs/parameter_dialogs.h"
 #include "session/editing.h"
 
@@ -19,7 +18,7 @@ struct OtherScript;
 /// Opens the dialog of a command, as editParameters does. An empty one answers Cancel.
 using EditParameters = std::function<bool(const DialogContext&, const EditTarget&)>;
 
-/// Gives a window its editing commands as long as it lives. Every change of the script, drags
+/// What the editing commands of a window run. Every change of the script, drags
 /// included, becomes one step of the state's history.
 class ScriptEditor : public QObject, private EditingView {
     Q_OBJECT
@@ -27,9 +26,21 @@ class ScriptEditor : public QObject, private EditingView {
   public:
     /// `state` and `window` outlive it.
     ScriptEditor(ApplicationState& state, MainWindow& window, EditParameters dialog);
-    ~ScriptEditor() override;
+    ~ScriptEditor() override = default;
     ScriptEditor(const ScriptEditor&) = delete;
     ScriptEditor& operator=(const ScriptEditor&) = delete;
+
+    /// The commands, each run to its end with its dialogs and questions.
+    void undo();
+    void redo();
+    void cut();
+    void copy();
+    void copyAsText();
+    void paste();
+    void insertFrom(Palette palette);
+    void insertOtherScript();
+    void editEntry();
+    void deleteSelected();
 
   private:
     [[nodiscard]] std::vector<std::size_t> selectedEntries() const override;
@@ -41,15 +52,9 @@ class ScriptEditor : public QObject, private EditingView {
     void refuse(EditRefusal refusal, const ScriptEntry& entry) override;
     void askForRow(Palette palette) override;
 
-    [[nodiscard]] EditingCommands commands();
     /// Runs an operation that gives whether it changed the script; the step's name is asked for
     /// after it.
     void change(const std::function<bool()>& operation, const std::function<std::string()>& name);
-    void insert(Palette palette, bool (*operation)(EditingState&, EditingView&));
-    void copy();
-    void paste();
-    void copyAsText();
-    void insertOtherScript();
     void removeSelected(StringId name, bool (*operation)(EditingState&, EditingView&));
     void takeStep(std::optional<EntrySelection> (UndoHistory::*step)(Script&));
     void recordMove();

@@ -11,6 +11,15 @@ namespace quendra::cli {
 
 namespace {
 
+std::string hostTypeNames(std::string_view separator) {
+    std::string names;
+    for (const HostType type : allHostTypes) {
+        if (!names.empty()) names += separator;
+        names += hostTypeInfo(type).commandLineName;
+    }
+    return names;
+}
+
 Announcement wrongUsage(const std::string& what) {
     return {"qds: " + what + "\nTry 'qds --help'.\n", statusWrongUsage};
 }
@@ -70,7 +79,7 @@ void Parser::addConvert() {
     convert = app.add_subcommand("convert", "Write scripts in the current version of the format")
                   ->group("Commands");
     convert->add_option("--host", hostName, "Switch to this host type")
-        ->type_name("mainframe|iseries|vt|uts|t27|icl");
+        ->type_name(hostTypeNames("|"));
     convert->add_flag("--allow-loss", convertRequest.allowLoss,
                       "Write what there is of a file that is not whole or does not fit");
     auto* output = convert->add_option("--output", convertRequest.output, "Write to this file")
@@ -98,7 +107,7 @@ Request convertRequestOf(const Parser& parser) {
     if (parser.convert->count("--host") > 0) {
         request.hostType = hostTypeOfCommandLineName(parser.hostName);
         if (!request.hostType) {
-            return wrongUsage("--host must be one of mainframe, iseries, vt, uts, t27, icl");
+            return wrongUsage("--host must be one of " + hostTypeNames(", "));
         }
     }
     if (request.inPlace) {

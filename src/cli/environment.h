@@ -2,7 +2,7 @@
 #pragma once
 
 #include "hosts/lu_catalogue.h"
-#include "model/menu_catalogue.h"
+#include "model/menu_commands.h"
 #include "platform/files.h"
 #include "scriptfile/script_reader.h"
 #include "text/language_library.h"

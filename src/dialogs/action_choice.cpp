@@ -1,7 +1,6 @@
 #include "dialogs/action_choice.h"
 
-#include "dialogs/transfer/transfer_sheet_page.h"
-#include "model/menu_catalogue.h"
+#include "model/menu_commands.h"
 
 namespace quendra {
 
@@ -11,35 +10,21 @@ const LuCatalogue& luFunctions(const DialogContext& context) {
     return context.state.luCatalogues.of(context.state.currentHostType);
 }
 
-// On the working settings as they are.
-bool editTransfer(const DialogContext& context, const SlotFields& action, std::uint32_t commandId) {
-    TransferInputs& working = context.state.workingTransfer;
-    working.host = action.transferHost;
-    working.direction =
-        commandId == sendFileCommand ? TransferDirection::Send : TransferDirection::Receive;
-    std::uint8_t host = action.transferHost;
-    if (!editTransferSettings(context.state, context.window, host, working.direction)) return false;
-    working.host = host;
-    action.transferHost = host;
-    action.transferSettings = working.settings;
-    return true;
-}
-
 // The command is one that asks for something.
 bool askForParameters(const DialogContext& context, const EditTarget& target) {
     const SlotFields action = slotFields(target.entry, target.slot);
     const bool transfers =
         action.code == CommandCode::MenuCommand && isFileTransfer(action.commandId);
-    return transfers ? editTransfer(context, action, action.commandId)
+    // As they were shown last, whatever the action holds.
+    return transfers ? editTransfer(context, action, transferDirection(action.commandId))
                      : editParameters(context, target);
 }
 
 void openTransfer(const DialogContext& context, const EditTarget& target,
-                  const ActionChoice& choice) {
+                  const PaletteChoice& choice) {
     const SlotFields action = slotFields(target.entry, target.slot);
-    const std::uint32_t commandId = firstMenuCommand + static_cast<std::uint32_t>(choice.row);
     context.state.workingTransfer.settings = action.transferSettings;
-    if (editTransfer(context, action, commandId)) {
+    if (editTransfer(context, action, transferDirection(menuCommandOf(choice)))) {
         applyChoice(target.entry, target.slot, choice, luFunctions(context));
     }
 }
@@ -47,7 +32,7 @@ void openTransfer(const DialogContext& context, const EditTarget& target,
 }  // namespace
 
 ActionPlace placeOf(const EditTarget& target) {
-    if (target.entry.commandCode == CommandCode::WatchFor) {
+    if (target.entry.code == CommandCode::WatchFor) {
         return {CommandCode::WatchFor, target.slot};
     }
     const bool compares = target.owner == ActionOwner::IfInputIs;
@@ -55,7 +40,7 @@ ActionPlace placeOf(const EditTarget& target) {
 }
 
 std::optional<Message> refusalOf(const DialogContext& context, const EditTarget& target,
-                                 const ActionChoice& choice) {
+                                 const PaletteChoice& choice) {
     ApplicationState& state = context.state;
     const ActionPlace place = placeOf(target);
     const auto refusal = refusalOf(choice, place.owner, state.currentHostType);
@@ -64,14 +49,14 @@ std::optional<Message> refusalOf(const DialogContext& context, const EditTarget&
 }
 
 bool acceptChoice(const DialogContext& context, const EditTarget& target,
-                  const ActionChoice& choice) {
+                  const PaletteChoice& choice) {
     applyChoice(target.entry, target.slot, choice, luFunctions(context));
     return !lacksParameters(slotFields(target.entry, target.slot)) ||
            askForParameters(context, target);
 }
 
 void openChoice(const DialogContext& context, const EditTarget& target,
-                const ActionChoice& choice) {
+                const PaletteChoice& choice) {
     switch (doubleClickAct(choice)) {
         case DoubleClickAct::Nothing: return;
         case DoubleClickAct::EditTransfer: openTransfer(context, target, choice); return;

@@ -13,15 +13,16 @@ namespace quendra {
 /// What the user is told when the choice cannot be taken.
 [[nodiscard]] std::optional<Message> refusalOf(const DialogContext& context,
                                                const EditTarget& target,
-                                               const ActionChoice& choice);
+                                               const PaletteChoice& choice);
 
 /// OK on a choice that is not refused: the action becomes what was chosen, and what it then lacks
 /// is asked for. False when the asking was cancelled; the action then has its new command already.
 [[nodiscard]] bool acceptChoice(const DialogContext& context, const EditTarget& target,
-                                const ActionChoice& choice);
+                                const PaletteChoice& choice);
 
 /// Double-click: the action's parameters are asked for at once, whatever it has already. Rows
 /// without parameters do nothing.
-void openChoice(const DialogContext& context, const EditTarget& target, const ActionChoice& choice);
+void openChoice(const DialogContext& context, const EditTarget& target,
+                const PaletteChoice& choice);
 
 }  // namespace quendra

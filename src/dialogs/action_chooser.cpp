@@ -21,7 +21,7 @@ void ActionChooser::addLists() {
     lists_ = new ActionLists(context().state, this);
     body().addWidget(lists_, 1);
     connect(lists_, &ActionLists::doubleClicked, this,
-            [this](const ActionChoice& choice) { openChoice(overThis(), action_, choice); });
+            [this](const PaletteChoice& choice) { openChoice(overThis(), action_, choice); });
 }
 
 void ActionChooser::load() {

@@ -19,16 +19,6 @@ constexpr int smallestListHeight = 140;
 /// All Script Events without scrolling.
 constexpr int shownRows = 20;
 
-struct ListParts {
-    StringId titleId;
-    const char* listName;
-    const char* labelName;
-};
-constexpr std::array<ListParts, 3> listParts = {
-    {{textid::scriptEventsLabel, "scriptEventsList", "scriptEventsLabel"},
-     {textid::luFunctionsLabel, "luFunctionsList", "luFunctionsLabel"},
-     {textid::menuCommandsLabel, "menuCommandsList", "menuCommandsLabel"}}};
-
 }  // namespace
 
 ActionLists::ActionLists(ApplicationState& state, QWidget* parent) : QWidget(parent) {
@@ -36,15 +26,15 @@ ActionLists::ActionLists(ApplicationState& state, QWidget* parent) : QWidget(par
     auto* grid = new QGridLayout(this);
     grid->setContentsMargins(0, 0, 0, 0);
     grid->setRowStretch(1, 1);
-    const std::array<PaletteModel*, 3> models = {
-        new PaletteModel(scriptEventRows(), this),
-        new PaletteModel(luFunctionRows(state.luCatalogues.of(state.currentHostType)), this),
-        new PaletteModel(menuCommandRows(state.menuCommands), this)};
-    for (std::size_t i = 0; i < lists_.size(); ++i) {
-        const QString title = qtText(libraryText(state.language, listParts[i].titleId));
-        lists_[i] = addList(static_cast<ActionList>(i), title, models[i]);
+    for (const Palette palette : allPalettes) {
+        const auto i = static_cast<std::size_t>(palette);
+        const QString title = qtText(libraryText(state.language, paletteInfo(palette).titleId));
+        const LuCatalogue& luFunctions = state.luCatalogues.of(state.currentHostType);
+        lists_[i] =
+            addList(palette, title,
+                    new PaletteModel(paletteRows(palette, luFunctions, state.menuCommands), this));
         auto* label = new QLabel(title, this);
-        label->setObjectName(QLatin1String(listParts[i].labelName));
+        label->setObjectName(paletteObjectName(palette, "Label"));
         label->setBuddy(lists_[i]);
         const int column = static_cast<int>(i);
         grid->addWidget(label, 0, column);
@@ -53,43 +43,43 @@ ActionLists::ActionLists(ApplicationState& state, QWidget* parent) : QWidget(par
     }
 }
 
-PaneList* ActionLists::addList(ActionList number, const QString& title, QAbstractItemModel* model) {
+PaneList* ActionLists::addList(Palette palette, const QString& title, QAbstractItemModel* model) {
     auto* list = new PaneList(this);
-    list->setObjectName(QLatin1String(listParts[static_cast<std::size_t>(number)].listName));
+    list->setObjectName(paletteObjectName(palette, "List"));
     list->setAccessibleName(title);
     list->setModel(model);
     list->setMinimumSize(smallestListWidth, smallestListHeight);
     connect(list->selectionModel(), &QItemSelectionModel::selectionChanged, this,
-            [this, number] { selectionChanged(number); });
+            [this, palette] { selectionChanged(palette); });
     // Queued: a dialog opened in the middle of the double-click would swallow its release.
     connect(
         list, &QAbstractItemView::doubleClicked, this,
-        [this, number](const QModelIndex& row) {
-            Q_EMIT doubleClicked({number, row.row()});
+        [this, palette](const QModelIndex& row) {
+            Q_EMIT doubleClicked({palette, row.row()});
         },
         Qt::QueuedConnection);
     return list;
 }
 
-void ActionLists::selectionChanged(ActionList number) {
-    if (!list(number).selectionModel()->hasSelection()) return;
-    active_ = number;
+void ActionLists::selectionChanged(Palette palette) {
+    if (!list(palette).selectionModel()->hasSelection()) return;
+    active_ = palette;
     for (PaneList* other : lists_) {
-        if (other != lists_[static_cast<std::size_t>(number)]) other->clearSelection();
+        if (other != lists_[static_cast<std::size_t>(palette)]) other->clearSelection();
     }
 }
 
-ActionChoice ActionLists::choice() const {
+PaletteChoice ActionLists::choice() const {
     const auto rows = list(active_).selectedRows();
     return {active_, rows.empty() ? -1 : static_cast<int>(rows.front())};
 }
 
-void ActionLists::select(const ActionChoice& choice) {
-    active_ = choice.list;
+void ActionLists::select(const PaletteChoice& choice) {
+    active_ = choice.palette;
     for (PaneList* each : lists_) {
         each->clearSelection();
     }
-    PaneList& shown = list(choice.list);
+    PaneList& shown = list(choice.palette);
     shown.setCurrentIndex(shown.model()->index(choice.row, 0));
 }
 

@@ -23,10 +23,10 @@ class ActionLists : public QWidget {
 
     /// The active list is the one in which a row was selected last; no other list then has a
     /// selection, so what is seen as selected is what is chosen.
-    [[nodiscard]] ActionChoice choice() const;
+    [[nodiscard]] PaletteChoice choice() const;
 
     /// Makes a list the active one and selects, focuses and shows its row; nothing for row -1.
-    void select(const ActionChoice& choice);
+    void select(const PaletteChoice& choice);
 
     /// Gives the keyboard to the active list.
     void focusActiveList();
@@ -35,20 +35,20 @@ class ActionLists : public QWidget {
 
   Q_SIGNALS:
     /// After the double-click itself was handled, so a dialog may be opened.
-    void doubleClicked(const quendra::ActionChoice& choice);
+    void doubleClicked(const quendra::PaletteChoice& choice);
 
   protected:
     void showEvent(QShowEvent* event) override;
 
   private:
-    PaneList* addList(ActionList number, const QString& title, QAbstractItemModel* model);
-    void selectionChanged(ActionList number);
-    [[nodiscard]] PaneList& list(ActionList number) const {
-        return *lists_[static_cast<std::size_t>(number)];
+    PaneList* addList(Palette palette, const QString& title, QAbstractItemModel* model);
+    void selectionChanged(Palette palette);
+    [[nodiscard]] PaneList& list(Palette palette) const {
+        return *lists_[static_cast<std::size_t>(palette)];
     }
 
-    std::array<PaneList*, 3> lists_{};
-    ActionList active_ = ActionList::ScriptEvents;
+    std::array<PaneList*, allPalettes.size()> lists_{};
+    Palette active_ = Palette::ScriptEvents;
 };
 
 }  // namespace quendra

@@ -60,9 +60,7 @@ class ActionLine : public QLabel {
 // As with the lines of the script, a new transfer starts from the one that was shown last.
 void loadTransfer(ApplicationState& state, const ConstSlotFields& action) {
     if (action.code != CommandCode::MenuCommand || !isFileTransfer(action.commandId)) return;
-    state.workingTransfer = {
-        action.transferSettings, action.transferHost,
-        action.commandId == sendFileCommand ? TransferDirection::Send : TransferDirection::Receive};
+    state.workingTransfer = transferInputs(action);
 }
 
 }  // namespace

@@ -1,6 +1,7 @@
 #include "dialogs/action_rules.h"
 
-#include "model/menu_catalogue.h"
+#include "model/menu_commands.h"
+#include "model/new_command.h"
 #include "text/text_ids.h"
 
 #include <algorithm>
@@ -8,26 +9,6 @@
 namespace quendra {
 
 namespace {
-
-CommandCode eventOf(const ActionChoice& choice) {
-    return scriptEvents()[static_cast<std::size_t>(choice.row)].code;
-}
-
-std::uint32_t menuCommandOf(const ActionChoice& choice) {
-    return firstMenuCommand + static_cast<std::uint32_t>(choice.row);
-}
-
-int rowOfEvent(CommandCode code) {
-    const auto events = scriptEvents();
-    const auto found = std::ranges::find(events, code, &ScriptEventInfo::code);
-    return found == events.end() ? -1 : static_cast<int>(found - events.begin());
-}
-
-int rowOfMenuCommand(std::uint32_t commandId) {
-    const bool known =
-        commandId >= firstMenuCommand && commandId < firstMenuCommand + menuCommandCount;
-    return known ? static_cast<int>(commandId - firstMenuCommand) : -1;
-}
 
 bool comparesInput(const ActionPlace& place) {
     return place.owner == CommandCode::IfInputIs;
@@ -58,14 +39,6 @@ void dropHiddenText(const SlotFields& action) {
     action.hidden = 0;
 }
 
-void startSearch(ScriptEntry& entry) {
-    if (entry.searchRow != 0) return;
-    entry.searchRow = 1;
-    entry.searchColumn = 1;
-    entry.exactPosition = 0;
-    entry.caseSensitive = 1;
-}
-
 bool lacksTransferFiles(const FileTransferSettings& settings) {
     return transferText(settings, transfer::hostFileName).empty() ||
            transferText(settings, transfer::pcFileName).empty();
@@ -78,33 +51,11 @@ bool menuCommandLacksParameters(const ConstSlotFields& action) {
 
 }  // namespace
 
-ActionChoice choiceOf(const ConstSlotFields& action, const LuCatalogue& luFunctions) {
-    switch (action.code) {
-        case CommandCode::None: return {ActionList::ScriptEvents, -1};
-        case CommandCode::LuFunction: {
-            const auto row = luFunctions.rowOf({action.row, action.column});
-            return {ActionList::LuFunctions, row ? static_cast<int>(*row) : -1};
-        }
-        case CommandCode::MenuCommand:
-            return {ActionList::MenuCommands, rowOfMenuCommand(action.commandId)};
-        default: return {ActionList::ScriptEvents, rowOfEvent(action.code)};
-    }
-}
-
-bool mayBeAction(CommandCode code, CommandCode owner) {
-    return !ownsActions(code) || (code == CommandCode::WaitFor && owner == CommandCode::WatchFor);
-}
-
-std::optional<ActionRefusal> refusalOf(const ActionChoice& choice, CommandCode owner,
+std::optional<ActionRefusal> refusalOf(const PaletteChoice& choice, CommandCode owner,
                                        HostType hostType) {
     if (choice.row < 0) return ActionRefusal::NothingSelected;
-    if (choice.list == ActionList::ScriptEvents && !mayBeAction(eventOf(choice), owner)) {
-        return ActionRefusal::CarriesActions;
-    }
-    if (choice.list == ActionList::MenuCommands && hostType == HostType::VT &&
-        menuCommandOf(choice) == menuCommandRefusedInVt) {
-        return ActionRefusal::NotInVt;
-    }
+    if (!mayBeAction(commandOf(choice), owner)) return ActionRefusal::CarriesActions;
+    if (isRefused(choice, hostType)) return ActionRefusal::NotInVt;
     return std::nullopt;
 }
 
@@ -130,27 +81,17 @@ std::string actionCaption(const ActionPlace& place) {
     return otherwise ? "Wait_For Not Found Action" : "Wait_For Found Action";
 }
 
-void applyChoice(ScriptEntry& entry, Slot slot, const ActionChoice& choice,
+void applyChoice(ScriptEntry& entry, Slot slot, const PaletteChoice& choice,
                  const LuCatalogue& luFunctions) {
     const SlotFields action = slotFields(entry, slot);
     const bool wasWaitFor = action.code == CommandCode::WaitFor;
     const bool wasHidden = isHiddenText(action);
-    switch (choice.list) {
-        case ActionList::ScriptEvents: setCode(action, eventOf(choice)); break;
-        case ActionList::LuFunctions: {
-            const LuKey key = luFunctions.rows[static_cast<std::size_t>(choice.row)].key;
-            setCode(action, CommandCode::LuFunction);
-            action.row = key.group;
-            action.column = key.number;
-            break;
-        }
-        case ActionList::MenuCommands:
-            setCode(action, CommandCode::MenuCommand);
-            action.commandId = menuCommandOf(choice);
-            break;
-    }
+    takeCommand(action, choice, luFunctions);
     if (wasHidden && action.code != CommandCode::Type) dropHiddenText(action);
-    if (action.code == CommandCode::WaitFor && !wasWaitFor) startSearch(entry);
+    const bool searchesNowhere = entry.searchRow == 0;
+    if (action.code == CommandCode::WaitFor && !wasWaitFor && searchesNowhere) {
+        startCommand(entry, slot);
+    }
 }
 
 bool lacksParameters(const ConstSlotFields& action) {
@@ -182,9 +123,9 @@ bool lacksParameters(const ConstSlotFields& action) {
     return false;
 }
 
-DoubleClickAct doubleClickAct(const ActionChoice& choice) {
-    if (choice.row < 0 || choice.list == ActionList::LuFunctions) return DoubleClickAct::Nothing;
-    if (choice.list == ActionList::ScriptEvents) return DoubleClickAct::ChooseAndEdit;
+DoubleClickAct doubleClickAct(const PaletteChoice& choice) {
+    if (choice.row < 0 || choice.palette == Palette::LuFunctions) return DoubleClickAct::Nothing;
+    if (choice.palette == Palette::ScriptEvents) return DoubleClickAct::ChooseAndEdit;
     const std::uint32_t commandId = menuCommandOf(choice);
     if (isFileTransfer(commandId)) return DoubleClickAct::EditTransfer;
     return takesFileName(commandId) ? DoubleClickAct::ChooseAndEdit : DoubleClickAct::Nothing;

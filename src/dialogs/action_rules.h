@@ -3,7 +3,7 @@
 #pragma once
 
 #include "hosts/host_type.h"
-#include "hosts/lu_catalogue.h"
+#include "hosts/palettes.h"
 #include "model/script_entry.h"
 #include "text/language_library.h"
 #include "widgets/message_box.h"
@@ -21,29 +21,10 @@ struct ActionPlace {
     Slot slot = Slot::Then;
 };
 
-/// The three lists that actions are chosen from, in the order in which they are shown.
-enum class ActionList : std::uint8_t { ScriptEvents, LuFunctions, MenuCommands };
-
-/// The active list and its selected row, -1 for none.
-struct ActionChoice {
-    ActionList list = ActionList::ScriptEvents;
-    int row = -1;
-
-    bool operator==(const ActionChoice&) const = default;
-};
-
-/// Where the lists hold an action. Nothing is selected, in the list of the action's kind, for a key
-/// that the catalogue lacks and for a menu command outside the list.
-[[nodiscard]] ActionChoice choiceOf(const ConstSlotFields& action, const LuCatalogue& luFunctions);
-
-/// True for a command that an action at this place may be: none that carries actions itself, but
-/// a Watch_For may run a Wait_For.
-[[nodiscard]] bool mayBeAction(CommandCode code, CommandCode owner);
-
 enum class ActionRefusal : std::uint8_t { NothingSelected, CarriesActions, NotInVt };
 
 /// Why a choice cannot be taken, or none.
-[[nodiscard]] std::optional<ActionRefusal> refusalOf(const ActionChoice& choice, CommandCode owner,
+[[nodiscard]] std::optional<ActionRefusal> refusalOf(const PaletteChoice& choice, CommandCode owner,
                                                      HostType hostType);
 
 /// What is told then. The Watch_For dialog takes its texts from the library, the Action dialog has
@@ -59,7 +40,7 @@ enum class ActionRefusal : std::uint8_t { NothingSelected, CarriesActions, NotIn
 /// does, since another command would show it and store it in clear; and a Wait_For that has no
 /// place to search at starts as any new one does. `choice` is one that is not refused, and its row
 /// exists.
-void applyChoice(ScriptEntry& entry, Slot slot, const ActionChoice& choice,
+void applyChoice(ScriptEntry& entry, Slot slot, const PaletteChoice& choice,
                  const LuCatalogue& luFunctions);
 
 /// True when the action is of a command whose parameters it does not have yet, so that accepting it
@@ -75,6 +56,6 @@ enum class DoubleClickAct : std::uint8_t {
     /// The settings come first; the action becomes a file transfer only when they are accepted.
     EditTransfer,
 };
-[[nodiscard]] DoubleClickAct doubleClickAct(const ActionChoice& choice);
+[[nodiscard]] DoubleClickAct doubleClickAct(const PaletteChoice& choice);
 
 }  // namespace quendra

@@ -1,5 +1,7 @@
 #include "dialogs/command_dialogs.h"
 
+#include "model/menu_commands.h"
+
 namespace quendra {
 
 std::unique_ptr<ParameterDialog> makeCommandDialog(const DialogContext& context,

@@ -1,5 +1,6 @@
 // Run and the menu commands that take a file name.
 #include "dialogs/command_dialogs.h"
+#include "model/menu_commands.h"
 #include "text/text_ids.h"
 #include "widgets/file_dialogs.h"
 #include "widgets/ui_text.h"
@@ -35,6 +36,14 @@ constexpr std::array<FileOperation, 6> fileOperations = {{
     {254, textid::runMacroTitle, textid::runMacroLabel, FileKind::Macro},
     {257, textid::editMacroTitle, textid::editMacroLabel, FileKind::Macro},
 }};
+
+static_assert(std::ranges::all_of(menuCommandTable,
+                                  [](const MenuCommandInfo& info) {
+                                      return takesFileName(info.code) ==
+                                             (std::ranges::count(fileOperations, info.code,
+                                                                 &FileOperation::commandId) == 1);
+                                  }),
+              "each menu command that takes a file name has its row");
 
 const FileOperation& fileOperation(const ConstSlotFields& fields) {
     const std::uint32_t id = fields.code == CommandCode::Run ? 0 : fields.commandId;

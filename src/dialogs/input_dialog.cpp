@@ -1,5 +1,6 @@
 // Input: what the script asks its user for.
 #include "dialogs/command_dialogs.h"
+#include "model/entry_fields.h"
 #include "text/text_ids.h"
 #include "widgets/ui_text.h"
 
@@ -14,7 +15,6 @@ namespace quendra {
 
 namespace {
 
-constexpr NumberRange lengthRange = {2, 255};
 constexpr std::uint8_t singleCharacter = 0;
 /// A string whose length nobody has chosen yet.
 constexpr std::uint8_t stringOfAnyLength = 1;
@@ -36,7 +36,7 @@ class InputDialog : public ParameterDialog {
         prompt_->setBytes(promptOf(fields()));
         const std::uint8_t length = fields().maxLength;
         (length == singleCharacter ? character_ : string_)->setChecked(true);
-        length_->setNumber(length < lengthRange.smallest ? lengthRange.largest : length);
+        length_->setNumber(length < inputLengthRange.smallest ? inputLengthRange.largest : length);
         enableLength();
         hide_->setChecked(fields().hidden != 0);
         // A damaged file may hold another kind: then none is shown, and none is stored.
@@ -78,7 +78,7 @@ class InputDialog : public ParameterDialog {
     void addLength() {
         character_ = named(new QRadioButton(text(textid::inputCharacter).trimmed()), "character");
         string_ = named(new QRadioButton(text(textid::inputString).trimmed()), "string");
-        length_ = named(new SpinEdit(lengthRange), "maximumLength");
+        length_ = named(new SpinEdit(inputLengthRange), "maximumLength");
         lengthLabel_ = makeLabel("maximumLengthLabel", text(textid::inputLength), length_);
         body().addSpacing(4);
         body().addWidget(character_);

@@ -2,20 +2,15 @@
 
 #include "text/text_ids.h"
 #include "widgets/input_note.h"
-#include "widgets/mnemonics.h"
-#include "widgets/placement.h"
 #include "widgets/symbol_icon.h"
 #include "widgets/ui_text.h"
 
-#include <QAccessible>
 #include <QApplication>
 #include <QDialogButtonBox>
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPainter>
-#include <QPushButton>
-#include <QShowEvent>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -66,12 +61,9 @@ void selectAllText(QWidget* field) {
 
 ParameterDialog::ParameterDialog(const DialogContext& context, const EditTarget& target,
                                  const char* name, std::string_view helpPage)
-    : QDialog(context.window), context_(context), target_(target) {
-    setObjectName(QLatin1String(name));
-    setProperty("helpPage", qtText(helpPage));
-    // The editor waits for the dialog, the help window stays usable.
-    setWindowModality(Qt::WindowModal);
-
+    : DialogFrame(context.state.language, context.window, name, helpPage),
+      context_(context),
+      target_(target) {
     picture_ = new CommandPicture(bitmapIdOf(fields().code, fields().commandId));
     picture_->setObjectName(QStringLiteral("commandPicture"));
     body_ = new QVBoxLayout;
@@ -89,19 +81,14 @@ ParameterDialog::ParameterDialog(const DialogContext& context, const EditTarget&
     all->setSizeConstraint(QLayout::SetFixedSize);
 }
 
-QString ParameterDialog::text(StringId id) const {
-    return qtText(libraryText(context_.state.language, id));
-}
-
 // A note that comes up must not make the dialog wider.
 int ParameterDialog::widestNote() const {
-    LanguageLibrary& language = context_.state.language;
     int widest = 0;
     for (const InputFault& fault :
          {InputFault{InputFault::Kind::Character, QStringLiteral("W")},
           InputFault{InputFault::Kind::Length, {}, maxPromptLength},
           InputFault{InputFault::Kind::HiddenLength, {}, maxHiddenTextLength}}) {
-        widest = std::max(widest, fontMetrics().horizontalAdvance(faultNote(language, fault)));
+        widest = std::max(widest, fontMetrics().horizontalAdvance(faultNote(language(), fault)));
     }
     return widest;
 }
@@ -138,21 +125,8 @@ void ParameterDialog::setPicture(int bitmapId) {
 void ParameterDialog::addButtons(const QString& okText) {
     auto& all = static_cast<QVBoxLayout&>(*layout());
     if (hasTypedFields()) addNoteLine(all);
-
-    auto* ok = new QPushButton(okText);
-    ok->setObjectName(QStringLiteral("ok"));
-    auto* cancel = new QPushButton(text(textid::cancelButton));
-    cancel->setObjectName(QStringLiteral("cancel"));
-    auto* buttons = new QDialogButtonBox;
-    buttons->setObjectName(QStringLiteral("buttons"));
-    buttons->addButton(ok, QDialogButtonBox::AcceptRole);
-    buttons->addButton(cancel, QDialogButtonBox::RejectRole);
-    connect(buttons, &QDialogButtonBox::accepted, this, &ParameterDialog::accept);
-    connect(buttons, &QDialogButtonBox::rejected, this, &ParameterDialog::reject);
-    all.addWidget(buttons);
-    // Not before the button is in the dialog, which would else take the first one, such as Browse.
-    ok->setDefault(true);
-    actAtOnceOnMnemonics(*this);
+    all.addWidget(makeButtons(okText));
+    finish();
 }
 
 bool ParameterDialog::hasTypedFields() const {
@@ -163,12 +137,12 @@ bool ParameterDialog::hasTypedFields() const {
 }
 
 void ParameterDialog::addNoteLine(QBoxLayout& all) {
-    note_ = makeLabel("note", {});
+    QLabel* note = makeNote();
     // One line always stays free for it, so that the fields do not move while something is typed.
-    note_->setMinimumHeight(fontMetrics().lineSpacing());
+    note->setMinimumHeight(fontMetrics().lineSpacing());
     auto* row = new QHBoxLayout;
     row->addSpacing(pictureSide + 16);
-    row->addWidget(note_, 1);
+    row->addWidget(note, 1);
     all.addLayout(row);
 }
 
@@ -219,7 +193,7 @@ QString ParameterDialog::rangeText(const QWidget* field) const {
     const NumberRange* range = nullptr;
     if (const auto* number = qobject_cast<const NumberEdit*>(field)) range = &number->range();
     if (const auto* spin = qobject_cast<const SpinEdit*>(field)) range = &spin->range();
-    return range == nullptr ? QString() : rangeNote(context_.state.language, *range);
+    return range == nullptr ? QString() : rangeNote(language(), *range);
 }
 
 void ParameterDialog::showRange() {
@@ -228,37 +202,22 @@ void ParameterDialog::showRange() {
 
 void ParameterDialog::showFault(const QWidget* field, const InputFault& fault) {
     const bool isNumber = fault.kind == InputFault::Kind::Number;
-    showNote(isNumber ? rangeText(field) : faultNote(context_.state.language, fault));
+    showNote(isNumber ? rangeText(field) : faultNote(language(), fault));
     QApplication::beep();
-}
-
-void ParameterDialog::showNote(const QString& note) {
-    if (note_ == nullptr || note_->text() == note) return;
-    note_->setText(note);
-    QAccessibleEvent changed(note_, QAccessible::NameChanged);
-    QAccessible::updateAccessibility(&changed);
 }
 
 bool ParameterDialog::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::FocusIn) showNote(rangeText(qobject_cast<QWidget*>(watched)));
-    return QDialog::eventFilter(watched, event);
+    return DialogFrame::eventFilter(watched, event);
 }
 
-void ParameterDialog::focusFirstField() {
+void ParameterDialog::focusFirst() {
     const auto first = std::find_if(fields_.begin(), fields_.end(), [this](const QWidget* field) {
         return field->isVisibleTo(this) && field->isEnabledTo(this);
     });
     if (first == fields_.end()) return;
     (*first)->setFocus();
     selectAllText(*first);
-}
-
-void ParameterDialog::showEvent(QShowEvent* event) {
-    if (!event->spontaneous()) {
-        focusFirstField();
-        centreOnScreen(*this);
-    }
-    QDialog::showEvent(event);
 }
 
 bool ParameterDialog::run() {
@@ -276,7 +235,7 @@ void ParameterDialog::accept() {
         return;
     }
     store();
-    QDialog::accept();
+    DialogFrame::accept();
 }
 
 Refusal ParameterDialog::refusal(QWidget* field, const QString& text, const QString& caption) {
@@ -293,7 +252,7 @@ Refusal ParameterDialog::outOfRange(const SpinEdit* field, const QString& label,
                                     const QString& caption) const {
     const NumberRange& range = field->range();
     const std::string text =
-        libraryText(context_.state.language, textid::numberOutOfRange,
+        libraryText(language(), textid::numberOutOfRange,
                     {plainLabel(label).toStdString(), std::to_string(range.smallest),
                      std::to_string(range.largest)});
     return refusal(const_cast<SpinEdit*>(field), qtText(text), caption);

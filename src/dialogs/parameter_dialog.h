@@ -4,13 +4,12 @@
 #pragma once
 
 #include "dialogs/parameter_dialogs.h"
+#include "widgets/dialog_frame.h"
 #include "widgets/input_fault.h"
 #include "widgets/message_box.h"
 #include "widgets/number_edit.h"
 #include "widgets/prompt_edit.h"
 #include "widgets/text_edit.h"
-
-#include <QDialog>
 
 #include <memory>
 #include <optional>
@@ -31,11 +30,10 @@ struct Refusal {
     QWidget* field = nullptr;
 };
 
-/// A modal dialog with the command's picture at the top left, the fields beside it, one line for
-/// notes where something is typed, and OK and Cancel. Return is OK, Escape is Cancel. A derived
-/// class builds its fields in its constructor, each through add...() or named(), and ends that with
-/// addButtons().
-class ParameterDialog : public QDialog {
+/// A dialog with the command's picture at the top left, the fields beside it, one line for notes
+/// where something is typed, and OK and Cancel. A derived class builds its fields in its
+/// constructor, each through add...() or named(), and ends that with addButtons().
+class ParameterDialog : public DialogFrame {
     Q_OBJECT
 
   public:
@@ -57,16 +55,12 @@ class ParameterDialog : public QDialog {
     void accept() override;
 
   protected:
-    void showEvent(QShowEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
     [[nodiscard]] const DialogContext& context() const { return context_; }
     [[nodiscard]] const EditTarget& target() const { return target_; }
     /// The slot that this dialog edits.
     [[nodiscard]] SlotFields fields() const { return slotFields(target_.entry, target_.slot); }
-
-    /// A text of the language library.
-    [[nodiscard]] QString text(StringId id) const;
 
     /// Where the fields go, from top to bottom.
     [[nodiscard]] QVBoxLayout& body() { return *body_; }
@@ -107,7 +101,6 @@ class ParameterDialog : public QDialog {
 
     /// Tells the user and moves the focus to the field.
     void refuse(const Refusal& refusal);
-    void showNote(const QString& note);
 
   private:
     void registerField(QWidget* field, const char* name);
@@ -117,12 +110,11 @@ class ParameterDialog : public QDialog {
     void showRange();
     [[nodiscard]] QString rangeText(const QWidget* field) const;
     [[nodiscard]] int widestNote() const;
-    void focusFirstField();
+    void focusFirst() override;
 
     DialogContext context_;
     EditTarget target_;
     QVBoxLayout* body_ = nullptr;
-    QLabel* note_ = nullptr;
     QWidget* picture_ = nullptr;
     std::vector<QWidget*> fields_;
 };

@@ -3,6 +3,7 @@
 
 #include "dialogs/command_dialogs.h"
 #include "dialogs/transfer/transfer_sheet_page.h"
+#include "model/menu_commands.h"
 
 namespace quendra {
 
@@ -16,42 +17,42 @@ bool startsFromOwnSettings(const ApplicationState& state, const EditTarget& targ
     return existingEntry || slotFields(target.entry, target.slot).transferSettings != blank;
 }
 
-bool editTransfer(const DialogContext& context, const EditTarget& target) {
-    const SlotFields fields = slotFields(target.entry, target.slot);
+// Actions never nest: Wait_For as what a Watch_For does is the one action with a text of its own.
+bool editActionOwner(const DialogContext& context, const EditTarget& target) {
+    const CommandCode code = slotFields(target.entry, target.slot).code;
+    if (target.slot != Slot::Entry) {
+        const bool watched =
+            code == CommandCode::WaitFor && target.entry.code == CommandCode::WatchFor;
+        return !watched || editWatchedWaitFor(context, target.entry);
+    }
+    if (code == CommandCode::WaitFor) return editWaitFor(context, target.entry);
+    if (code == CommandCode::IfInputIs) return editIfInputIs(context, target.entry);
+    return editWatchFor(context, target.entry);
+}
+
+}  // namespace
+
+bool editTransfer(const DialogContext& context, const SlotFields& fields,
+                  TransferDirection direction) {
     TransferInputs& working = context.state.workingTransfer;
-    if (startsFromOwnSettings(context.state, target)) working.settings = fields.transferSettings;
     working.host = fields.transferHost;
-    working.direction =
-        fields.commandId == sendFileCommand ? TransferDirection::Send : TransferDirection::Receive;
+    working.direction = direction;
     std::uint8_t host = fields.transferHost;
-    if (!editTransferSettings(context.state, context.window, host, working.direction)) return false;
+    if (!editTransferSettings(context.state, context.window, host, direction)) return false;
     working.host = host;
     fields.transferHost = host;
     fields.transferSettings = working.settings;
     return true;
 }
 
-// Actions never nest: Wait_For as what a Watch_For does is the one action with a text of its own.
-bool editActionOwner(const DialogContext& context, const EditTarget& target) {
-    const bool isEntry = target.slot == Slot::Entry;
-    switch (slotFields(target.entry, target.slot).code) {
-        case CommandCode::WaitFor:
-            if (isEntry) return editWaitFor(context, target.entry);
-            if (target.entry.commandCode != CommandCode::WatchFor) return true;
-            return editWatchedWaitFor(context, target.entry);
-        case CommandCode::IfInputIs: return !isEntry || editIfInputIs(context, target.entry);
-        case CommandCode::WatchFor: return !isEntry || editWatchFor(context, target.entry);
-        default: return true;
-    }
-}
-
-}  // namespace
-
 bool editParameters(const DialogContext& context, const EditTarget& target) {
     const SlotFields fields = slotFields(target.entry, target.slot);
     if (ownsActions(fields.code)) return editActionOwner(context, target);
     if (fields.code == CommandCode::MenuCommand && isFileTransfer(fields.commandId)) {
-        return editTransfer(context, target);
+        if (startsFromOwnSettings(context.state, target)) {
+            context.state.workingTransfer.settings = fields.transferSettings;
+        }
+        return editTransfer(context, fields, transferDirection(fields.commandId));
     }
     const auto dialog = makeCommandDialog(context, target);
     return dialog == nullptr || dialog->run();

@@ -31,6 +31,11 @@ struct DialogContext {
 /// edits the state's working settings and takes them over on OK.
 [[nodiscard]] bool editParameters(const DialogContext& context, const EditTarget& target);
 
+/// The pages of a file transfer, on the state's working settings as they are; true on OK, when the
+/// slot holds them and their host.
+[[nodiscard]] bool editTransfer(const DialogContext& context, const SlotFields& fields,
+                                TransferDirection direction);
+
 /// The dialogs of the three commands that carry actions; editParameters opens them for an entry.
 [[nodiscard]] bool editWaitFor(const DialogContext& context, ScriptEntry& entry);
 [[nodiscard]] bool editIfInputIs(const DialogContext& context, ScriptEntry& entry);

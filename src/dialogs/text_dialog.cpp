@@ -19,8 +19,26 @@ StringId labelOf(CommandCode code) {
         case CommandCode::Label: return textid::labelLabel;
         case CommandCode::Message: return textid::messageLabel;
         case CommandCode::ExpressLogon: return textid::expressLogonLabel;
-        default: return textid::typeLabel;
+        case CommandCode::Type: return textid::typeLabel;
+        case CommandCode::None:
+        case CommandCode::LuFunction:
+        case CommandCode::MenuCommand:
+        case CommandCode::Beep:
+        case CommandCode::ClearWatch:
+        case CommandCode::Input:
+        case CommandCode::IfInputIs:
+        case CommandCode::Return:
+        case CommandCode::Run:
+        case CommandCode::SetCursor:
+        case CommandCode::Wait:
+        case CommandCode::WaitFor:
+        case CommandCode::WaitReady:
+        case CommandCode::WaitUntil:
+        case CommandCode::WatchFor:
+        case CommandCode::Copy:
+        case CommandCode::Paste: break;
     }
+    return 0;
 }
 
 class TextDialog : public ParameterDialog {

@@ -2,6 +2,7 @@
 // a Watch_For it has the text and the search options only.
 #include "dialogs/action_pair.h"
 #include "dialogs/parameter_dialog.h"
+#include "model/entry_fields.h"
 #include "text/text_ids.h"
 
 #include <QCheckBox>
@@ -21,8 +22,6 @@ namespace {
 constexpr ActionTexts foundTexts = {textid::foundButton, textid::foundLine};
 constexpr ActionTexts notFoundTexts = {textid::notFoundButton, textid::notFoundLine};
 
-constexpr NumberRange rowRange = {1, 62};
-constexpr NumberRange columnRange = {1, 160};
 constexpr NumberRange secondsRange = {0, 255};
 
 // A position from a foreign file that lies outside is offered too, so that OK does not change what
@@ -101,8 +100,8 @@ class WaitForDialog : public ParameterDialog {
         const ScriptEntry& entry = target().entry;
         QGroupBox* group = makeGroup("findGroup", textid::waitForFindText);
         auto* grid = new QGridLayout(group);
-        row_ = named(new SpinEdit(widened(rowRange, entry.searchRow)), "row");
-        column_ = named(new SpinEdit(widened(columnRange, entry.searchColumn)), "column");
+        row_ = named(new SpinEdit(widened(searchRowRange, entry.searchRow)), "row");
+        column_ = named(new SpinEdit(widened(searchColumnRange, entry.searchColumn)), "column");
         exact_ = named(new QCheckBox(text(textid::waitForExactPosition)), "exactPosition");
         case_ = named(new QCheckBox(text(textid::waitForCaseSensitive)), "caseSensitive");
         grid->addWidget(makeLabel("startLabel", text(textid::waitForStartPosition)), 0, 0, 1, 5);

@@ -1,29 +1,33 @@
 #include "forms/json_names.h"
 
-namespace quendra::cli {
+#include <algorithm>
+#include <array>
+
+namespace quendra {
 
 namespace {
 
-constexpr std::string_view noneName = "None";
-constexpr std::string_view luFunctionName = "LU_Function";
-constexpr std::string_view menuCommandName = "Menu_Command";
+// What has no keyword: no Script Event is called so.
+struct CommandName {
+    CommandCode code;
+    std::string_view name;
+};
+constexpr std::array otherNames = {
+    CommandName{CommandCode::None, "None"},
+    CommandName{CommandCode::LuFunction, "LU_Function"},
+    CommandName{CommandCode::MenuCommand, "Menu_Command"},
+};
 
 }  // namespace
 
 std::string_view jsonCommandName(CommandCode code) {
-    switch (code) {
-        case CommandCode::None: return noneName;
-        case CommandCode::LuFunction: return luFunctionName;
-        case CommandCode::MenuCommand: return menuCommandName;
-        default: return commandKeyword(code);
-    }
+    const auto* row = std::ranges::find(otherNames, code, &CommandName::code);
+    return row == otherNames.end() ? commandKeyword(code) : row->name;
 }
 
 std::optional<CommandCode> commandOfJsonName(std::string_view name) {
-    if (name == noneName) return CommandCode::None;
-    if (name == luFunctionName) return CommandCode::LuFunction;
-    if (name == menuCommandName) return CommandCode::MenuCommand;
-    return commandOfKeyword(name);
+    const auto* row = std::ranges::find(otherNames, name, &CommandName::name);
+    return row == otherNames.end() ? commandOfKeyword(name) : row->code;
 }
 
-}  // namespace quendra::cli
+}  // namespace quendra

@@ -1,41 +1,23 @@
 // From the JSON form of a script to the script.
 
-#include "forms/json_layout.h"
 #include "forms/json_names.h"
 #include "forms/object_reader.h"
 #include "forms/script_json.h"
-#include "forms/transfer_json.h"
+#include "model/entry_fields.h"
 #include "scriptfile/entry_codec.h"
 #include "scriptfile/script_reader.h"
 #include "scriptfile/script_writer.h"
 
 #include <algorithm>
 #include <chrono>
+#include <limits>
 #include <utility>
 
-namespace quendra::cli {
+namespace quendra {
 
 namespace {
 
 using Json = nlohmann::ordered_json;
-
-// What a new entry of the command starts from; all else is empty or 0.
-void setDefaults(ScriptEntry& entry, Slot slot) {
-    const SlotFields f = slotFields(entry, slot);
-    switch (f.code) {
-        case CommandCode::Wait: f.number = 3; break;
-        case CommandCode::WaitReady: f.number = 1; break;
-        case CommandCode::Input: f.maxLength = 255; break;
-        case CommandCode::Copy: f.area = packArea({1, 1, 24, 80}); break;
-        case CommandCode::Paste: f.area = packArea({1, 1, 0, 0}); break;
-        case CommandCode::WaitFor:
-            entry.searchRow = 1;
-            entry.searchColumn = 1;
-            entry.caseSensitive = 1;
-            break;
-        default: break;
-    }
-}
 
 // A date typed by hand need not say which day of the week it is.
 std::uint16_t dayOfWeek(const DateTime& date) {
@@ -52,35 +34,21 @@ class EntryReader {
 
     void slot(ScriptEntry& entry, Slot slot);
 
-    void byte(const char* name, std::uint8_t& value) { object_.number(name, value); }
-    void word(const char* name, std::uint32_t& value) { object_.number(name, value); }
-    void flag(const char* name, auto& value) { object_.flag(name, value); }
-    void variable(const char* name, std::uint8_t& kind);
-    void text(const SlotFields& f) {
-        if (const auto text = object_.text("text", maxTextLength)) setText(f, *text);
-    }
-    void prompt(const SlotFields& f) {
-        if (const auto prompt = object_.text("prompt", maxPromptLength)) setPrompt(f, *prompt);
-    }
-    void compareText(ScriptEntry& entry) {
-        const auto text = object_.text("compareText", maxTextLength);
-        if (text) setCompareText(entry, *text);
-    }
-    void typeText(const SlotFields& f);
-    void dateTime(const char* name, DateTime& value);
-    void area(const SlotFields& f);
-    void luKey(std::uint8_t& group, std::uint8_t& number);
-    void menuCommand(std::uint32_t& commandId);
-    void transfer(const SlotFields& f);
-    void noTimeout();
-    void action(const char* name, ScriptEntry& entry, Slot which);
-    void foreignAction(const SlotFields& f);
-
   private:
-    void sealedText(const SlotFields& f);
-    void require(const char* name) {
-        if (!object_.find(name)) object_.fail(name, "is missing");
-    }
+    void names(const ScriptEntry& entry, Slot slot);
+    void fields(ScriptEntry& entry, Slot slot);
+    void group(ScriptEntry& entry, Slot slot, std::span<const EntryField> fields);
+    void field(ScriptEntry& entry, Slot slot, const EntryField& field);
+    void text(ScriptEntry& entry, Slot slot, const EntryField& field);
+    void typedText(ScriptEntry& entry, Slot slot, const EntryField& field);
+    void variable(ScriptEntry& entry, Slot slot, const EntryField& field);
+    void area(Step& step, const EntryField& field);
+    void set(ScriptEntry& entry, Slot slot, const EntryField& field, const FieldValue& value);
+    void sealedText(Step& step);
+    void transferBlock(FileTransferSettings& settings);
+    void noTimeout();
+    void action(ScriptEntry& entry, Slot which);
+    void foreignAction(Step& step);
 
     ObjectReader& object_;
     HostType hostType_;
@@ -96,131 +64,212 @@ void EntryReader::slot(ScriptEntry& entry, Slot slot) {
         return;
     }
     setCode(slotFields(entry, slot), *code);
-    setDefaults(entry, slot);
-    json_layout::fieldsAfterCommand(*this, entry, slot);
+    if (isForeignAction(entry, slot)) {
+        foreignAction(slotFields(entry, slot));
+    } else {
+        fields(entry, slot);
+    }
+    if (slot == Slot::Entry) {
+        for (const Slot which : slotsOf(entry).subspan(1))
+            action(entry, which);
+        if (*code == CommandCode::WaitFor && entry.hasTimeout == 0) noTimeout();
+    }
     object_.finish();
 }
 
-void EntryReader::variable(const char* name, std::uint8_t& kind) {
-    const Json* value = object_.find(name);
-    if (!value) return;
-    if (!value->is_string()) return object_.number(name, kind);
-    const auto* found = std::ranges::find(inputVariableNames, value->get_ref<const std::string&>());
-    if (found == inputVariableNames.end()) return object_.fail(name, "is not a variable");
-    kind = static_cast<std::uint8_t>(found - inputVariableNames.begin());
+// What a key or a menu command is cannot be left out.
+void EntryReader::names(const ScriptEntry& entry, Slot slot) {
+    for (const EntryField& field : fieldsOf(entry, slot)) {
+        if (field.kind != FieldKind::KeyPart && field.kind != FieldKind::MenuCode) continue;
+        if (!object_.find(field.name)) object_.fail(field.name, "is missing");
+        // For readers only: the same key has other names on other host types.
+        static_cast<void>(object_.find("name"));
+    }
 }
 
-void EntryReader::sealedText(const SlotFields& f) {
+void EntryReader::fields(ScriptEntry& entry, Slot slot) {
+    names(entry, slot);
+    // Asked again for each: what one says may add others behind it.
+    for (std::size_t i = 0; i < fieldsOf(entry, slot).size();) {
+        const auto rest = fieldsOf(entry, slot).subspan(i);
+        const EntryField& first = rest.front();
+        const auto end = std::ranges::find_if(
+            rest, [&](const EntryField& other) { return other.group != first.group; });
+        const auto size = first.group.empty() ? 1 : static_cast<std::size_t>(end - rest.begin());
+        const std::string_view name = first.group.empty() ? first.name : first.group;
+        if (hostType_ == HostType::VT && !first.inVt) {
+            if (object_.find(name)) object_.fail(name, "a VT script stores none");
+        } else {
+            for (const EntryField& each : rest.first(size))
+                set(entry, slot, each, initialValue(each));
+            if (first.group.empty()) {
+                field(entry, slot, first);
+            } else {
+                group(entry, slot, rest.first(size));
+            }
+        }
+        i += size;
+    }
+}
+
+void EntryReader::group(ScriptEntry& entry, Slot slot, std::span<const EntryField> fields) {
+    const std::string name(fields.front().group);
+    const Json* value = object_.find(fields.front().group);
+    if (!value) return;
+    ObjectReader object(*value, object_.place() + ", " + name, object_.refusal());
+    EntryReader reader(object, hostType_);
+    Step& step = slotFields(entry, slot);
+    if (name == transferSettingsGroup) reader.transferBlock(step.transferSettings);
+    for (const EntryField& field : fields)
+        reader.field(entry, slot, field);
+    if (name == waitUntilGroup && !object.find("dayOfWeek")) {
+        step.waitUntil.dayOfWeek = dayOfWeek(step.waitUntil);
+    }
+    object.finish();
+}
+
+// A field that was left out keeps its value.
+void EntryReader::field(ScriptEntry& entry, Slot slot, const EntryField& field) {
+    switch (field.kind) {
+        case FieldKind::Text:
+        case FieldKind::FileName:
+        case FieldKind::Password: return text(entry, slot, field);
+        case FieldKind::TypedText: return typedText(entry, slot, field);
+        case FieldKind::Variable: return variable(entry, slot, field);
+        case FieldKind::Area: return area(slotFields(entry, slot), field);
+        case FieldKind::Number:
+        case FieldKind::Position:
+        case FieldKind::DatePart:
+        case FieldKind::Flag:
+        case FieldKind::Choice:
+        case FieldKind::KeyPart:
+        case FieldKind::MenuCode: break;
+    }
+    const std::uint32_t largest = largestStored(entry, slot, field);
+    const auto number = object_.number(field.name, largest, field.kind == FieldKind::Flag);
+    if (number) set(entry, slot, field, *number);
+}
+
+void EntryReader::text(ScriptEntry& entry, Slot slot, const EntryField& field) {
+    const auto stored = std::get<std::string_view>(fieldValue(entry, slot, field));
+    const std::size_t longest = largestStored(entry, slot, field);
+    const auto text = object_.text(field.name, std::max(longest, stored.size()));
+    // A text that says what the block says already leaves the bytes behind it alone, and may fill
+    // its field to the last.
+    if (text && *text != stored) set(entry, slot, field, *text);
+}
+
+// Whether it is hidden, which stands behind it, decides what the text may be.
+void EntryReader::typedText(ScriptEntry& entry, Slot slot, const EntryField& field) {
+    Step& step = slotFields(entry, slot);
+    step.hidden = static_cast<std::uint8_t>(object_.number("hidden", 255, true).value_or(0));
+    if (object_.find("sealed")) return sealedText(step);
+    const Json* value = object_.find(field.name);
+    if (isHiddenText(step) && value && value->is_null()) {
+        return object_.fail(field.name,
+                            "a hidden text is missing: show it with --reveal, or type it");
+    }
+    text(entry, slot, field);
+}
+
+void EntryReader::sealedText(Step& step) {
     auto sealed = object_.bytes("sealed");
     const Json* text = object_.find("text");
     if (text && !text->is_null()) object_.fail("text", "must be null beside \"sealed\"");
-    if (f.hidden != 1) object_.fail("sealed", "only a hidden text is sealed");
+    if (!isHiddenText(step)) object_.fail("sealed", "only a hidden text is sealed");
     if (sealed && sealed->size() > maxTextLength) {
         object_.fail("sealed", "has more than " + std::to_string(maxTextLength) + " bytes");
     }
-    f.kept = std::move(sealed);
+    step.kept = std::move(sealed);
 }
 
-void EntryReader::typeText(const SlotFields& f) {
-    flag("hidden", f.hidden);
-    if (object_.find("sealed")) return sealedText(f);
-    const Json* value = object_.find("text");
-    if (f.hidden != 0 && value && value->is_null()) {
-        return object_.fail("text", "a hidden text is missing: show it with --reveal, or type it");
+void EntryReader::variable(ScriptEntry& entry, Slot slot, const EntryField& field) {
+    const Json* value = object_.find(field.name);
+    if (!value) return;
+    if (!value->is_string()) {
+        const std::uint32_t largest = largestStored(entry, slot, field);
+        return set(entry, slot, field, object_.wholeNumber(field.name, *value, largest));
     }
-    const auto text = object_.text("text", f.hidden == 1 ? maxHiddenTextLength : maxTextLength);
-    if (!text) return;
-    if (f.hidden == 1 && text->find('\0') != std::string::npos) {
-        return object_.fail("text", "a hidden text cannot hold a NUL");
-    }
-    setText(f, *text);
+    const auto* found = std::ranges::find(inputVariableNames, value->get_ref<const std::string&>());
+    if (found == inputVariableNames.end()) return object_.fail(field.name, "is not a variable");
+    set(entry, slot, field, static_cast<std::uint32_t>(found - inputVariableNames.begin()));
 }
 
-void EntryReader::dateTime(const char* name, DateTime& value) {
-    const Json* date = object_.find(name);
-    if (!date) return;
-    ObjectReader fields(*date, object_.place() + ", " + name, object_.refusal());
-    fields.number("year", value.year);
-    fields.number("month", value.month);
-    fields.number("day", value.day);
-    value.dayOfWeek = dayOfWeek(value);
-    fields.number("dayOfWeek", value.dayOfWeek);
-    fields.number("hour", value.hour);
-    fields.number("minute", value.minute);
-    fields.number("second", value.second);
-    fields.number("milliseconds", value.milliseconds);
-    fields.finish();
-}
-
-void EntryReader::area(const SlotFields& f) {
+void EntryReader::area(Step& step, const EntryField& field) {
+    constexpr std::uint32_t largestPacked = std::numeric_limits<std::uint32_t>::max();
     const Json* area = object_.find("area");
-    if (!area) return word("commandId", f.area);
-    if (object_.find("commandId")) return object_.fail("area", "stands beside \"commandId\"");
-    const std::size_t count = f.code == CommandCode::Copy ? 4 : 2;
+    const auto packed = object_.number(field.name, largestPacked);
+    if (!area) {
+        step.area = packed.value_or(step.area);
+        return;
+    }
+    if (packed) return object_.fail("area", "stands beside \"commandId\"");
+    const std::size_t count = step.code == CommandCode::Copy ? 4 : 2;
     if (!area->is_array() || area->size() != count) {
         return object_.fail("area", "must be a list of " + std::to_string(count) + " numbers");
     }
     std::array<std::uint8_t, 4> places{};
     for (std::size_t i = 0; i < count; ++i) {
-        places[i] = static_cast<std::uint8_t>(object_.wholeNumber("area", (*area)[i], 255, false));
+        places[i] = static_cast<std::uint8_t>(object_.wholeNumber("area", (*area)[i], 255));
     }
-    f.area = packArea({places[0], places[1], places[2], places[3]});
+    step.area = packArea({places[0], places[1], places[2], places[3]});
 }
 
-void EntryReader::luKey(std::uint8_t& group, std::uint8_t& number) {
-    require("group");
-    require("number");
-    byte("group", group);
-    byte("number", number);
-    // For readers only: the same key has other names on other host types.
-    static_cast<void>(object_.find("name"));
-}
-
-void EntryReader::menuCommand(std::uint32_t& commandId) {
-    require("commandId");
-    word("commandId", commandId);
-    static_cast<void>(object_.find("name"));
-}
-
-void EntryReader::transfer(const SlotFields& f) {
-    const Json* host = object_.find("transferHost");
-    const Json* settings = object_.find("transferSettings");
-    if (hostType_ == HostType::VT) {
-        if (host) object_.fail("transferHost", "a VT script stores none");
-        if (settings) object_.fail("transferSettings", "a VT script stores none");
-        return;
+void EntryReader::set(ScriptEntry& entry, Slot slot, const EntryField& field,
+                      const FieldValue& value) {
+    switch (setField(entry, slot, field, value)) {
+        case FieldRefusal::None: break;
+        case FieldRefusal::WrongType:
+            object_.fail(field.name, "holds another kind of value");
+            break;
+        case FieldRefusal::TooLarge:
+            object_.fail(field.name, "is longer than " +
+                                         std::to_string(largestStored(entry, slot, field)) +
+                                         " characters");
+            break;
+        case FieldRefusal::HoldsNul:
+            object_.fail(field.name, field.kind == FieldKind::TypedText
+                                         ? "a hidden text cannot hold a NUL"
+                                         : "holds a NUL");
+            break;
     }
-    byte("transferHost", f.transferHost);
-    f.transferSettings = defaultTransferSettings();
-    if (!settings) return;
-    ObjectReader fields(*settings, object_.place() + ", transferSettings", object_.refusal());
-    f.transferSettings = transferSettingsOfJson(fields);
+}
+
+// The bytes that the fields do not tell, before these are taken.
+void EntryReader::transferBlock(FileTransferSettings& settings) {
+    const auto block = object_.bytes(transferBlockName);
+    if (!block) return;
+    if (block->size() == settings.bytes.size()) {
+        std::ranges::copy(*block, settings.bytes.begin());
+    } else {
+        object_.fail(transferBlockName, "must have 933 bytes");
+    }
 }
 
 void EntryReader::noTimeout() {
-    std::uint8_t seconds = 0;
-    byte("timeoutSeconds", seconds);
+    const std::uint32_t seconds = object_.number("timeoutSeconds", 255).value_or(0);
     ScriptEntry unused;
-    action("then", unused, Slot::Then);
-    action("else", unused, Slot::Else);
+    action(unused, Slot::Then);
+    action(unused, Slot::Else);
     constexpr const char* reason = "a Wait_For has it only when hasTimeout is true";
     if (seconds != 0) object_.fail("timeoutSeconds", reason);
-    if (unused.thenCode != CommandCode::None) object_.fail("then", reason);
-    if (unused.elseCode != CommandCode::None) object_.fail("else", reason);
+    if (unused.thenAction.code != CommandCode::None) object_.fail("then", reason);
+    if (unused.elseAction.code != CommandCode::None) object_.fail("else", reason);
 }
 
-void EntryReader::action(const char* name, ScriptEntry& entry, Slot which) {
-    const Json* value = object_.find(name);
+void EntryReader::action(ScriptEntry& entry, Slot which) {
+    const std::string name(slotName(which));
+    const Json* value = object_.find(slotName(which));
     if (!value) return;
     ObjectReader fields(*value, object_.place() + ", " + name + " action", object_.refusal());
     EntryReader(fields, hostType_).slot(entry, which);
 }
 
 // The record is proved to be one when the entry is stored.
-void EntryReader::foreignAction(const SlotFields& f) {
+void EntryReader::foreignAction(Step& step) {
     auto record = object_.bytes("record");
     if (!record) object_.fail("command", "cannot be an action");
-    f.kept = std::move(record);
+    step.kept = std::move(record);
 }
 
 // True when the stored entry holds the records of its foreign actions as they were given, and can
@@ -230,8 +279,7 @@ bool keptRecordsAreWhole(const ScriptEntry& entry, const EntryHandle& stored,
     const ScriptEntry unpacked = unpackEntry(stored, cipher);
     for (const Slot slot : {Slot::Then, Slot::Else}) {
         const ConstSlotFields given = slotFields(entry, slot);
-        const bool isForeign =
-            ownsActions(entry.commandCode) && layout::isForeignAction(entry, slot, given.code);
+        const bool isForeign = ownsActions(entry.code) && isForeignAction(entry, slot);
         if (isForeign && slotFields(unpacked, slot).kept != given.kept) return false;
     }
     Script alone;
@@ -249,7 +297,7 @@ EntryHandle entryOfJson(const Json& value, const std::string& place, HostType ho
     PackResult packed = packEntry(entry, cipher);
     if (!packed.ok()) {
         object.fail("", "its hidden text cannot be enciphered");
-    } else if ((entry.thenKept || entry.elseKept) &&
+    } else if ((entry.thenAction.kept || entry.elseAction.kept) &&
                !keptRecordsAreWhole(entry, packed.entry, cipher)) {
         object.fail("", "the record of an action is damaged");
     }
@@ -290,4 +338,4 @@ ScriptOfJson scriptOfJson(const Json& form, const HiddenTextCipher& cipher) {
     return result;
 }
 
-}  // namespace quendra::cli
+}  // namespace quendra

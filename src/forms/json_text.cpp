@@ -10,7 +10,7 @@
 #include <string_view>
 #include <vector>
 
-namespace quendra::cli {
+namespace quendra {
 
 namespace {
 
@@ -131,4 +131,4 @@ std::string printJson(const nlohmann::ordered_json& value) {
     return printed;
 }
 
-}  // namespace quendra::cli
+}  // namespace quendra

@@ -7,7 +7,7 @@
 #include <span>
 #include <string>
 
-namespace quendra::cli {
+namespace quendra {
 
 /// A parsed text, or why it was refused, with the place.
 struct ParsedJson {
@@ -23,4 +23,4 @@ struct ParsedJson {
 /// The value over several lines, in UTF-8 without raw control characters.
 [[nodiscard]] std::string printJson(const nlohmann::ordered_json& value);
 
-}  // namespace quendra::cli
+}  // namespace quendra

@@ -1,20 +1,18 @@
 // From a script to its JSON form.
 
-#include "forms/base64.h"
-#include "forms/json_layout.h"
 #include "forms/json_names.h"
 #include "forms/json_text.h"
 #include "forms/script_json.h"
-#include "forms/transfer_json.h"
+#include "model/entry_fields.h"
 #include "scriptfile/entry_codec.h"
+#include "text/base64.h"
 #include "text/text_encoding.h"
 
-#include <array>
 #include <nlohmann/json.hpp>
 #include <ostream>
 #include <utility>
 
-namespace quendra::cli {
+namespace quendra {
 
 namespace {
 
@@ -24,80 +22,84 @@ Json jsonOfFlag(std::uint32_t value) {
     return value <= 1 ? Json(value == 1) : Json(value);
 }
 
+Json jsonOfVariable(std::uint32_t kind) {
+    return kind < inputVariableNames.size() ? Json(inputVariableNames[kind]) : Json(kind);
+}
+
 class EntryWriter {
   public:
-    EntryWriter(Json& object, HostType hostType, const JsonPrinting& printing)
-        : object_(object), hostType_(hostType), printing_(printing) {}
+    EntryWriter(HostType hostType, const JsonPrinting& printing)
+        : hostType_(hostType), printing_(printing) {}
 
-    void slot(const ScriptEntry& entry, Slot slot) {
-        object_["command"] = jsonCommandName(slotFields(entry, slot).code);
-        json_layout::fieldsAfterCommand(*this, entry, slot);
-    }
-
-    void byte(const char* name, std::uint8_t value) { object_[name] = value; }
-    void word(const char* name, std::uint32_t value) { object_[name] = value; }
-    void flag(const char* name, std::uint32_t value) { object_[name] = jsonOfFlag(value); }
-    void variable(const char* name, std::uint8_t kind) {
-        const std::string_view known = inputVariableName(kind);
-        object_[name] = known.empty() ? Json(kind) : Json(known);
-    }
-    void text(const ConstSlotFields& f) { object_["text"] = utf8FromWindows1252(textOf(f)); }
-    void prompt(const ConstSlotFields& f) { object_["prompt"] = utf8FromWindows1252(promptOf(f)); }
-    void compareText(const ScriptEntry& entry) {
-        object_["compareText"] = utf8FromWindows1252(compareTextOf(entry));
-    }
-    void typeText(const ConstSlotFields& f);
-    void dateTime(const char* name, const DateTime& value);
-    void area(const ConstSlotFields& f) { object_["commandId"] = f.area; }
-    void luKey(std::uint8_t group, std::uint8_t number);
-    void menuCommand(std::uint32_t commandId) {
-        object_["commandId"] = commandId;
-        object_["name"] = menuCommandName(printing_.menuCommands, commandId);
-    }
-    void transfer(const ConstSlotFields& f) {
-        if (hostType_ == HostType::VT) return;
-        byte("transferHost", f.transferHost);
-        object_["transferSettings"] = jsonOfTransferSettings(f.transferSettings);
-    }
-    void noTimeout() {}
-    void action(const char* name, const ScriptEntry& entry, Slot which) {
-        Json action;
-        EntryWriter(action, hostType_, printing_).slot(entry, which);
-        object_[name] = std::move(action);
-    }
-    void foreignAction(const ConstSlotFields& f) {
-        object_["record"] = base64Of(f.kept.value_or(std::vector<std::uint8_t>()));
-    }
+    [[nodiscard]] Json slot(const ScriptEntry& entry, Slot slot) const;
 
   private:
-    Json& object_;
+    [[nodiscard]] Json valueOf(const ScriptEntry& entry, Slot slot, const EntryField& field) const;
+    void addName(Json& object, const Step& step) const;
+
     HostType hostType_;
     const JsonPrinting& printing_;
 };
 
-void EntryWriter::typeText(const ConstSlotFields& f) {
-    const bool isSecret = isHiddenText(f);
-    if (f.kept || (isSecret && !printing_.reveal)) {
-        object_["text"] = nullptr;
-    } else {
-        text(f);
+// The whole block where it holds bytes that its fields do not tell: behind the NUL of a text, or of
+// a text without one.
+void addBlock(Json& settings, const FileTransferSettings& stored) {
+    FileTransferSettings told;
+    for (const TransferField& field : transferFields()) {
+        if (field.kind == TransferFieldKind::Text) {
+            setTransferText(told, field, transferText(stored, field));
+        } else {
+            setTransferNumber(told, field, transferNumber(stored, field));
+        }
     }
-    flag("hidden", f.hidden);
-    if (f.kept) object_["sealed"] = base64Of(*f.kept);
+    if (told != stored) settings[transferBlockName] = base64Of(stored.bytes);
 }
 
-void EntryWriter::dateTime(const char* name, const DateTime& value) {
-    object_[name] = {{"year", value.year},           {"month", value.month},
-                     {"dayOfWeek", value.dayOfWeek}, {"day", value.day},
-                     {"hour", value.hour},           {"minute", value.minute},
-                     {"second", value.second},       {"milliseconds", value.milliseconds}};
+Json EntryWriter::slot(const ScriptEntry& entry, Slot slot) const {
+    const Step& step = slotFields(entry, slot);
+    Json object;
+    object["command"] = jsonCommandName(step.code);
+    for (const EntryField& field : fieldsOf(entry, slot)) {
+        if (hostType_ == HostType::VT && !field.inVt) continue;
+        Json& owner = field.group.empty() ? object : object[std::string(field.group)];
+        owner[std::string(field.name)] = valueOf(entry, slot, field);
+        if (field.kind == FieldKind::MenuCode) addName(object, step);
+    }
+    if (step.code == CommandCode::LuFunction) addName(object, step);
+    if (const auto settings = object.find(std::string(transferSettingsGroup));
+        settings != object.end()) {
+        addBlock(*settings, step.transferSettings);
+    }
+    if (step.kept)
+        object[isForeignAction(entry, slot) ? "record" : "sealed"] = base64Of(*step.kept);
+    if (slot != Slot::Entry) return object;
+    for (const Slot action : slotsOf(entry).subspan(1))
+        object[std::string(slotName(action))] = this->slot(entry, action);
+    return object;
 }
 
-void EntryWriter::luKey(std::uint8_t group, std::uint8_t number) {
-    byte("group", group);
-    byte("number", number);
-    const auto name = findLuFunction(printing_.luFunctions, {group, number});
-    object_["name"] = name ? Json(*name) : Json(nullptr);
+Json EntryWriter::valueOf(const ScriptEntry& entry, Slot slot, const EntryField& field) const {
+    const FieldValue value = fieldValue(entry, slot, field);
+    if (const auto* text = std::get_if<std::string_view>(&value)) {
+        const bool isHidden = isSecret(entry, slot, field) && !printing_.reveal;
+        const bool isUntold = isHidden || slotFields(entry, slot).kept;
+        if (field.kind == FieldKind::TypedText && isUntold) return nullptr;
+        return utf8FromWindows1252(*text);
+    }
+    const std::uint32_t number = std::get<std::uint32_t>(value);
+    if (field.kind == FieldKind::Flag) return jsonOfFlag(number);
+    if (field.kind == FieldKind::Variable) return jsonOfVariable(number);
+    return number;
+}
+
+// For readers: who builds from the form goes by the numbers.
+void EntryWriter::addName(Json& object, const Step& step) const {
+    if (step.code == CommandCode::MenuCommand) {
+        object["name"] = menuCommandName(printing_.menuCommands, step.commandId);
+        return;
+    }
+    const auto name = findLuFunction(printing_.luFunctions, {step.row, step.column});
+    object["name"] = name ? Json(*name) : Json(nullptr);
 }
 
 // The text of an entry as it stands in the list of entries. Strings hold no raw line break.
@@ -113,16 +115,14 @@ void printEntry(std::ostream& out, const Json& entry) {
 void printScript(std::ostream& out, const Script& script, HostType hostType,
                  const JsonPrinting& printing) {
     out << "{\n  \"hostType\": \"" << hostTypeInfo(hostType).name << "\",\n  \"entries\": [";
+    const EntryWriter writer(hostType, printing);
     // Entry by entry: the tree of a whole script takes a hundred megabytes.
     const char* separator = "\n    ";
     for (const EntryHandle& handle : script.entries) {
-        Json entry;
-        EntryWriter(entry, hostType, printing)
-            .slot(unpackEntry(handle, printing.cipher), Slot::Entry);
         out << std::exchange(separator, ",\n    ");
-        printEntry(out, entry);
+        printEntry(out, writer.slot(unpackEntry(handle, printing.cipher), Slot::Entry));
     }
     out << (script.entries.empty() ? "]\n}" : "\n  ]\n}");
 }
 
-}  // namespace quendra::cli
+}  // namespace quendra

@@ -1,12 +1,12 @@
 #include "forms/object_reader.h"
 
-#include "forms/base64.h"
+#include "text/base64.h"
 #include "text/text_encoding.h"
 
 #include <algorithm>
 #include <utility>
 
-namespace quendra::cli {
+namespace quendra {
 
 namespace {
 
@@ -44,6 +44,13 @@ std::uint32_t ObjectReader::wholeNumber(std::string_view name, const Json& value
     return 0;
 }
 
+std::optional<std::uint32_t> ObjectReader::number(std::string_view name, std::uint32_t highest,
+                                                  bool isFlag) {
+    const Json* value = find(name);
+    if (!value) return std::nullopt;
+    return wholeNumber(name, *value, highest, isFlag);
+}
+
 std::optional<std::string> ObjectReader::text(std::string_view name, std::size_t longest) {
     const Json* value = find(name);
     if (!value) return std::nullopt;
@@ -76,4 +83,4 @@ void ObjectReader::finish() {
     }
 }
 
-}  // namespace quendra::cli
+}  // namespace quendra

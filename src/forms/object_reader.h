@@ -2,14 +2,13 @@
 #pragma once
 
 #include <cstdint>
-#include <limits>
 #include <nlohmann/json.hpp>
 #include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
-namespace quendra::cli {
+namespace quendra {
 
 /// Takes fields out of an object. The first thing that is wrong fills the refusal, which all
 /// readers of one form share, and what is taken from then on means nothing; so a form is read to
@@ -31,16 +30,10 @@ class ObjectReader {
 
     void fail(std::string_view name, std::string_view what);
 
-    /// A whole number that fits `target`, which keeps its value when the field was left out.
-    template <class Number>
-    void number(std::string_view name, Number& target) {
-        take(name, target, false);
-    }
-    /// The same, and true or false for 1 or 0.
-    template <class Number>
-    void flag(std::string_view name, Number& target) {
-        take(name, target, true);
-    }
+    /// A whole number up to `highest`, or with `isFlag` true or false for 1 or 0; none when the
+    /// field was left out.
+    [[nodiscard]] std::optional<std::uint32_t> number(std::string_view name, std::uint32_t highest,
+                                                      bool isFlag = false);
 
     /// The windows-1252 bytes of a string; none when the field was left out or is refused.
     [[nodiscard]] std::optional<std::string> text(std::string_view name, std::size_t longest);
@@ -50,24 +43,16 @@ class ObjectReader {
 
     /// A number from 0 to `highest`, which is not a field of its own.
     [[nodiscard]] std::uint32_t wholeNumber(std::string_view name, const Json& value,
-                                            std::uint32_t highest, bool isFlag);
+                                            std::uint32_t highest, bool isFlag = false);
 
     /// Refuses fields that nobody asked for.
     void finish();
 
   private:
-    template <class Number>
-    void take(std::string_view name, Number& target, bool isFlag) {
-        if (const Json* value = find(name)) {
-            target = static_cast<Number>(
-                wholeNumber(name, *value, std::numeric_limits<Number>::max(), isFlag));
-        }
-    }
-
     const Json& object_;
     std::string place_;
     std::string& refusal_;
     std::vector<std::string_view> known_;
 };
 
-}  // namespace quendra::cli
+}  // namespace quendra

@@ -5,7 +5,7 @@
 
 #include "hosts/host_type.h"
 #include "hosts/lu_catalogue.h"
-#include "model/menu_catalogue.h"
+#include "model/menu_commands.h"
 #include "model/script.h"
 #include "scriptfile/hidden_text.h"
 
@@ -13,7 +13,7 @@
 #include <nlohmann/json_fwd.hpp>
 #include <string>
 
-namespace quendra::cli {
+namespace quendra {
 
 /// What printing needs beside the script.
 struct JsonPrinting {
@@ -44,4 +44,4 @@ struct ScriptOfJson {
 [[nodiscard]] ScriptOfJson scriptOfJson(const nlohmann::ordered_json& form,
                                         const HiddenTextCipher& cipher);
 
-}  // namespace quendra::cli
+}  // namespace quendra

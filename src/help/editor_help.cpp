@@ -41,11 +41,6 @@ EditorHelp::EditorHelp(ApplicationState& state, HelpLaunchers launchers)
 
 EditorHelp::~EditorHelp() = default;
 
-HelpCommands EditorHelp::commands() {
-    return {[this] { showHelp(); },
-            [this](std::optional<CommandCode> command) { helpOn(command); }};
-}
-
 void EditorHelp::showHelp() {
     if (!showConfiguredHelp(state_.settings, launchers_)) {
         openPage(QLatin1String(Manual::startPage));

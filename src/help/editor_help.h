@@ -7,20 +7,12 @@
 #include <QObject>
 #include <QString>
 
-#include <functional>
 #include <memory>
 #include <optional>
 
 namespace quendra {
 
 class HelpWindow;
-
-/// What the help commands do; a command whose function is empty does nothing.
-struct HelpCommands {
-    std::function<void()> showHelp;
-    /// The command of what is selected in the list that has the focus; none without a selection.
-    std::function<void(std::optional<CommandCode>)> helpOn;
-};
 
 /// The manual's window is made when it is first asked for, and there is one. As long as this lives,
 /// F1 in dialogs opens their pages.
@@ -38,8 +30,6 @@ class EditorHelp : public QObject {
     void showHelp();
     /// The manual's page about a command; without one the page of the current host type.
     void helpOn(std::optional<CommandCode> command);
-    /// The functions for the commands of a window, to be called as long as this lives.
-    [[nodiscard]] HelpCommands commands();
     /// A page of the manual.
     void openPage(const QString& page);
 

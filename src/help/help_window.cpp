@@ -32,16 +32,6 @@ constexpr int zoomOutIcon = 230;
 
 constexpr int normalZoom = 100;
 
-// What Markdown takes as its own in a text that is not.
-QString escaped(const QString& text) {
-    QString result;
-    for (const QChar c : text) {
-        if (c.unicode() < 128 && c.isPunct()) result += u'\\';
-        result += c;
-    }
-    return result;
-}
-
 }  // namespace
 
 HelpWindow::HelpWindow(Manual manual, LanguageLibrary& language,
@@ -172,13 +162,13 @@ void HelpWindow::goTo(const Place& place) {
 void HelpWindow::showPlace(const Place& place) {
     place_ = place;
     const QString file = manual_.fileOf(place.page);
-    const QString markdown = manual_.markdownOf(place.page);
+    const QString html = manual_.htmlOf(place.page);
     QString title = manual_.titleOf(place.page);
-    if (markdown.isEmpty()) {
+    if (html.isEmpty()) {
         title = text(textid::helpPageMissingTitle);
         showMissing(place.page);
     } else {
-        view_->showPage(markdown, file.section(u'/', 0, -2));
+        view_->showPage(html, file.section(u'/', 0, -2));
     }
     setWindowTitle(text(textid::helpWindowTitle, {title.toStdString()}));
     finder_->selectPage(place.page);
@@ -191,10 +181,12 @@ void HelpWindow::showPlace(const Place& place) {
 void HelpWindow::showMissing(const QString& page) {
     const bool hasManual = !manual_.contents().empty();
     const QString what = hasManual ? page : manual_.folder();
-    const QString sentence = text(hasManual ? textid::helpPageMissing : textid::helpManualMissing,
-                                  {escaped(what).toStdString()});
-    view_->showPage(QStringLiteral("# %1\n\n%2").arg(text(textid::helpPageMissingTitle), sentence),
-                    {});
+    const QString sentence =
+        text(hasManual ? textid::helpPageMissing : textid::helpManualMissing, {what.toStdString()});
+    view_->showPage(
+        QStringLiteral("<h1>%1</h1><p>%2</p>")
+            .arg(text(textid::helpPageMissingTitle).toHtmlEscaped(), sentence.toHtmlEscaped()),
+        {});
 }
 
 void HelpWindow::followLink(const QUrl& link) {

@@ -29,7 +29,7 @@ class HelpWindow : public QWidget {
     HelpWindow(Manual manual, LanguageLibrary& language,
                std::function<void(const QString&)> openAddress);
 
-    /// Shows a page, such as "wait-for.md", and at a heading of it when one is named, and brings
+    /// Shows a page, such as "wait-for.html", and at a heading of it when one is named, and brings
     /// the window to the front.
     void open(const QString& page, const QString& heading = {});
 

@@ -28,7 +28,7 @@ struct FlatLine {
 
 QString pageOfLink(const QString& link) {
     const QString page = link.section(u'#', 0, 0);
-    return page.endsWith(QLatin1String(".md")) && !page.contains(u'/') ? page : QString();
+    return page.endsWith(QLatin1String(".html")) && !page.contains(u'/') ? page : QString();
 }
 
 // The title of a line with a link is the link's text: what stands behind it explains the page.
@@ -46,9 +46,9 @@ FlatLine lineOf(const QTextBlock& block, int depth) {
     return {depth, block.text().trimmed(), {}};
 }
 
-std::vector<FlatLine> flatContents(const QString& markdown) {
+std::vector<FlatLine> flatContents(const QString& html) {
     QTextDocument document;
-    document.setMarkdown(markdown);
+    document.setHtml(html);
     std::vector<FlatLine> lines;
     int groupDepth = 0;
     for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
@@ -125,7 +125,7 @@ QStringList languagesFor(const std::string& language, const QString& folder) {
 }  // namespace
 
 QString manualPageOf(std::string_view keyword) {
-    return qtText(keyword).toLower().replace(u'_', u'-') + QLatin1String(".md");
+    return qtText(keyword).toLower().replace(u'_', u'-') + QLatin1String(".html");
 }
 
 fs::path manualFolder(const fs::path& programDir) {
@@ -139,7 +139,7 @@ QStringList searchWords(const QString& text) {
 Manual::Manual(const fs::path& folder, const std::string& language)
     : folder_(QDir::cleanPath(qtText(pathText(folder)))),
       languages_(languagesFor(language, folder_)) {
-    const std::vector<FlatLine> flat = flatContents(markdownOf(QLatin1String(startPage)));
+    const std::vector<FlatLine> flat = flatContents(htmlOf(QLatin1String(startPage)));
     std::size_t at = 0;
     contents_ = nested(flat, at, 0);
 }
@@ -153,7 +153,7 @@ QString Manual::fileOf(const QString& page) const {
     return {};
 }
 
-QString Manual::markdownOf(const QString& page) const {
+QString Manual::htmlOf(const QString& page) const {
     return readText(fileOf(page));
 }
 
@@ -167,7 +167,7 @@ QStringList Manual::pages() const {
     addPages(contents_, all);
     for (const QString& language : languages_) {
         const QDir folder(folder_ + u'/' + language);
-        for (const QString& page : folder.entryList({QStringLiteral("*.md")}, QDir::Files)) {
+        for (const QString& page : folder.entryList({QStringLiteral("*.html")}, QDir::Files)) {
             if (!all.contains(page) && page != QLatin1String(startPage)) all.append(page);
         }
     }
@@ -176,7 +176,7 @@ QStringList Manual::pages() const {
 
 Manual::SearchablePage Manual::readPage(const QString& page) const {
     QTextDocument document;
-    document.setMarkdown(markdownOf(page));
+    document.setHtml(htmlOf(page));
     SearchablePage result;
     result.page = page;
     for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {

@@ -1,5 +1,5 @@
-// The manual that is shipped with the program: Markdown pages, one folder per language, and
-// index.md as its contents.
+// The manual that is shipped with the program: HTML pages, one folder per language, and
+// index.html as its contents.
 #pragma once
 
 #include <QString>
@@ -15,7 +15,7 @@ namespace quendra {
 /// A line of the contents: a page, a group of lines, or both.
 struct ContentsLine {
     QString title;
-    /// File name, such as "wait-for.md"; empty for a mere group.
+    /// File name, such as "wait-for.html"; empty for a mere group.
     QString page;
     std::vector<ContentsLine> lines;
 };
@@ -28,7 +28,7 @@ struct SearchHit {
     QString line;
 };
 
-/// The page about a command, a dialog or a host type: "wait-for.md" for "Wait_For".
+/// The page about a command, a dialog or a host type: "wait-for.html" for "Wait_For".
 [[nodiscard]] QString manualPageOf(std::string_view keyword);
 
 /// Where an installation and a build tree alike keep the manual: beside the folder of the
@@ -41,7 +41,7 @@ class Manual {
     /// `language` is "de" or the like. A page that it lacks is taken from English.
     Manual(const std::filesystem::path& folder, const std::string& language);
 
-    static constexpr const char* startPage = "index.md";
+    static constexpr const char* startPage = "index.html";
 
     [[nodiscard]] const QString& folder() const { return folder_; }
     /// The contents in reading order, from the lists and headings of the start page; empty when
@@ -49,8 +49,8 @@ class Manual {
     [[nodiscard]] const std::vector<ContentsLine>& contents() const { return contents_; }
     /// The file of a page; empty when no language has it. Pages are names without folders.
     [[nodiscard]] QString fileOf(const QString& page) const;
-    /// The Markdown of a page; empty when it cannot be read.
-    [[nodiscard]] QString markdownOf(const QString& page) const;
+    /// The HTML of a page; empty when it cannot be read.
+    [[nodiscard]] QString htmlOf(const QString& page) const;
     /// What the contents call the page, else its first heading.
     [[nodiscard]] QString titleOf(const QString& page) const;
 

@@ -1,5 +1,4 @@
-// How a page of the manual looks: spacing, tables, code and links, set on the document after its
-// Markdown was read, which by itself gives all lines the same distance and tables no room.
+// How a page of the manual looks, as a style sheet in the colours and the size of the window.
 #pragma once
 
 #include <QFont>
@@ -11,17 +10,13 @@ namespace quendra {
 
 struct PageStyle {
     QPalette palette;
-    /// The font of the text; everything else is measured by it.
+    /// The font of the text, in points; everything else is measured by it.
     QFont font;
-    /// The widest that a picture may be, in device-independent pixels.
-    int widest = 0;
 };
 
-/// Replaces what `document` shows by the page.
-void showMarkdown(QTextDocument& document, const QString& markdown, const PageStyle& style);
-
-/// Fits the pictures into a new width of the page.
-void fitPictures(QTextDocument& document, int widest);
+/// Replaces what `document` shows by the page. Its pictures are asked of the document's parent, and
+/// are as wide as the page at most.
+void showHtml(QTextDocument& document, const QString& html, const PageStyle& style);
 
 /// The name under which links find a heading: its text in lower case, blanks as "-", without
 /// punctuation.

@@ -31,8 +31,8 @@ PageView::PageView(QWidget* parent) : QTextBrowser(parent) {
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
 }
 
-void PageView::showPage(const QString& markdown, const QString& folder) {
-    markdown_ = markdown;
+void PageView::showPage(const QString& html, const QString& folder) {
+    html_ = html;
     folder_ = folder;
     words_.clear();
     render();
@@ -51,15 +51,11 @@ int PageView::columnWidth() const {
 }
 
 void PageView::render() {
-    PageStyle style;
-    style.palette = palette();
-    style.font = pageFont();
-    const double margin = QFontMetricsF(style.font).height() * 1.2;
-    style.widest = columnWidth() - static_cast<int>(2 * margin);
+    const QFont font = pageFont();
     // Built apart: a document on the screen is laid out anew with every row of a table.
     auto* page = new QTextDocument(this);
-    page->setDocumentMargin(margin);
-    showMarkdown(*page, markdown_, style);
+    page->setDocumentMargin(QFontMetricsF(font).height() * 1.2);
+    showHtml(*page, html_, {palette(), font});
     // They point into the old document.
     setExtraSelections({});
     // The one that the view was born with goes by itself.
@@ -68,12 +64,6 @@ void PageView::render() {
     delete before;
     setLineWrapColumnOrWidth(columnWidth());
     moveCursor(QTextCursor::Start);
-}
-
-void PageView::fitWidth() {
-    if (lineWrapColumnOrWidth() == columnWidth()) return;
-    setLineWrapColumnOrWidth(columnWidth());
-    fitPictures(*document(), columnWidth() - static_cast<int>(2 * document()->documentMargin()));
 }
 
 QTextCursor PageView::markAll(const QStringList& words) {
@@ -142,7 +132,7 @@ void PageView::wheelEvent(QWheelEvent* event) {
 }
 
 void PageView::resizeEvent(QResizeEvent* event) {
-    fitWidth();
+    setLineWrapColumnOrWidth(columnWidth());
     QTextBrowser::resizeEvent(event);
 }
 
@@ -151,7 +141,7 @@ void PageView::changeEvent(QEvent* event) {
     const bool looksOtherwise =
         event->type() == QEvent::PaletteChange || event->type() == QEvent::FontChange;
     // The colours are part of the document.
-    if (looksOtherwise && !markdown_.isEmpty()) changeLook();
+    if (looksOtherwise && !html_.isEmpty()) changeLook();
 }
 
 // The same page at the same place in another look.

@@ -14,7 +14,7 @@ class PageView : public QTextBrowser {
     explicit PageView(QWidget* parent = nullptr);
 
     /// `folder` is where the pictures of the page are looked for.
-    void showPage(const QString& markdown, const QString& folder);
+    void showPage(const QString& html, const QString& folder);
     /// Marks every occurrence of the words, and scrolls to the first one behind the title.
     void markWords(const QStringList& words);
     /// Scrolls to a heading; gives false when the page has none of that name.
@@ -37,11 +37,10 @@ class PageView : public QTextBrowser {
     void changeLook();
     /// Gives the first occurrence behind the title; null when there is none.
     QTextCursor markAll(const QStringList& words);
-    void fitWidth();
     [[nodiscard]] QFont pageFont() const;
     [[nodiscard]] int columnWidth() const;
 
-    QString markdown_;
+    QString html_;
     QString folder_;
     QStringList words_;
     int zoom_ = 100;

@@ -23,11 +23,14 @@ struct HostTypeInfo {
     std::string_view name;
     /// What the command line calls it.
     std::string_view commandLineName;
-    /// Mode menu command, 313 to 318.
+    /// The number of the editor's command that makes it the current one, and of its icon.
     int modeCommand;
     /// The menu text: the library text of this id, or the literal when the id is 0.
     StringId menuTextId;
     std::string_view menuTextLiteral;
+    /// Of the same command.
+    StringId toolTipId;
+    StringId statusTextId;
     /// First seven characters of a script file, before the version character.
     std::string_view signaturePrefix;
     /// Oldest format version that exists for this type; '=' is the newest of all.
@@ -41,11 +44,8 @@ struct HostTypeInfo {
 [[nodiscard]] const HostTypeInfo& hostTypeInfo(HostType type);
 [[nodiscard]] std::optional<HostType> hostTypeOfName(std::string_view name);
 [[nodiscard]] std::optional<HostType> hostTypeOfCommandLineName(std::string_view name);
-/// The host type of a Mode command, 313 to 318.
-[[nodiscard]] std::optional<HostType> hostTypeOfModeCommand(int command);
 
-/// The menu command that VT emulators lack: refused wherever it is picked, and a VT file cannot
-/// store it.
-inline constexpr std::uint32_t menuCommandRefusedInVt = 213;
+/// True for a menu command that the host type's emulator lacks.
+[[nodiscard]] bool refusesMenuCommand(HostType type, std::uint32_t commandId);
 
 }  // namespace quendra

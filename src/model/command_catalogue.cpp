@@ -6,7 +6,7 @@ namespace quendra {
 
 namespace {
 
-constexpr std::array<ScriptEventInfo, 20> catalogue = {{
+constexpr std::array catalogue = std::to_array<ScriptEventInfo>({
     {CommandCode::Beep, "Beep", 110},
     {CommandCode::ClearWatch, "Clear_Watch", 111},
     {CommandCode::Comment, "Comment", 112},
@@ -27,12 +27,21 @@ constexpr std::array<ScriptEventInfo, 20> catalogue = {{
     {CommandCode::WaitReady, "Wait_Ready", 124},
     {CommandCode::WaitUntil, "Wait_Until", 125},
     {CommandCode::WatchFor, "Watch_For", 126},
-}};
+});
+
+// From Beep on every code is a Script Event.
+constexpr std::size_t eventCount() {
+    std::size_t count = 0;
+    for (auto code = static_cast<std::uint32_t>(CommandCode::Beep); isCommandCode(code); ++code)
+        ++count;
+    return count;
+}
+static_assert(catalogue.size() == eventCount(), "each Script Event has its row");
 
 }  // namespace
 
 bool isScriptEvent(CommandCode code) {
-    return code >= CommandCode::Beep && code <= CommandCode::Paste;
+    return code >= CommandCode::Beep && isCommandCode(static_cast<std::uint32_t>(code));
 }
 
 std::span<const ScriptEventInfo> scriptEvents() {

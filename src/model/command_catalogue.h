@@ -50,6 +50,12 @@ enum class CommandCode : std::uint8_t {
            code == CommandCode::WatchFor;
 }
 
+/// True for a command that an action of `owner` may be: none that carries actions itself, but a
+/// Watch_For may run a Wait_For.
+[[nodiscard]] constexpr bool mayBeAction(CommandCode code, CommandCode owner) {
+    return !ownsActions(code) || (code == CommandCode::WaitFor && owner == CommandCode::WatchFor);
+}
+
 struct ScriptEventInfo {
     CommandCode code;
     std::string_view keyword;

@@ -8,39 +8,9 @@ namespace {
 
 using namespace transfer;
 
-constexpr std::array<TransferField, 27> fields = {
-    hostFileName,
-    member,
-    fileType,
-    fileMode,
-    pcFileName,
-    binary,
-    crlf,
-    append,
-    packetSizeEnabled,
-    packetSizeIndex,
-    recordFormat,
-    recordLength,
-    blockSize,
-    spaceUnit,
-    averageBlock,
-    primarySpace,
-    secondarySpace,
-    hostFilePassword,
-    transferProgramName,
-    includeLeftParenthesis,
-    includeRightParenthesis,
-    additionalParameters,
-    autoEraseInput,
-    useLocalTranslateTables,
-    showSettingsBeforeTransfer,
-    arabicProcessing,
-    pcCodePageIndex,
-};
-
 constexpr bool coverTheBlock() {
     std::size_t end = 0;
-    for (const TransferField& field : fields) {
+    for (const TransferField& field : allFields) {
         if (field.offset != end) return false;
         end += field.size;
     }
@@ -59,10 +29,6 @@ FileTransferSettings makeDefaults() {
 }
 
 }  // namespace
-
-std::span<const TransferField> transferFields() {
-    return fields;
-}
 
 std::string_view transferText(const FileTransferSettings& settings, const TransferField& field) {
     const auto* start = reinterpret_cast<const char*>(settings.bytes.data()) + field.offset;

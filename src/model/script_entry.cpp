@@ -1,5 +1,6 @@
 #include "model/script_entry.h"
 
+#include "model/menu_commands.h"
 #include "platform/secret_memory.h"
 
 #include <algorithm>
@@ -23,13 +24,13 @@ void wipeField(std::array<char, Size>& field) {
 
 }  // namespace
 
-ScriptEntry::~ScriptEntry() {
+Step::~Step() {
     wipeField(text);
-    wipeField(thenText);
-    wipeField(elseText);
-    wipeField(compareText);
     wipeMemory(transferSettings.bytes.data(), transferSettings.bytes.size());
-    wipeMemory(elseTransferSettings.bytes.data(), elseTransferSettings.bytes.size());
+}
+
+ScriptEntry::~ScriptEntry() {
+    wipeField(compareText);
 }
 
 std::string_view textOf(const ConstSlotFields& fields) {
@@ -66,7 +67,7 @@ void setCode(const SlotFields& fields, CommandCode code) {
 }
 
 bool isHiddenText(const ConstSlotFields& fields) {
-    return fields.code == CommandCode::Type && fields.hidden != 0;
+    return fields.code == CommandCode::Type && fields.hidden == 1;
 }
 
 ScreenArea unpackArea(std::uint32_t packed) {
@@ -74,24 +75,10 @@ ScreenArea unpackArea(std::uint32_t packed) {
             static_cast<std::uint8_t>(packed >> 16), static_cast<std::uint8_t>(packed >> 24)};
 }
 
-std::uint32_t packArea(const ScreenArea& area) {
-    return std::uint32_t{area.startRow} | std::uint32_t{area.startColumn} << 8 |
-           std::uint32_t{area.endRow} << 16 | std::uint32_t{area.endColumn} << 24;
-}
-
-bool takesFileName(std::uint32_t commandId) {
-    return commandId == 202 || commandId == 204 || commandId == 219 || commandId == 254 ||
-           commandId == 257;
-}
-
-bool isFileTransfer(std::uint32_t commandId) {
-    return commandId == sendFileCommand || commandId == receiveFileCommand;
-}
-
 int bitmapIdOf(CommandCode code, std::uint32_t commandId) {
     if (code == CommandCode::LuFunction) return luFunctionBitmapId;
     if (code == CommandCode::MenuCommand) {
-        return commandId >= 201 && commandId <= 268 ? static_cast<int>(commandId) : 0;
+        return findMenuCommand(commandId) != nullptr ? static_cast<int>(commandId) : 0;
     }
     return isScriptEvent(code) ? static_cast<int>(code) + 106 : 0;
 }

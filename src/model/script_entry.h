@@ -1,5 +1,4 @@
-// One step of a script with all parameters that any command can have, and the view of one slot of
-// it.
+// One entry of a script with all parameters that any command can have: a step and its two actions.
 //
 // A ScriptEntry is the working form: dialogs, display and the command line read and write it. The
 // script itself keeps the far smaller stored form (entry_handle.h); scriptfile/entry_codec.h turns
@@ -14,7 +13,7 @@
 #include <cstdint>
 #include <optional>
 #include <string_view>
-#include <type_traits>
+#include <utility>
 #include <vector>
 
 namespace quendra {
@@ -47,30 +46,51 @@ struct DateTime {
 /// command that no action should be. Setting a new text or a new command code drops it.
 using KeptBytes = std::optional<std::vector<std::uint8_t>>;
 
-/// The plain fields of a ScriptEntry, apart from it so that a new entry gets them as one block: one
-/// by one it takes four times as long.
-struct EntryFields {
-    CommandCode commandCode = CommandCode::None;
-    std::uint8_t textLength = 0;
-    TextField text = {};
-    std::uint8_t row = 0;
-    std::uint8_t column = 0;
-    std::uint32_t number = 0;
-    std::uint32_t commandId = 0;
-    std::uint32_t commandData = 0;
-    std::uint8_t transferHost = 0;
-    FileTransferSettings transferSettings = {};
-    DateTime waitUntil = {};
+/// The plain fields of a step, apart from it and without values of their own, so that a new step is
+/// zeroed as one block: field by field it takes four times as long.
+struct StepFields {
+    CommandCode code;
+    std::uint8_t textLength;
+    /// Set_Cursor, and the two bytes of a key.
+    std::uint8_t row;
+    std::uint8_t column;
+    std::uint8_t transferHost;
+    std::uint8_t maxLength;
+    std::uint8_t hidden;
+    std::uint8_t inputVariable;
+    std::uint32_t number;
+    std::uint32_t commandId;
+    std::uint32_t commandData;
+    /// The packed screen area of Copy and Paste.
+    std::uint32_t area;
+    DateTime waitUntil;
+    TextField text;
+    /// Its length is `number`.
+    PromptField prompt;
+    FileTransferSettings transferSettings;
 
-    CommandCode thenCode = CommandCode::None;
-    std::uint8_t thenTextLength = 0;
-    TextField thenText = {};
-    DateTime thenWaitUntil = {};
+    bool operator==(const StepFields&) const = default;
+};
 
-    std::uint8_t maxLength = 0;
-    std::uint8_t hidden = 0;
-    PromptField prompt = {};
+/// A command with all parameters that any command can have: an entry of the script, or one of its
+/// actions. Made as part of an entry only, which marks and wipes it.
+struct Step : StepFields {
+    KeptBytes kept;
 
+    Step() : StepFields() {}
+    /// Explicit, for `auto step = slotFields(...)` would be a copy where a reference was meant.
+    explicit Step(const Step&) = default;
+    Step& operator=(const Step&) = default;
+    ~Step();
+
+    bool operator==(const Step&) const = default;
+};
+
+/// All parameters of one entry: a step, the options that only an entry has, and its two actions.
+/// Every slot has all fields to itself, as the file has a record for each, but for the search
+/// options: a Wait_For that a Watch_For runs has those of its owner, which uses none. Wiped when
+/// it goes, and left out of crash dumps wherever it lies.
+struct ScriptEntry : Step {
     std::uint8_t searchRow = 0;
     std::uint8_t searchColumn = 0;
     std::uint8_t exactPosition = 0;
@@ -78,47 +98,16 @@ struct EntryFields {
     std::uint8_t hasTimeout = 0;
     std::uint8_t timeoutSeconds = 0;
 
-    CommandCode elseCode = CommandCode::None;
-    std::uint8_t elseTextLength = 0;
-    TextField elseText = {};
-    std::uint8_t elseRow = 0;
-    std::uint8_t elseColumn = 0;
-    std::uint32_t elseNumber = 0;
-    std::uint32_t elseCommandId = 0;
-    std::uint32_t elseCommandData = 0;
-    /// Screen area of a Copy or Paste else action, apart from `commandData`: the then action's
-    /// second menu word lives there, and the file stores both.
-    std::uint32_t elseArea = 0;
-    std::uint8_t elseTransferHost = 0;
-    FileTransferSettings elseTransferSettings = {};
-    DateTime elseWaitUntil = {};
-    std::uint8_t elseMaxLength = 0;
-    std::uint8_t elseHidden = 0;
-    PromptField elsePrompt = {};
-
-    std::uint8_t inputVariable = 0;
-    std::uint8_t elseInputVariable = 0;
-    std::uint8_t compareTextLength = 0;
-    TextField compareText = {};
-    /// Operand kinds of If_Input_Is, apart from `row` and `column`: its then action keeps a key or
-    /// a cursor position there, and the file stores both.
+    /// Operands of If_Input_Is: a kind counts where the literal (`text`, `compareText`) is empty.
     std::uint8_t firstOperandKind = 0;
     std::uint8_t secondOperandKind = 0;
+    std::uint8_t compareTextLength = 0;
+    TextField compareText = {};
 
-    bool operator==(const EntryFields&) const = default;
-};
+    Step thenAction;
+    Step elseAction;
 
-inline constexpr EntryFields emptyFields;
-
-/// All parameters of one entry. The then action shares most of them with the entry, the else action
-/// has its own: read and write them through slotFields(), which alone knows the sharing rule. Wiped
-/// when it goes, and left out of crash dumps wherever it lies.
-struct ScriptEntry : EntryFields {
-    KeptBytes kept;
-    KeptBytes thenKept;
-    KeptBytes elseKept;
-
-    ScriptEntry() : EntryFields(emptyFields) {}
+    ScriptEntry() = default;
     ScriptEntry(const ScriptEntry&) = default;
     ScriptEntry& operator=(const ScriptEntry&) = default;
     ~ScriptEntry();
@@ -132,93 +121,27 @@ struct ScriptEntry : EntryFields {
 /// Which part of an entry is meant: the entry itself, its then action or its else action.
 enum class Slot : std::uint8_t { Entry, Then, Else };
 
-/// References to the fields of one slot. `area` is the packed screen area of Copy and Paste. Const
-/// when E is.
-template <class E>
-struct BasicSlotFields {
-    template <class T>
-    using Ref = std::conditional_t<std::is_const_v<E>, const T&, T&>;
+/// The step in a slot, to write or to read, as slotFields() gives it.
+using SlotFields = Step&;
+using ConstSlotFields = const Step&;
 
-    Ref<CommandCode> code;
-    Ref<std::uint8_t> textLength;
-    Ref<TextField> text;
-    Ref<std::uint8_t> row;
-    Ref<std::uint8_t> column;
-    Ref<std::uint32_t> number;
-    Ref<std::uint32_t> commandId;
-    Ref<std::uint32_t> commandData;
-    Ref<std::uint32_t> area;
-    Ref<std::uint8_t> transferHost;
-    Ref<FileTransferSettings> transferSettings;
-    Ref<DateTime> waitUntil;
-    Ref<std::uint8_t> maxLength;
-    Ref<std::uint8_t> hidden;
-    Ref<PromptField> prompt;
-    Ref<std::uint8_t> inputVariable;
-    Ref<KeptBytes> kept;
-
-    /// A view to write through serves wherever one to read from is asked for.
-    // NOLINTNEXTLINE(google-explicit-constructor): it must be tacit, as for a pointer
-    operator BasicSlotFields<const E>() const requires(!std::is_const_v<E>) {
-        return {code,
-                textLength,
-                text,
-                row,
-                column,
-                number,
-                commandId,
-                commandData,
-                area,
-                transferHost,
-                transferSettings,
-                waitUntil,
-                maxLength,
-                hidden,
-                prompt,
-                inputVariable,
-                kept};
-    }
-};
-
-using SlotFields = BasicSlotFields<ScriptEntry>;
-using ConstSlotFields = BasicSlotFields<const ScriptEntry>;
-
-/// The fields of a slot by the sharing rule: the then action has its own code, text, date-time and
-/// kept bytes and shares the rest with the entry; the else action has everything to itself. E is
-/// ScriptEntry or const ScriptEntry, and the view is valid as long as the entry.
-template <class E>
-[[nodiscard]] BasicSlotFields<E> slotFields(E& e, Slot slot) {
+/// The fields of a slot, valid as long as the entry.
+[[nodiscard]] inline ConstSlotFields slotFields(const ScriptEntry& entry, Slot slot) {
     switch (slot) {
-        case Slot::Then:
-            return {e.thenCode,  e.thenTextLength, e.thenText,         e.row,
-                    e.column,    e.number,         e.commandId,        e.commandData,
-                    e.commandId, e.transferHost,   e.transferSettings, e.thenWaitUntil,
-                    e.maxLength, e.hidden,         e.prompt,           e.inputVariable,
-                    e.thenKept};
-        case Slot::Else:
-            return {e.elseCode,
-                    e.elseTextLength,
-                    e.elseText,
-                    e.elseRow,
-                    e.elseColumn,
-                    e.elseNumber,
-                    e.elseCommandId,
-                    e.elseCommandData,
-                    e.elseArea,
-                    e.elseTransferHost,
-                    e.elseTransferSettings,
-                    e.elseWaitUntil,
-                    e.elseMaxLength,
-                    e.elseHidden,
-                    e.elsePrompt,
-                    e.elseInputVariable,
-                    e.elseKept};
+        case Slot::Then: return entry.thenAction;
+        case Slot::Else: return entry.elseAction;
         case Slot::Entry: break;
     }
-    return {e.commandCode,      e.textLength, e.text,        e.row,       e.column,
-            e.number,           e.commandId,  e.commandData, e.commandId, e.transferHost,
-            e.transferSettings, e.waitUntil,  e.maxLength,   e.hidden,    e.prompt,
-            e.inputVariable,    e.kept};
+    return entry;
+}
+[[nodiscard]] inline SlotFields slotFields(ScriptEntry& entry, Slot slot) {
+    return const_cast<SlotFields>(slotFields(std::as_const(entry), slot));
+}
+
+/// True for an action slot that holds a command which no action should be. Its record is carried
+/// whole, in `kept`, not taken apart.
+[[nodiscard]] inline bool isForeignAction(const ScriptEntry& entry, Slot slot) {
+    return slot != Slot::Entry && !mayBeAction(slotFields(entry, slot).code, entry.code);
 }
 
 /// The text of a field by its length; it may hold NUL bytes when it comes from a foreign file.
@@ -235,7 +158,9 @@ void setCompareText(ScriptEntry& entry, std::string_view value);
 /// Sets the command of a slot; a changed code drops what was kept.
 void setCode(const SlotFields& fields, CommandCode code);
 
-/// True when the slot is a Type whose text is stored enciphered and shown as asterisks.
+/// True when the slot is a Type whose text is stored enciphered and shown as asterisks: its hidden
+/// byte is 1. Any other byte, which only foreign files hold, is kept, and the text is stored and
+/// shown in clear. Whatever treats hidden texts in a way of their own asks here.
 [[nodiscard]] bool isHiddenText(const ConstSlotFields& fields);
 
 /// The four bytes of a packed screen area. Paste uses the first two.
@@ -248,16 +173,13 @@ struct ScreenArea {
     bool operator==(const ScreenArea&) const = default;
 };
 [[nodiscard]] ScreenArea unpackArea(std::uint32_t packed);
-[[nodiscard]] std::uint32_t packArea(const ScreenArea& area);
+[[nodiscard]] constexpr std::uint32_t packArea(const ScreenArea& area) {
+    return std::uint32_t{area.startRow} | std::uint32_t{area.startColumn} << 8 |
+           std::uint32_t{area.endRow} << 16 | std::uint32_t{area.endColumn} << 24;
+}
 
-/// Menu commands with parameters: five take a file name, two are file transfers with settings.
-inline constexpr std::uint32_t sendFileCommand = 236;
-inline constexpr std::uint32_t receiveFileCommand = 237;
-[[nodiscard]] bool takesFileName(std::uint32_t commandId);
-[[nodiscard]] bool isFileTransfer(std::uint32_t commandId);
-
-/// The picture of an entry: the bitmap of its kind; 0 for an empty entry and a menu command outside
-/// 201 to 268.
+/// The picture of an entry: the bitmap of its kind; 0 for an empty entry and for a menu command
+/// that there is not.
 [[nodiscard]] int bitmapIdOf(CommandCode code, std::uint32_t commandId);
 
 }  // namespace quendra

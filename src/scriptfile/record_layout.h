@@ -5,20 +5,11 @@
 // record is driven to its end and tested once.
 #pragma once
 
+#include "model/menu_commands.h"
 #include "model/script_entry.h"
 #include "scriptfile/format_version.h"
 
 namespace quendra::layout {
-
-/// True for an action slot that holds a command which no action should be. Its record is carried
-/// whole, not taken apart.
-template <class E>
-bool isForeignAction(const E& entry, Slot slot, CommandCode code) {
-    if (slot == Slot::Entry || !ownsActions(code)) return false;
-    const bool watchedWaitFor = slot == Slot::Then && code == CommandCode::WaitFor &&
-                                entry.commandCode == CommandCode::WatchFor;
-    return !watchedWaitFor;
-}
 
 template <class Io, class E>
 void searchOptions(Io& io, E& entry) {
@@ -59,8 +50,8 @@ void ifInputIs(Io& io, E& entry) {
     if (hasOperands) record(io, entry, Slot::Else);
 }
 
-template <class Io, class E>
-void menuCommand(Io& io, const BasicSlotFields<E>& f) {
+template <class Io, class S>
+void menuCommand(Io& io, S& f) {
     io.menuCommand(f.commandId);
     io.word(f.commandData);
     if (takesFileName(f.commandId)) {
@@ -70,8 +61,8 @@ void menuCommand(Io& io, const BasicSlotFields<E>& f) {
     }
 }
 
-template <class Io, class E>
-void input(Io& io, const BasicSlotFields<E>& f) {
+template <class Io, class S>
+void input(Io& io, S& f) {
     io.text(f.textLength, f.text);
     io.prompt(f.number, f.prompt);
     io.byte(f.maxLength);
@@ -82,7 +73,7 @@ void input(Io& io, const BasicSlotFields<E>& f) {
 /// What follows the code byte in the record of a slot whose code is known.
 template <class Io, class E>
 void fieldsAfterCode(Io& io, E& entry, Slot slot) {
-    const auto f = slotFields(entry, slot);
+    auto& f = slotFields(entry, slot);
     switch (f.code) {
         case CommandCode::None:
         case CommandCode::Beep:
@@ -128,9 +119,9 @@ void fieldsAfterCode(Io& io, E& entry, Slot slot) {
 /// The record of one slot: its code, what belongs to it, and the records of its actions.
 template <class Io, class E>
 void record(Io& io, E& entry, Slot slot) {
-    const auto f = slotFields(entry, slot);
+    auto& f = slotFields(entry, slot);
     if (!io.code(f.code)) return;
-    if (isForeignAction(entry, slot, f.code)) {
+    if (isForeignAction(entry, slot)) {
         io.foreignAction(f);
     } else {
         fieldsAfterCode(io, entry, slot);

@@ -56,7 +56,7 @@ void RecordReader::typeText(const SlotFields& f) {
     const auto taken = takeText();
     f.hidden = takeByte();
     if (fault_ != RecordFault::None) return;
-    if (f.hidden != 1) {
+    if (!isHiddenText(f)) {
         setText(f, {reinterpret_cast<const char*>(taken.data()), taken.size()});
         return;
     }
@@ -85,7 +85,7 @@ void RecordReader::foreignAction(const SlotFields& f) {
     if (fault_ == RecordFault::None) {
         const auto* cipher = std::exchange(cipher_, nullptr);
         ScriptEntry whole;
-        whole.commandCode = f.code;
+        whole.code = f.code;
         layout::fieldsAfterCode(*this, whole, Slot::Entry);
         cipher_ = cipher;
         RecordWriter writer(memoryForm, nullptr);
@@ -119,7 +119,7 @@ void RecordScanner::foreignAction(const SlotFields& f) {
     if (++nesting_ > maxNesting) fail(RecordFault::NestedTooDeep, position_ - 1);
     if (fault_ == RecordFault::None) {
         ScriptEntry whole;
-        whole.commandCode = f.code;
+        whole.code = f.code;
         layout::fieldsAfterCode(*this, whole, Slot::Entry);
     }
     --nesting_;

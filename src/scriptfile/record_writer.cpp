@@ -42,7 +42,7 @@ void RecordWriter::prompt(const std::uint32_t& length, const PromptField& field)
 }
 
 void RecordWriter::typeText(const ConstSlotFields& f) {
-    if (f.hidden == 1) {
+    if (isHiddenText(f)) {
         hiddenText(f);
     } else {
         text(f.textLength, f.text);
@@ -75,7 +75,7 @@ void RecordWriter::foreignAction(const ConstSlotFields& f) {
         return;
     }
     ScriptEntry whole;
-    whole.commandCode = f.code;
+    whole.code = f.code;
     RecordReader reader(*f.kept, 0, memoryForm, nullptr);
     layout::fieldsAfterCode(reader, whole, Slot::Entry);
     layout::fieldsAfterCode(*this, std::as_const(whole), Slot::Entry);

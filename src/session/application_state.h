@@ -2,7 +2,7 @@
 #pragma once
 
 #include "analysis/entry_display.h"
-#include "model/menu_catalogue.h"
+#include "model/menu_commands.h"
 #include "platform/files.h"
 #include "session/editing.h"
 #include "session/startup_settings.h"

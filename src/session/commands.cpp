@@ -1,124 +1,252 @@
 #include "session/commands.h"
 
 #include "hosts/host_type.h"
+#include "session/command_rules.h"
 #include "text/text_ids.h"
 
-#include <array>
+#include <algorithm>
+#include <functional>
+#include <iterator>
 
 namespace quendra {
 
 namespace {
 
-using namespace command;
+using enum EditorCommand;
 
-constexpr CommandInfo table[] = {
-    {newScript, textid::newMenuText, textid::newToolTip, textid::newStatusText, "Ctrl+N"},
-    {open, textid::openMenuText, textid::openToolTip, textid::openStatusText, "Ctrl+O"},
-    {save, textid::saveMenuText, textid::saveToolTip, textid::saveStatusText, "Ctrl+S"},
-    {saveAs, textid::saveAsMenuText, textid::saveAsToolTip, textid::saveAsStatusText,
-     "Ctrl+Shift+S"},
-    {command::exit, textid::exitMenuText, textid::exitToolTip, textid::exitStatusText, "Ctrl+Q"},
-    {cut, textid::cutMenuText, textid::cutToolTip, textid::cutStatusText, "Ctrl+X"},
-    {copy, textid::copyMenuText, textid::copyToolTip, textid::copyStatusText, "Ctrl+C"},
-    {paste, textid::pasteMenuText, textid::pasteToolTip, textid::pasteStatusText, "Ctrl+V"},
-    {insertScriptEvent, textid::insertScriptEventMenuText, textid::insertScriptEventToolTip,
-     textid::insertScriptEventStatusText, ""},
-    {insertLuFunction, textid::insertLuFunctionMenuText, textid::insertLuFunctionToolTip,
-     textid::insertLuFunctionStatusText, ""},
-    {insertMenuCommand, textid::insertMenuCommandMenuText, textid::insertMenuCommandToolTip,
-     textid::insertMenuCommandStatusText, ""},
-    {editEntry, textid::editEntryMenuText, textid::editEntryToolTip, textid::editEntryStatusText,
-     ""},
-    {deleteEntries, textid::deleteEntriesMenuText, textid::luDelete,
-     textid::deleteEntriesStatusText, "Del"},
-    {313, 0, textid::mainframeModeToolTip, textid::mainframeModeStatusText, ""},
-    {314, 0, textid::iSeriesModeToolTip, textid::iSeriesModeStatusText, ""},
-    {315, 0, textid::vtModeToolTip, textid::vtModeStatusText, ""},
-    {316, 0, textid::utsModeToolTip, textid::utsModeStatusText, ""},
-    {317, 0, textid::t27ModeToolTip, textid::t27ModeStatusText, ""},
-    {318, 0, textid::iclModeToolTip, textid::iclModeStatusText, ""},
-    {help, textid::helpMenuText, textid::helpToolTip, textid::helpStatusText, "F1"},
-    {about, textid::aboutMenuText, textid::aboutToolTip, textid::aboutStatusText, ""},
-    {undo, textid::undoMenuText, textid::undoToolTip, textid::undoStatusText, "Ctrl+Z"},
-    {redo, textid::redoMenuText, textid::redoToolTip, textid::redoStatusText,
-     "Ctrl+Shift+Z; Ctrl+Y"},
-    {find, textid::findMenuText, textid::findToolTip, textid::findStatusText, "Ctrl+F"},
-    {copyAsText, textid::copyAsTextMenuText, textid::copyAsTextToolTip,
-     textid::copyAsTextStatusText, "Ctrl+Shift+C"},
-    {insertScript, textid::insertScriptMenuText, textid::insertScriptToolTip,
-     textid::insertScriptStatusText, "Ctrl+Shift+O"},
-    {helpOnSelection, textid::helpOnSelectionMenuText, textid::helpOnSelectionToolTip,
-     textid::helpOnSelectionStatusText, "Shift+F1"},
+// Those of one menu in its order. The Mode commands follow from the host types.
+constexpr CommandInfo rows[] = {
+    {.id = NewScript,
+     .texts = {textid::newMenuText, textid::newToolTip, textid::newStatusText},
+     .shortcut = "Ctrl+N",
+     .menu = EditorMenu::File},
+    {.id = Open,
+     .texts = {textid::openMenuText, textid::openToolTip, textid::openStatusText},
+     .shortcut = "Ctrl+O",
+     .menu = EditorMenu::File,
+     .toolbarGroup = 1},
+    {.id = Save,
+     .texts = {textid::saveMenuText, textid::saveToolTip, textid::saveStatusText},
+     .shortcut = "Ctrl+S",
+     .menu = EditorMenu::File,
+     .toolbarGroup = 1,
+     .isEnabled = hasEntries},
+    {.id = SaveAs,
+     .texts = {textid::saveAsMenuText, textid::saveAsToolTip, textid::saveAsStatusText},
+     .shortcut = "Ctrl+Shift+S",
+     .menu = EditorMenu::File,
+     .isEnabled = hasEntries},
+    {.id = Exit,
+     .texts = {textid::exitMenuText, textid::exitToolTip, textid::exitStatusText},
+     .shortcut = "Ctrl+Q",
+     .menu = EditorMenu::File,
+     .menuGroup = 2},
+    {.id = Undo,
+     .texts = {textid::undoMenuText, textid::undoToolTip, textid::undoStatusText},
+     .shortcut = "Ctrl+Z",
+     .menu = EditorMenu::Edit,
+     .toolbarGroup = 3,
+     .isEnabled = canUndo,
+     .toolTip = undoTip,
+     .menuText = undoItem},
+    {.id = Redo,
+     .texts = {textid::redoMenuText, textid::redoToolTip, textid::redoStatusText},
+     .shortcut = "Ctrl+Shift+Z; Ctrl+Y",
+     .menu = EditorMenu::Edit,
+     .toolbarGroup = 3,
+     .isEnabled = canRedo,
+     .toolTip = redoTip,
+     .menuText = redoItem},
+    {.id = Cut,
+     .texts = {textid::cutMenuText, textid::cutToolTip, textid::cutStatusText},
+     .shortcut = "Ctrl+X",
+     .menu = EditorMenu::Edit,
+     .menuGroup = 2,
+     .toolbarGroup = 2,
+     .isEnabled = hasSelection},
+    {.id = Copy,
+     .texts = {textid::copyMenuText, textid::copyToolTip, textid::copyStatusText},
+     .shortcut = "Ctrl+C",
+     .menu = EditorMenu::Edit,
+     .menuGroup = 2,
+     .toolbarGroup = 2,
+     .isEnabled = hasSelection},
+    {.id = CopyAsText,
+     .texts = {textid::copyAsTextMenuText, textid::copyAsTextToolTip, textid::copyAsTextStatusText},
+     .shortcut = "Ctrl+Shift+C",
+     .menu = EditorMenu::Edit,
+     .menuGroup = 2,
+     .isEnabled = hasSelection},
+    {.id = Paste,
+     .texts = {textid::pasteMenuText, textid::pasteToolTip, textid::pasteStatusText},
+     .shortcut = "Ctrl+V",
+     .menu = EditorMenu::Edit,
+     .menuGroup = 2,
+     .toolbarGroup = 2,
+     .isEnabled = hasClipboard,
+     .addsEntries = true},
+    {.id = Find,
+     .texts = {textid::findMenuText, textid::findToolTip, textid::findStatusText},
+     .shortcut = "Ctrl+F",
+     .menu = EditorMenu::Edit,
+     .menuGroup = 3,
+     .isEnabled = hasEntries,
+     .movesFocus = true},
+    {.id = InsertScriptEvent,
+     .texts = {textid::insertScriptEventMenuText, textid::insertScriptEventToolTip,
+               textid::insertScriptEventStatusText},
+     .menu = EditorMenu::Entry,
+     .toolbarGroup = 4,
+     .isEnabled = hasEvent,
+     .toolTip = insertEventTip,
+     .addsEntries = true},
+    {.id = InsertLuFunction,
+     .texts = {textid::insertLuFunctionMenuText, textid::insertLuFunctionToolTip,
+               textid::insertLuFunctionStatusText},
+     .menu = EditorMenu::Entry,
+     .toolbarGroup = 4,
+     .isEnabled = hasLuFunction,
+     .toolTip = insertLuFunctionTip,
+     .addsEntries = true},
+    {.id = InsertMenuCommand,
+     .texts = {textid::insertMenuCommandMenuText, textid::insertMenuCommandToolTip,
+               textid::insertMenuCommandStatusText},
+     .menu = EditorMenu::Entry,
+     .toolbarGroup = 4,
+     .isEnabled = hasMenuCommand,
+     .toolTip = insertMenuCommandTip,
+     .addsEntries = true},
+    {.id = InsertScript,
+     .texts = {textid::insertScriptMenuText, textid::insertScriptToolTip,
+               textid::insertScriptStatusText},
+     .shortcut = "Ctrl+Shift+O",
+     .menu = EditorMenu::Entry,
+     .addsEntries = true},
+    {.id = EditEntry,
+     .texts = {textid::editEntryMenuText, textid::editEntryToolTip, textid::editEntryStatusText},
+     .menu = EditorMenu::Entry,
+     .menuGroup = 2,
+     .toolbarGroup = 5,
+     .isEnabled = canEdit,
+     .toolTip = editTip},
+    {.id = DeleteEntries,
+     .texts = {textid::deleteEntriesMenuText, textid::luDelete, textid::deleteEntriesStatusText},
+     .shortcut = "Del",
+     .menu = EditorMenu::Entry,
+     .menuGroup = 3,
+     .toolbarGroup = 6,
+     .isEnabled = hasSelection,
+     .toolTip = deleteTip},
+    {.id = Help,
+     .texts = {textid::helpMenuText, textid::helpToolTip, textid::helpStatusText},
+     .shortcut = "F1",
+     .menu = EditorMenu::Help,
+     .toolbarGroup = 8},
+    {.id = HelpOnSelection,
+     .texts = {textid::helpOnSelectionMenuText, textid::helpOnSelectionToolTip,
+               textid::helpOnSelectionStatusText},
+     .shortcut = "Shift+F1",
+     .menu = EditorMenu::Help},
+    {.id = About,
+     .texts = {textid::aboutMenuText, textid::aboutToolTip, textid::aboutStatusText},
+     .menu = EditorMenu::Help,
+     .menuGroup = 2,
+     .toolbarGroup = 8},
 };
 
-constexpr int fileItems[] = {newScript, open, save, saveAs, separator, command::exit};
-constexpr int editItems[] = {undo, redo, separator, cut, copy, copyAsText, paste, separator, find};
-constexpr int entryItems[] = {
-    insertScriptEvent, insertLuFunction, insertMenuCommand, command::insertScript,
-    separator,         editEntry,        separator,         deleteEntries};
-constexpr int modeItems[] = {313, 314, 315, 316, 317, 318};
-constexpr int helpItems[] = {help, helpOnSelection, separator, about};
+CommandInfo modeRow(HostType type) {
+    const HostTypeInfo& host = hostTypeInfo(type);
+    return {.id = modeCommand(type),
+            .texts = {host.menuTextId, host.toolTipId, host.statusTextId, host.menuTextLiteral},
+            .menu = EditorMenu::Mode,
+            .toolbarGroup = 7,
+            .hostType = type};
+}
+
+std::vector<CommandInfo> allRows() {
+    std::vector<CommandInfo> all(std::begin(rows), std::end(rows));
+    std::ranges::transform(allHostTypes, std::back_inserter(all), modeRow);
+    return all;
+}
 
 constexpr MenuInfo menuTable[] = {
-    {textid::fileMenu, "fileMenu", fileItems},    {textid::editMenu, "editMenu", editItems},
-    {textid::entryMenu, "entryMenu", entryItems}, {textid::modeMenu, "modeMenu", modeItems},
-    {textid::helpMenu, "helpMenu", helpItems},
+    {EditorMenu::File, textid::fileMenu, "fileMenu"},
+    {EditorMenu::Edit, textid::editMenu, "editMenu"},
+    {EditorMenu::Entry, textid::entryMenu, "entryMenu"},
+    {EditorMenu::Mode, textid::modeMenu, "modeMenu"},
+    {EditorMenu::Help, textid::helpMenu, "helpMenu"},
 };
 
-constexpr int toolbarItems[] = {
-    open,
-    save,
-    separator,
-    cut,
-    copy,
-    paste,
-    separator,
-    undo,
-    redo,
-    separator,
-    insertScriptEvent,
-    insertLuFunction,
-    insertMenuCommand,
-    separator,
-    editEntry,
-    separator,
-    deleteEntries,
-    separator,
-    313,
-    314,
-    315,
-    316,
-    317,
-    318,
-    separator,
-    help,
-    about,
-};
+// The commands of groups in their order, with separators between the groups.
+CommandItems itemsOf(const std::vector<CommandInfo>& sorted, int CommandInfo::*group) {
+    CommandItems items;
+    for (std::size_t i = 0; i < sorted.size(); ++i) {
+        if (i > 0 && sorted[i].*group != sorted[i - 1].*group) items.emplace_back();
+        items.emplace_back(sorted[i].id);
+    }
+    return items;
+}
 
 }  // namespace
 
 std::span<const CommandInfo> commands() {
-    return table;
+    static const std::vector<CommandInfo> all = allRows();
+    return all;
 }
 
-const CommandInfo& commandInfo(int id) {
-    return table[id - newScript];
+const CommandInfo& commandInfo(EditorCommand id) {
+    return *std::ranges::find(commands(), id, &CommandInfo::id);
+}
+
+EditorCommand modeCommand(HostType type) {
+    return static_cast<EditorCommand>(hostTypeInfo(type).modeCommand);
+}
+
+bool isCommandEnabled(const CommandInfo& info, const CommandFacts& facts) {
+    return info.isEnabled == nullptr || info.isEnabled(facts);
+}
+
+bool isCommandChecked(const CommandInfo& info, const CommandFacts& facts) {
+    return info.hostType == facts.hostType;
+}
+
+std::string commandToolTip(const CommandInfo& info, const CommandFacts& facts,
+                           LanguageLibrary& language) {
+    if (info.toolTip != nullptr) {
+        if (auto text = info.toolTip(facts, language)) return *std::move(text);
+    }
+    return libraryText(language, info.texts.toolTip);
 }
 
 std::string commandMenuText(const CommandInfo& info, LanguageLibrary& language) {
-    const auto host = hostTypeOfModeCommand(info.id);
-    if (!host) return language.loadText(info.menuTextId);
-    const HostTypeInfo& hostInfo = hostTypeInfo(*host);
-    return hostInfo.menuTextId != 0 ? language.loadText(hostInfo.menuTextId)
-                                    : std::string(hostInfo.menuTextLiteral);
+    return info.texts.menu != 0 ? language.loadText(info.texts.menu)
+                                : std::string(info.texts.menuLiteral);
+}
+
+std::optional<std::string> commandMenuText(const CommandInfo& info, const CommandFacts& facts,
+                                           LanguageLibrary& language) {
+    if (info.menuText == nullptr) return std::nullopt;
+    if (auto text = info.menuText(facts, language)) return text;
+    return commandMenuText(info, language);
 }
 
 std::span<const MenuInfo> menus() {
     return menuTable;
 }
 
-std::span<const int> toolbarCommands() {
-    return toolbarItems;
+CommandItems menuItems(EditorMenu menu) {
+    std::vector<CommandInfo> found;
+    std::ranges::copy_if(commands(), std::back_inserter(found),
+                         [menu](const CommandInfo& info) { return info.menu == menu; });
+    return itemsOf(found, &CommandInfo::menuGroup);
+}
+
+CommandItems toolbarItems() {
+    std::vector<CommandInfo> found;
+    std::ranges::copy_if(commands(), std::back_inserter(found),
+                         [](const CommandInfo& info) { return info.toolbarGroup > 0; });
+    std::ranges::stable_sort(found, std::ranges::less(), &CommandInfo::toolbarGroup);
+    return itemsOf(found, &CommandInfo::toolbarGroup);
 }
 
 }  // namespace quendra

@@ -1,72 +1,121 @@
-// The editor's commands in one table: menus, toolbar, tool tips, status-bar help and
-// shortcuts are all built from it.
+// The editor's commands, one row of a table each: menus, toolbar, shortcuts, texts and states are
+// all made from it. What a command runs is attached by the window's program.
 #pragma once
 
+#include "hosts/host_type.h"
 #include "text/language_library.h"
 
-#include <cstddef>
+#include <cstdint>
+#include <optional>
 #include <span>
 #include <string>
+#include <string_view>
+#include <vector>
 
 namespace quendra {
 
-namespace command {
-inline constexpr int newScript = 300;
-inline constexpr int open = 301;
-inline constexpr int save = 302;
-inline constexpr int saveAs = 303;
-inline constexpr int exit = 304;
-inline constexpr int cut = 305;
-inline constexpr int copy = 306;
-inline constexpr int paste = 307;
-inline constexpr int insertScriptEvent = 308;
-inline constexpr int insertLuFunction = 309;
-inline constexpr int insertMenuCommand = 310;
-inline constexpr int editEntry = 311;
-inline constexpr int deleteEntries = 312;
-inline constexpr int help = 319;
-inline constexpr int about = 320;
-inline constexpr int undo = 321;
-inline constexpr int redo = 322;
-inline constexpr int find = 323;
-inline constexpr int copyAsText = 324;
-inline constexpr int insertScript = 325;
-inline constexpr int helpOnSelection = 326;
-/// Stands for a separator in menus and toolbar.
-inline constexpr int separator = 0;
-}  // namespace command
+struct CommandFacts;
 
-struct CommandInfo {
-    int id;
-    /// 0 for the Mode commands, whose texts belong to the host types.
-    StringId menuTextId;
-    StringId toolTipId;
-    StringId statusTextId;
-    /// In Qt's portable notation, several with "; " between them; empty for none.
-    const char* shortcut;
+/// The numbers also name actions and toolbar buttons, and are those of the icons. 313 to 318 are
+/// the Mode commands, which come from the table of the host types: see modeCommand().
+enum class EditorCommand : int {
+    NewScript = 300,
+    Open = 301,
+    Save = 302,
+    SaveAs = 303,
+    Exit = 304,
+    Cut = 305,
+    Copy = 306,
+    Paste = 307,
+    InsertScriptEvent = 308,
+    InsertLuFunction = 309,
+    InsertMenuCommand = 310,
+    EditEntry = 311,
+    DeleteEntries = 312,
+    Help = 319,
+    About = 320,
+    Undo = 321,
+    Redo = 322,
+    Find = 323,
+    CopyAsText = 324,
+    InsertScript = 325,
+    HelpOnSelection = 326,
 };
 
-/// All commands in ascending order without gaps.
+/// In the order of the menu bar.
+enum class EditorMenu : std::uint8_t { File, Edit, Entry, Mode, Help };
+
+struct CommandTexts {
+    /// 0 where the menu text is the literal.
+    StringId menu = 0;
+    StringId toolTip = 0;
+    StringId status = 0;
+    std::string_view menuLiteral = {};
+};
+
+struct CommandInfo {
+    EditorCommand id;
+    CommandTexts texts;
+    /// In Qt's portable notation, several with "; " between them; empty for none.
+    const char* shortcut = "";
+    /// A menu has its commands in the order of the table, with a separator between two groups.
+    EditorMenu menu;
+    int menuGroup = 1;
+    /// The toolbar's groups stand in the order of their numbers; 0 for a command that is not there.
+    int toolbarGroup = 0;
+    /// None for a command that can always be chosen.
+    bool (*isEnabled)(const CommandFacts&) = nullptr;
+    /// Tool tip and menu text where they say what the command would do; none, or no text, for those
+    /// of `texts`.
+    std::optional<std::string> (*toolTip)(const CommandFacts&, LanguageLibrary&) = nullptr;
+    std::optional<std::string> (*menuText)(const CommandFacts&, LanguageLibrary&) = nullptr;
+    /// A full script refuses it.
+    bool addsEntries = false;
+    /// It puts the keyboard focus where it is wanted; after any other the pane has it.
+    bool movesFocus = false;
+    /// What a Mode command makes the current host type, and is checked for.
+    std::optional<HostType> hostType = {};
+};
+
+/// All commands, those of one menu in its order.
 [[nodiscard]] std::span<const CommandInfo> commands();
 
-/// The row of a command, which is one of commands().
-[[nodiscard]] const CommandInfo& commandInfo(int id);
+/// The row of a command.
+[[nodiscard]] const CommandInfo& commandInfo(EditorCommand id);
+
+/// The Mode command of a host type.
+[[nodiscard]] EditorCommand modeCommand(HostType type);
+
+[[nodiscard]] constexpr int commandNumber(EditorCommand id) {
+    return static_cast<int>(id);
+}
+
+[[nodiscard]] bool isCommandEnabled(const CommandInfo& info, const CommandFacts& facts);
+[[nodiscard]] bool isCommandChecked(const CommandInfo& info, const CommandFacts& facts);
+[[nodiscard]] std::string commandToolTip(const CommandInfo& info, const CommandFacts& facts,
+                                         LanguageLibrary& language);
 
 /// The menu text in UTF-8, with its "&" and with a shortcut behind a tab where the language has one
 /// there.
 [[nodiscard]] std::string commandMenuText(const CommandInfo& info, LanguageLibrary& language);
+/// The present menu text of a command whose text changes; none for others.
+[[nodiscard]] std::optional<std::string> commandMenuText(const CommandInfo& info,
+                                                         const CommandFacts& facts,
+                                                         LanguageLibrary& language);
 
 struct MenuInfo {
+    EditorMenu menu;
     StringId titleId;
     /// Names the menu for tests and style sheets.
     const char* objectName;
-    std::span<const int> items;
 };
 
 /// The menus of the menu bar in their order.
 [[nodiscard]] std::span<const MenuInfo> menus();
 
-/// The toolbar's commands in their order, separators among them.
-[[nodiscard]] std::span<const int> toolbarCommands();
+/// Commands in their order; none stands for a separator.
+using CommandItems = std::vector<std::optional<EditorCommand>>;
+[[nodiscard]] CommandItems menuItems(EditorMenu menu);
+[[nodiscard]] CommandItems toolbarItems();
 
 }  // namespace quendra

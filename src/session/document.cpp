@@ -62,15 +62,23 @@ std::string entryNumbers(const std::vector<std::size_t>& entries) {
     return entries.size() > shown ? text + ", ..." : text;
 }
 
-// The text holds one line for each reason, in the order of ReadStop.
+StringId stopTextId(ReadStop stop) {
+    switch (stop) {
+        case ReadStop::None: break;
+        case ReadStop::EndInsideRecord: return textid::fileEndsInsideEntry;
+        case ReadStop::UnknownCode: return textid::fileHasUnknownCommand;
+        case ReadStop::PromptTooLong: return textid::fileHasTooLongPrompt;
+        case ReadStop::NestedTooDeep: return textid::fileHasTooDeepActions;
+        case ReadStop::TooManyEntries: return textid::fileHasTooManyEntries;
+        case ReadStop::FileTooLong: return textid::fileIsTooLong;
+    }
+    return 0;
+}
+
 std::string stopText(ApplicationState& state, const ReadResult& read) {
-    const std::string lines = libraryText(state.language, textid::stoppedReadingReasons);
-    std::size_t start = 0;
-    for (auto left = static_cast<int>(read.stop) - 1; left > 0; --left)
-        start = std::min(lines.find('\n', start), lines.size() - 1) + 1;
-    return formatText(lines.substr(start, lines.find('\n', start) - start),
-                      {entryCountText(state.language, read.script.entryCount()),
-                       std::to_string(read.stopOffset)});
+    return libraryText(state.language, stopTextId(read.stop),
+                       {entryCountText(state.language, read.script.entryCount()),
+                        std::to_string(read.stopOffset)});
 }
 
 // What there is to tell about a loaded file; empty for an ordinary one. `unsaved` is the name of a

@@ -1,6 +1,8 @@
 #include "session/editing.h"
 
-#include "model/menu_catalogue.h"
+#include "model/entry_fields.h"
+#include "model/menu_commands.h"
+#include "model/new_command.h"
 #include "scriptfile/entry_codec.h"
 
 #include <algorithm>
@@ -11,9 +13,6 @@
 namespace quendra {
 
 namespace {
-
-constexpr std::uint8_t newMaxLength = 255;
-constexpr std::uint32_t newWaitSeconds = 3;
 
 void show(EditingState& state, EditingView& view, const EntrySelection& selection) {
     state.currentIndex = selection.focused;
@@ -60,10 +59,8 @@ bool insertMade(EditingState& state, EditingView& view, const Make& make) {
     return false;
 }
 
-bool refusedInVt(const EditingState& state, EditingView& view, const ScriptEntry& entry) {
-    if (state.currentHostType != HostType::VT || entry.commandId != menuCommandRefusedInVt) {
-        return false;
-    }
+bool refused(const EditingState& state, EditingView& view, const ScriptEntry& entry) {
+    if (!refusesMenuCommand(state.currentHostType, entry.commandId)) return false;
     view.refuse(EditRefusal::MenuCommandNotInVt, entry);
     return true;
 }
@@ -71,8 +68,7 @@ bool refusedInVt(const EditingState& state, EditingView& view, const ScriptEntry
 // The sheet works on the working settings; those of a new transfer are used as they are.
 void aimTransfer(EditingState& state, const ScriptEntry& entry) {
     state.workingTransfer.host = entry.transferHost;
-    state.workingTransfer.direction =
-        entry.commandId == sendFileCommand ? TransferDirection::Send : TransferDirection::Receive;
+    state.workingTransfer.direction = transferDirection(entry.commandId);
 }
 
 bool editMenuParameters(EditingState& state, EditingView& view, ScriptEntry& entry) {
@@ -81,60 +77,60 @@ bool editMenuParameters(EditingState& state, EditingView& view, ScriptEntry& ent
     return view.editParameters(entry);
 }
 
+PaletteChoice selectedIn(const EditingView& view, Palette palette) {
+    return {palette, view.selectedRow(palette)};
+}
+
+void takeRow(const EditingState& state, ScriptEntry& entry, const PaletteChoice& choice) {
+    takeCommand(slotFields(entry, Slot::Entry), choice,
+                state.luCatalogues.of(state.currentHostType));
+}
+
 std::optional<ScriptEntry> makeScriptEvent(EditingView& view) {
-    const int row = view.selectedRow(Palette::ScriptEvents);
-    if (row < 0) return std::nullopt;
-    ScriptEntry entry = newScriptEvent(scriptEvents()[static_cast<std::size_t>(row)].code);
+    const PaletteChoice choice = selectedIn(view, Palette::ScriptEvents);
+    if (choice.row < 0) return std::nullopt;
+    ScriptEntry entry = newCommand(commandOf(choice));
     if (editSource(entry) == EditSource::Dialog && !view.editParameters(entry)) return std::nullopt;
     return entry;
 }
 
-void setLuKey(const EditingState& state, ScriptEntry& entry, int row) {
-    const LuCatalogue& catalogue = state.luCatalogues.of(state.currentHostType);
-    const LuKey key = catalogue.rows[static_cast<std::size_t>(row)].key;
-    entry.row = key.group;
-    entry.column = key.number;
-}
-
 std::optional<ScriptEntry> makeLuFunction(const EditingState& state, const EditingView& view) {
-    const int row = view.selectedRow(Palette::LuFunctions);
-    if (row < 0) return std::nullopt;
+    const PaletteChoice choice = selectedIn(view, Palette::LuFunctions);
+    if (choice.row < 0) return std::nullopt;
     ScriptEntry entry;
-    entry.commandCode = CommandCode::LuFunction;
-    setLuKey(state, entry, row);
+    takeRow(state, entry, choice);
     return entry;
 }
 
 std::optional<ScriptEntry> makeMenuCommand(EditingState& state, EditingView& view) {
-    const int row = view.selectedRow(Palette::MenuCommands);
-    if (row < 0) return std::nullopt;
+    const PaletteChoice choice = selectedIn(view, Palette::MenuCommands);
+    if (choice.row < 0) return std::nullopt;
     ScriptEntry entry;
-    entry.commandCode = CommandCode::MenuCommand;
-    entry.commandId = firstMenuCommand + static_cast<std::uint32_t>(row);
-    if (refusedInVt(state, view, entry)) return std::nullopt;
+    takeRow(state, entry, choice);
+    if (refused(state, view, entry)) return std::nullopt;
     if (!editMenuParameters(state, view, entry)) return std::nullopt;
     return entry;
 }
 
-// The row that is to take an entry's place; -1 after telling where to select one.
-int replacingRow(EditingView& view, Palette palette) {
-    const int row = view.selectedRow(palette);
-    if (row < 0) view.askForRow(palette);
-    return row;
+// The row that is to take an entry's place; none after telling where to select one.
+PaletteChoice replacing(EditingView& view, Palette palette) {
+    const PaletteChoice choice = selectedIn(view, palette);
+    if (choice.row < 0) view.askForRow(palette);
+    return choice;
 }
 
 bool replaceLuFunction(const EditingState& state, EditingView& view, ScriptEntry& entry) {
-    const int row = replacingRow(view, Palette::LuFunctions);
-    if (row < 0) return false;
-    setLuKey(state, entry, row);
+    const PaletteChoice choice = replacing(view, Palette::LuFunctions);
+    if (choice.row < 0) return false;
+    takeRow(state, entry, choice);
     return true;
 }
 
 bool replaceMenuCommand(EditingState& state, EditingView& view, ScriptEntry& entry) {
-    const int row = replacingRow(view, Palette::MenuCommands);
-    if (row < 0) return false;
-    entry.commandId = firstMenuCommand + static_cast<std::uint32_t>(row);
-    if (refusedInVt(state, view, entry)) return false;
+    const PaletteChoice choice = replacing(view, Palette::MenuCommands);
+    if (choice.row < 0) return false;
+    takeRow(state, entry, choice);
+    if (refused(state, view, entry)) return false;
     if (isFileTransfer(entry.commandId)) {
         entry.transferSettings = defaultTransferSettings();
         state.workingTransfer.settings = entry.transferSettings;
@@ -142,17 +138,15 @@ bool replaceMenuCommand(EditingState& state, EditingView& view, ScriptEntry& ent
     return editMenuParameters(state, view, entry);
 }
 
-bool replaceScriptEvent(EditingView& view, ScriptEntry& entry) {
-    const int row = replacingRow(view, Palette::ScriptEvents);
-    if (row < 0) return false;
-    const CommandCode code = scriptEvents()[static_cast<std::size_t>(row)].code;
-    if (code == entry.commandCode) return false;
-    setCode(slotFields(entry, Slot::Entry), code);
+bool replaceScriptEvent(const EditingState& state, EditingView& view, ScriptEntry& entry) {
+    const PaletteChoice choice = replacing(view, Palette::ScriptEvents);
+    if (choice.row < 0 || commandOf(choice) == entry.code) return false;
+    takeRow(state, entry, choice);
     return editSource(entry) != EditSource::Dialog || view.editParameters(entry);
 }
 
 bool editInDialog(EditingState& state, EditingView& view, ScriptEntry& entry) {
-    if (entry.commandCode != CommandCode::MenuCommand) return view.editParameters(entry);
+    if (entry.code != CommandCode::MenuCommand) return view.editParameters(entry);
     if (isFileTransfer(entry.commandId)) state.workingTransfer.settings = entry.transferSettings;
     return editMenuParameters(state, view, entry);
 }
@@ -160,7 +154,7 @@ bool editInDialog(EditingState& state, EditingView& view, ScriptEntry& entry) {
 bool editWorkingCopy(EditingState& state, EditingView& view, ScriptEntry& entry) {
     switch (editSource(entry)) {
         case EditSource::Dialog: return editInDialog(state, view, entry);
-        case EditSource::ScriptEvents: return replaceScriptEvent(view, entry);
+        case EditSource::ScriptEvents: return replaceScriptEvent(state, view, entry);
         case EditSource::LuFunctions: return replaceLuFunction(state, view, entry);
         case EditSource::MenuCommands: return replaceMenuCommand(state, view, entry);
         case EditSource::None: break;
@@ -222,7 +216,7 @@ std::optional<std::size_t> pastePoint(const EditingState& state, const EditingVi
 }  // namespace
 
 EditSource editSource(const ScriptEntry& entry) {
-    switch (entry.commandCode) {
+    switch (entry.code) {
         case CommandCode::None: return EditSource::None;
         case CommandCode::LuFunction: return EditSource::LuFunctions;
         case CommandCode::MenuCommand:
@@ -231,40 +225,32 @@ EditSource editSource(const ScriptEntry& entry) {
         case CommandCode::Beep:
         case CommandCode::ClearWatch:
         case CommandCode::Return: return EditSource::ScriptEvents;
-        default: return EditSource::Dialog;
+        case CommandCode::Comment:
+        case CommandCode::Goto:
+        case CommandCode::Input:
+        case CommandCode::IfInputIs:
+        case CommandCode::Label:
+        case CommandCode::Message:
+        case CommandCode::Run:
+        case CommandCode::SetCursor:
+        case CommandCode::Type:
+        case CommandCode::Wait:
+        case CommandCode::WaitFor:
+        case CommandCode::WaitReady:
+        case CommandCode::WaitUntil:
+        case CommandCode::WatchFor:
+        case CommandCode::ExpressLogon:
+        case CommandCode::Copy:
+        case CommandCode::Paste: return EditSource::Dialog;
     }
+    return EditSource::None;
 }
 
 EditSource editSource(const EntryHandle& entry, const HiddenTextCipher& cipher) {
     if (entry.code() == CommandCode::MenuCommand) return editSource(unpackEntry(entry, cipher));
     ScriptEntry bare;
-    bare.commandCode = entry.code();
+    bare.code = entry.code();
     return editSource(bare);
-}
-
-ScriptEntry newScriptEvent(CommandCode code) {
-    ScriptEntry entry;
-    entry.commandCode = code;
-    entry.maxLength = newMaxLength;
-    entry.number = newWaitSeconds;
-    switch (code) {
-        case CommandCode::WaitFor:
-            entry.searchRow = 1;
-            entry.searchColumn = 1;
-            entry.caseSensitive = 1;
-            break;
-        case CommandCode::WaitReady: entry.number = 1; break;
-        case CommandCode::Copy:
-            entry.number = 0;
-            entry.commandId = packArea({1, 1, 24, 80});
-            break;
-        case CommandCode::Paste:
-            entry.number = 0;
-            entry.commandId = packArea({1, 1, 0, 0});
-            break;
-        default: break;
-    }
-    return entry;
 }
 
 std::size_t insertionPoint(EditingState& state, const EditingView& view) {

@@ -7,6 +7,7 @@
 
 #include "hosts/host_type.h"
 #include "hosts/lu_catalogue.h"
+#include "hosts/palettes.h"
 #include "model/entry_handle.h"
 #include "model/script.h"
 #include "model/script_entry.h"
@@ -19,8 +20,6 @@
 #include <vector>
 
 namespace quendra {
-
-enum class Palette : std::uint8_t { ScriptEvents, LuFunctions, MenuCommands };
 
 /// The part of a running editor's state that the operations read and change.
 struct EditingState {
@@ -97,9 +96,6 @@ enum class EditSource : std::uint8_t {
 };
 [[nodiscard]] EditSource editSource(const ScriptEntry& entry);
 [[nodiscard]] EditSource editSource(const EntryHandle& entry, const HiddenTextCipher& cipher);
-
-/// A Script Event as its dialog first shows it when it is inserted.
-[[nodiscard]] ScriptEntry newScriptEvent(CommandCode code);
 
 /// Where a palette insert places its entry: at the drop, else behind the focused entry, else behind
 /// the first selected one, else at the end. Uses up a pending drop.

@@ -1,5 +1,7 @@
 #include "transfer/command_builder.h"
 
+#include "model/menu_commands.h"
+
 #include <string_view>
 
 namespace quendra {
@@ -104,6 +106,15 @@ void appendCics(std::string& line, const Options& options) {
 }
 
 }  // namespace
+
+TransferDirection transferDirection(std::uint32_t commandId) {
+    return menuParameters(commandId) == MenuParameters::SendFile ? TransferDirection::Send
+                                                                 : TransferDirection::Receive;
+}
+
+TransferInputs transferInputs(const ConstSlotFields& fields) {
+    return {fields.transferSettings, fields.transferHost, transferDirection(fields.commandId)};
+}
 
 std::string buildTransferCommand(const FileTransferSettings& settings, std::uint8_t host,
                                  TransferDirection direction) {

@@ -1,7 +1,7 @@
 // The IND$FILE command line: what the host side of a file transfer is started with.
 #pragma once
 
-#include "model/file_transfer_settings.h"
+#include "model/script_entry.h"
 
 #include <cstdint>
 #include <string>
@@ -16,6 +16,12 @@ struct TransferInputs {
     std::uint8_t host = transferHostVmCms;
     TransferDirection direction = TransferDirection::Send;
 };
+
+/// Which way a menu command transfers, which is one of a file transfer.
+[[nodiscard]] TransferDirection transferDirection(std::uint32_t commandId);
+
+/// The transfer of a slot that holds one.
+[[nodiscard]] TransferInputs transferInputs(const ConstSlotFields& fields);
 
 inline constexpr std::size_t maxTransferCommandLength = 255;
 

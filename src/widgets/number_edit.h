@@ -1,6 +1,7 @@
 // The fields of every parameter that is a number: they take only what fits.
 #pragma once
 
+#include "model/number_range.h"
 #include "widgets/input_fault.h"
 
 #include <QLineEdit>
@@ -10,12 +11,6 @@
 #include <optional>
 
 namespace quendra {
-
-/// What a number field takes.
-struct NumberRange {
-    std::uint32_t smallest = 0;
-    std::uint32_t largest = 255;
-};
 
 /// A plain edit for a number from 0 to a greatest value. It can be left empty, and what would not
 /// be such a number cannot be typed.

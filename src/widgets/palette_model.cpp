@@ -8,6 +8,8 @@
 
 namespace quendra {
 
+namespace {
+
 std::vector<PaletteRow> scriptEventRows() {
     std::vector<PaletteRow> rows;
     for (const ScriptEventInfo& event : scriptEvents()) {
@@ -27,11 +29,28 @@ std::vector<PaletteRow> luFunctionRows(const LuCatalogue& catalogue) {
 
 std::vector<PaletteRow> menuCommandRows(const MenuCommandCatalogue& catalogue) {
     std::vector<PaletteRow> rows;
-    int bitmapId = static_cast<int>(firstMenuCommand);
-    for (const std::string& name : catalogue.names) {
-        rows.push_back({QString::fromStdString(name), bitmapId++});
+    for (const MenuCommandInfo& info : menuCommandTable) {
+        rows.push_back({QString::fromStdString(menuCommandName(catalogue, info.code)),
+                        bitmapIdOf(CommandCode::MenuCommand, info.code)});
     }
     return rows;
+}
+
+}  // namespace
+
+std::vector<PaletteRow> paletteRows(Palette palette, const LuCatalogue& luFunctions,
+                                    const MenuCommandCatalogue& menuCommands) {
+    switch (palette) {
+        case Palette::ScriptEvents: return scriptEventRows();
+        case Palette::LuFunctions: return luFunctionRows(luFunctions);
+        case Palette::MenuCommands: return menuCommandRows(menuCommands);
+    }
+    return {};
+}
+
+QString paletteObjectName(Palette palette, const char* part) {
+    const std::string_view name = paletteInfo(palette).name;
+    return QString::fromUtf8(name.data(), std::ssize(name)) + QLatin1String(part);
 }
 
 PaletteModel::PaletteModel(std::vector<PaletteRow> rows, QObject* parent)

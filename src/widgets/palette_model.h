@@ -1,8 +1,8 @@
 // The rows of the three palettes.
 #pragma once
 
-#include "hosts/lu_catalogue.h"
-#include "model/menu_catalogue.h"
+#include "hosts/palettes.h"
+#include "model/menu_commands.h"
 
 #include <QAbstractListModel>
 
@@ -15,12 +15,12 @@ struct PaletteRow {
     int bitmapId;
 };
 
-/// The twenty Script Events in catalogue order.
-[[nodiscard]] std::vector<PaletteRow> scriptEventRows();
-/// The keys of a host type in catalogue order.
-[[nodiscard]] std::vector<PaletteRow> luFunctionRows(const LuCatalogue& catalogue);
-/// Row n is menu command 201 + n.
-[[nodiscard]] std::vector<PaletteRow> menuCommandRows(const MenuCommandCatalogue& catalogue);
+/// The rows of a palette by their numbers, for a host type with these keys.
+[[nodiscard]] std::vector<PaletteRow> paletteRows(Palette palette, const LuCatalogue& luFunctions,
+                                                  const MenuCommandCatalogue& menuCommands);
+
+/// The object name of a part of a palette: "luFunctionsLabel" of "Label".
+[[nodiscard]] QString paletteObjectName(Palette palette, const char* part);
 
 class PaletteModel : public QAbstractListModel {
     Q_OBJECT

@@ -13,6 +13,8 @@
 namespace quendra::test {
 namespace {
 
+using enum EditorCommand;
+
 // Types a text into the dialog and presses OK; the same with the box that hides it.
 DialogAnswer typing(const std::string& text, bool hidden = false) {
     return [text, hidden](ScriptEntry& entry) {
@@ -50,20 +52,25 @@ class EditingWindowTest : public EditorTest {
     void insertHidden(const std::string& text) {
         choosePaletteRow("scriptEventsPalette", 14);
         toDialogs = {typing(text, true)};
-        run(308);
+        run(InsertScriptEvent);
     }
-    [[nodiscard]] std::string menuText(int command) { return action(command).text().toStdString(); }
+    [[nodiscard]] std::string menuText(EditorCommand command) {
+        return action(command).text().toStdString();
+    }
 };
 
 TEST_F(EditingWindowTest, EachPaletteInsertsByCommandDoubleClickReturnAndDrop) {
-    int command = 308;
-    for (const char* name : {"scriptEventsPalette", "luFunctionsPalette", "menuCommandsPalette"}) {
+    const std::pair<const char*, EditorCommand> rows[] = {
+        {"scriptEventsPalette", InsertScriptEvent},
+        {"luFunctionsPalette", InsertLuFunction},
+        {"menuCommandsPalette", InsertMenuCommand}};
+    for (const auto& [name, command] : rows) {
         SCOPED_TRACE(name);
         open("a.qds", commentFile(3));
         PaneList& palette = list(name);
         const std::string line = palette.model()->index(0, 0).data().toString().toStdString() + "|";
         choosePaletteRow(name, 0);
-        run(command++);
+        run(command);
         expectScript("1|" + line + "2|3", {1}, 1);
         doubleClick(palette, 0);
         EXPECT_TRUE(palette.hasFocus()) << "the next insert needs no click more";
@@ -80,15 +87,15 @@ TEST_F(EditingWindowTest, ReturnAndDoubleClickEditTheEntryOrAskForTheRowThatRepl
     select({1}, 1);
     toDialogs = {[](ScriptEntry&) { return false; }, [](ScriptEntry&) { return true; },
                  typing("two"), typing("one")};
-    run(311);
-    run(311);
+    run(EditEntry);
+    run(EditEntry);
     EXPECT_FALSE(isMarked());
-    EXPECT_FALSE(isEnabled(321)) << "Cancel, and an OK that changes nothing, are no steps";
+    EXPECT_FALSE(isEnabled(Undo)) << "Cancel, and an OK that changes nothing, are no steps";
     press(script(), Qt::Key_Return);
     expectScript("1|two|Beep", {1}, 1);
     EXPECT_TRUE(isMarked());
-    EXPECT_EQ(menuText(321), "&Undo Edit Entry");
-    run(321);
+    EXPECT_EQ(menuText(Undo), "&Undo Edit Entry");
+    run(Undo);
     doubleClick(script(), 0);
     EXPECT_EQ(lines(), "one|2|Beep");
     doubleClick(script(), 2);
@@ -105,10 +112,10 @@ TEST_F(EditingWindowTest, HiddenTextsAreShownNowhere) {
     EXPECT_FALSE(isMarked());
     insertHidden("secret");
     select({0, 1}, 1);
-    run(324);
+    run(CopyAsText);
     EXPECT_EQ(QGuiApplication::clipboard()->text(), QStringLiteral("1\nType \"******\" (H)\n"));
     EXPECT_TRUE(state.entryClipboard.empty()) << "the entries' own clipboard is another one";
-    run(323);
+    run(Find);
     QTest::keyClicks(&widget<QLineEdit>("findText"), QStringLiteral("secret"));
     EXPECT_EQ(widget<QLabel>("findCount").text(), QStringLiteral("Not found"));
 }
@@ -121,17 +128,17 @@ TEST_F(EditingWindowTest, UndoAndRedoNameTheirStepsAndBringSelectionBack) {
     EXPECT_EQ(answers.messages.back().text, "Delete 3 entries?");
     expectScript("1|2|3|4|5", {0, 2, 3}, 2);
     press(script(), Qt::Key_Delete);
-    EXPECT_EQ(menuText(321), "&Undo Delete 3 Entries");
+    EXPECT_EQ(menuText(Undo), "&Undo Delete 3 Entries");
     dragToTop(script(), 1);
     expectScript("5|2", {0}, 0);
-    EXPECT_EQ(menuText(321), "&Undo Move 1 Entry");
+    EXPECT_EQ(menuText(Undo), "&Undo Move 1 Entry");
     press(script(), Qt::Key_Z, Qt::ControlModifier);
     expectScript("2|5", {1}, 1);
     press(script(), Qt::Key_Z, Qt::ControlModifier);
     expectScript("1|2|3|4|5", {0, 2, 3}, 2);
     EXPECT_FALSE(isMarked());
     EXPECT_EQ(status(), "5 entries");
-    EXPECT_EQ(menuText(322), "&Redo Delete 3 Entries");
+    EXPECT_EQ(menuText(Redo), "&Redo Delete 3 Entries");
     press(script(), Qt::Key_Y, Qt::ControlModifier);
     press(script(), Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
     expectScript("5|2", {0}, 0);
@@ -142,21 +149,21 @@ TEST_F(EditingWindowTest, InsertScriptTakesAnotherFileInOneStepAndLeavesItAlone)
     const auto other = editor.folder / "other.qds";
     writeBytes(other, older);
     const auto path = open("a.qds", commentFile(2));
-    run(325, other);
+    run(InsertScript, other);
     expectScript("1|" + menuCommandName(state.menuCommands, 212) + "|b|2", {1, 2}, 2);
     EXPECT_NE(status().find("VT"), std::string::npos) << status();
     EXPECT_EQ(state.document.fileName, path);
-    EXPECT_EQ(menuText(321), "&Undo Insert Script");
+    EXPECT_EQ(menuText(Undo), "&Undo Insert Script");
     EXPECT_EQ(readBytes(other), older);
-    run(321);
+    run(Undo);
     expectScript("1|2", {0}, 0);
     writeBytes(other, bytesOf("dear all"));
-    run(325, other);
-    run(325, std::nullopt);
+    run(InsertScript, other);
+    run(InsertScript, std::nullopt);
     EXPECT_EQ(answers.messages.size(), 1U) << "refused, then cancelled";
     EXPECT_FALSE(isMarked());
     writeBytes(other, commentFile(4095));
-    run(325, other);
+    run(InsertScript, other);
     EXPECT_EQ(status(), "4094 of 4095 entries inserted: the script is full");
 }
 
@@ -211,10 +218,10 @@ TEST_F(FindBarTest, NextAndPreviousGoRoundInBothDirections) {
 
 TEST_F(FindBarTest, MarksFollowTheScriptAndGoWithTheBar) {
     type("9");
-    run(305);
+    run(Cut);
     EXPECT_EQ(found(), (std::vector<std::size_t>{17, 27}));
     EXPECT_EQ(count(), "2 found");
-    run(321);
+    run(Undo);
     press(edit, Qt::Key_Escape);
     EXPECT_FALSE(edit.isVisible());
     EXPECT_TRUE(found().empty());

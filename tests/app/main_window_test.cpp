@@ -1,4 +1,6 @@
 // The window as its user meets it: menus, keys, titles, prompts and what stands in the status bar.
+#include "app/editor_fixture.h"
+#include "session/command_rules.h"
 #include "session/command_states.h"
 #include "session/commands.h"
 #include "support/editor_fixture.h"
@@ -21,6 +23,7 @@ namespace {
 
 namespace fs = std::filesystem;
 using enum MessageAnswer;
+using enum EditorCommand;
 
 const Bytes letter = bytesOf("dear all");
 const std::string program = "Quendra Script Editor  -  ";
@@ -42,19 +45,19 @@ TEST_F(MainWindowTest, OpenShowsScriptTitleCountAndHostType) {
     EXPECT_TRUE(status().starts_with("1 entry loaded: ")) << status();
     EXPECT_NE(title().find("a[*][*]b.qds"), std::string::npos)
         << "doubled is how Qt is told to show it once";
-    EXPECT_TRUE(action(311).toolTip().contains(QStringLiteral("&lt;b&gt;bold&lt;/b&gt;")));
+    EXPECT_TRUE(action(EditEntry).toolTip().contains(QStringLiteral("&lt;b&gt;bold&lt;/b&gt;")));
     deleteFirstEntry();
-    run(300);
+    run(NewScript);
     EXPECT_TRUE(isMarked()) << "New of an empty script does nothing";
 }
 
 TEST_F(MainWindowTest, CancelledAndFailedOpenLeaveScriptAndTitle) {
     const fs::path path = open("a.qds", commentFile(3));
-    run(301, std::nullopt);
+    run(Open, std::nullopt);
     const fs::path refused = open("letter.qds", letter);
     EXPECT_EQ(title(), program + path.string());
     EXPECT_EQ(answers.messages.at(0).title, state.language.loadText(textid::openScriptErrorTitle));
-    run(302);
+    run(Save);
     EXPECT_EQ(readBytes(refused), letter) << "a later Save must not reach the refused file";
     EXPECT_EQ(readBytes(path), commentFile(3));
 }
@@ -64,7 +67,7 @@ TEST_F(MainWindowTest, FailedSaveIsShownAndTheMarkStays) {
     open("sub/a.qds", commentFile(2));
     deleteFirstEntry();
     fs::remove_all(editor.folder / "sub");
-    run(302);
+    run(Save);
     EXPECT_EQ(answers.messages.size(), 1U);
     EXPECT_TRUE(isMarked());
     answers.toMessages.push_back(Yes);
@@ -74,11 +77,11 @@ TEST_F(MainWindowTest, FailedSaveIsShownAndTheMarkStays) {
 
 TEST_F(MainWindowTest, UntitledSaveIsSaveAsAndClosingGoesOnWhenThatIsCancelled) {
     open("a.qds", untitled);
-    run(306);
-    run(300);
+    run(Copy);
+    run(NewScript);
     EXPECT_EQ(title(), program + "Untitled");
-    run(307);
-    run(302, std::nullopt);
+    run(Paste);
+    run(Save, std::nullopt);
     EXPECT_EQ(title(), program + "Untitled *") << "cancelling leaves it modified";
     answers.toMessages.push_back(Yes);
     answers.toFileDialogs.emplace_back(std::nullopt);
@@ -87,7 +90,7 @@ TEST_F(MainWindowTest, UntitledSaveIsSaveAsAndClosingGoesOnWhenThatIsCancelled) 
               state.language.loadText(textid::saveUntitledScriptQuestion));
     EXPECT_EQ(readBytes(editor.folder / "Untitled (unsaved).qds"), untitled) << "Yes was to save";
     writeBytes(editor.folder / "b.qds", letter);
-    run(302, editor.folder / "b.qds");
+    run(Save, editor.folder / "b.qds");
     EXPECT_EQ(answers.messages.size(), 1U) << "a name that was chosen is not asked about";
     EXPECT_EQ(title(), program + (editor.folder / "b.qds").string());
     EXPECT_EQ(readBytes(editor.folder / "b.qds"), untitled);
@@ -98,45 +101,46 @@ TEST_F(MainWindowTest, OverwritingAChangedFileAndLosingEntriesBothNeedAYes) {
     const fs::path path = open(
         "a.qds", scriptFile("QDMDSCR=", {commentRecord("a"), menuRecord(213), menuRecord(201)}));
     writeBytes(path, letter);
-    run(315);
-    run(302, No);
+    run(modeCommand(HostType::VT));
+    run(Save, No);
     EXPECT_NE(answers.messages.back().text.find(path.string()), std::string::npos);
     EXPECT_TRUE(answers.messages.back().defaultsToNo);
     answers.toMessages.push_back(Yes);
-    run(302, No);
+    run(Save, No);
     EXPECT_EQ(readBytes(path), letter);
     const Message lost = answers.messages.back();
     EXPECT_NE(lost.text.find("2:  " + state.menuCommands.names[12]), std::string::npos);
     EXPECT_EQ(lost.text.find("3:  "), std::string::npos) << lost.text;
     EXPECT_TRUE(lost.defaultsToNo);
     answers.toMessages.push_back(Yes);
-    run(302, Yes);
+    run(Save, Yes);
     EXPECT_EQ(readBytes(path).at(2), 'V');
     EXPECT_EQ(readBytes(path.string() + ".bak"), letter);
     EXPECT_EQ(status(), "The old file is kept as a.qds.bak");
 }
 
 TEST_F(MainWindowTest, AsksBeforeNewOpenAndExitDiscardChanges) {
-    for (const int command : {300, 301, 304}) {
+    for (const EditorCommand command : {NewScript, Open, Exit}) {
         for (const MessageAnswer answer : {Yes, No, Cancel}) {
-            SCOPED_TRACE(std::to_string(command) + ' ' + std::to_string(static_cast<int>(answer)));
+            SCOPED_TRACE(std::to_string(commandNumber(command)) + ' ' +
+                         std::to_string(static_cast<int>(answer)));
             const bool goesOn = answer != Cancel;
             const fs::path path = open("a.qds", commentFile(2));
             deleteFirstEntry();
-            if (command == 301 && goesOn) answers.toFileDialogs.emplace_back(std::nullopt);
+            if (command == Open && goesOn) answers.toFileDialogs.emplace_back(std::nullopt);
             run(command, answer);
             QCoreApplication::processEvents();
-            EXPECT_EQ(lines(), command == 300 && goesOn ? "" : "2");
+            EXPECT_EQ(lines(), command == NewScript && goesOn ? "" : "2");
             EXPECT_TRUE(answers.toFileDialogs.empty());
-            EXPECT_EQ(window.isVisible(), command != 304 || !goesOn);
+            EXPECT_EQ(window.isVisible(), command != Exit || !goesOn);
             window.show();
             ASSERT_EQ(answers.messages.size(), 1U);
             const Message& prompt = answers.messages[0];
             EXPECT_EQ(prompt.buttons, MessageButtons::YesNoCancel);
             EXPECT_NE(prompt.text.find(path.string()), std::string::npos);
             EXPECT_EQ(prompt.title,
-                      state.language.loadText(command == 304 ? textid::exitTitle
-                                                             : textid::saveChangesTitle));
+                      state.language.loadText(command == Exit ? textid::exitTitle
+                                                              : textid::saveChangesTitle));
             EXPECT_EQ(readBytes(path), answer == Yes ? scriptFile("QDMDSCR=", {commentRecord("2")})
                                                      : commentFile(2));
             state.document.modified = false;
@@ -169,16 +173,17 @@ TEST_F(MainWindowTest, ModeSwitchRenamesKeysAndChangesNothingElse) {
     const Bytes bytes = scriptFile("QDMDSCR=", {Bytes{1, 4, 31}, Bytes{1, 1, 1}});
     const fs::path path = open("a.qds", bytes);
     const std::string before = lines();
-    run(315);
+    run(modeCommand(HostType::VT));
     EXPECT_EQ(state.currentHostType, HostType::VT);
     EXPECT_EQ(list("luFunctionsPalette").model()->rowCount(), 142);
     EXPECT_NE(lines(), before);
-    for (int mode = 313; mode <= 318; ++mode)
-        EXPECT_EQ(action(mode).isChecked(), mode == 315) << mode;
+    for (const HostType type : allHostTypes)
+        EXPECT_EQ(action(modeCommand(type)).isChecked(), type == HostType::VT)
+            << hostTypeInfo(type).name;
     EXPECT_TRUE(script().hasFocus());
-    widget<QToolButton>("toolButton313").click();
+    toolButton(modeCommand(HostType::Mainframe)).click();
     EXPECT_EQ(lines(), before);
-    run(302);
+    run(Save);
     EXPECT_EQ(readBytes(path), bytes);
 }
 
@@ -194,62 +199,87 @@ CommandFacts focusedOn(EditSource source, CommandFacts facts = {}) {
 
 TEST(CommandStates, ConditionalCommandsFollowScriptAndSelections) {
     using enum EditSource;
-    const std::pair<CommandFacts, std::set<int>> rows[] = {
+    const std::pair<CommandFacts, std::set<EditorCommand>> rows[] = {
         {{}, {}},
-        {{.selectedCount = 2}, {305, 306, 312, 324}},
-        {{.clipboardCount = 1}, {307}},
-        {focusedOn(Dialog), {302, 303, 323, 311}},
-        {focusedOn(ScriptEvents), {302, 303, 323}},
-        {focusedOn(ScriptEvents, event), {302, 303, 323, 308, 311}},
-        {focusedOn(ScriptEvents, luFunction), {302, 303, 323, 309}},
-        {focusedOn(LuFunctions, luFunction), {302, 303, 323, 309, 311}},
-        {focusedOn(MenuCommands, event), {302, 303, 323, 308}},
-        {focusedOn(MenuCommands, menuCommand), {302, 303, 323, 310, 311}},
-        {{.undoStep = "Cut 1 Entry"}, {321}},
-        {{.redoStep = "Cut 1 Entry"}, {322}},
+        {{.selectedCount = 2}, {Cut, Copy, DeleteEntries, CopyAsText}},
+        {{.clipboardCount = 1}, {Paste}},
+        {focusedOn(Dialog), {Save, SaveAs, Find, EditEntry}},
+        {focusedOn(ScriptEvents), {Save, SaveAs, Find}},
+        {focusedOn(ScriptEvents, event), {Save, SaveAs, Find, InsertScriptEvent, EditEntry}},
+        {focusedOn(ScriptEvents, luFunction), {Save, SaveAs, Find, InsertLuFunction}},
+        {focusedOn(LuFunctions, luFunction), {Save, SaveAs, Find, InsertLuFunction, EditEntry}},
+        {focusedOn(MenuCommands, event), {Save, SaveAs, Find, InsertScriptEvent}},
+        {focusedOn(MenuCommands, menuCommand), {Save, SaveAs, Find, InsertMenuCommand, EditEntry}},
+        {{.undoStep = "Cut 1 Entry"}, {Undo}},
+        {{.redoStep = "Cut 1 Entry"}, {Redo}},
     };
-    const std::set<int> always = {300, 301, 304, 313, 314, 315, 316, 317, 318, 319, 320, 325, 326};
+    const std::set<EditorCommand> always = {NewScript, Open,         Exit,           Help,
+                                            About,     InsertScript, HelpOnSelection};
     for (const auto& [facts, enabled] : rows)
         for (const CommandInfo& info : commands())
-            EXPECT_EQ(isCommandEnabled(info.id, facts),
-                      enabled.contains(info.id) || always.contains(info.id))
-                << testing::PrintToString(enabled) << ' ' << info.id;
+            EXPECT_EQ(isCommandEnabled(info, facts),
+                      enabled.contains(info.id) || always.contains(info.id) || info.hostType)
+                << testing::PrintToString(enabled) << ' ' << commandNumber(info.id);
+}
+
+// Their numbers, with "|" for a separator.
+std::string shown(const CommandItems& items) {
+    std::string all;
+    for (const auto& item : items)
+        all += (all.empty() ? "" : " ") + (item ? std::to_string(commandNumber(*item)) : "|");
+    return all;
+}
+
+TEST(CommandTable, ANewCommandLeavesTheOthersOfItsMenuAndTheToolbarWhereTheyAre) {
+    const std::pair<EditorMenu, std::string> rows[] = {
+        {EditorMenu::File, "300 301 302 303 | 304"},
+        {EditorMenu::Edit, "321 322 | 305 306 324 307 | 323"},
+        {EditorMenu::Entry, "308 309 310 325 | 311 | 312"},
+        {EditorMenu::Mode, "313 314 315 316 317 318"},
+        {EditorMenu::Help, "319 326 | 320"},
+    };
+    for (const auto& [menu, items] : rows)
+        EXPECT_EQ(shown(menuItems(menu)), items);
+    EXPECT_EQ(shown(toolbarItems()),
+              "301 302 | 305 306 307 | 321 322 | 308 309 310 | 311 | 312 | "
+              "313 314 315 316 317 318 | 319 320");
 }
 
 TEST_F(MainWindowTest, CommandStatesFollowSelectionsInTheLists) {
     open("a.qds", commentFile(2));
     choosePaletteRow("scriptEventsPalette", 0);
-    EXPECT_EQ(action(308).toolTip(), QStringLiteral("Insert Script Event Beep"));
-    EXPECT_FALSE(widget<QToolButton>("toolButton309").isEnabled());
-    EXPECT_EQ(action(311).toolTip(), QStringLiteral("Edit 1"));
+    EXPECT_EQ(action(InsertScriptEvent).toolTip(), QStringLiteral("Insert Script Event Beep"));
+    EXPECT_FALSE(toolButton(InsertLuFunction).isEnabled());
+    EXPECT_EQ(action(EditEntry).toolTip(), QStringLiteral("Edit 1"));
     select({0, 1}, 1);
-    EXPECT_EQ(action(312).toolTip(), QStringLiteral("Delete 2 entries"));
+    EXPECT_EQ(action(DeleteEntries).toolTip(), QStringLiteral("Delete 2 entries"));
     QTest::keyClick(&script(), Qt::Key_C, Qt::ControlModifier);
-    EXPECT_TRUE(isEnabled(307));
+    EXPECT_TRUE(isEnabled(Paste));
     EXPECT_FALSE(isMarked()) << "copying changes nothing";
     select({}, -1);
-    for (const int command : {305, 306, 311, 312, 324})
-        EXPECT_FALSE(isEnabled(command)) << command;
+    for (const EditorCommand command : {Cut, Copy, EditEntry, DeleteEntries, CopyAsText})
+        EXPECT_FALSE(isEnabled(command)) << commandNumber(command);
 }
 
 TEST_F(MainWindowTest, InsertsAreRefusedAtTheLimitAndTheRestStillWorks) {
     open("full.qds", commentFile(4096));
-    run(306);
+    run(Copy);
     for (const char* palette : {"scriptEventsPalette", "luFunctionsPalette", "menuCommandsPalette"})
         choosePaletteRow(palette, 0);
-    for (const int command : {307, 308, 309, 310, 325}) {
+    for (const EditorCommand command :
+         {Paste, InsertScriptEvent, InsertLuFunction, InsertMenuCommand, InsertScript}) {
         answers.messages.clear();
         state.dropPending = true;
         state.currentIndex = 9;
         run(command);
-        ASSERT_EQ(answers.messages.size(), 1U) << command;
+        ASSERT_EQ(answers.messages.size(), 1U) << commandNumber(command);
         EXPECT_EQ(answers.messages[0].text, "Max limit of 4096 script entries reached.");
         EXPECT_FALSE(state.dropPending) << "a later insert would take a stale position";
         EXPECT_EQ(state.currentIndex, 0) << "the position is where the focus is";
     }
-    run(305);
+    run(Cut);
     EXPECT_EQ(state.script.entryCount(), 4095U);
-    run(307);
+    run(Paste);
     EXPECT_EQ(state.script.entryCount(), 4096U);
 }
 
@@ -263,7 +293,7 @@ TEST_F(MainWindowTest, AboutBoxNamesTheVersionAndIgnoresEscape) {
         EXPECT_TRUE(box->isVisible());
         QTest::mouseClick(box->findChild<QPushButton*>(QStringLiteral("aboutOk")), Qt::LeftButton);
     });
-    run(320);
+    run(About);
 }
 
 // Counts the controls by their roles in `found`; those without a name fail the test.
@@ -279,7 +309,7 @@ void walkAccessibleTree(QAccessibleInterface& seen, std::map<QAccessible::Role, 
 
 TEST_F(MainWindowTest, EveryControlHasANameForScreenReaders) {
     open("a.qds", commentFile(5));
-    run(323);
+    run(Find);
     window.resize(window.minimumSize());
     QCoreApplication::processEvents();
     using enum QAccessible::Role;

@@ -1,7 +1,7 @@
 // The log-on script of the examples, built from an empty window by keys alone.
 #include "desktop/editor_process.h"
 #include "model/command_catalogue.h"
-#include "model/menu_catalogue.h"
+#include "model/menu_commands.h"
 
 #include <algorithm>
 

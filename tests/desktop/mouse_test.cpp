@@ -18,7 +18,10 @@ using Fields = std::vector<std::pair<std::string, std::string>>;
 // All but the life of the windows is for the user's thread.
 class MouseTest : public testing::Test {
   protected:
-    MouseTest() : window_(editor_.state), scriptEditor_(editor_.state, window_, editParameters) {
+    MouseTest()
+        : window_(editor_.state),
+          scriptEditor_(editor_.state, window_, editParameters),
+          handlers_(editor_.state, window_, scriptEditor_) {
         window_.show();
     }
     ~MouseTest() override {
@@ -44,6 +47,7 @@ class MouseTest : public testing::Test {
         EXPECT_EQ(shows, onScreen([] { return QApplication::overrideCursor() != nullptr; }));
     }
 
+    static void clickTool(EditorCommand command) { click(toolButtonName(command).toStdString()); }
     void expectOneMoreEntry() {
         ++inserted_;
         waitForWindow("mainWindow");
@@ -108,6 +112,7 @@ class MouseTest : public testing::Test {
     EditorState editor_;
     MainWindow window_;
     ScriptEditor scriptEditor_;
+    CommandHandlers handlers_;
     std::size_t inserted_ = 0;
 };
 
@@ -121,7 +126,7 @@ void MouseTest::buildFirstHalf() {
     insertPlain(keys, "Enter");
     // By the toolbar.
     clickRow(events, "Wait_Ready");
-    click("toolButton308");
+    clickTool(EditorCommand::InsertScriptEvent);
     waitForWindow("waitDialog");
     accept();
     insertText("Label", "AskPassword");
@@ -183,7 +188,7 @@ TEST_F(MouseTest, BuildsTheLogOnScriptAndSavesIt) {
         waitForWindow("mainWindow");
         buildFirstHalf();
         buildSecondHalf();
-        click("toolButton302");
+        clickTool(EditorCommand::Save);
         fillIn("fileDialog", {{"fileNameEdit", "logon.qds"}});
         click("&Save");
         waitForWindow("mainWindow");
@@ -227,7 +232,7 @@ TEST_F(MouseTest, ADragMovesManyEntriesUnlessEscapeOrAnotherWindowCancelsIt) {
         startRowDrag(script, "5", script, "7");
         act({"mouseup", "1"});
         waitForLines("1|4|6|2|3|7|5|8|");
-        click("toolButton321");
+        clickTool(EditorCommand::Undo);
         waitForLines("1|2|3|4|5|6|7|8|");
     });
 }

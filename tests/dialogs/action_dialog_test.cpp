@@ -52,7 +52,7 @@ TEST_F(ActionDialogTest, SelectsNothingWhereNothingWasChosenAndRefusesInItsWords
                  "compare string and/or variable(s) are not equal."}};
     state.currentHostType = HostType::VT;
     for (const auto& row : rows) {
-        entry = newScriptEvent(row.owner);
+        entry = newCommand(row.owner);
         const ScriptEntry before = entry;
         steps.in("actionDialog", [&](const OpenDialog& d) {
             EXPECT_EQ(d.title(), row.title);
@@ -110,9 +110,9 @@ TEST_F(ActionDialogTest, OneRowIsSelectedInAllThreeListsAndThatIsTheChoice) {
         d.press(Qt::Key_Return);
     });
     ASSERT_TRUE(choose(Slot::Else));
-    EXPECT_EQ(entry.elseCode, CommandCode::MenuCommand);
-    EXPECT_EQ(entry.elseCommandId, 213U) << "which only a script for VT refuses";
-    EXPECT_EQ(entry.thenCode, CommandCode::None);
+    EXPECT_EQ(entry.elseAction.code, CommandCode::MenuCommand);
+    EXPECT_EQ(entry.elseAction.commandId, 213U) << "which only a script for VT refuses";
+    EXPECT_EQ(entry.thenAction.code, CommandCode::None);
 }
 
 TEST_F(ActionDialogTest, OkAsksForWhatTheActionLacksUntilItHasIt) {
@@ -125,7 +125,7 @@ TEST_F(ActionDialogTest, OkAsksForWhatTheActionLacksUntilItHasIt) {
     chooseRow(events, "Wait");
     answer("waitDialog", "number", "7");
     ASSERT_TRUE(choose(Slot::Else));
-    EXPECT_EQ(entry.elseNumber, 7U);
+    EXPECT_EQ(entry.elseAction.number, 7U);
     EXPECT_EQ(entry.number, 3U);
     click("actionDialog", "ok");
     EXPECT_TRUE(choose(Slot::Else)) << "seconds that are there are not asked for again";
@@ -142,7 +142,7 @@ TEST_F(ActionDialogTest, OkAsksForWhatTheActionLacksUntilItHasIt) {
             d.click("ok");
         });
         ASSERT_TRUE(choose(Slot::Else));
-        EXPECT_EQ(entry.elseHidden, editing ? 0 : 1);
+        EXPECT_EQ(entry.elseAction.hidden, editing ? 0 : 1);
         EXPECT_EQ(textOf(otherwise()), "secret");
         EXPECT_EQ(entry.hidden, 0);
     }
@@ -151,7 +151,7 @@ TEST_F(ActionDialogTest, OkAsksForWhatTheActionLacksUntilItHasIt) {
 TEST_F(ActionDialogTest, DoubleClickAsksAgainAndCancelTakesAllOfItBack) {
     for (const bool ok : {false, true}) {
         startWithTimeout();
-        entry.thenCode = CommandCode::Goto;
+        entry.thenAction.code = CommandCode::Goto;
         setText(then(), "old");
         const ScriptEntry before = entry;
         doubleClickRow(events, "Message");
@@ -187,8 +187,8 @@ TEST_F(ActionDialogTest, OkStartsATransferFromTheWorkingSettingsAndADoubleClickF
     answer("transferSheet", "member", "MEMBER1");
     ASSERT_TRUE(choose(Slot::Else));
     EXPECT_EQ(state.workingTransfer.direction, TransferDirection::Receive);
-    EXPECT_EQ(entry.elseTransferHost, transferHostTso);
-    EXPECT_EQ(entry.elseTransferSettings, working);
+    EXPECT_EQ(entry.elseAction.transferHost, transferHostTso);
+    EXPECT_EQ(entry.elseAction.transferSettings, working);
     EXPECT_EQ(transferText(working, transfer::member), "MEMBER1");
     EXPECT_EQ(entry.transferSettings, FileTransferSettings{});
 
@@ -204,8 +204,8 @@ TEST_F(ActionDialogTest, OkStartsATransferFromTheWorkingSettingsAndADoubleClickF
     click("actionDialog", "ok");
     ASSERT_TRUE(choose(Slot::Else));
     EXPECT_EQ(state.workingTransfer.direction, TransferDirection::Send);
-    EXPECT_EQ(entry.elseCommandId, sendFileCommand);
-    EXPECT_EQ(transferText(entry.elseTransferSettings, transfer::pcFileName), "mine.txt");
+    EXPECT_EQ(entry.elseAction.commandId, sendFileCommand);
+    EXPECT_EQ(transferText(entry.elseAction.transferSettings, transfer::pcFileName), "mine.txt");
 
     // A new one starts from the one that an action's line shows.
     setTransferText(working, transfer::hostFileName, "OTHER");

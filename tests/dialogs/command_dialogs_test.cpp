@@ -41,12 +41,12 @@ TEST_F(DialogTest, PositionsThatAreDisabledAreStillRequired) {
         click(box);
         EXPECT_EQ(enabled(fields).find('0'), std::string::npos);
     }
-    entry = newScriptEvent(Code::Copy);
+    entry = newCommand(Code::Copy);
     entry.number = 2;
     open();
     EXPECT_EQ(checked("entireScreen") + enabled("startRow startRowLabel endRowLabel"), "1000");
     EXPECT_EQ(focused(), "entireScreen");
-    entry = newScriptEvent(Code::Paste);
+    entry = newCommand(Code::Paste);
     entry.commandId = 0x44332211;
     open();
     click("ok");
@@ -189,7 +189,7 @@ TEST_F(DialogTest, AnInputPromptHasLinesIsCutWhenPastedAndRefusedWhenTyped) {
 
 TEST_F(DialogTest, WaitUntilShowsThePresentMomentForNoneAndForAnImpossibleOne) {
     for (const DateTime& moment : {DateTime{}, DateTime{2030, 13, 0, 41, 25, 0, 0, 0}}) {
-        entry = newScriptEvent(Code::WaitUntil);
+        entry = newCommand(Code::WaitUntil);
         entry.waitUntil = moment;
         const QDateTime before = QDateTime::currentDateTime().addSecs(-1);
         open();
@@ -214,7 +214,7 @@ TEST_F(DialogTest, WaitUntilShowsThePresentMomentForNoneAndForAnImpossibleOne) {
 TEST_F(DialogTest, ReturnIsOkAndTheFirstFieldIsSelectedAtTheStart) {
     // Browse comes before OK in the second one.
     for (const Code code : {Code::Goto, Code::Run}) {
-        entry = newScriptEvent(code);
+        entry = newCommand(code);
         setText(own(), "old");
         open();
         type("new");

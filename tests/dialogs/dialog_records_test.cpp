@@ -36,21 +36,22 @@ void putOne(ScriptEntry& e, Slot slot, const std::string& name, const std::strin
     const auto number = [&] { return static_cast<std::uint32_t>(std::stoul(value, nullptr, 0)); };
     const auto byte = [&] { return static_cast<std::uint8_t>(number()); };
     if (name == "text")
-        in(e.textLength, e.thenTextLength, e.elseTextLength) =
-            static_cast<std::uint8_t>(fill(in(e.text, e.thenText, e.elseText)));
+        in(e.textLength, e.thenAction.textLength, e.elseAction.textLength) =
+            static_cast<std::uint8_t>(fill(in(e.text, e.thenAction.text, e.elseAction.text)));
     if (name == "prompt")
-        in(e.number, e.number, e.elseNumber) =
-            static_cast<std::uint32_t>(fill(in(e.prompt, e.prompt, e.elsePrompt)));
-    if (name == "number") in(e.number, e.number, e.elseNumber) = number();
-    if (name == "menu") in(e.commandId, e.commandId, e.elseCommandId) = number();
-    if (name == "area") in(e.commandId, e.commandId, e.elseArea) = number();
-    if (name == "row") in(e.row, e.row, e.elseRow) = byte();
-    if (name == "column") in(e.column, e.column, e.elseColumn) = byte();
-    if (name == "hidden") in(e.hidden, e.hidden, e.elseHidden) = byte();
-    if (name == "length") in(e.maxLength, e.maxLength, e.elseMaxLength) = byte();
-    if (name == "variable") in(e.inputVariable, e.inputVariable, e.elseInputVariable) = byte();
+        in(e.number, e.number, e.elseAction.number) =
+            static_cast<std::uint32_t>(fill(in(e.prompt, e.prompt, e.elseAction.prompt)));
+    if (name == "number") in(e.number, e.number, e.elseAction.number) = number();
+    if (name == "menu") in(e.commandId, e.commandId, e.elseAction.commandId) = number();
+    if (name == "area") in(e.commandId, e.commandId, e.elseAction.area) = number();
+    if (name == "row") in(e.row, e.row, e.elseAction.row) = byte();
+    if (name == "column") in(e.column, e.column, e.elseAction.column) = byte();
+    if (name == "hidden") in(e.hidden, e.hidden, e.elseAction.hidden) = byte();
+    if (name == "length") in(e.maxLength, e.maxLength, e.elseAction.maxLength) = byte();
+    if (name == "variable")
+        in(e.inputVariable, e.inputVariable, e.elseAction.inputVariable) = byte();
     if (name == "until") {
-        DateTime& d = in(e.waitUntil, e.thenWaitUntil, e.elseWaitUntil);
+        DateTime& d = in(e.waitUntil, e.thenAction.waitUntil, e.elseAction.waitUntil);
         std::istringstream(value) >> d.year >> d.month >> d.dayOfWeek >> d.day >> d.hour >>
             d.minute >> d.second >> d.milliseconds;
     }
@@ -73,11 +74,11 @@ ScriptEntry crowdedEntry(Code owner) {
             "prompt=prompt " + n + "|text=text " + n + "|row=1" + n + "|column=2" + n +
                 "|variable=" + n + "|length=4" + n + "|until=2031 2 3 1" + n + " 6 7 8 9");
     }
-    e.commandCode = owner;
+    e.code = owner;
     e.hidden = 0;
     e.commandData = 0x11121314;
-    e.elseCommandData = 0x21222324;
-    e.elseArea = 0x31323334;
+    e.elseAction.commandData = 0x21222324;
+    e.elseAction.area = 0x31323334;
     return e;
 }
 

@@ -12,7 +12,7 @@ class SearchTest : public SearchDialogTest {
 
 TEST_F(SearchTest, ANewWaitForIsTypedAndItsTimeoutSwitchesTheActionsAtOnce) {
     const std::string actionParts = "thenButton thenLine elseButton elseLine timeoutSeconds";
-    entry = newScriptEvent(CommandCode::WaitFor);
+    entry = newCommand(CommandCode::WaitFor);
     ScriptEntry expected = entry;
     setText(slotFields(expected, Slot::Entry), "READY");
     expected.hasTimeout = 1;
@@ -98,11 +98,11 @@ TEST_F(SearchTest, APositionFromAForeignFileStaysUntilItIsChanged) {
 
 TEST_F(SearchTest, ActionsThatCannotBeReadSurviveAnEditOfTheText) {
     startWithTimeout();
-    entry.thenCode = CommandCode::Type;
+    entry.thenAction.code = CommandCode::Type;
     entry.hidden = 1;
-    entry.thenKept = {1, 2, 3};
-    entry.elseCode = CommandCode::WatchFor;
-    entry.elseKept = {4, 5, 6};
+    entry.thenAction.kept = {1, 2, 3};
+    entry.elseAction.code = CommandCode::WatchFor;
+    entry.elseAction.kept = {4, 5, 6};
     ScriptEntry expected = entry;
     setText(slotFields(expected, Slot::Entry), "OTHER");
     steps.in("waitForDialog", [](const OpenDialog& d) {
@@ -124,7 +124,7 @@ TEST_F(SearchTest, ActionsThatCannotBeReadSurviveAnEditOfTheText) {
     ASSERT_TRUE(run());
     EXPECT_EQ(entry, expected);
 
-    entry.commandCode = expected.commandCode = CommandCode::WatchFor;
+    entry.code = expected.code = CommandCode::WatchFor;
     setText(slotFields(expected, Slot::Entry), "AGAIN");
     steps.in("watchForDialog", [](const OpenDialog& d) {
         d.retype("text", "AGAIN");
@@ -135,7 +135,7 @@ TEST_F(SearchTest, ActionsThatCannotBeReadSurviveAnEditOfTheText) {
 }
 
 TEST_F(SearchTest, ANewIfInputIsTakesAVariableInAnyCaseAndALiteral) {
-    entry = newScriptEvent(CommandCode::IfInputIs);
+    entry = newCommand(CommandCode::IfInputIs);
     steps.in("ifInputIsDialog", [this](const OpenDialog& d) {
         EXPECT_EQ(d.shown("firstOperand") + d.shown("secondOperand"), "InputStr");
         d.retype("secondOperandText", "");
@@ -179,7 +179,7 @@ TEST_F(SearchTest, ANewIfInputIsTakesAVariableInAnyCaseAndALiteral) {
 }
 
 TEST_F(SearchTest, AWaitForActionOfAWatchForHasATextAndSearchOptionsOnly) {
-    entry = newScriptEvent(CommandCode::WatchFor);
+    entry = newCommand(CommandCode::WatchFor);
     setText(own(), "ERROR");
     steps.in("watchForDialog", [](const OpenDialog& d) {
         d.clickRow("scriptEventsList", "Wait_For");
@@ -214,7 +214,7 @@ TEST_F(SearchTest, AWaitForActionOfAWatchForHasATextAndSearchOptionsOnly) {
 }
 
 TEST_F(SearchTest, ANewWatchForOffersBeepAndRefusesInTheWordsOfTheLibraryAndOnlyAtOk) {
-    entry = newScriptEvent(CommandCode::WatchFor);
+    entry = newCommand(CommandCode::WatchFor);
     state.currentHostType = HostType::VT;
     steps.in("watchForDialog", [this](const OpenDialog& d) {
         EXPECT_EQ(d.focused(), "text");
@@ -228,7 +228,7 @@ TEST_F(SearchTest, ANewWatchForOffersBeepAndRefusesInTheWordsOfTheLibraryAndOnly
     ASSERT_TRUE(run());
     EXPECT_EQ(line(), "Watch_For \"ERROR\" Then Beep");
 
-    entry.thenCode = CommandCode::LuFunction;
+    entry.thenAction.code = CommandCode::LuFunction;
     entry.row = 99;
     steps.in("watchForDialog", [this](const OpenDialog& d) {
         d.click("ok");
@@ -248,7 +248,7 @@ TEST_F(SearchTest, ANewWatchForOffersBeepAndRefusesInTheWordsOfTheLibraryAndOnly
         d.press(Qt::Key_Return);
     });
     ASSERT_TRUE(run());
-    EXPECT_EQ(entry.thenCode, CommandCode::LuFunction);
+    EXPECT_EQ(entry.thenAction.code, CommandCode::LuFunction);
     EXPECT_EQ(entry.row, 4);
     EXPECT_EQ(entry.column, 7);
 }

@@ -1,7 +1,7 @@
 // The rules behind the choice of an action and the operands of a comparison, on plain values.
 #include "dialogs/action_rules.h"
 #include "dialogs/compare_operand.h"
-#include "model/menu_catalogue.h"
+#include "model/menu_commands.h"
 
 #include <gtest/gtest.h>
 
@@ -10,9 +10,9 @@ namespace {
 
 using Code = CommandCode;
 
-ActionChoice choiceOfCode(Code code, std::uint32_t commandId = 0) {
+PaletteChoice choiceOfCode(Code code, std::uint32_t commandId = 0) {
     ScriptEntry entry;
-    entry.thenCode = code;
+    entry.thenAction.code = code;
     entry.commandId = commandId;
     return choiceOf(slotFields(entry, Slot::Then), {});
 }
@@ -38,7 +38,7 @@ TEST(ActionRules, OneFieldDecidesWhetherAnActionLacksItsParameters) {
     for (const ScriptEventInfo& info : scriptEvents()) {
         for (const char* filled : {"text", "number", "day", "area", ""}) {
             ScriptEntry entry;
-            entry.elseCode = info.code;
+            entry.elseAction.code = info.code;
             const SlotFields action = slotFields(entry, Slot::Else);
             if (*filled == 't') setText(action, "x");
             action.number = *filled == 'n' ? 1 : 0;
@@ -76,19 +76,20 @@ TEST(ActionRules, MenuCommandsLackFileNamesAndTransferFiles) {
 TEST(ActionRules, AHiddenTextIsNotHandedOnToACommandThatShowsIt) {
     const LuCatalogues catalogues = buildLuCatalogues([](StringId) { return std::string(); });
     for (const bool hidden : {true, false}) {
-        for (const ActionChoice& choice :
-             {choiceOfCode(Code::Message), ActionChoice{ActionList::LuFunctions, 0},
+        for (const PaletteChoice& choice :
+             {choiceOfCode(Code::Message), PaletteChoice{Palette::LuFunctions, 0},
               choiceOfCode(Code::MenuCommand, 202)}) {
             ScriptEntry entry;
             const SlotFields action = slotFields(entry, Slot::Else);
             action.code = Code::Type;
             action.hidden = hidden ? 1 : 0;
             setText(action, "secret");
-            entry.elseKept = {1, 2, 3};
+            entry.elseAction.kept = {1, 2, 3};
             applyChoice(entry, Slot::Else, choiceOfCode(Code::Type), {});
-            EXPECT_TRUE(entry.elseKept) << "choosing the same command again replaces nothing";
+            EXPECT_TRUE(entry.elseAction.kept)
+                << "choosing the same command again replaces nothing";
             applyChoice(entry, Slot::Else, choice, catalogues.of(HostType::Mainframe));
-            EXPECT_FALSE(entry.elseKept);
+            EXPECT_FALSE(entry.elseAction.kept);
             EXPECT_EQ(textOf(action), hidden ? "" : "secret");
             EXPECT_EQ(action.text == TextField{}, hidden);
             EXPECT_EQ(action.hidden, 0);
@@ -98,8 +99,8 @@ TEST(ActionRules, AHiddenTextIsNotHandedOnToACommandThatShowsIt) {
 
 TEST(ActionRules, AWaitForThatTakesOverATextSearchesFromTheFirstPlace) {
     ScriptEntry entry;
-    entry.commandCode = Code::WatchFor;
-    entry.thenCode = Code::Goto;
+    entry.code = Code::WatchFor;
+    entry.thenAction.code = Code::Goto;
     applyChoice(entry, Slot::Then, choiceOfCode(Code::WaitFor), {});
     EXPECT_TRUE(entry.searchRow == 1 && entry.searchColumn == 1 && entry.caseSensitive == 1);
     // What a file holds stays when the same command is chosen again.

@@ -6,10 +6,12 @@
 namespace quendra::test {
 namespace {
 
+using enum EditorCommand;
+
 class WholeSequenceTest : public EditorTest {
   protected:
     /// Runs a menu command that opens the dialog of a Type, and does `work` in that.
-    void runWithDialog(int command, const std::function<void(const OpenDialog&)>& work) {
+    void runWithDialog(EditorCommand command, const std::function<void(const OpenDialog&)>& work) {
         ModalSteps steps;
         steps.in("textDialog", work);
         toDialogs = {[&](ScriptEntry& entry) {
@@ -24,19 +26,19 @@ TEST_F(WholeSequenceTest, AHiddenTypeStaysHiddenInTheFileAndWhenItIsEditedAgain)
     const auto path = open("a.qds", commentFile(2));
     select({1}, 1);
     choosePaletteRow("scriptEventsPalette", typeRow);
-    runWithDialog(308, [](const OpenDialog& d) {
+    runWithDialog(InsertScriptEvent, [](const OpenDialog& d) {
         d.click("hide");
         d.retype("text", "secret");
         d.press(Qt::Key_Return);
     });
     expectScript("1|2|Type \"******\" (H)", {2}, 2);
-    run(302);
+    run(Save);
     const Bytes file = readBytes(path);
     EXPECT_TRUE(std::ranges::search(file, bytesOf("secret")).empty());
-    run(300);
-    run(301, path);
+    run(NewScript);
+    run(Open, path);
     select({2}, 2);
-    runWithDialog(311, [](const OpenDialog& d) {
+    runWithDialog(EditEntry, [](const OpenDialog& d) {
         EXPECT_FALSE(d.has("hide"));
         EXPECT_EQ(d.shown("text"), "******");
         d.type("longer");

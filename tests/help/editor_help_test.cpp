@@ -20,12 +20,11 @@ namespace quendra::test {
 
 namespace {
 
+using enum EditorCommand;
+
 class EditorHelpTest : public EditorTest {
   protected:
-    EditorHelpTest() {
-        state.settings.programDir = pages.bin();
-        window.setHelpCommands(help.commands());
-    }
+    EditorHelpTest() { state.settings.programDir = pages.bin(); }
 
     [[nodiscard]] static HelpWindow* manual() {
         for (QWidget* widget : QApplication::topLevelWidgets()) {
@@ -49,7 +48,7 @@ class EditorHelpTest : public EditorTest {
     // Opens the dialog of a new entry, and cancels it after these steps.
     void inDialogOf(CommandCode code, std::uint32_t id, const std::function<void(QDialog&)>& step) {
         ScriptEntry entry;
-        entry.commandCode = code;
+        entry.code = code;
         entry.commandId = id;
         QTimer::singleShot(0, &window, [&] { inOpenDialog(step); });
         EXPECT_FALSE(editParameters({state, &window}, {entry}));
@@ -70,13 +69,14 @@ class EditorHelpTest : public EditorTest {
                                      },
                                      [](const std::string&) { return false; }};
     EditorHelp help{state, launchers};
+    CommandHandlers withHelp{state, window, scriptEditor, &help};
 };
 
 TEST_F(EditorHelpTest, HelpOpensTheManualOfAPlainInstallationAndLeavesTheFocusInThePane) {
     EXPECT_EQ(manual(), nullptr);
     widget<QListView>("menuCommandsPalette").setFocus();
     press(window, Qt::Key_F1);
-    EXPECT_EQ(page(), "index.md");
+    EXPECT_EQ(page(), "index.html");
     EXPECT_EQ(focused(), "menuCommandsPalette");
     EXPECT_TRUE(started.empty());
 }
@@ -85,13 +85,13 @@ TEST_F(EditorHelpTest, HelpStartsWhatIsInstalledElseTheManualInTheLanguageOfTheI
     std::filesystem::create_directories(state.settings.installDir);
     state.settings.helpFilePath = state.settings.installDir / "quendra.chm";
     std::ofstream(state.settings.helpFilePath) << "x";
-    run(319);
+    run(Help);
     EXPECT_EQ(started, std::vector<std::string>{"kchmviewer"});
     EXPECT_EQ(manual(), nullptr);
     starts = false;
     std::ofstream(state.settings.configDir / "language.ini")
         << "[Language]\nLanguage=qdstring_de\n";
-    run(319);
+    run(Help);
     EXPECT_EQ(started.size(), 3U) << "all viewers were tried";
     EXPECT_TRUE(answers.messages.empty());
     EXPECT_TRUE(manual()->findChild<PageView*>()->toPlainText().contains(u"Der Editor"));
@@ -106,15 +106,18 @@ TEST_F(EditorHelpTest, SelectionLeadsToItsPage) {
         return page();
     };
     const std::tuple<const char*, int, const char*> rows[] = {
-        {"scriptEventsPalette", 16, "wait-for.md"},    {"luFunctionsPalette", 3, "lu-function.md"},
-        {"menuCommandsPalette", 3, "menu-command.md"}, {"scriptList", 0, "comment.md"},
-        {"scriptList", 1, "menu-command.md"},          {"scriptList", 2, "lu-function.md"}};
+        {"scriptEventsPalette", 16, "wait-for.html"},
+        {"luFunctionsPalette", 3, "lu-function.html"},
+        {"menuCommandsPalette", 3, "menu-command.html"},
+        {"scriptList", 0, "comment.html"},
+        {"scriptList", 1, "menu-command.html"},
+        {"scriptList", 2, "lu-function.html"}};
     for (const auto& [list, row, expected] : rows) {
         choosePaletteRow(list, row);
         EXPECT_EQ(helpInList(list), expected);
     }
     select({}, 2);
-    EXPECT_EQ(helpInList("scriptList"), "t27.md") << "nothing selected";
+    EXPECT_EQ(helpInList("scriptList"), "t27.html") << "nothing selected";
 }
 
 TEST_F(EditorHelpTest, F1InADialogOpensItsPage) {
@@ -129,9 +132,9 @@ TEST_F(EditorHelpTest, F1InADialogOpensItsPage) {
     for (const CommandCode code : {Comment, ExpressLogon, Input, IfInputIs, SetCursor, Type, Wait,
                                    WaitFor, WaitReady, WaitUntil, WatchFor})
         expectPage(code, 0, manualPageOf(commandKeyword(code)));
-    expectPage(Run, 0, QStringLiteral("file-operation.md"));
-    expectPage(MenuCommand, 202, QStringLiteral("file-operation.md"));
-    expectPage(MenuCommand, 236, QStringLiteral("file-transfer-settings.md"));
+    expectPage(Run, 0, QStringLiteral("file-operation.html"));
+    expectPage(MenuCommand, 202, QStringLiteral("file-operation.html"));
+    expectPage(MenuCommand, 236, QStringLiteral("file-transfer-settings.html"));
 }
 
 TEST_F(EditorHelpTest, TheManualCanBeUsedWhileDialogsAreOpen) {
@@ -139,7 +142,7 @@ TEST_F(EditorHelpTest, TheManualCanBeUsedWhileDialogsAreOpen) {
         press(dialog, Qt::Key_F1);
         EXPECT_EQ(page(), expected);
         press(*manual(), Qt::Key_Home, Qt::AltModifier);
-        EXPECT_EQ(page(), "index.md");
+        EXPECT_EQ(page(), "index.html");
         const auto* back = manual()->findChild<QWidget*>(QStringLiteral("helpBackButton"));
         const QPoint place = back->mapTo(manual(), back->rect().center());
         QTest::mouseClick(manual()->windowHandle(), Qt::LeftButton, {}, place);
@@ -149,9 +152,9 @@ TEST_F(EditorHelpTest, TheManualCanBeUsedWhileDialogsAreOpen) {
     inDialogOf(CommandCode::IfInputIs, 0, [&](QDialog& dialog) {
         QTest::keyClick(window.windowHandle(), Qt::Key_A, Qt::ControlModifier);
         QTest::keyClick(window.windowHandle(), Qt::Key_X, Qt::ControlModifier);
-        useManual(dialog, "if-input-is.md");
+        useManual(dialog, "if-input-is.html");
         QTimer::singleShot(0, &window, [&] {
-            inOpenDialog([&](QDialog& action) { useManual(action, "action.md"); });
+            inOpenDialog([&](QDialog& action) { useManual(action, "action.html"); });
         });
         QApplication::setActiveWindow(&dialog);
         QTest::mouseClick(dialog.findChild<QWidget*>(QStringLiteral("thenButton")), Qt::LeftButton);

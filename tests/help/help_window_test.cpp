@@ -5,6 +5,7 @@
 #include "help/page_view.h"
 #include "support/editor_fixture.h"
 
+#include <QFileInfo>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListView>
@@ -12,13 +13,16 @@
 #include <QTreeView>
 #include <QtTest>
 
+#include <algorithm>
+#include <ranges>
+
 namespace quendra::test {
 
 namespace {
 
 class HelpWindowTest : public ::testing::Test {
   protected:
-    HelpWindowTest() { open("index.md"); }
+    HelpWindowTest() { open("index.html"); }
 
     void open(const char* page) {
         window.open(QLatin1String(page));
@@ -63,36 +67,66 @@ class HelpWindowTest : public ::testing::Test {
 
 TEST_F(HelpWindowTest, ShowsAPageAndWhereItStandsInTheContents) {
     ASSERT_EQ(focused(), "helpPage") << "keys scroll at once";
-    open("wait-for.md");
+    open("wait-for.html");
     EXPECT_NE(shown().find("Waits for a text"), std::string::npos);
     const QModelIndex line = widget<QTreeView>("helpContents").currentIndex();
     EXPECT_EQ(line.data().toString(), u"Wait_For");
     EXPECT_EQ(line.parent().data().toString(), u"Waiting");
     EXPECT_EQ(line.parent().parent().data().toString(), u"Commands");
-    open("beep.md");
+    open("beep.html");
     widget<QWidget>("helpContents").setFocus();
     press(Qt::Key_Down);
     press(Qt::Key_Down);
-    EXPECT_EQ(page(), "wait-for.md") << "a group opens nothing";
+    EXPECT_EQ(page(), "wait-for.html") << "a group opens nothing";
 }
 
 TEST_F(HelpWindowTest, LinksLeadToPagesHeadingsAndOutOfTheManual) {
-    open("beep.md");
+    open("beep.html");
     clickLink("the site");
     EXPECT_EQ(addresses, std::vector<std::string>{"https://quendra.example/a?b=c"});
-    EXPECT_EQ(page(), "beep.md");
+    EXPECT_EQ(page(), "beep.html");
     clickLink("nothing");
-    EXPECT_EQ(shown(), "Page not found\nThe manual has no page \u201cnowhere.md\u201d.");
+    EXPECT_EQ(shown(), "Page not found\nThe manual has no page \u201cnowhere.html\u201d.");
     press(Qt::Key_Left, Qt::AltModifier);
-    EXPECT_EQ(page(), "beep.md");
+    EXPECT_EQ(page(), "beep.html");
     press(Qt::Key_Right, Qt::AltModifier);
-    EXPECT_EQ(page(), "nowhere.md");
+    EXPECT_EQ(page(), "nowhere.html");
     press(Qt::Key_Left, Qt::AltModifier);
     clickLink("Wait_For");
-    EXPECT_EQ(page(), "wait-for.md");
+    EXPECT_EQ(page(), "wait-for.html");
     EXPECT_GT(scrolled(), 0);
     const QTextCursor options = view().document()->find(QStringLiteral("Options"));
     EXPECT_TRUE(view().viewport()->rect().contains(view().cursorRect(options).center()));
+}
+
+TEST_F(HelpWindowTest, PicturesFitThePageAndCodeKeepsItsBlanks) {
+    pages.write(
+        "en/wide.html",
+        "<h1>Wide</h1><p><img src=\"wide.png\" alt=\"\" /></p><p>Ends in <code> *</code></p>"
+        "<pre><code>if\n  then\n</code></pre>");
+    QImage picture(3000, 30, QImage::Format_RGB32);
+    picture.fill(Qt::red);
+    ASSERT_TRUE(picture.save(QFileInfo(pages.read().fileOf(QStringLiteral("wide.html"))).path() +
+                             QStringLiteral("/wide.png")));
+    open("wide.html");
+    const QString text = view().toPlainText().remove(QChar::ObjectReplacementCharacter);
+    EXPECT_TRUE(text.contains(QStringLiteral("Ends in  *"))) << text.toStdString();
+    EXPECT_TRUE(text.contains(QStringLiteral("if\n  then"))) << text.toStdString();
+    for (const int width : {700, 500, 900}) {
+        window.resize(width, 500);
+        QCoreApplication::processEvents();
+        EXPECT_EQ(view().horizontalScrollBar()->maximum(), 0) << width;
+        const QImage shown = view().viewport()->grab().toImage();
+        int red = 0;
+        for (int x = 0; x < shown.width(); ++x) {
+            const auto isRed = [&](int y) { return shown.pixelColor(x, y) == QColor(Qt::red); };
+            const auto rows = std::views::iota(0, shown.height());
+            red += std::ranges::any_of(rows, isRed) ? 1 : 0;
+        }
+        const int free = view().lineWrapColumnOrWidth();
+        EXPECT_GT(red, free / 2) << width;
+        EXPECT_LT(red, free) << width;
+    }
 }
 
 TEST_F(HelpWindowTest, SearchesWhileOneTypes) {
@@ -101,12 +135,12 @@ TEST_F(HelpWindowTest, SearchesWhileOneTypes) {
     EXPECT_EQ(results.index(0, 0).data(Qt::AccessibleTextRole).toString(),
               QStringLiteral("Beep: Makes a noise. See Wait_For, the site and nothing."));
     EXPECT_EQ(widget<QLabel>("helpResultCount").text(), QStringLiteral("Found on 4 pages"));
-    EXPECT_EQ(page(), "index.md") << "nothing opens before it is chosen";
+    EXPECT_EQ(page(), "index.html") << "nothing opens before it is chosen";
     press(Qt::Key_Return);
-    EXPECT_EQ(page(), "beep.md");
+    EXPECT_EQ(page(), "beep.html");
     for (int i = 0; i < 3; ++i)
         press(Qt::Key_Down);
-    EXPECT_EQ(page(), "wait-for.md");
+    EXPECT_EQ(page(), "wait-for.html");
     ASSERT_EQ(view().extraSelections().size(), 1);
     const QRect word = view().cursorRect(view().extraSelections()[0].cursor);
     EXPECT_TRUE(view().viewport()->rect().contains(word)) << "scrolls to what was found";

@@ -2,6 +2,9 @@
 #include "help/made_up_manual.h"
 
 #include <QCoreApplication>
+#include <QDir>
+#include <QFileInfo>
+#include <QRegularExpression>
 
 #include <gtest/gtest.h>
 #include <tuple>
@@ -21,25 +24,46 @@ TEST(ManualTest, TakesWhatALanguageLacksFromEnglish) {
     const MadeUpManual pages;
     const std::string folder = manualFolder(pages.bin()).lexically_normal().string();
     const std::tuple<const char*, const char*, std::string> rows[] = {
-        {"", "wait-for.md", "/en/wait-for.md"},
-        {"de", "wait-for.md", "/de/wait-for.md"},
-        {"de", "beep.md", "/en/beep.md"},
-        {"de_AT", "wait-for.md", "/de/wait-for.md"},
-        {"xx", "wait-for.md", "/en/wait-for.md"},
-        {"../en", "beep.md", "/en/beep.md"},
-        {"de", "nowhere.md", ""},
-        {"de", "../en/beep.md", ""},
+        {"", "wait-for.html", "/en/wait-for.html"},
+        {"de", "wait-for.html", "/de/wait-for.html"},
+        {"de", "beep.html", "/en/beep.html"},
+        {"de_AT", "wait-for.html", "/de/wait-for.html"},
+        {"xx", "wait-for.html", "/en/wait-for.html"},
+        {"../en", "beep.html", "/en/beep.html"},
+        {"de", "nowhere.html", ""},
+        {"de", "../en/beep.html", ""},
         {"de", "", ""}};
     for (const auto& [language, page, expected] : rows) {
         const QString file = pages.read(language).fileOf(QLatin1String(page));
         EXPECT_EQ(file.toStdString(), expected.empty() ? "" : folder + expected) << page;
     }
+}
+
+// Gives the places that the page's links and pictures name and the manual lacks.
+std::string brokenLinks(const Manual& manual, const QString& page) {
+    static const QRegularExpression link(QStringLiteral("(?:href|src)=\"([^\":]+)\""));
+    std::string broken;
+    const QDir folder = QFileInfo(manual.fileOf(page)).dir();
+    auto found = link.globalMatch(manual.htmlOf(page));
+    while (found.hasNext()) {
+        const QString target = found.next().captured(1);
+        if (!folder.exists(target)) broken += target.toStdString() + ' ';
+    }
+    return broken;
+}
+
+TEST(ManualTest, ShippedPagesAreWholeInEveryLanguageAndLeadToOneAnother) {
     for (const char* language : {"en", "de"}) {
         const Manual shipped(manualFolder(QCoreApplication::applicationDirPath().toStdString()),
                              language);
-        const QString start = shipped.fileOf(QLatin1String(Manual::startPage));
-        EXPECT_TRUE(start.contains(u'/' + QLatin1String(language) + u'/')) << start.toStdString();
         EXPECT_GT(shipped.contents().size(), 3U) << "beside the program";
+        const QDir folder = QFileInfo(shipped.fileOf(QLatin1String(Manual::startPage))).dir();
+        EXPECT_EQ(folder.dirName(), QLatin1String(language));
+        EXPECT_GT(folder.count(), 40U);
+        for (const QString& page : folder.entryList(QDir::Files)) {
+            EXPECT_NE(shipped.titleOf(page), QString()) << page.toStdString();
+            EXPECT_EQ(brokenLinks(shipped, page), "") << page.toStdString();
+        }
     }
 }
 
@@ -47,17 +71,17 @@ TEST(ManualTest, FindsPagesWithEveryWordTitlesFirstAndShowsTheLineWithTheMost) {
     const MadeUpManual pages;
     const std::pair<const char*, const char*> rows[] = {
         // The title, a heading, then the pages in order.
-        {"beep", "beep.md keys.md wait-for.md mainframe.md "},
-        {"BEEP Noise", "beep.md "},
-        {"timeout seconds", "wait-for.md wait.md "},
-        {"  wait_for  \"ready\" ", "wait-for.md "},
+        {"beep", "beep.html keys.html wait-for.html mainframe.html "},
+        {"BEEP Noise", "beep.html "},
+        {"timeout seconds", "wait-for.html wait.html "},
+        {"  wait_for  \"ready\" ", "wait-for.html "},
         {"noise nowhere", ""},
         {" ", ""},
     };
     for (const auto& [text, expected] : rows)
         EXPECT_EQ(pagesFound(pages.read(), text), expected) << text;
-    EXPECT_EQ(pagesFound(pages.read("de"), "ähnliche"), "wait-for.md ");
-    EXPECT_EQ(pagesFound(pages.read("de"), "noise"), "beep.md ") << "an English page";
+    EXPECT_EQ(pagesFound(pages.read("de"), "ähnliche"), "wait-for.html ");
+    EXPECT_EQ(pagesFound(pages.read("de"), "noise"), "beep.html ") << "an English page";
     Manual manual = pages.read();
     const auto hits = manual.search({QStringLiteral("wait_for"), QStringLiteral("text")});
     EXPECT_EQ(hits.at(0).line.toStdString(), "Waits for a text on the screen; timeout in seconds.");

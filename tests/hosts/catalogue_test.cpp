@@ -1,6 +1,7 @@
 // Catalogues of keys and menu commands; the frozen cases hold every command code and key.
 #include "hosts/lu_catalogue.h"
-#include "model/menu_catalogue.h"
+#include "model/menu_commands.h"
+#include "scriptfile/format_version.h"
 #include "support/fixtures.h"
 #include "text/text_ids.h"
 

@@ -23,7 +23,7 @@ EntryHandle packed(const ScriptEntry& entry) {
 
 ScriptEntry withCode(CommandCode code, std::string_view text = "") {
     ScriptEntry entry;
-    entry.commandCode = code;
+    entry.code = code;
     setText(slotFields(entry, Slot::Entry), text);
     return entry;
 }
@@ -32,10 +32,10 @@ TEST(EntryCodec, keepsBothActionsApartAndEnciphersInEverySlot) {
     ScriptEntry compare = withCode(IfInputIs);
     compare.firstOperandKind = 1;
     compare.secondOperandKind = 2;
-    compare.thenCode = compare.elseCode = Type;
+    compare.thenAction.code = compare.elseAction.code = Type;
     setText(slotFields(compare, Slot::Then), "thenSecret");
     setText(slotFields(compare, Slot::Else), "elseSecret");
-    compare.hidden = compare.elseHidden = 1;
+    compare.hidden = compare.elseAction.hidden = 1;
     const EntryHandle stored = packed(compare);
     EXPECT_EQ(unpackEntry(stored, myCipher), compare);
     const std::string bytes(stored.record().begin(), stored.record().end());
@@ -82,8 +82,8 @@ TEST(EntryCodec, bringsForeignActionsThroughEditsOfTheirOwner) {
     const ReadResult read = readScript(file);
     EXPECT_EQ(writeScript(read.script, HostType::Mainframe), file);
     ScriptEntry entry = unpackEntry(read.script.entries.at(0), myCipher);
-    EXPECT_EQ(entry.thenCode, IfInputIs);
-    EXPECT_EQ(entry.elseCode, Return);
+    EXPECT_EQ(entry.thenAction.code, IfInputIs);
+    EXPECT_EQ(entry.elseAction.code, Return);
     EXPECT_EQ(packed(entry), read.script.entries[0]);
     setCode(slotFields(entry, Slot::Then), Beep);
     EXPECT_EQ(packed(entry), storeRecord(joined({outer, {4}, {12}})));
@@ -91,7 +91,7 @@ TEST(EntryCodec, bringsForeignActionsThroughEditsOfTheirOwner) {
 
 TEST(EntryCodec, sharesOptionsOfAWatchedWaitForWithItsOwnerAndStoresNoTimeout) {
     ScriptEntry watch = withCode(WatchFor, "alarm");
-    watch.thenCode = WaitFor;
+    watch.thenAction.code = WaitFor;
     setText(slotFields(watch, Slot::Then), "inner");
     watch.searchRow = 3;
     watch.exactPosition = watch.caseSensitive = 1;

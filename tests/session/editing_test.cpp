@@ -1,6 +1,8 @@
 // The editing operations over plain lists and prepared dialog answers.
 #include "session/editing.h"
 
+#include "model/fake_view.h"
+#include "model/new_command.h"
 #include "scriptfile/entry_codec.h"
 #include "session/fake_view.h"
 #include "support/fixtures.h"
@@ -31,7 +33,7 @@ constexpr int menuRow(std::uint32_t commandId) {
 
 ScriptEntry entryOf(CommandCode code, std::uint32_t commandId = 0) {
     ScriptEntry entry;
-    entry.commandCode = code;
+    entry.code = code;
     entry.commandId = commandId;
     return entry;
 }
@@ -117,7 +119,7 @@ TEST_F(EditingTest, NewEntriesOpenTheirDialogOnTheirDefaultsWhereTheyHaveParamet
         EXPECT_TRUE(insertScriptEvent(state, view));
         EXPECT_EQ(state.script.entries[0].code(), event.code);
         const bool plain = event.code == Beep || event.code == Return || event.code == ClearWatch;
-        EXPECT_EQ(view.opened, std::vector(plain ? 0 : 1, newScriptEvent(event.code)));
+        EXPECT_EQ(view.opened, std::vector(plain ? 0 : 1, newCommand(event.code)));
     }
     const std::set<std::uint32_t> withParameters = {202, 204, 219, 236, 237, 254, 257};
     for (std::uint32_t id = 201; id <= 268; ++id) {
@@ -216,7 +218,7 @@ TEST_F(EditingTest, EditTakesTheFocusedEntryAndItsFlagIsSetAsLongAsTheDialogIsOp
 TEST_F(EditingTest, WhatVtLacksAndHiddenTextsThatCannotBeStoredAreRefusedAndNothingChanges) {
     using enum EditRefusal;
     state.currentHostType = HostType::VT;
-    view.choose(MenuCommands, menuRow(menuCommandRefusedInVt));
+    view.choose(MenuCommands, menuRow(213));
     view.choose(ScriptEvents, rowOf(Type));
     view.dialog = [](ScriptEntry& entry) {
         entry.hidden = 1;

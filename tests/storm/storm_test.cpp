@@ -62,6 +62,7 @@ class Storm {
           files_(makeFiles(editor_.folder.path())),
           window_(editor_.state),
           scriptEditor_(editor_.state, window_, editParameters),
+          handlers_(editor_.state, window_, scriptEditor_),
           gestures_(chance_, window_, files_),
           start_(editor_.state) {
         editor_.state.cipher = HiddenTextCipher(frozenIdentity());
@@ -114,10 +115,10 @@ class Storm {
         const Milestone end(editor_.state);
         std::size_t steps = 0;
         for (; editor_.state.history.canUndo(); ++steps)
-            window_.runCommand(321);
+            window_.runCommand(EditorCommand::Undo);
         EXPECT_TRUE(start_.isReachedBy(editor_.state.script));
         for (; steps > 0; --steps)
-            window_.runCommand(322);
+            window_.runCommand(EditorCommand::Redo);
         EXPECT_TRUE(end.isReachedBy(editor_.state.script));
         expectSound();
     }
@@ -126,12 +127,12 @@ class Storm {
     void expectCommandsFit() {
         const ApplicationState& state = editor_.state;
         const bool selected = !window_.pane().selectedEntries().empty();
-        ASSERT_EQ(enabled("command302"), state.script.entryCount() > 0);
-        ASSERT_EQ(enabled("command305"), selected);
-        ASSERT_EQ(enabled("command307"), !state.entryClipboard.empty());
-        ASSERT_EQ(enabled("command312"), selected);
-        ASSERT_EQ(enabled("command321"), state.history.canUndo());
-        ASSERT_EQ(enabled("command322"), state.history.canRedo());
+        ASSERT_EQ(enabled(EditorCommand::Save), state.script.entryCount() > 0);
+        ASSERT_EQ(enabled(EditorCommand::Cut), selected);
+        ASSERT_EQ(enabled(EditorCommand::Paste), !state.entryClipboard.empty());
+        ASSERT_EQ(enabled(EditorCommand::DeleteEntries), selected);
+        ASSERT_EQ(enabled(EditorCommand::Undo), state.history.canUndo());
+        ASSERT_EQ(enabled(EditorCommand::Redo), state.history.canRedo());
     }
 
     // Nothing is left of a drag, a dialog or a menu.
@@ -158,8 +159,8 @@ class Storm {
         ASSERT_TRUE(now.isReachedBy(script));
     }
 
-    [[nodiscard]] bool enabled(const char* action) const {
-        return window_.findChild<QAction*>(QLatin1String(action))->isEnabled();
+    [[nodiscard]] bool enabled(EditorCommand command) const {
+        return window_.findChild<QAction*>(actionName(command))->isEnabled();
     }
 
     Chance chance_;
@@ -168,6 +169,7 @@ class Storm {
     std::vector<std::filesystem::path> files_;
     MainWindow window_;
     ScriptEditor scriptEditor_;
+    CommandHandlers handlers_;
     Gestures gestures_;
     Milestone start_;
     FileDialogHandler dialogsBefore_;

@@ -13,7 +13,7 @@ void DialogContextTest::expectTold(const std::string& text, const std::string& c
 }
 
 void DialogContextTest::startWith(CommandCode code, Slot slot, std::uint32_t commandId) {
-    entry = newScriptEvent(slot == Slot::Entry ? code : CommandCode::WaitFor);
+    entry = newCommand(slot == Slot::Entry ? code : CommandCode::WaitFor);
     slotFields(entry, slot).code = code;
     if (commandId != 0) slotFields(entry, slot).commandId = commandId;
 }
@@ -29,12 +29,12 @@ void DialogTest::open(Slot slot) {
 }
 
 void DialogTest::openNew(CommandCode code) {
-    entry = newScriptEvent(code);
+    entry = newCommand(code);
     open();
 }
 
 void SearchDialogTest::startWithTimeout() {
-    entry = newScriptEvent(CommandCode::WaitFor);
+    entry = newCommand(CommandCode::WaitFor);
     setText(own(), "READY");
     entry.hasTimeout = 1;
 }

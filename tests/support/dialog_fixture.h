@@ -3,6 +3,8 @@
 #pragma once
 
 #include "dialogs/command_dialogs.h"
+#include "dialogs/modal_steps.h"
+#include "model/new_command.h"
 #include "session/editing.h"
 #include "support/editor_fixture.h"
 #include "support/modal_steps.h"

@@ -59,7 +59,7 @@ void DialogShowcase::show(const ShownDialog& row, const std::function<void(QDial
     entry.secondOperandKind = 2;
     if (row.slot != Slot::Else) otherwise().code = Code::Message;
     setText(otherwise(), "The host did not answer within half a minute & the script goes on.");
-    if (row.slot == Slot::Then) entry.commandCode = Code::WatchFor;
+    if (row.slot == Slot::Then) entry.code = Code::WatchFor;
     steps.in(anyDialog, [&](const OpenDialog& d) {
         const std::string field = row.field;
         if (field == "tabs") {

@@ -62,11 +62,13 @@ Answers::~Answers() {
 
 EditorTest::EditorTest()
     : window(state),
-      scriptEditor(state, window, [this](const DialogContext&, const EditTarget& target) {
-          EXPECT_FALSE(toDialogs.empty()) << commandKeyword(target.entry.commandCode);
-          return takeFirst<DialogAnswer>(toDialogs,
-                                         [](ScriptEntry&) { return false; })(target.entry);
-      }) {
+      scriptEditor(state, window,
+                   [this](const DialogContext&, const EditTarget& target) {
+                       EXPECT_FALSE(toDialogs.empty()) << commandKeyword(target.entry.code);
+                       return takeFirst<DialogAnswer>(
+                           toDialogs, [](ScriptEntry&) { return false; })(target.entry);
+                   }),
+      handlers(state, window, scriptEditor) {
     window.show();
     QApplication::setActiveWindow(&window);
 }
@@ -78,7 +80,7 @@ EditorTest::~EditorTest() {
 std::filesystem::path EditorTest::open(const std::string& name, const Bytes& bytes) {
     const auto path = editor.folder / name;
     writeBytes(path, bytes);
-    run(301, path);
+    run(EditorCommand::Open, path);
     return path;
 }
 

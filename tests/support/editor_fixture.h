@@ -2,6 +2,7 @@
 // answers for every question that it may ask.
 #pragma once
 
+#include "app/command_handlers.h"
 #include "app/main_window.h"
 #include "app/script_editor.h"
 #include "support/fixtures.h"
@@ -12,6 +13,7 @@
 
 #include <QAction>
 #include <QLabel>
+#include <QToolButton>
 
 #include <deque>
 #include <functional>
@@ -52,6 +54,14 @@ class Answers {
 /// What a user does in a parameter dialog: changes the working copy and gives true for OK.
 using DialogAnswer = std::function<bool(ScriptEntry&)>;
 
+/// The object names of a command's action and of its button.
+[[nodiscard]] inline QString actionName(EditorCommand command) {
+    return QStringLiteral("command%1").arg(commandNumber(command));
+}
+[[nodiscard]] inline QString toolButtonName(EditorCommand command) {
+    return QStringLiteral("toolButton%1").arg(commandNumber(command));
+}
+
 class EditorTest : public ::testing::Test {
   protected:
     EditorTest();
@@ -66,25 +76,28 @@ class EditorTest : public ::testing::Test {
         auto& view = widget<PaneList>(list);
         view.setCurrentIndex(view.model()->index(row, 0));
     }
-    [[nodiscard]] QAction& action(int command) {
-        return widget<QAction>(("command" + std::to_string(command)).c_str());
+    [[nodiscard]] QAction& action(EditorCommand command) {
+        return widget<QAction>(actionName(command));
     }
-    [[nodiscard]] bool isEnabled(int command) { return action(command).isEnabled(); }
-    void run(int command) { action(command).trigger(); }
+    [[nodiscard]] QToolButton& toolButton(EditorCommand command) {
+        return widget<QToolButton>(toolButtonName(command));
+    }
+    [[nodiscard]] bool isEnabled(EditorCommand command) { return action(command).isEnabled(); }
+    void run(EditorCommand command) { action(command).trigger(); }
     /// The same with an answer prepared for the question that it asks.
-    void run(int command, MessageAnswer answer) {
+    void run(EditorCommand command, MessageAnswer answer) {
         answers.toMessages.push_back(answer);
         run(command);
     }
     /// The same with a choice prepared for the file dialog that it opens, none for Cancel.
-    void run(int command, std::optional<std::filesystem::path> choice) {
+    void run(EditorCommand command, std::optional<std::filesystem::path> choice) {
         answers.toFileDialogs.push_back(std::move(choice));
         run(command);
     }
     /// Through the menu command; its question is answered, and not kept.
     void deleteFirstEntry() {
         select({0}, 0);
-        run(312, MessageAnswer::Yes);
+        run(EditorCommand::DeleteEntries, MessageAnswer::Yes);
         answers.messages.clear();
     }
     [[nodiscard]] std::string title() const { return window.windowTitle().toStdString(); }
@@ -95,10 +108,14 @@ class EditorTest : public ::testing::Test {
     void expectScript(const std::string& expected, const std::vector<std::size_t>& selected,
                       int focused);
     template <class T>
-    [[nodiscard]] T& widget(const char* name) {
-        T* found = window.findChild<T*>(QLatin1String(name));
-        if (found == nullptr) throw std::runtime_error(std::string("no widget ") + name);
+    [[nodiscard]] T& widget(const QString& name) {
+        T* found = window.findChild<T*>(name);
+        if (found == nullptr) throw std::runtime_error("no widget " + name.toStdString());
         return *found;
+    }
+    template <class T>
+    [[nodiscard]] T& widget(const char* name) {
+        return widget<T>(QString::fromLatin1(name));
     }
     [[nodiscard]] PaneList& list(const char* name) { return widget<PaneList>(name); }
     [[nodiscard]] PaneList& script() { return list("scriptList"); }
@@ -110,6 +127,7 @@ class EditorTest : public ::testing::Test {
     std::deque<DialogAnswer> toDialogs;
     MainWindow window;
     ScriptEditor scriptEditor;
+    CommandHandlers handlers;
 };
 
 }  // namespace quendra::test

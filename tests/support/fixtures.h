@@ -5,7 +5,7 @@
 #include "hosts/host_type.h"
 #include "hosts/lu_catalogue.h"
 #include "model/file_transfer_settings.h"
-#include "model/menu_catalogue.h"
+#include "model/menu_commands.h"
 #include "model/script.h"
 #include "scriptfile/hidden_text.h"
 

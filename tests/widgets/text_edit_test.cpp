@@ -29,7 +29,7 @@ class TextEditTest : public DialogTest {
         QTest::keyClick(&edit(), key, modifiers);
     }
     void openHidden(std::string_view text) {
-        entry = newScriptEvent(CommandCode::Type);
+        entry = newCommand(CommandCode::Type);
         entry.hidden = 1;
         setText(own(), text);
         state.editing = true;
@@ -67,7 +67,7 @@ TEST_F(TextEditTest, EveryByteOfAFileSurvivesAnEditBesideIt) {
     std::string all;
     for (int byte = 0; byte < 254; ++byte)
         all += static_cast<char>(byte);
-    entry = newScriptEvent(CommandCode::Comment);
+    entry = newCommand(CommandCode::Comment);
     setText(own(), all);
     open();
     key(Qt::Key_End);
@@ -88,7 +88,7 @@ TEST_F(TextEditTest, TheBoxOfATypeMasksAndUnmasksAtOnceAndOtherCommandsHaveNone)
     click("ok");
     EXPECT_EQ(entry.hidden, 0) << "checked and unchecked again";
     EXPECT_EQ(stored(), "logon!");
-    entry.commandCode = CommandCode::Message;
+    entry.code = CommandCode::Message;
     entry.hidden = 1;
     open();
     EXPECT_FALSE(has("hide"));
@@ -239,7 +239,7 @@ TEST_F(TextEditTest, NoCopyOfAHiddenTextOutlivesTheDialog) {
     entry = ScriptEntry();
     EXPECT_FALSE(memoryHoldsTheSecret()) << "typed";
 
-    entry = newScriptEvent(CommandCode::Type);
+    entry = newCommand(CommandCode::Type);
     entry.hidden = 1;
     entry.textLength = static_cast<std::uint8_t>(turnedSecret.size());
     for (std::size_t i = 0; i < turnedSecret.size(); ++i)

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "session/application_state.h"
+#include "session/commands.h"
 
 #include <QWidget>
 
@@ -55,9 +56,9 @@ class EditorPane : public QWidget {
     [[nodiscard]] QSize minimumSizeHint() const override;
 
   Q_SIGNALS:
-    /// A gesture asks for a command of the main window (308 to 311). Emitted after the gesture's
-    /// own event has been handled, never from inside it.
-    void commandRequested(int command);
+    /// A gesture asks to edit the focused entry or to insert from a palette. Emitted after the
+    /// gesture's own event has been handled, never from inside it.
+    void commandRequested(quendra::EditorCommand command);
     /// A selection or the focused entry changed in any of the four lists.
     void selectionChanged();
     /// The script list shows the script anew; its marks stand where they stood.

@@ -61,7 +61,7 @@ QVariant ScriptListModel::data(const QModelIndex& index, int role) const {
     switch (role) {
         case Qt::DisplayRole: return lineOf(entry, state_);
         case Qt::ToolTipRole: return wrappingToolTip(lineOf(entry, state_));
-        default: return bitmapIcon(bitmapIdOf(entry.commandCode, entry.commandId));
+        default: return bitmapIcon(bitmapIdOf(entry.code, entry.commandId));
     }
 }
 

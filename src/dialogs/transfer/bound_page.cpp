@@ -19,8 +19,6 @@ namespace quendra {
 
 namespace {
 
-constexpr std::uint32_t largestSevenDigits = 9'999'999;
-
 QString nameOf(const TransferField& field, const QString& suffix = {}) {
     return qtText(field.name) + suffix;
 }
@@ -165,7 +163,7 @@ QWidget* BoundPage::makeTextEdit(const TransferControl& row) {
 }
 
 QWidget* BoundPage::makeNumberEdit(const TransferControl& row) {
-    auto* edit = new NumberEdit(largestSevenDigits, this);
+    auto* edit = new NumberEdit(row.field.largest, this);
     connect(edit, &QLineEdit::textChanged, this,
             [this, &row, edit] { store(row.field, edit->number().value_or(0)); });
     const QString range = rangeNote(model_.state.language, edit->range());

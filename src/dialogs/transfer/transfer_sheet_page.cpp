@@ -3,19 +3,13 @@
 #include "dialogs/transfer/advanced_page.h"
 #include "dialogs/transfer/settings_page.h"
 #include "text/text_ids.h"
+#include "widgets/dialog_frame.h"
 #include "widgets/message_box.h"
-#include "widgets/mnemonics.h"
-#include "widgets/placement.h"
-#include "widgets/ui_text.h"
 
-#include <QAccessible>
 #include <QApplication>
-#include <QDialog>
 #include <QDialogButtonBox>
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QPushButton>
-#include <QShowEvent>
 #include <QTabWidget>
 #include <QVBoxLayout>
 
@@ -26,90 +20,53 @@ namespace quendra {
 
 namespace {
 
-class TransferSheet : public QDialog {
+class TransferSheet : public DialogFrame {
   public:
     TransferSheet(ApplicationState& state, QWidget* window, std::uint8_t host);
 
     [[nodiscard]] std::uint8_t host() const { return model_.host; }
 
   protected:
-    void showEvent(QShowEvent* event) override;
+    void focusFirst() override { settings_->focusHost(); }
 
   private:
-    [[nodiscard]] QString text(StringId id) const {
-        return qtText(model_.state.language.loadText(id));
-    }
     void addPage(QTabWidget& tabs, BoundPage* page, StringId title);
-    [[nodiscard]] QDialogButtonBox* makeButtons();
-    void showNote(const QString& note);
+    void tell(const QString& note);
 
     TransferSheetModel model_;
     SettingsPage* settings_;
-    QLabel* note_;
 };
 
 TransferSheet::TransferSheet(ApplicationState& state, QWidget* window, std::uint8_t host)
-    : QDialog(window), model_{state, host} {
-    setObjectName(QStringLiteral("transferSheet"));
-    setProperty("helpPage", QStringLiteral("File_Transfer_Settings"));
+    : DialogFrame(state.language, window, "transferSheet", "File_Transfer_Settings"),
+      model_{state, host} {
     setWindowTitle(text(textid::transferSettingsTitle));
-    // The editor waits for the sheet, the help window stays usable.
-    setWindowModality(Qt::WindowModal);
     auto* tabs = new QTabWidget;
     tabs->setObjectName(QStringLiteral("tabs"));
     settings_ = new SettingsPage(model_);
     addPage(*tabs, settings_, textid::transferSettingsTab);
     addPage(*tabs, new AdvancedPage(model_), textid::transferAdvancedTab);
-    note_ = new QLabel;
-    note_->setObjectName(QStringLiteral("note"));
-    note_->setTextFormat(Qt::PlainText);
+    QLabel* note = makeNote();
     // The sheet keeps its size whatever the note says.
-    note_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    note->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     auto* bottom = new QHBoxLayout;
-    bottom->addWidget(note_, 1);
+    bottom->addWidget(note, 1);
     bottom->addWidget(makeButtons());
     auto* all = new QVBoxLayout(this);
     all->addWidget(tabs);
     all->addLayout(bottom);
     all->setSizeConstraint(QLayout::SetFixedSize);
-    // Not before the button is in the dialog, which would else take the first one, Browse.
-    findChild<QPushButton*>(QStringLiteral("ok"))->setDefault(true);
-    actAtOnceOnMnemonics(*this);
+    finish();
 }
 
 void TransferSheet::addPage(QTabWidget& tabs, BoundPage* page, StringId title) {
     tabs.addTab(page, text(title));
-    connect(page, &BoundPage::noted, this, &TransferSheet::showNote);
+    connect(page, &BoundPage::noted, this, &TransferSheet::tell);
 }
 
-void TransferSheet::showNote(const QString& note) {
+void TransferSheet::tell(const QString& note) {
     if (!note.isEmpty()) QApplication::beep();
-    if (note_->text() == note) return;
-    note_->setText(note);
-    QAccessibleEvent changed(note_, QAccessible::NameChanged);
-    QAccessible::updateAccessibility(&changed);
-}
-
-QDialogButtonBox* TransferSheet::makeButtons() {
-    auto* ok = new QPushButton(QStringLiteral("OK"));
-    ok->setObjectName(QStringLiteral("ok"));
-    auto* cancel = new QPushButton(text(textid::cancelButton));
-    cancel->setObjectName(QStringLiteral("cancel"));
-    auto* buttons = new QDialogButtonBox;
-    buttons->setObjectName(QStringLiteral("buttons"));
-    buttons->addButton(ok, QDialogButtonBox::AcceptRole);
-    buttons->addButton(cancel, QDialogButtonBox::RejectRole);
-    connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
-    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
-    return buttons;
-}
-
-void TransferSheet::showEvent(QShowEvent* event) {
-    if (!event->spontaneous()) {
-        settings_->focusHost();
-        centreOnScreen(*this);
-    }
-    QDialog::showEvent(event);
+    showNote(note);
 }
 
 std::unique_ptr<TransferSheet> makeSheet(ApplicationState& state, QWidget* window,

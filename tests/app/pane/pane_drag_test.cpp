@@ -86,7 +86,7 @@ TEST_F(PaneDragTest, APaletteItemGoesWhereTheDropPointSays) {
         EXPECT_EQ(state.dropPending, inserts);
         EXPECT_TRUE(commands.empty()) << "posted, not sent";
         settle();
-        EXPECT_EQ(commands, std::vector<int>(inserts ? 1 : 0, command));
+        EXPECT_EQ(commands, std::vector<EditorCommand>(inserts ? 1 : 0, command));
         EXPECT_EQ(palette->focusedRow(), 1);
         EXPECT_EQ(moves, 0);
         expectNoTraceOfADrag();
@@ -173,7 +173,7 @@ TEST_F(PaneDragTest, NoDragStartsWithoutAFocusedListOrARowOrFromADoubleClick) {
               Qt::LeftButton);
     EXPECT_EQ(image(), nullptr);
     settle();
-    EXPECT_EQ(commands, std::vector<int>{311});
+    EXPECT_EQ(commands, std::vector{EditorCommand::EditEntry});
 }
 
 TEST_F(PaneDragTest, WhileItRunsTheDragOwnsPointerAndKeyboard) {

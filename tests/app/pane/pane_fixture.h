@@ -20,7 +20,7 @@ class PaneFixture : public testing::Test {
     PaneFixture() {
         window.setCentralWidget(pane);
         QObject::connect(pane, &EditorPane::commandRequested, pane,
-                         [this](int command) { commands.push_back(command); });
+                         [this](EditorCommand command) { commands.push_back(command); });
         QObject::connect(pane, &EditorPane::selectionChanged, pane, [this] { ++selectionChanges; });
         QObject::connect(pane, &EditorPane::entriesMoved, pane, [this] { ++moves; });
         window.resize(600, 400);
@@ -99,11 +99,14 @@ class PaneFixture : public testing::Test {
     PaneList* luFunctions = listNamed("luFunctionsPalette");
     PaneList* menuCommands = listNamed("menuCommandsPalette");
     /// Each list and the command that it asks for, the script first.
-    const std::array<std::pair<PaneList*, int>, 4> lists{
-        {{script, 311}, {events, 308}, {luFunctions, 309}, {menuCommands, 310}}};
+    const std::array<std::pair<PaneList*, EditorCommand>, 4> lists{
+        {{script, EditorCommand::EditEntry},
+         {events, EditorCommand::InsertScriptEvent},
+         {luFunctions, EditorCommand::InsertLuFunction},
+         {menuCommands, EditorCommand::InsertMenuCommand}}};
 
     /// What the pane has told so far.
-    std::vector<int> commands;
+    std::vector<EditorCommand> commands;
     int selectionChanges = 0;
     int moves = 0;
 };

@@ -70,7 +70,7 @@ TEST_F(PaneTest, CurrentIndexFollowsTheFocusOfTheScriptListOnly) {
 TEST_F(PaneTest, ListsPostTheirCommandOnDoubleClickAndReturn) {
     fillScript(5);
     for (const auto& [list, command] : lists) {
-        SCOPED_TRACE(command);
+        SCOPED_TRACE(commandNumber(command));
         commands.clear();
         selectionChanges = 0;
         click(onRow(*list, 1));
@@ -78,14 +78,14 @@ TEST_F(PaneTest, ListsPostTheirCommandOnDoubleClickAndReturn) {
         QTest::mouseDClick(list->viewport(), Qt::LeftButton, {}, list->rowRect(2).center());
         EXPECT_TRUE(commands.empty()) << "posted, not sent";
         settle();
-        EXPECT_EQ(commands, std::vector<int>{command});
+        EXPECT_EQ(commands, std::vector{command});
         EXPECT_EQ(list->focusedRow(), 2);
         QKeyEvent repeated(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, QString(), true);
         QTest::keyClick(list, Qt::Key_Return);
         QApplication::sendEvent(list, &repeated);
         EXPECT_EQ(commands.size(), 1U) << "posted, not sent";
         settle();
-        EXPECT_EQ(commands, (std::vector<int>{command, command})) << "a key held down counts once";
+        EXPECT_EQ(commands, (std::vector{command, command})) << "a key held down counts once";
     }
     commands.clear();
     script->setFocus();

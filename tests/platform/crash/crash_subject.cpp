@@ -1,5 +1,7 @@
 // A program that crashes on demand, with the reporter of the real editor:
 //     crash_subject WAY DUMP-FOLDER
+#include "app/command_handlers.h"
+#include "app/crash_canaries.h"
 #include "app/crash_reporter.h"
 #include "app/main_window.h"
 #include "app/script_editor.h"
@@ -8,7 +10,6 @@
 #include "platform/crash/handler.h"
 #include "platform/secret_memory.h"
 #include "session/application_life.h"
-#include "session/commands.h"
 #include "widgets/ui_text.h"
 
 #include <QApplication>
@@ -156,7 +157,8 @@ void typeAndFault(const std::filesystem::path& folder, bool hideFirst, bool inDi
     ApplicationState state;
     static_cast<void>(loadApplication(state, settings, {}));
     MainWindow window(state);
-    const ScriptEditor editor(state, window, editParameters);
+    ScriptEditor editor(state, window, editParameters);
+    const CommandHandlers handlers(state, window, editor);
     window.show();
     QApplication::setActiveWindow(&window);
     auto* palette = window.findChild<QListView*>(QStringLiteral("scriptEventsPalette"));
@@ -168,7 +170,7 @@ void typeAndFault(const std::filesystem::path& folder, bool hideFirst, bool inDi
         if (inDialog) fault();
         QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Return);
     });
-    window.runCommand(command::insertScriptEvent);
+    window.runCommand(EditorCommand::InsertScriptEvent);
     if (state.script.entryCount() != 1) std::_Exit(5);
     QApplication::processEvents();
     fault();

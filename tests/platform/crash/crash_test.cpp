@@ -198,7 +198,7 @@ TEST_F(CrashTest, ALinkByTheNameOfTheDumpIsNotFollowedAndAnOldDumpIsReplaced) {
 
 TEST_F(CrashTest, TheEditorLeavesADumpWithoutTheHiddenTextOfItsScript) {
     ScriptEntry entry;
-    entry.commandCode = CommandCode::Type;
+    entry.code = CommandCode::Type;
     setText(slotFields(entry, Slot::Entry), canaryText(Canary::Hidden));
     entry.hidden = 1;
     Script script;

@@ -1,4 +1,4 @@
-// Bytes in the JSON form of a script.
+// Bytes as text, for forms of a script that are text.
 #pragma once
 
 #include <cstdint>
@@ -8,7 +8,7 @@
 #include <string_view>
 #include <vector>
 
-namespace quendra::cli {
+namespace quendra {
 
 /// The standard alphabet, padded, on one line.
 [[nodiscard]] std::string base64Of(std::span<const std::uint8_t> bytes);
@@ -16,4 +16,4 @@ namespace quendra::cli {
 /// None for anything that base64Of would not give.
 [[nodiscard]] std::optional<std::vector<std::uint8_t>> bytesOfBase64(std::string_view text);
 
-}  // namespace quendra::cli
+}  // namespace quendra

@@ -1,0 +1,33 @@
+// What every command of the window runs.
+#pragma once
+
+#include "session/application_state.h"
+#include "session/commands.h"
+
+namespace quendra {
+
+class EditorHelp;
+class MainWindow;
+class ScriptEditor;
+
+/// Gives the commands of a window their handlers as long as it lives; before and after, they do
+/// nothing.
+class CommandHandlers {
+  public:
+    /// All arguments outlive it. Without help the help commands do nothing.
+    CommandHandlers(ApplicationState& state, MainWindow& window, ScriptEditor& editor,
+                    EditorHelp* help = nullptr);
+    ~CommandHandlers();
+    CommandHandlers(const CommandHandlers&) = delete;
+    CommandHandlers& operator=(const CommandHandlers&) = delete;
+
+  private:
+    void run(EditorCommand command);
+
+    ApplicationState& state_;
+    MainWindow& window_;
+    ScriptEditor& editor_;
+    EditorHelp* help_;
+};
+
+}  // namespace quendra

@@ -1,0 +1,56 @@
+// What keys, clicks and drops do in the pane's lists: they ask for commands, and move entries.
+#pragma once
+
+#include "session/application_state.h"
+#include "session/commands.h"
+#include "session/drop_rules.h"
+
+#include <QObject>
+
+#include <span>
+#include <vector>
+
+class QKeyEvent;
+class QMouseEvent;
+
+namespace quendra {
+
+class PaneList;
+class PaneLists;
+class PaneSelection;
+
+class PaneGestures : public QObject {
+    Q_OBJECT
+
+  public:
+    /// All outlive it.
+    PaneGestures(ApplicationState& state, PaneLists& lists, PaneSelection& selection);
+
+    /// Rows of the list of this number were dropped on the script list before `target`, above or
+    /// below where the drag began. From a palette it asks for an insert there.
+    void drop(int source, int target, bool up);
+
+  Q_SIGNALS:
+    /// Emitted after the gesture's own event has been handled, never from inside it.
+    void commandRequested(quendra::EditorCommand command);
+    void entriesAboutToMove();
+    void entriesMoved();
+
+  protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+  private:
+    bool pressKey(PaneList& list, QKeyEvent& event);
+    bool pressMouse(PaneList& list, const QMouseEvent& event);
+    bool doubleClick(PaneList& list, const QMouseEvent& event);
+    void activate(std::size_t list);
+    void moveByOne(bool up);
+    void applyMove(const MovePlan& plan, std::span<const EntryMove> moves);
+    [[nodiscard]] int entryCount() const { return static_cast<int>(state_.script.entryCount()); }
+
+    ApplicationState& state_;
+    PaneLists& lists_;
+    PaneSelection& selection_;
+};
+
+}  // namespace quendra

@@ -1,0 +1,57 @@
+// What the states and changing texts of the commands go by, and the rules that the table of
+// commands names: which command can be chosen, and what it would do, from the state of the script
+// and the selections.
+#pragma once
+
+#include "session/application_state.h"
+
+#include <optional>
+#include <string>
+
+namespace quendra {
+
+/// Everything that the commands' states depend on. Texts are UTF-8.
+struct CommandFacts {
+    HostType hostType = HostType::Mainframe;
+    std::size_t entryCount = 0;
+    std::size_t selectedCount = 0;
+    std::size_t clipboardCount = 0;
+    EditSource editSource = EditSource::None;
+    std::string focusedLine = {};
+    std::optional<std::string> selectedEvent = {};
+    std::optional<std::string> selectedLuFunction = {};
+    std::optional<std::string> selectedMenuCommand = {};
+    /// The steps that Undo and Redo would take.
+    std::optional<std::string> undoStep = {};
+    std::optional<std::string> redoStep = {};
+};
+
+[[nodiscard]] bool hasEntries(const CommandFacts& facts);
+[[nodiscard]] bool hasSelection(const CommandFacts& facts);
+[[nodiscard]] bool hasClipboard(const CommandFacts& facts);
+[[nodiscard]] bool hasEvent(const CommandFacts& facts);
+[[nodiscard]] bool hasLuFunction(const CommandFacts& facts);
+[[nodiscard]] bool hasMenuCommand(const CommandFacts& facts);
+/// The focused entry has a dialog, or its palette offers what would replace it.
+[[nodiscard]] bool canEdit(const CommandFacts& facts);
+[[nodiscard]] bool canUndo(const CommandFacts& facts);
+[[nodiscard]] bool canRedo(const CommandFacts& facts);
+
+/// Texts that name what a command would act on; none while there is nothing.
+using CommandText = std::optional<std::string>;
+[[nodiscard]] CommandText insertEventTip(const CommandFacts& facts, LanguageLibrary& language);
+[[nodiscard]] CommandText insertLuFunctionTip(const CommandFacts& facts, LanguageLibrary& language);
+[[nodiscard]] CommandText insertMenuCommandTip(const CommandFacts& facts,
+                                               LanguageLibrary& language);
+[[nodiscard]] CommandText editTip(const CommandFacts& facts, LanguageLibrary& language);
+[[nodiscard]] CommandText deleteTip(const CommandFacts& facts, LanguageLibrary& language);
+[[nodiscard]] CommandText undoTip(const CommandFacts& facts, LanguageLibrary& language);
+[[nodiscard]] CommandText redoTip(const CommandFacts& facts, LanguageLibrary& language);
+/// For the menu, with its mnemonic.
+[[nodiscard]] CommandText undoItem(const CommandFacts& facts, LanguageLibrary& language);
+[[nodiscard]] CommandText redoItem(const CommandFacts& facts, LanguageLibrary& language);
+
+/// "Delete 3 entries": tool tip, and with a question mark the confirmation.
+[[nodiscard]] std::string deleteText(LanguageLibrary& language, std::size_t count);
+
+}  // namespace quendra
