@@ -5,6 +5,11 @@ include(CheckCXXCompilerFlag)
 add_library(quendra_options INTERFACE)
 target_compile_options(quendra_options INTERFACE
     -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Wmissing-declarations)
+if(CMAKE_UNITY_BUILD)
+    # Between sources compiled together these two are no faults; the other builds tell them within each source.
+    target_compile_options(quendra_options INTERFACE
+        -Wno-shadow $<$<CXX_COMPILER_ID:GNU>:-Wno-subobject-linkage>)
+endif()
 target_compile_definitions(quendra_options INTERFACE QT_NO_CAST_FROM_ASCII QT_NO_KEYWORDS)
 if(QUENDRA_SANITIZE)
     target_compile_options(quendra_options INTERFACE

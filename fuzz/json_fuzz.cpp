@@ -32,6 +32,8 @@ const MenuCommandCatalogue& menuCommands() {
 
 }  // namespace
 
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size);
+
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     static const HiddenTextCipher cipher("");
     const ParsedJson parsed = parseJson({data, size});

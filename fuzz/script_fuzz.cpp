@@ -40,6 +40,8 @@ void checkEntries(const Script& script, HostType type) {
 
 }  // namespace
 
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size);
+
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     const ReadResult read = readScript({data, size});
     if (read.refusal) return 0;

@@ -49,7 +49,10 @@ std::string dateTimeText(const DateTime& t) {
 }
 
 std::string position(std::uint8_t row, std::uint8_t column) {
-    return "r" + std::to_string(row) + ", c" + std::to_string(column);
+    return std::string("r")
+        .append(std::to_string(row))
+        .append(", c")
+        .append(std::to_string(column));
 }
 
 std::string copyLine(const ConstSlotFields& f) {
@@ -149,8 +152,10 @@ std::optional<TransferInputs> lastTransferOf(const ScriptEntry& entry) {
 std::string formatEntryLine(const ScriptEntry& entry, const DisplayNames& names) {
     std::string line = slotLine(slotFields(entry, Slot::Entry), names);
     if (entry.code == CommandCode::IfInputIs) {
-        line += " " + operand(textOf(slotFields(entry, Slot::Entry)), entry.firstOperandKind) +
-                " = " + operand(compareTextOf(entry), entry.secondOperandKind);
+        line += ' ';
+        line += operand(textOf(slotFields(entry, Slot::Entry)), entry.firstOperandKind);
+        line += " = ";
+        line += operand(compareTextOf(entry), entry.secondOperandKind);
     }
     if (entry.code == CommandCode::WatchFor) {
         line += " Then " + actionLine(entry, Slot::Then, names);

@@ -76,7 +76,8 @@ bool readGrowing(int descriptor, std::size_t firstSize, std::size_t maxBytes,
 // The temporary file beside its target; removed again unless it was renamed.
 struct TemporaryFile {
     explicit TemporaryFile(const fs::path& target)
-        : path(target.parent_path() / ("." + target.filename().string() + ".XXXXXX")),
+        : path(target.parent_path() /
+               std::string(".").append(target.filename().string()).append(".XXXXXX")),
           descriptor(::mkstemp(path.data())) {}
     TemporaryFile(const TemporaryFile&) = delete;
     TemporaryFile& operator=(const TemporaryFile&) = delete;

@@ -102,7 +102,8 @@ void appendCics(std::string& line, const Options& options) {
     if (options.isOn(includeLeftParenthesis)) line += '(';
     line += options.isOn(binary) ? "BINARY NOCRLF" : "ASCII CRLF";
     if (options.isOn(includeRightParenthesis)) line += ')';
-    line += " " + options.text(additionalParameters);
+    line += ' ';
+    line += options.text(additionalParameters);
 }
 
 }  // namespace
