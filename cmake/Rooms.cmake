@@ -39,9 +39,12 @@ macro(quendra_read_rooms)
     endforeach()
 endmacro()
 
-# Whatever lies in a room's folder belongs to it, but for the files given, which belong to programs.
+# Whatever lies in a room's folder belongs to it, but for the files EXCEPT, which belong to programs. The files ALONE are
+# compiled one by one where others are compiled together (CMAKE_UNITY_BUILD).
 function(quendra_make_rooms)
-    cmake_parse_arguments(PARSE_ARGV 0 arg "" "" "EXCEPT")
+    cmake_parse_arguments(PARSE_ARGV 0 arg "" "" "EXCEPT;ALONE")
+    list(TRANSFORM arg_ALONE PREPEND ${PROJECT_SOURCE_DIR}/src/)
+    set_source_files_properties(${arg_ALONE} PROPERTIES SKIP_UNITY_BUILD_INCLUSION ON)
     quendra_read_rooms()
     foreach(room IN LISTS rooms)
         quendra_room_library(library ${room})

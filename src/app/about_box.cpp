@@ -1,6 +1,6 @@
 #include "app/about_box.h"
 
-#include "session/startup_settings.h"
+#include "platform/product_version.h"
 #include "text/text_ids.h"
 #include "widgets/placement.h"
 #include "widgets/symbol_icon.h"

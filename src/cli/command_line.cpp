@@ -1,7 +1,10 @@
 #include "cli/command_line.h"
 
+#include "platform/product_version.h"
+
 #include <CLI/CLI.hpp>
 #include <algorithm>
+#include <string>
 #include <utility>
 
 namespace quendra::cli {
@@ -44,7 +47,7 @@ struct Parser {
 
 Parser::Parser() {
     app.set_help_flag("-h,--help", "Print this help and exit");
-    app.set_version_flag("--version", "qds " QUENDRA_VERSION, "Print the version and exit");
+    app.set_version_flag("--version", std::string("qds ") + releaseVersion, "Print the version and exit");
     app.require_subcommand(1);
     app.get_formatter()->label("SUBCOMMAND", "COMMAND");
     app.footer(

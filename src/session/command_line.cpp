@@ -1,6 +1,6 @@
 #include "session/command_line.h"
 
-#include "session/startup_settings.h"
+#include "platform/product_version.h"
 
 #include <algorithm>
 #include <string_view>

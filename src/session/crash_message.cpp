@@ -1,6 +1,6 @@
 #include "session/crash_message.h"
 
-#include "session/startup_settings.h"
+#include "platform/product_version.h"
 
 #include <cstdio>
 

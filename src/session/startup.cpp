@@ -2,6 +2,7 @@
 
 #include "platform/directories.h"
 #include "platform/process.h"
+#include "platform/product_version.h"
 #include "platform/profile_file.h"
 #include "platform/registry.h"
 

@@ -7,10 +7,6 @@
 
 namespace quendra {
 
-/// The version constants: registry key, folder names and window class; About box and crash dumps.
-inline constexpr const char* productVersion = "6.1";
-inline constexpr const char* fullVersion = "6.1.4.1982";
-
 /// The web help where no "global.ini" says otherwise. The server's name is reserved for examples,
 /// so that nobody's server is asked until an installation names its own ("WebHelpUrl").
 inline constexpr const char* builtInWebHelpBase = "https://www.quendra.example/help/v61";

@@ -39,7 +39,6 @@ class TextEdit : public QLineEdit {
     /// Shows every character as "*" or in the clear. A masked field takes at most 246 characters,
     /// which is what can be enciphered; a longer text that it already has is kept.
     void setMasked(bool masked);
-    [[nodiscard]] bool isMasked() const { return masked_; }
 
   Q_SIGNALS:
     void refused(const quendra::InputFault& fault);
