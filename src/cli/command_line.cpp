@@ -47,7 +47,8 @@ struct Parser {
 
 Parser::Parser() {
     app.set_help_flag("-h,--help", "Print this help and exit");
-    app.set_version_flag("--version", std::string("qds ") + releaseVersion, "Print the version and exit");
+    app.set_version_flag("--version", std::string("qds ") + releaseVersion,
+                         "Print the version and exit");
     app.require_subcommand(1);
     app.get_formatter()->label("SUBCOMMAND", "COMMAND");
     app.footer(

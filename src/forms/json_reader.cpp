@@ -1,6 +1,7 @@
 // From the JSON form of a script to the script.
 
 #include "forms/json_names.h"
+#include "forms/json_text.h"
 #include "forms/object_reader.h"
 #include "forms/script_json.h"
 #include "model/entry_fields.h"
@@ -316,9 +317,7 @@ void readHostType(ObjectReader& form, HostType& hostType) {
     }
 }
 
-}  // namespace
-
-ScriptOfJson scriptOfJson(const Json& form, const HiddenTextCipher& cipher) {
+ScriptOfJson scriptOfForm(const Json& form, const HiddenTextCipher& cipher) {
     ScriptOfJson result;
     ObjectReader fields(form, "", result.refusal);
     readHostType(fields, result.hostType);
@@ -336,6 +335,16 @@ ScriptOfJson scriptOfJson(const Json& form, const HiddenTextCipher& cipher) {
                                                     result.hostType, cipher, result.refusal));
     }
     return result;
+}
+
+}  // namespace
+
+ScriptOfJson scriptOfJson(std::span<const std::uint8_t> text, const HiddenTextCipher& cipher) {
+    const ParsedJson parsed = parseJson(text);
+    if (parsed.value) return scriptOfForm(*parsed.value, cipher);
+    ScriptOfJson refused;
+    refused.refusal = parsed.refusal;
+    return refused;
 }
 
 }  // namespace quendra

@@ -9,8 +9,9 @@
 #include "model/script.h"
 #include "scriptfile/hidden_text.h"
 
+#include <cstdint>
 #include <iosfwd>
-#include <nlohmann/json_fwd.hpp>
+#include <span>
 #include <string>
 
 namespace quendra {
@@ -29,8 +30,8 @@ struct JsonPrinting {
 void printScript(std::ostream& out, const Script& script, HostType hostType,
                  const JsonPrinting& printing);
 
-/// A script made from its JSON form, or why it was refused: entry (from 1), slot, field and what is
-/// wrong with it, never the value.
+/// A script made from its JSON form, or why it was refused: place in the text, or entry (from 1),
+/// slot and field, and what is wrong with it, never the value.
 struct ScriptOfJson {
     std::string refusal;
     HostType hostType = HostType::Mainframe;
@@ -39,9 +40,13 @@ struct ScriptOfJson {
     [[nodiscard]] bool ok() const { return refusal.empty(); }
 };
 
-/// Fields left out are those of a new entry. Gives back the very records that printScript was
-/// given when hidden texts were revealed and the cipher is the same.
-[[nodiscard]] ScriptOfJson scriptOfJson(const nlohmann::ordered_json& form,
+/// The largest script, with every character escaped, stays below; longer texts are not worth
+/// reading.
+inline constexpr std::size_t maxJsonSize = std::size_t{128} * 1024 * 1024;
+
+/// Reads a text of any bytes. Fields left out are those of a new entry. Gives back the very records
+/// that printScript was given when hidden texts were revealed and the cipher is the same.
+[[nodiscard]] ScriptOfJson scriptOfJson(std::span<const std::uint8_t> text,
                                         const HiddenTextCipher& cipher);
 
 }  // namespace quendra

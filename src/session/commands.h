@@ -54,12 +54,12 @@ struct CommandTexts {
 };
 
 struct CommandInfo {
-    EditorCommand id;
+    EditorCommand id = {};
     CommandTexts texts;
     /// In Qt's portable notation, several with "; " between them; empty for none.
     const char* shortcut = "";
     /// A menu has its commands in the order of the table, with a separator between two groups.
-    EditorMenu menu;
+    EditorMenu menu = {};
     int menuGroup = 1;
     /// The toolbar's groups stand in the order of their numbers; 0 for a command that is not there.
     int toolbarGroup = 0;
