@@ -4,6 +4,7 @@
 #include "platform/secret_memory.h"
 
 #include <algorithm>
+#include <cstddef>
 
 namespace quendra {
 
@@ -17,20 +18,20 @@ std::size_t assign(std::array<char, Size>& field, std::string_view value) {
     return length;
 }
 
-template <std::size_t Size>
-void wipeField(std::array<char, Size>& field) {
-    wipeMemory(field.data(), field.size());
-}
+constexpr std::size_t secretsStart = offsetof(StepFields, text);
+constexpr std::size_t secretsEnd =
+    offsetof(StepFields, transferSettings) + sizeof(FileTransferSettings);
+static_assert(secretsEnd - secretsStart == sizeof(TextField) + sizeof(FileTransferSettings));
 
 }  // namespace
 
 Step::~Step() {
-    wipeField(text);
-    wipeMemory(transferSettings.bytes.data(), transferSettings.bytes.size());
+    auto* fields = reinterpret_cast<std::uint8_t*>(static_cast<StepFields*>(this));
+    wipeMemory(fields + secretsStart, secretsEnd - secretsStart);
 }
 
 ScriptEntry::~ScriptEntry() {
-    wipeField(compareText);
+    wipeMemory(compareText.data(), compareText.size());
 }
 
 std::string_view textOf(const ConstSlotFields& fields) {

@@ -64,9 +64,10 @@ struct StepFields {
     /// The packed screen area of Copy and Paste.
     std::uint32_t area;
     DateTime waitUntil;
-    TextField text;
     /// Its length is `number`.
     PromptField prompt;
+    /// These two may hold secrets, and lie together to be wiped in one go.
+    TextField text;
     FileTransferSettings transferSettings;
 
     bool operator==(const StepFields&) const = default;

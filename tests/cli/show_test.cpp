@@ -79,6 +79,16 @@ TEST_F(Show, keepsHiddenTextsUnlessAskedForThem) {
               "Type \"topsecret\" (H)\nWatch_For \"w\" Then Type \"topsecret\" (H)\n");
 }
 
+TEST_F(Show, masksNothingThatLiesInTheFileInClear) {
+    for (const std::uint8_t hidden : std::initializer_list<std::uint8_t>{0, 2, 255}) {
+        const Bytes script = scriptFile("QDMDSCR=", {joined({{15}, counted("clear"), {hidden}})});
+        EXPECT_EQ(runQds({"show", "-"}, script).out, "Type \"clear\"\n");
+        const QdsRun form = runQds({"show", "--json", "-"}, script);
+        EXPECT_NE(form.out.find("\"text\": \"clear\""), std::string::npos) << form.out;
+        EXPECT_EQ(built(form.out), script);
+    }
+}
+
 TEST_F(Show, goesOnWithoutTheLanguageLibraryAndSaysSo) {
     const Bytes script = scriptFile("QDMDSCR=", {beep});
     const QdsRun run = runQds({"show", "-"}, script, file(""));

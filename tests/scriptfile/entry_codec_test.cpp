@@ -35,7 +35,7 @@ TEST(EntryCodec, keepsBothActionsApartAndEnciphersInEverySlot) {
     compare.thenAction.code = compare.elseAction.code = Type;
     setText(slotFields(compare, Slot::Then), "thenSecret");
     setText(slotFields(compare, Slot::Else), "elseSecret");
-    compare.hidden = compare.elseAction.hidden = 1;
+    compare.thenAction.hidden = compare.elseAction.hidden = 1;
     const EntryHandle stored = packed(compare);
     EXPECT_EQ(unpackEntry(stored, myCipher), compare);
     const std::string bytes(stored.record().begin(), stored.record().end());

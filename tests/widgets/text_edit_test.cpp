@@ -28,9 +28,9 @@ class TextEditTest : public DialogTest {
     void key(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
         QTest::keyClick(&edit(), key, modifiers);
     }
-    void openHidden(std::string_view text) {
+    void openHidden(std::string_view text, std::uint8_t hidden = 1) {
         entry = newCommand(CommandCode::Type);
-        entry.hidden = 1;
+        entry.hidden = hidden;
         setText(own(), text);
         state.editing = true;
         open();
@@ -127,6 +127,18 @@ TEST_F(TextEditTest, AMaskedTextIsEditedLikeAnyOther) {
               "1\xfcx\xea"
               "ef");
     EXPECT_EQ(entry.hidden, 1);
+}
+
+TEST_F(TextEditTest, ATypeOfAForeignFileIsMaskedOnlyWhereItIsStoredEnciphered) {
+    for (const std::uint8_t hidden : std::initializer_list<std::uint8_t>{2, 255}) {
+        openHidden("clear", hidden);
+        EXPECT_EQ(displayed(), "clear");
+        retype("text", std::string(250, 'r'));
+        click("ok");
+        EXPECT_EQ(stored(), std::string(250, 'r'));
+        EXPECT_EQ(entry.hidden, hidden) << "carried";
+        close();
+    }
 }
 
 TEST_F(TextEditTest, AHiddenTextHasNoMoreThanCanBeEnciphered) {
