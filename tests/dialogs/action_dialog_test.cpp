@@ -119,14 +119,14 @@ TEST_F(ActionDialogTest, OkAsksForWhatTheActionLacksUntilItHasIt) {
     startWithTimeout();
     chooseRow(events, "Wait");
     ASSERT_TRUE(choose(Slot::Then));
-    EXPECT_EQ(entry.number, 3U) << "a found action uses the seconds of the entry";
+    EXPECT_EQ(then().number, 3U) << "a found action of a new entry has the seconds of a new Wait";
     chooseRow(events, "Wait");
     steps.in("waitDialog", [](const OpenDialog& d) { d.press(Qt::Key_Escape); });
     chooseRow(events, "Wait");
     answer("waitDialog", "number", "7");
     ASSERT_TRUE(choose(Slot::Else));
     EXPECT_EQ(entry.elseAction.number, 7U);
-    EXPECT_EQ(entry.number, 3U);
+    EXPECT_EQ(then().number, 3U);
     click("actionDialog", "ok");
     EXPECT_TRUE(choose(Slot::Else)) << "seconds that are there are not asked for again";
 
@@ -144,7 +144,7 @@ TEST_F(ActionDialogTest, OkAsksForWhatTheActionLacksUntilItHasIt) {
         ASSERT_TRUE(choose(Slot::Else));
         EXPECT_EQ(entry.elseAction.hidden, editing ? 0 : 1);
         EXPECT_EQ(textOf(otherwise()), "secret");
-        EXPECT_EQ(entry.hidden, 0);
+        EXPECT_EQ(then().hidden, 0);
     }
 }
 
@@ -190,7 +190,7 @@ TEST_F(ActionDialogTest, OkStartsATransferFromTheWorkingSettingsAndADoubleClickF
     EXPECT_EQ(entry.elseAction.transferHost, transferHostTso);
     EXPECT_EQ(entry.elseAction.transferSettings, working);
     EXPECT_EQ(transferText(working, transfer::member), "MEMBER1");
-    EXPECT_EQ(entry.transferSettings, FileTransferSettings{});
+    EXPECT_EQ(then().transferSettings, FileTransferSettings{});
 
     setTransferText(working, transfer::hostFileName, "OTHER");
     const ScriptEntry before = entry;

@@ -47,10 +47,10 @@ TEST_F(DialogTest, PositionsThatAreDisabledAreStillRequired) {
     EXPECT_EQ(checked("entireScreen") + enabled("startRow startRowLabel endRowLabel"), "1000");
     EXPECT_EQ(focused(), "entireScreen");
     entry = newCommand(Code::Paste);
-    entry.commandId = 0x44332211;
+    entry.area = 0x44332211;
     open();
     click("ok");
-    EXPECT_EQ(entry.commandId, 0x00002211U) << "Paste clears the end of its area";
+    EXPECT_EQ(entry.area, 0x00002211U) << "Paste clears the end of its area";
 }
 
 TEST_F(DialogTest, BrowseOffersTheFilesOfItsCommandAndTakesTheChoice) {

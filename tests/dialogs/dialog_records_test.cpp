@@ -39,17 +39,17 @@ void putOne(ScriptEntry& e, Slot slot, const std::string& name, const std::strin
         in(e.textLength, e.thenAction.textLength, e.elseAction.textLength) =
             static_cast<std::uint8_t>(fill(in(e.text, e.thenAction.text, e.elseAction.text)));
     if (name == "prompt")
-        in(e.number, e.number, e.elseAction.number) =
-            static_cast<std::uint32_t>(fill(in(e.prompt, e.prompt, e.elseAction.prompt)));
-    if (name == "number") in(e.number, e.number, e.elseAction.number) = number();
-    if (name == "menu") in(e.commandId, e.commandId, e.elseAction.commandId) = number();
-    if (name == "area") in(e.commandId, e.commandId, e.elseAction.area) = number();
-    if (name == "row") in(e.row, e.row, e.elseAction.row) = byte();
-    if (name == "column") in(e.column, e.column, e.elseAction.column) = byte();
-    if (name == "hidden") in(e.hidden, e.hidden, e.elseAction.hidden) = byte();
-    if (name == "length") in(e.maxLength, e.maxLength, e.elseAction.maxLength) = byte();
+        in(e.number, e.thenAction.number, e.elseAction.number) = static_cast<std::uint32_t>(
+            fill(in(e.prompt, e.thenAction.prompt, e.elseAction.prompt)));
+    if (name == "number") in(e.number, e.thenAction.number, e.elseAction.number) = number();
+    if (name == "menu") in(e.commandId, e.thenAction.commandId, e.elseAction.commandId) = number();
+    if (name == "area") in(e.area, e.thenAction.area, e.elseAction.area) = number();
+    if (name == "row") in(e.row, e.thenAction.row, e.elseAction.row) = byte();
+    if (name == "column") in(e.column, e.thenAction.column, e.elseAction.column) = byte();
+    if (name == "hidden") in(e.hidden, e.thenAction.hidden, e.elseAction.hidden) = byte();
+    if (name == "length") in(e.maxLength, e.thenAction.maxLength, e.elseAction.maxLength) = byte();
     if (name == "variable")
-        in(e.inputVariable, e.inputVariable, e.elseAction.inputVariable) = byte();
+        in(e.inputVariable, e.thenAction.inputVariable, e.elseAction.inputVariable) = byte();
     if (name == "until") {
         DateTime& d = in(e.waitUntil, e.thenAction.waitUntil, e.elseAction.waitUntil);
         std::istringstream(value) >> d.year >> d.month >> d.dayOfWeek >> d.day >> d.hour >>
@@ -77,6 +77,8 @@ ScriptEntry crowdedEntry(Code owner) {
     e.code = owner;
     e.hidden = 0;
     e.commandData = 0x11121314;
+    e.thenAction.commandData = 0x41424344;
+    e.thenAction.area = 0x51525354;
     e.elseAction.commandData = 0x21222324;
     e.elseAction.area = 0x31323334;
     return e;

@@ -99,7 +99,7 @@ TEST_F(SearchTest, APositionFromAForeignFileStaysUntilItIsChanged) {
 TEST_F(SearchTest, ActionsThatCannotBeReadSurviveAnEditOfTheText) {
     startWithTimeout();
     entry.thenAction.code = CommandCode::Type;
-    entry.hidden = 1;
+    entry.thenAction.hidden = 1;
     entry.thenAction.kept = {1, 2, 3};
     entry.elseAction.code = CommandCode::WatchFor;
     entry.elseAction.kept = {4, 5, 6};
@@ -229,7 +229,7 @@ TEST_F(SearchTest, ANewWatchForOffersBeepAndRefusesInTheWordsOfTheLibraryAndOnly
     EXPECT_EQ(line(), "Watch_For \"ERROR\" Then Beep");
 
     entry.thenAction.code = CommandCode::LuFunction;
-    entry.row = 99;
+    entry.thenAction.row = 99;
     steps.in("watchForDialog", [this](const OpenDialog& d) {
         d.click("ok");
         expectTold("Select an action to perform when the watched text appears.", "Watch_For");
@@ -249,8 +249,8 @@ TEST_F(SearchTest, ANewWatchForOffersBeepAndRefusesInTheWordsOfTheLibraryAndOnly
     });
     ASSERT_TRUE(run());
     EXPECT_EQ(entry.thenAction.code, CommandCode::LuFunction);
-    EXPECT_EQ(entry.row, 4);
-    EXPECT_EQ(entry.column, 7);
+    EXPECT_EQ(entry.thenAction.row, 4);
+    EXPECT_EQ(entry.thenAction.column, 7);
 }
 
 }  // namespace

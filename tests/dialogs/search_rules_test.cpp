@@ -13,7 +13,7 @@ using Code = CommandCode;
 PaletteChoice choiceOfCode(Code code, std::uint32_t commandId = 0) {
     ScriptEntry entry;
     entry.thenAction.code = code;
-    entry.commandId = commandId;
+    entry.thenAction.commandId = commandId;
     return choiceOf(slotFields(entry, Slot::Then), {});
 }
 
