@@ -56,9 +56,11 @@ std::vector<std::size_t> findEntries(const Script& script, const HiddenTextCiphe
     std::vector<std::size_t> found;
     if (text.empty()) return found;
     const Searcher searcher(text, names);
-    for (std::size_t i = 0; i < script.entryCount(); ++i) {
-        if (searcher.isIn(unpackEntry(script.entries[i], cipher))) found.push_back(i);
-    }
+    std::size_t index = 0;
+    forEachEntry(script, cipher, [&](const ScriptEntry& entry) {
+        if (searcher.isIn(entry)) found.push_back(index);
+        ++index;
+    });
     return found;
 }
 

@@ -115,13 +115,12 @@ void printScript(std::ostream& out, const Script& script, HostType hostType,
     out << "{\n  \"hostType\": \"" << hostTypeInfo(hostType).name << "\",\n  \"entries\": [";
     // Entry by entry: the tree of a whole script takes a hundred megabytes.
     const char* separator = "\n    ";
-    for (const EntryHandle& handle : script.entries) {
-        Json entry;
-        EntryWriter(entry, hostType, printing)
-            .slot(unpackEntry(handle, printing.cipher), Slot::Entry);
+    forEachEntry(script, printing.cipher, [&](const ScriptEntry& entry) {
+        Json object;
+        EntryWriter(object, hostType, printing).slot(entry, Slot::Entry);
         out << std::exchange(separator, ",\n    ");
-        printEntry(out, entry);
-    }
+        printEntry(out, object);
+    });
     out << (script.entries.empty() ? "]\n}" : "\n  ]\n}");
 }
 

@@ -95,6 +95,16 @@ void RecordReader::foreignAction(const SlotFields& f) {
     --nesting_;
 }
 
+void readWholeRecord(std::span<const std::uint8_t> record, RecordFormat format,
+                     const HiddenTextCipher* cipher, ScriptEntry& entry) {
+    static_cast<EntryFields&>(entry) = emptyFields;
+    entry.kept.reset();
+    entry.thenKept.reset();
+    entry.elseKept.reset();
+    RecordReader reader(record, 0, format, cipher);
+    layout::record(reader, entry, Slot::Entry);
+}
+
 void RecordScanner::menuCommand(std::uint32_t& commandId) {
     RecordCursor::menuCommand(commandId);
     if (format_.vt) isMemoryForm_ = false;
