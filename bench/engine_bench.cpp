@@ -15,6 +15,7 @@
 #include <numeric>
 #include <openssl/evp.h>
 #include <stdexcept>
+#include <sys/mman.h>
 #include <unistd.h>
 
 namespace quendra::bench {
@@ -58,6 +59,23 @@ void rawRead(const fs::path& path, std::uint8_t* buffer, std::size_t size) {
     close(file);
 }
 
+// From the system itself: what the heap gives may have been used before, depending on what else the
+// program has done.
+struct NewMemory {
+    explicit NewMemory(std::size_t wanted)
+        : size(wanted),
+          bytes(static_cast<std::uint8_t*>(
+              mmap(nullptr, size, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0))) {
+        require(bytes != MAP_FAILED, "mmap");
+    }
+    NewMemory(const NewMemory&) = delete;
+    NewMemory& operator=(const NewMemory&) = delete;
+    ~NewMemory() { munmap(bytes, size); }
+
+    std::size_t size;
+    std::uint8_t* bytes;
+};
+
 // Load against read() and memcpy of the same bytes. Warm: into memory that was written before;
 // fresh: into memory that is new each time, as a load has it.
 void load(benchmark::State& state, MakeScript make, bool fresh) {
@@ -76,11 +94,11 @@ void load(benchmark::State& state, MakeScript make, bool fresh) {
                 benchmark::DoNotOptimize(second.data());
                 return;
             }
-            const auto from = std::make_unique_for_overwrite<std::uint8_t[]>(bytes.size());
-            const auto to = std::make_unique_for_overwrite<std::uint8_t[]>(bytes.size());
-            rawRead(path, from.get(), bytes.size());
-            std::memcpy(to.get(), from.get(), bytes.size());
-            benchmark::DoNotOptimize(to.get());
+            const NewMemory from(bytes.size());
+            const NewMemory to(bytes.size());
+            rawRead(path, from.bytes, bytes.size());
+            std::memcpy(to.bytes, from.bytes, bytes.size());
+            benchmark::DoNotOptimize(to.bytes);
         },
         [&] {
             loaded = loadScriptFile(path);
@@ -111,9 +129,9 @@ void format(benchmark::State& state, MakeScript make) {
     const auto formatAll = [&] {
         std::vector<std::string> lines;
         lines.reserve(script.entryCount());
-        for (const EntryHandle& entry : script.entries) {
-            lines.push_back(formatEntryLine(unpackEntry(entry, cipher()), names));
-        }
+        forEachEntry(script, cipher(), [&](const ScriptEntry& entry) {
+            lines.push_back(formatEntryLine(entry, names));
+        });
         return lines;
     };
     const auto ready = formatAll();

@@ -180,9 +180,11 @@ ActionSummaries actionSummaries(const ScriptEntry& entry, bool isCompare,
 std::optional<TransferInputs> lastTransferShown(const Script& script,
                                                 const HiddenTextCipher& cipher) {
     TransferSearch transfer;
+    ScriptEntry unpacked;
     for (auto entry = script.entries.rbegin(); entry != script.entries.rend(); ++entry) {
         if (!transfer.isIn(*entry)) continue;
-        if (auto inputs = lastTransferOf(unpackEntry(*entry, cipher))) return inputs;
+        unpackEntry(*entry, cipher, unpacked);
+        if (auto inputs = lastTransferOf(unpacked)) return inputs;
     }
     return std::nullopt;
 }

@@ -1,11 +1,13 @@
 #include "analysis/entry_search.h"
 
+#include "model/entry_fields.h"
 #include "model/menu_commands.h"
 #include "scriptfile/entry_codec.h"
 #include "text/text_encoding.h"
 #include "text/text_folding.h"
 
 #include <algorithm>
+#include <variant>
 
 namespace quendra {
 
@@ -17,24 +19,16 @@ class Searcher {
         : text_(foldedText(text)), names_(names) {}
 
     [[nodiscard]] bool isIn(const ScriptEntry& entry) const {
-        return isInUtf8(formatEntryLine(entry, names_)) || isInField(compareTextOf(entry)) ||
-               isInSlot(slotFields(entry, Slot::Entry)) ||
-               isInSlot(slotFields(entry, Slot::Then)) || isInSlot(slotFields(entry, Slot::Else));
+        if (isInUtf8(formatEntryLine(entry, names_))) return true;
+        return std::ranges::any_of(slotsOf(entry),
+                                   [&](Slot slot) { return isInSlot(entry, slot); });
     }
 
   private:
-    [[nodiscard]] bool isInSlot(const ConstSlotFields& fields) const {
-        if (!isHiddenText(fields) && isInField(textOf(fields))) return true;
-        if (fields.code == CommandCode::Input && isInField(promptOf(fields))) return true;
-        return fields.code == CommandCode::MenuCommand && isFileTransfer(fields.commandId) &&
-               isInTransfer(fields.transferSettings);
-    }
-
-    [[nodiscard]] bool isInTransfer(const FileTransferSettings& settings) const {
-        return std::ranges::any_of(transferFields(), [&](const TransferField& field) {
-            return field.kind == TransferFieldKind::Text &&
-                   field.offset != transfer::hostFilePassword.offset &&
-                   isInField(transferText(settings, field));
+    [[nodiscard]] bool isInSlot(const ScriptEntry& entry, Slot slot) const {
+        return std::ranges::any_of(fieldsOf(entry, slot), [&](const EntryField& field) {
+            return isText(field.kind) && !isSecret(entry, slot, field) &&
+                   isInField(std::get<std::string_view>(fieldValue(entry, slot, field)));
         });
     }
 
@@ -57,9 +51,11 @@ std::vector<std::size_t> findEntries(const Script& script, const HiddenTextCiphe
     std::vector<std::size_t> found;
     if (text.empty()) return found;
     const Searcher searcher(text, names);
-    for (std::size_t i = 0; i < script.entryCount(); ++i) {
-        if (searcher.isIn(unpackEntry(script.entries[i], cipher))) found.push_back(i);
-    }
+    std::size_t index = 0;
+    forEachEntry(script, cipher, [&](const ScriptEntry& entry) {
+        if (searcher.isIn(entry)) found.push_back(index);
+        ++index;
+    });
     return found;
 }
 

@@ -58,7 +58,7 @@ std::optional<SourceScript> readScriptInput(Environment& environment, const std:
     // One byte over the limit shows that there is more.
     auto content = readInput(environment, file, maxScriptFileSize + 1);
     if (!content) return std::nullopt;
-    ReadResult read = readScript(content->bytes());
+    ReadResult read = readScript(content->storage, content->size);
     if (read.refusal) {
         report(environment, file, withOffset(describe(*read.refusal), 0));
         return std::nullopt;

@@ -32,11 +32,10 @@ void printLines(const Show& show, const ReadResult& read) {
     const DisplayNames names = {show.names.luFunctions.of(read.signature.hostType),
                                 show.names.menuCommands, show.request.reveal};
     std::size_t number = 0;
-    for (const EntryHandle& entry : read.script.entries) {
+    forEachEntry(read.script, show.cipher, [&](const ScriptEntry& entry) {
         if (show.request.numbers) out << std::setw(6) << ++number << '\t';
-        out << escapeControlCharacters(formatEntryLine(unpackEntry(entry, show.cipher), names))
-            << '\n';
-    }
+        out << escapeControlCharacters(formatEntryLine(entry, names)) << '\n';
+    });
 }
 
 void printForm(const Show& show, const ReadResult& read) {

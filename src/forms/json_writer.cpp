@@ -118,10 +118,11 @@ void printScript(std::ostream& out, const Script& script, HostType hostType,
     const EntryWriter writer(hostType, printing);
     // Entry by entry: the tree of a whole script takes a hundred megabytes.
     const char* separator = "\n    ";
-    for (const EntryHandle& handle : script.entries) {
-        out << std::exchange(separator, ",\n    ");
-        printEntry(out, writer.slot(unpackEntry(handle, printing.cipher), Slot::Entry));
-    }
+    forEachEntry(script, printing.cipher, [&](const ScriptEntry& entry) {
+        out << std::exchange(separator, ",
+    ");
+        printEntry(out, writer.slot(entry, Slot::Entry));
+    });
     out << (script.entries.empty() ? "]\n}" : "\n  ]\n}");
 }
 

@@ -77,9 +77,9 @@ constexpr std::array input = {
 };
 constexpr std::array ifInputIs = {
     textField(Text, {0, maxTextLength}),
-    EntryField{"firstOperandKind", Variable, &ScriptEntry::firstOperandKind, variables},
+    EntryField{"firstOperandKind", Variable, &EntryOptions::firstOperandKind, variables},
     EntryField{"compareText", Text, TextPlace::Compare, {0, maxTextLength}},
-    EntryField{"secondOperandKind", Variable, &ScriptEntry::secondOperandKind, variables},
+    EntryField{"secondOperandKind", Variable, &EntryOptions::secondOperandKind, variables},
 };
 constexpr std::array waitUntil = {
     datePart("year", &DateTime::year, {1601, 9999}),
@@ -97,12 +97,12 @@ constexpr std::size_t watchedWaitForFields = 5;
 constexpr std::size_t endlessWaitForFields = 6;
 constexpr std::array waitFor = {
     textField(),
-    EntryField{"searchRow", Position, &ScriptEntry::searchRow, searchRowRange, false, 1},
-    EntryField{"searchColumn", Position, &ScriptEntry::searchColumn, searchColumnRange, false, 1},
-    flag("exactPosition", &ScriptEntry::exactPosition),
-    flag("caseSensitive", &ScriptEntry::caseSensitive, 1),
-    flag("hasTimeout", &ScriptEntry::hasTimeout),
-    EntryField{"timeoutSeconds", Number, &ScriptEntry::timeoutSeconds, wholeByte},
+    EntryField{"searchRow", Position, &EntryOptions::searchRow, searchRowRange, false, 1},
+    EntryField{"searchColumn", Position, &EntryOptions::searchColumn, searchColumnRange, false, 1},
+    flag("exactPosition", &EntryOptions::exactPosition),
+    flag("caseSensitive", &EntryOptions::caseSensitive, 1),
+    flag("hasTimeout", &EntryOptions::hasTimeout),
+    EntryField{"timeoutSeconds", Number, &EntryOptions::timeoutSeconds, wholeByte},
 };
 
 // Two words, and then what the kind of the menu command's parameters asks for.
@@ -142,7 +142,7 @@ auto withNumber(E& entry, Slot slot, const FieldPlace& place, Use use) {
     if (const auto* part = std::get_if<std::uint16_t DateTime::*>(&place)) {
         return use(step.waitUntil.**part);
     }
-    if (const auto* byte = std::get_if<std::uint8_t ScriptEntry::*>(&place)) {
+    if (const auto* byte = std::get_if<std::uint8_t EntryOptions::*>(&place)) {
         return use(entry.**byte);
     }
     return use(step.*std::get<std::uint32_t StepFields::*>(place));

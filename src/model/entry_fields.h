@@ -57,7 +57,7 @@ enum class TextPlace : std::uint8_t { Own, Prompt, Compare };
 /// Where a field lies: in the step, in the entry, in the step's date or transfer settings, or which
 /// text it is.
 using FieldPlace = std::variant<std::uint8_t StepFields::*, std::uint32_t StepFields::*,
-                                std::uint8_t ScriptEntry::*, std::uint16_t DateTime::*,
+                                std::uint8_t EntryOptions::*, std::uint16_t DateTime::*,
                                 const TransferField*, TextPlace>;
 
 struct EntryField {

@@ -87,11 +87,8 @@ struct Step : StepFields {
     bool operator==(const Step&) const = default;
 };
 
-/// All parameters of one entry: a step, the options that only an entry has, and its two actions.
-/// Every slot has all fields to itself, as the file has a record for each, but for the search
-/// options: a Wait_For that a Watch_For runs has those of its owner, which uses none. Wiped when
-/// it goes, and left out of crash dumps wherever it lies.
-struct ScriptEntry : Step {
+/// What only an entry has, and no action.
+struct EntryOptions {
     std::uint8_t searchRow = 0;
     std::uint8_t searchColumn = 0;
     std::uint8_t exactPosition = 0;
@@ -105,6 +102,14 @@ struct ScriptEntry : Step {
     std::uint8_t compareTextLength = 0;
     TextField compareText = {};
 
+    bool operator==(const EntryOptions&) const = default;
+};
+
+/// All parameters of one entry: a step, the options, and its two actions. Every slot has all fields
+/// to itself, as the file has a record for each, but for the search options: a Wait_For that a
+/// Watch_For runs has those of its owner, which uses none. Wiped when it goes, and left out of
+/// crash dumps wherever it lies.
+struct ScriptEntry : Step, EntryOptions {
     Step thenAction;
     Step elseAction;
 

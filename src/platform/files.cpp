@@ -58,16 +58,17 @@ ssize_t readFully(int descriptor, std::uint8_t* buffer, std::size_t size) {
 bool readGrowing(int descriptor, std::size_t firstSize, std::size_t maxBytes,
                  FileContent& content) {
     std::size_t capacity = std::min(firstSize, maxBytes);
-    content.storage = SecretPages(capacity);
+    content.storage = std::make_shared<const SecretPages>(capacity);
+    content.storage->makePresent();
     for (;;) {
         const ssize_t got =
-            readFully(descriptor, content.storage.data() + content.size, capacity - content.size);
+            readFully(descriptor, content.storage->data() + content.size, capacity - content.size);
         if (got < 0) return false;
         content.size += static_cast<std::size_t>(got);
         if (content.size < capacity || capacity == maxBytes) return true;
         const std::size_t larger = std::min(capacity * 2, maxBytes);
-        SecretPages storage(larger);
-        std::memcpy(storage.data(), content.storage.data(), content.size);
+        auto storage = std::make_shared<const SecretPages>(larger);
+        std::memcpy(storage->data(), content.storage->data(), content.size);
         content.storage = std::move(storage);
         capacity = larger;
     }

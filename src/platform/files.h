@@ -5,6 +5,7 @@
 
 #include <cstdint>
 #include <filesystem>
+#include <memory>
 #include <optional>
 #include <span>
 #include <string>
@@ -31,12 +32,16 @@ struct FileFailure {
 
 /// The content of a file, or why it could not be read.
 struct FileContent {
-    SecretPages storage;
+    /// Shared, so that what is made of the bytes can own them where they lie.
+    std::shared_ptr<const SecretPages> storage;
     std::size_t size = 0;
     FileStamp stamp;
     std::optional<FileFailure> failure;
 
-    [[nodiscard]] std::span<const std::uint8_t> bytes() const { return {storage.data(), size}; }
+    [[nodiscard]] std::span<const std::uint8_t> bytes() const {
+        if (!storage) return {};
+        return {storage->data(), size};
+    }
 };
 
 /// Reads a file from its start, at most `maxBytes` of it.

@@ -54,6 +54,11 @@ SecretPages::~SecretPages() {
     if (memory_) munmap(memory_, size_);
 }
 
+void SecretPages::makePresent() const noexcept {
+    // Advice as well: older kernels fault as ever. Large pages are few.
+    if (size_ < largePage) madvise(memory_, size_, MADV_POPULATE_WRITE);
+}
+
 SecretMark::SecretMark(void* memory, std::size_t size) noexcept
     : links_{nullptr, nullptr, memory, size} {
     link();

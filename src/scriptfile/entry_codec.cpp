@@ -5,8 +5,16 @@
 
 namespace quendra {
 
+namespace {
+
+// So that most records are written without moving: no copies left behind, and no time lost.
+constexpr std::size_t usualRecordSize = 512;
+
+}  // namespace
+
 PackResult packEntry(const ScriptEntry& entry, const HiddenTextCipher& cipher) {
     RecordWriter writer(memoryForm, &cipher);
+    writer.reserve(usualRecordSize);
     layout::record(writer, entry, Slot::Entry);
     if (writer.fault() != WriteFault::None) return {{}, writer.fault()};
     return {storeRecord(writer.bytes()), WriteFault::None};
@@ -17,6 +25,10 @@ ScriptEntry unpackEntry(const EntryHandle& entry, const HiddenTextCipher& cipher
     RecordReader reader(entry.record(), 0, memoryForm, &cipher);
     layout::record(reader, unpacked, Slot::Entry);
     return unpacked;
+}
+
+void unpackEntry(const EntryHandle& entry, const HiddenTextCipher& cipher, ScriptEntry& unpacked) {
+    readWholeRecord(entry.record(), memoryForm, &cipher, unpacked);
 }
 
 bool TransferSearch::isIn(const EntryHandle& entry) {

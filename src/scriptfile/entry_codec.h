@@ -2,10 +2,12 @@
 // with every field.
 #pragma once
 
-#include "model/entry_handle.h"
+#include "model/script.h"
 #include "model/script_entry.h"
 #include "scriptfile/hidden_text.h"
 #include "scriptfile/record_writer.h"
+
+#include <utility>
 
 namespace quendra {
 
@@ -25,6 +27,22 @@ struct PackResult {
 /// use are zero. A hidden text that the key does not open is empty and has its bytes in `kept`, so
 /// that packing gives the same record again.
 [[nodiscard]] ScriptEntry unpackEntry(const EntryHandle& entry, const HiddenTextCipher& cipher);
+
+/// The same into a new entry, or one that served only for this before, of which nothing stays. For
+/// many entries in turn: of the time that unpacking takes, making and wiping a new one is a large
+/// part.
+void unpackEntry(const EntryHandle& entry, const HiddenTextCipher& cipher, ScriptEntry& unpacked);
+
+/// Calls `function` with the working form of each entry in order; it is valid during the call only,
+/// for the next one comes in its place.
+template <class Function>
+void forEachEntry(const Script& script, const HiddenTextCipher& cipher, const Function& function) {
+    ScriptEntry unpacked;
+    for (const EntryHandle& entry : script.entries) {
+        unpackEntry(entry, cipher, unpacked);
+        function(std::as_const(unpacked));
+    }
+}
 
 /// Looks for file transfers in many entries, without unpacking them.
 class TransferSearch {

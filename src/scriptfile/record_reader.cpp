@@ -95,6 +95,30 @@ void RecordReader::foreignAction(const SlotFields& f) {
     --nesting_;
 }
 
+namespace {
+
+void resetStep(Step& step) {
+    static_cast<StepFields&>(step) = {};
+    step.kept.reset();
+}
+
+// Reading fills an action only together with its command, so that most need no zeroing.
+void resetForReading(ScriptEntry& entry) {
+    resetStep(entry);
+    static_cast<EntryOptions&>(entry) = {};
+    for (Step* action : {&entry.thenAction, &entry.elseAction})
+        if (action->code != CommandCode::None) resetStep(*action);
+}
+
+}  // namespace
+
+void readWholeRecord(std::span<const std::uint8_t> record, RecordFormat format,
+                     const HiddenTextCipher* cipher, ScriptEntry& entry) {
+    resetForReading(entry);
+    RecordReader reader(record, 0, format, cipher);
+    layout::record(reader, entry, Slot::Entry);
+}
+
 void RecordScanner::menuCommand(std::uint32_t& commandId) {
     RecordCursor::menuCommand(commandId);
     if (format_.vt) isMemoryForm_ = false;

@@ -111,6 +111,11 @@ class RecordReader : public RecordCursor {
     const HiddenTextCipher* cipher_;
 };
 
+/// Reads one record that is known to be whole into a new entry, or into one that only this function
+/// has filled before, of which nothing stays. Without a cipher as above.
+void readWholeRecord(std::span<const std::uint8_t> record, RecordFormat format,
+                     const HiddenTextCipher* cipher, ScriptEntry& entry);
+
 /// Walks over records without taking their texts, and tells whether the bytes are what a writer in
 /// memory form would give. Entries that it is driven with hold nothing useful afterwards.
 class RecordScanner : public RecordCursor {

@@ -31,6 +31,8 @@ class RecordWriter {
     [[nodiscard]] WriteFault fault() const { return fault_; }
     [[nodiscard]] const std::vector<std::uint8_t>& bytes() const& { return bytes_; }
     [[nodiscard]] std::vector<std::uint8_t>&& bytes() && { return std::move(bytes_); }
+    /// Room for so many bytes in all before the memory has to grow.
+    void reserve(std::size_t size) { bytes_.reserve(size); }
     /// Starts an empty piece of output, keeping the memory.
     void clear() { bytes_.clear(); }
 

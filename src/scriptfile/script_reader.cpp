@@ -6,6 +6,7 @@
 #include "scriptfile/record_writer.h"
 
 #include <algorithm>
+#include <memory>
 #include <utility>
 
 namespace quendra {
@@ -23,14 +24,16 @@ ReadStop stopOf(RecordFault fault) {
     return ReadStop::EndInsideRecord;
 }
 
-// Reads the records one by one. A record that already is in memory form is stored as it stands; any
-// other is taken apart under its own version and written anew.
+// Beside the records of an older file, which its own size foretells, what newer versions add.
+constexpr std::size_t roomForConversion = std::size_t{64} * 1024;
+
+// Reads the records one by one. A record that already is in memory form becomes an entry where it
+// lies; any other is taken apart under its own version and written anew.
 class ScriptLoad {
   public:
-    /// `inPlace` takes records of `bytes` where they lie; null when they have to be copied.
-    ScriptLoad(std::span<const std::uint8_t> bytes, RecordsInPlace* inPlace, ReadResult& result)
-        : bytes_(bytes),
-          inPlace_(inPlace),
+    ScriptLoad(std::shared_ptr<const SecretPages> pages, std::size_t size, ReadResult& result)
+        : bytes_(pages->data(), size),
+          inPlace_(std::move(pages)),
           result_(result),
           format_(recordFormat(result.signature)) {}
 
@@ -63,9 +66,7 @@ class ScriptLoad {
         }
         if (!scanner_.isMemoryForm()) return storeConverted(start);
         const std::size_t end = scanner_.position();
-        const std::size_t length = end - start;
-        result_.script.entries.push_back(inPlace_ ? inPlace_->record(start, length)
-                                                  : storeRecord(bytes_.subspan(start, length)));
+        result_.script.entries.push_back(inPlace_.record(start, end - start));
         return end;
     }
 
@@ -82,17 +83,18 @@ class ScriptLoad {
         }
         writer_.clear();
         layout::record(writer_, std::as_const(entry), Slot::Entry);
-        result_.script.entries.push_back(storeRecord(writer_.bytes()));
+        result_.script.entries.push_back(converted_.store(writer_.bytes()));
         return reader.position();
     }
 
     std::span<const std::uint8_t> bytes_;
-    RecordsInPlace* inPlace_;
+    RecordPages inPlace_;
     ReadResult& result_;
     RecordFormat format_;
     RecordScanner scanner_{bytes_, 0, format_};
     ScriptEntry scratch_;
     RecordWriter writer_{memoryForm, nullptr};
+    RecordStore converted_{bytes_.size() + roomForConversion};
 };
 
 // What the signature says, without any entries.
@@ -108,9 +110,9 @@ ReadResult readSignature(std::span<const std::uint8_t> bytes) {
     return result;
 }
 
-void readEntries(std::span<const std::uint8_t> bytes, RecordsInPlace* inPlace, ReadResult& result) {
-    const bool tooLong = bytes.size() > maxScriptFileSize;
-    ScriptLoad(bytes.first(tooLong ? maxScriptFileSize : bytes.size()), inPlace, result).run();
+void readEntries(std::shared_ptr<const SecretPages> pages, std::size_t size, ReadResult& result) {
+    const bool tooLong = size > maxScriptFileSize;
+    ScriptLoad(std::move(pages), tooLong ? maxScriptFileSize : size, result).run();
     if (tooLong && (result.stop == ReadStop::None || result.stop == ReadStop::EndInsideRecord)) {
         result.stop = ReadStop::FileTooLong;
         result.stopOffset = maxScriptFileSize;
@@ -120,17 +122,14 @@ void readEntries(std::span<const std::uint8_t> bytes, RecordsInPlace* inPlace, R
 }  // namespace
 
 ReadResult readScript(std::span<const std::uint8_t> bytes) {
-    ReadResult result = readSignature(bytes);
-    if (!result.refusal) readEntries(bytes, nullptr, result);
-    return result;
+    const auto pages = std::make_shared<const SecretPages>(bytes.size());
+    std::ranges::copy(bytes, pages->data());
+    return readScript(pages, bytes.size());
 }
 
-ReadResult readScript(SecretPages pages, std::size_t size) {
-    const std::span<const std::uint8_t> bytes(pages.data(), size);
-    ReadResult result = readSignature(bytes);
-    if (result.refusal) return result;
-    RecordsInPlace inPlace(std::move(pages), std::min(maxEntries, size));
-    readEntries(bytes, &inPlace, result);
+ReadResult readScript(std::shared_ptr<const SecretPages> pages, std::size_t size) {
+    ReadResult result = readSignature({pages->data(), size});
+    if (!result.refusal) readEntries(std::move(pages), size, result);
     return result;
 }
 

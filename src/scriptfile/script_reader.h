@@ -6,6 +6,7 @@
 #include "scriptfile/format_version.h"
 
 #include <cstdint>
+#include <memory>
 #include <optional>
 #include <span>
 #include <vector>
@@ -49,12 +50,12 @@ struct ReadResult {
 inline constexpr std::size_t maxScriptFileSize = std::size_t{16} * 1024 * 1024;
 
 /// Reads a script file of any version from its bytes; of more than maxScriptFileSize only so many
-/// are looked at. Needs no key: hidden texts stay enciphered. Any bytes at all are fine; it takes
-/// time in proportion to their number.
+/// are looked at. The bytes are copied as a whole, once. Needs no key: hidden texts stay
+/// enciphered. Any bytes at all are fine; it takes time in proportion to their number.
 [[nodiscard]] ReadResult readScript(std::span<const std::uint8_t> bytes);
 
-/// The same for the `size` bytes of a file that was read into pages of its own: they are taken
-/// over, so that a current script is not copied.
-[[nodiscard]] ReadResult readScript(SecretPages pages, std::size_t size);
+/// The same for the `size` bytes of a file that was read into pages of its own, which nobody may
+/// write to any more: the entries of a current script lie there and share them.
+[[nodiscard]] ReadResult readScript(std::shared_ptr<const SecretPages> pages, std::size_t size);
 
 }  // namespace quendra

@@ -6,6 +6,8 @@
 #include "scriptfile/record_writer.h"
 
 #include <algorithm>
+#include <span>
+#include <utility>
 
 namespace quendra {
 
@@ -16,31 +18,35 @@ bool mayHoldMenuCommand(const EntryHandle& entry) {
     return entry.code() == CommandCode::MenuCommand || ownsActions(entry.code());
 }
 
-ScriptEntry takeApart(const EntryHandle& entry) {
-    ScriptEntry whole;
-    RecordReader reader(entry.record(), 0, memoryForm, nullptr);
-    layout::record(reader, whole, Slot::Entry);
-    return whole;
-}
+constexpr RecordFormat vtForm = {true, currentVersion};
 
-std::vector<std::uint8_t> vtRecord(const EntryHandle& entry) {
-    const ScriptEntry whole = takeApart(entry);
-    RecordWriter writer({true, currentVersion}, nullptr);
-    layout::record(writer, whole, Slot::Entry);
-    return std::move(writer).bytes();
-}
+// The records of entries in VT files, one after the other through the same memory.
+class VtRecords {
+  public:
+    /// The record of the entry in a VT file, valid until the next call.
+    std::span<const std::uint8_t> of(const EntryHandle& entry) {
+        if (!mayHoldMenuCommand(entry)) return entry.record();
+        readWholeRecord(entry.record(), memoryForm, nullptr, entry_);
+        stored_.clear();
+        layout::record(stored_, std::as_const(entry_), Slot::Entry);
+        return stored_.bytes();
+    }
 
-// Written for VT and read back, an entry that VT can store is what it was.
-bool vtStores(const EntryHandle& entry) {
-    if (!mayHoldMenuCommand(entry)) return true;
-    const auto stored = vtRecord(entry);
-    ScriptEntry readBack;
-    RecordReader reader(stored, 0, {true, currentVersion}, nullptr);
-    layout::record(reader, readBack, Slot::Entry);
-    RecordWriter writer(memoryForm, nullptr);
-    layout::record(writer, std::as_const(readBack), Slot::Entry);
-    return std::ranges::equal(writer.bytes(), entry.record());
-}
+    /// Written for VT and read back, an entry that VT can store is what it was.
+    bool store(const EntryHandle& entry) {
+        if (!mayHoldMenuCommand(entry)) return true;
+        readWholeRecord(of(entry), vtForm, nullptr, readBack_);
+        again_.clear();
+        layout::record(again_, std::as_const(readBack_), Slot::Entry);
+        return std::ranges::equal(again_.bytes(), entry.record());
+    }
+
+  private:
+    ScriptEntry entry_;
+    RecordWriter stored_{vtForm, nullptr};
+    ScriptEntry readBack_;
+    RecordWriter again_{memoryForm, nullptr};
+};
 
 }  // namespace
 
@@ -53,13 +59,10 @@ std::vector<std::uint8_t> writeScript(const Script& script, HostType hostType) {
     std::vector<std::uint8_t> bytes;
     bytes.reserve(size);
     bytes.assign(signature.begin(), signature.end());
+    VtRecords vtRecords;
     for (const EntryHandle& entry : script.entries) {
-        if (hostType == HostType::VT && mayHoldMenuCommand(entry)) {
-            const auto record = vtRecord(entry);
-            bytes.insert(bytes.end(), record.begin(), record.end());
-        } else {
-            bytes.insert(bytes.end(), entry.record().begin(), entry.record().end());
-        }
+        const auto record = hostType == HostType::VT ? vtRecords.of(entry) : entry.record();
+        bytes.insert(bytes.end(), record.begin(), record.end());
     }
     return bytes;
 }
@@ -67,8 +70,9 @@ std::vector<std::uint8_t> writeScript(const Script& script, HostType hostType) {
 std::vector<std::size_t> unstorableEntries(const Script& script, HostType hostType) {
     std::vector<std::size_t> indexes;
     if (hostType != HostType::VT) return indexes;
+    VtRecords vtRecords;
     for (std::size_t i = 0; i < script.entryCount(); ++i) {
-        if (!vtStores(script.entries[i])) indexes.push_back(i);
+        if (!vtRecords.store(script.entries[i])) indexes.push_back(i);
     }
     return indexes;
 }

@@ -4,6 +4,8 @@
 #include "support/fixtures.h"
 
 #include <algorithm>
+#include <cstdlib>
+#include <fstream>
 #include <gtest/gtest.h>
 #include <memory>
 #include <numeric>
@@ -49,34 +51,72 @@ TEST(Script, removesAndMovesEntriesAsOneByOne) {
     }
 }
 
-TEST(EntryHandle, wipesARecordWithItsLastHandleOnly) {
-    EntryHandle kept = numbered(1);
-    EntryHandle first = storeRecord(commentRecord("canary-in-a-comment"));
-    const std::uint8_t* memory = first.record().data();
-    const std::size_t size = first.record().size();
-    EntryHandle second = first;
-    first = kept;
-    EXPECT_EQ(second.record().data(), memory);
-    EXPECT_EQ(second.code(), CommandCode::Comment);
-    second = EntryHandle();
-    // The chunk is still alive through `kept`, so the memory may be looked at.
-    EXPECT_EQ(std::count(memory, memory + size, 0), static_cast<std::ptrdiff_t>(size));
-    EXPECT_EQ(kept, numbered(1));
+// Also of memory that was given back: a read of it in the usual way would be a fault itself.
+Bytes memoryAt(const std::uint8_t* start, std::size_t size) {
+    Bytes bytes(size);
+    std::ifstream memory("/proc/self/mem", std::ios::binary);
+    memory.seekg(static_cast<std::streamoff>(reinterpret_cast<std::uintptr_t>(start)));
+    memory.read(reinterpret_cast<char*>(bytes.data()), static_cast<std::streamsize>(size));
+    EXPECT_TRUE(memory.good());
+    return bytes;
 }
 
-TEST(EntryHandle, ofARecordInPlaceKeepsTheBytesAndWipesItsOwn) {
+// So large that the heap writes its own notes at the record's start only.
+Bytes largeRecord() {
+    return joined({{8}, counted(std::string(255, 'c')), word(1000), Bytes(1000, 'c'), {0, 0, 0}});
+}
+
+TEST(EntryHandle, wipesASingleRecordWithItsLastHandleOnly) {
+    const Bytes record = largeRecord();
+    EntryHandle first = storeRecord(record);
+    const std::uint8_t* memory = first.record().data();
+    EntryHandle second = first;
+    first = numbered(1);
+    EXPECT_EQ(second.record().data(), memory);
+    EXPECT_EQ(second, storeRecord(record));
+    EXPECT_EQ(std::ranges::count(memoryAt(memory, record.size()), 'c'), 1255) << "it can be seen";
+    second = EntryHandle();
+    EXPECT_EQ(std::ranges::count(memoryAt(memory, record.size()), 'c'), 0);
+}
+
+TEST(EntryHandle, ofASingleRecordHasItsBytesLeftOutOfDumps) {
+    const EntryHandle kept = storeRecord(largeRecord());
+    const auto end = [&] {
+        wipeMarkedMemory();
+        std::_Exit(std::ranges::count(kept.record(), 'c') == 0 ? 0 : 1);
+    };
+    EXPECT_EXIT(end(), testing::ExitedWithCode(0), "");
+}
+
+TEST(RecordPages, liveAsLongAsOneOfTheirRecordsAndAreNotCopied) {
     const Bytes bytes = joined({commentRecord("first"), commentRecord("second")});
-    SecretPages pages(bytes.size());
-    std::ranges::copy(bytes, pages.data());
-    const std::uint8_t* memory = pages.data();
-    auto records = std::make_unique<RecordsInPlace>(std::move(pages), 2);
+    auto pages = std::make_shared<SecretPages>(bytes.size());
+    std::ranges::copy(bytes, pages->data());
+    const std::weak_ptr<SecretPages> watched = pages;
+    auto records = std::make_unique<RecordPages>(pages);
     EntryHandle first = records->record(0, 7);
-    const EntryHandle second = records->record(7, 8);
+    EntryHandle second = records->record(7, 8);
     records.reset();
-    EXPECT_EQ(first.record().data(), memory) << "not copied";
+    EXPECT_EQ(first.record().data(), pages->data());
+    pages.reset();
+    first = std::move(second);
+    EXPECT_EQ(first, storeRecord(std::span(bytes).subspan(7)));
+    EXPECT_EQ(first.code(), CommandCode::Comment);
+    EXPECT_FALSE(watched.expired());
     first = EntryHandle();
-    EXPECT_EQ(std::count(memory, memory + 7, 0), 7);
-    EXPECT_EQ(second, storeRecord(std::span(bytes).subspan(7)));
+    EXPECT_TRUE(watched.expired());
+}
+
+TEST(RecordStore, keepsRecordsApartWhereABlockIsFullOrTooSmall) {
+    RecordStore store(20);
+    std::vector<EntryHandle> entries;
+    std::vector<Bytes> records;
+    for (const std::size_t length : {1, 17, 3, 200, 5, 5, 5}) {
+        records.push_back(commentRecord(std::string(length, 'x')));
+        entries.push_back(store.store(records.back()));
+    }
+    for (std::size_t i = 0; i < records.size(); ++i)
+        EXPECT_TRUE(std::ranges::equal(entries[i].record(), records[i])) << i;
 }
 
 }  // namespace

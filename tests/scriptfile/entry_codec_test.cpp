@@ -73,6 +73,20 @@ TEST(EntryCodec, neverStoresAHiddenTextThatDoesNotFit) {
     EXPECT_EQ(packEntry(type, myCipher).fault, WriteFault::HiddenTextTooLong);
 }
 
+TEST(EntryCodec, leavesNothingOfAnEntryInTheNextThatIsUnpackedInItsPlace) {
+    for (const auto& frozen : frozenCases()) {
+        Script script = readScript(frozen.file).script;
+        // Each kind after each neighbour, and the whole file from its end as well.
+        std::vector<EntryHandle> backwards(script.entries.rbegin(), script.entries.rend());
+        script.entries.insert(script.entries.end(), backwards.begin(), backwards.end());
+        auto next = script.entries.begin();
+        forEachEntry(script, myCipher, [&](const ScriptEntry& entry) {
+            EXPECT_EQ(entry, unpackEntry(*next++, myCipher)) << frozen.name;
+        });
+        EXPECT_EQ(next, script.entries.end());
+    }
+}
+
 TEST(EntryCodec, bringsForeignActionsThroughEditsOfTheirOwner) {
     // An If_Input_Is that owns an If_Input_Is whose else action is a hidden Type of somebody else.
     const Bytes type = hiddenTypeRecord("x", "theirs");
