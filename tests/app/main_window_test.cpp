@@ -1,7 +1,5 @@
 // The window as its user meets it: menus, keys, titles, prompts and what stands in the status bar.
-#include "app/editor_fixture.h"
 #include "session/command_rules.h"
-#include "session/command_states.h"
 #include "session/commands.h"
 #include "support/editor_fixture.h"
 #include "text/text_ids.h"

@@ -1,7 +1,6 @@
 // The editing operations over plain lists and prepared dialog answers.
 #include "session/editing.h"
 
-#include "model/fake_view.h"
 #include "model/new_command.h"
 #include "scriptfile/entry_codec.h"
 #include "session/fake_view.h"

@@ -3,7 +3,6 @@
 #pragma once
 
 #include "dialogs/command_dialogs.h"
-#include "dialogs/modal_steps.h"
 #include "model/new_command.h"
 #include "session/editing.h"
 #include "support/editor_fixture.h"

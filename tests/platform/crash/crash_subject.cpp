@@ -1,7 +1,6 @@
 // A program that crashes on demand, with the reporter of the real editor:
 //     crash_subject WAY DUMP-FOLDER
 #include "app/command_handlers.h"
-#include "app/crash_canaries.h"
 #include "app/crash_reporter.h"
 #include "app/main_window.h"
 #include "app/script_editor.h"
