@@ -14,7 +14,7 @@ ScriptEntry entryOf(CommandCode code, std::string_view text = {}) {
 }
 
 void addInput(ScriptEntry& entry, Slot slot) {
-    const SlotFields f = slotFields(entry, slot);
+    Step& f = slotFields(entry, slot);
     setCode(f, CommandCode::Input);
     setText(f, std::string(255, 't'));
     setPrompt(f, std::string(1023, 'p'));

@@ -94,7 +94,7 @@ Editor::Editor(std::size_t entries) : whole_(typicalScript(state_.cipher)) {
     // Whoever edits an entry changes its text.
     commands_ = std::make_unique<ScriptEditor>(
         state_, *window_, [](const DialogContext&, const EditTarget& target) {
-            const SlotFields f = slotFields(target.entry, Slot::Entry);
+            Step& f = slotFields(target.entry, Slot::Entry);
             setText(f, textOf(f) == "edited" ? "edited again" : "edited");
             return true;
         });

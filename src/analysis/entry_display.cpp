@@ -15,17 +15,17 @@ std::string quoted(std::string_view bytes) {
     return '"' + utf8FromWindows1252(bytes) + '"';
 }
 
-std::string quotedText(const ConstSlotFields& f) {
+std::string quotedText(const Step& f) {
     return quoted(textOf(f));
 }
 
-std::string luFunctionName(const ConstSlotFields& f, const DisplayNames& names) {
+std::string luFunctionName(const Step& f, const DisplayNames& names) {
     const LuKey key{f.row, f.column};
     if (const auto name = findLuFunction(names.luFunctions, key)) return std::string(*name);
     return "<Lu Function " + std::to_string(key.group) + "/" + std::to_string(key.number) + ">";
 }
 
-std::string menuCommandLine(const ConstSlotFields& f, const DisplayNames& names) {
+std::string menuCommandLine(const Step& f, const DisplayNames& names) {
     std::string line = menuCommandName(names.menuCommands, f.commandId);
     if (isFileTransfer(f.commandId)) {
         line += " " + utf8FromWindows1252(buildTransferCommand(transferInputs(f)));
@@ -35,7 +35,7 @@ std::string menuCommandLine(const ConstSlotFields& f, const DisplayNames& names)
     return line;
 }
 
-std::string typeLine(const ConstSlotFields& f, const DisplayNames& names) {
+std::string typeLine(const Step& f, const DisplayNames& names) {
     if (!isHiddenText(f)) return "Type " + quotedText(f);
     if (names.revealHidden) return "Type " + quotedText(f) + " (H)";
     return "Type \"" + std::string(f.textLength, '*') + "\" (H)";
@@ -55,14 +55,14 @@ std::string position(std::uint8_t row, std::uint8_t column) {
         .append(std::to_string(column));
 }
 
-std::string copyLine(const ConstSlotFields& f) {
+std::string copyLine(const Step& f) {
     if (f.number != 0) return "Copy All";
     const ScreenArea area = unpackArea(f.area);
     return "Copy from " + position(area.startRow, area.startColumn) + "  -  " +
            position(area.endRow, area.endColumn);
 }
 
-std::string pasteLine(const ConstSlotFields& f) {
+std::string pasteLine(const Step& f) {
     if (f.number != 0) return "Paste to Cursor";
     const ScreenArea area = unpackArea(f.area);
     return "Paste to " + position(area.startRow, area.startColumn);
@@ -70,7 +70,7 @@ std::string pasteLine(const ConstSlotFields& f) {
 
 // The part of a line that an entry and an action of the same command share. Commands that carry
 // actions give their keyword and text here; what follows is the owner's.
-std::string slotLine(const ConstSlotFields& f, const DisplayNames& names) {
+std::string slotLine(const Step& f, const DisplayNames& names) {
     const std::string keyword(commandKeyword(f.code));
     switch (f.code) {
         case CommandCode::None: return "";
@@ -105,7 +105,7 @@ std::string slotLine(const ConstSlotFields& f, const DisplayNames& names) {
 
 // An action that no editor offers shows nothing; the keyword before it stays on the line.
 std::string actionLine(const ScriptEntry& entry, Slot slot, const DisplayNames& names) {
-    const ConstSlotFields f = slotFields(entry, slot);
+    const Step& f = slotFields(entry, slot);
     return isForeignAction(entry, slot) ? std::string() : slotLine(f, names);
 }
 
@@ -138,7 +138,7 @@ bool showsActions(const ScriptEntry& entry) {
 
 std::optional<TransferInputs> lastTransferOf(const ScriptEntry& entry) {
     for (const Slot slot : {Slot::Else, Slot::Then, Slot::Entry}) {
-        const ConstSlotFields f = slotFields(entry, slot);
+        const Step& f = slotFields(entry, slot);
         const bool shown = slot == Slot::Entry || showsActions(entry);
         if (shown && f.code == CommandCode::MenuCommand && isFileTransfer(f.commandId)) {
             return transferInputs(f);

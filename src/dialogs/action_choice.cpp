@@ -12,7 +12,7 @@ const LuCatalogue& luFunctions(const DialogContext& context) {
 
 // The command is one that asks for something.
 bool askForParameters(const DialogContext& context, const EditTarget& target) {
-    const SlotFields action = slotFields(target.entry, target.slot);
+    Step& action = slotFields(target.entry, target.slot);
     const bool transfers =
         action.code == CommandCode::MenuCommand && isFileTransfer(action.commandId);
     // As they were shown last, whatever the action holds.
@@ -22,7 +22,7 @@ bool askForParameters(const DialogContext& context, const EditTarget& target) {
 
 void openTransfer(const DialogContext& context, const EditTarget& target,
                   const PaletteChoice& choice) {
-    const SlotFields action = slotFields(target.entry, target.slot);
+    Step& action = slotFields(target.entry, target.slot);
     context.state.workingTransfer.settings = action.transferSettings;
     if (editTransfer(context, action, transferDirection(menuCommandOf(choice)))) {
         applyChoice(target.entry, target.slot, choice, luFunctions(context));

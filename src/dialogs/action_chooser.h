@@ -23,9 +23,7 @@ class ActionChooser : public ParameterDialog {
   protected:
     void addLists();
     [[nodiscard]] ActionLists& lists() const { return *lists_; }
-    [[nodiscard]] SlotFields actionFields() const {
-        return slotFields(action_.entry, action_.slot);
-    }
+    [[nodiscard]] Step& actionFields() const { return slotFields(action_.entry, action_.slot); }
 
   private:
     [[nodiscard]] DialogContext overThis() { return {context().state, this}; }

@@ -58,7 +58,7 @@ class ActionLine : public QLabel {
 };
 
 // As with the lines of the script, a new transfer starts from the one that was shown last.
-void loadTransfer(ApplicationState& state, const ConstSlotFields& action) {
+void loadTransfer(ApplicationState& state, const Step& action) {
     if (action.code != CommandCode::MenuCommand || !isFileTransfer(action.commandId)) return;
     state.workingTransfer = transferInputs(action);
 }

@@ -34,7 +34,7 @@ Message watchForRefusal(ActionRefusal refusal, const TextSource& texts) {
     return {};
 }
 
-void dropHiddenText(const SlotFields& action) {
+void dropHiddenText(Step& action) {
     setText(action, {});
     action.hidden = 0;
 }
@@ -44,7 +44,7 @@ bool lacksTransferFiles(const FileTransferSettings& settings) {
            transferText(settings, transfer::pcFileName).empty();
 }
 
-bool menuCommandLacksParameters(const ConstSlotFields& action) {
+bool menuCommandLacksParameters(const Step& action) {
     if (isFileTransfer(action.commandId)) return lacksTransferFiles(action.transferSettings);
     return takesFileName(action.commandId) && action.textLength == 0;
 }
@@ -83,7 +83,7 @@ std::string actionCaption(const ActionPlace& place) {
 
 void applyChoice(ScriptEntry& entry, Slot slot, const PaletteChoice& choice,
                  const LuCatalogue& luFunctions) {
-    const SlotFields action = slotFields(entry, slot);
+    Step& action = slotFields(entry, slot);
     const bool wasWaitFor = action.code == CommandCode::WaitFor;
     const bool wasHidden = isHiddenText(action);
     takeCommand(action, choice, luFunctions);
@@ -94,7 +94,7 @@ void applyChoice(ScriptEntry& entry, Slot slot, const PaletteChoice& choice,
     }
 }
 
-bool lacksParameters(const ConstSlotFields& action) {
+bool lacksParameters(const Step& action) {
     switch (action.code) {
         case CommandCode::None:
         case CommandCode::LuFunction:

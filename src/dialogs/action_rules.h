@@ -46,7 +46,7 @@ void applyChoice(ScriptEntry& entry, Slot slot, const PaletteChoice& choice,
 /// True when the action is of a command whose parameters it does not have yet, so that accepting it
 /// has to ask for them first. What is kept of an action that cannot be read counts as its
 /// parameters.
-[[nodiscard]] bool lacksParameters(const ConstSlotFields& action);
+[[nodiscard]] bool lacksParameters(const Step& action);
 
 /// What a double-click on a row does; it never ends the dialog.
 enum class DoubleClickAct : std::uint8_t {

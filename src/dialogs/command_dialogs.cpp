@@ -6,7 +6,7 @@ namespace quendra {
 
 std::unique_ptr<ParameterDialog> makeCommandDialog(const DialogContext& context,
                                                    const EditTarget& target) {
-    const SlotFields fields = slotFields(target.entry, target.slot);
+    Step& fields = slotFields(target.entry, target.slot);
     switch (fields.code) {
         case CommandCode::Comment:
         case CommandCode::Goto:

@@ -45,7 +45,7 @@ static_assert(std::ranges::all_of(menuCommandTable,
                                   }),
               "each menu command that takes a file name has its row");
 
-const FileOperation& fileOperation(const ConstSlotFields& fields) {
+const FileOperation& fileOperation(const Step& fields) {
     const std::uint32_t id = fields.code == CommandCode::Run ? 0 : fields.commandId;
     const auto found =
         std::find_if(fileOperations.begin(), fileOperations.end(),

@@ -60,7 +60,7 @@ class ParameterDialog : public DialogFrame {
     [[nodiscard]] const DialogContext& context() const { return context_; }
     [[nodiscard]] const EditTarget& target() const { return target_; }
     /// The slot that this dialog edits.
-    [[nodiscard]] SlotFields fields() const { return slotFields(target_.entry, target_.slot); }
+    [[nodiscard]] Step& fields() const { return slotFields(target_.entry, target_.slot); }
 
     /// Where the fields go, from top to bottom.
     [[nodiscard]] QVBoxLayout& body() { return *body_; }

@@ -32,8 +32,7 @@ bool editActionOwner(const DialogContext& context, const EditTarget& target) {
 
 }  // namespace
 
-bool editTransfer(const DialogContext& context, const SlotFields& fields,
-                  TransferDirection direction) {
+bool editTransfer(const DialogContext& context, Step& fields, TransferDirection direction) {
     TransferInputs& working = context.state.workingTransfer;
     working.host = fields.transferHost;
     working.direction = direction;
@@ -46,7 +45,7 @@ bool editTransfer(const DialogContext& context, const SlotFields& fields,
 }
 
 bool editParameters(const DialogContext& context, const EditTarget& target) {
-    const SlotFields fields = slotFields(target.entry, target.slot);
+    Step& fields = slotFields(target.entry, target.slot);
     if (ownsActions(fields.code)) return editActionOwner(context, target);
     if (fields.code == CommandCode::MenuCommand && isFileTransfer(fields.commandId)) {
         if (startsFromOwnSettings(context.state, target)) {

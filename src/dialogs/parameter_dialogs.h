@@ -33,7 +33,7 @@ struct DialogContext {
 
 /// The pages of a file transfer, on the state's working settings as they are; true on OK, when the
 /// slot holds them and their host.
-[[nodiscard]] bool editTransfer(const DialogContext& context, const SlotFields& fields,
+[[nodiscard]] bool editTransfer(const DialogContext& context, Step& fields,
                                 TransferDirection direction);
 
 /// The dialogs of the three commands that carry actions; editParameters opens them for an entry.

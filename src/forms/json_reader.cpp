@@ -279,7 +279,7 @@ bool keptRecordsAreWhole(const ScriptEntry& entry, const EntryHandle& stored,
                          const HiddenTextCipher& cipher) {
     const ScriptEntry unpacked = unpackEntry(stored, cipher);
     for (const Slot slot : {Slot::Then, Slot::Else}) {
-        const ConstSlotFields given = slotFields(entry, slot);
+        const Step& given = slotFields(entry, slot);
         const bool isForeign = ownsActions(entry.code) && isForeignAction(entry, slot);
         if (isForeign && slotFields(unpacked, slot).kept != given.kept) return false;
     }

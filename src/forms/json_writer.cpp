@@ -119,8 +119,7 @@ void printScript(std::ostream& out, const Script& script, HostType hostType,
     // Entry by entry: the tree of a whole script takes a hundred megabytes.
     const char* separator = "\n    ";
     forEachEntry(script, printing.cipher, [&](const ScriptEntry& entry) {
-        out << std::exchange(separator, ",
-    ");
+        out << std::exchange(separator, ",\n    ");
         printEntry(out, writer.slot(entry, Slot::Entry));
     });
     out << (script.entries.empty() ? "]\n}" : "\n  ]\n}");

@@ -53,8 +53,7 @@ bool isRefused(const PaletteChoice& choice, HostType hostType) {
            refusesMenuCommand(hostType, menuCommandOf(choice));
 }
 
-void takeCommand(const SlotFields& fields, const PaletteChoice& choice,
-                 const LuCatalogue& luFunctions) {
+void takeCommand(Step& fields, const PaletteChoice& choice, const LuCatalogue& luFunctions) {
     setCode(fields, commandOf(choice));
     switch (choice.palette) {
         case Palette::ScriptEvents: break;
@@ -68,7 +67,7 @@ void takeCommand(const SlotFields& fields, const PaletteChoice& choice,
     }
 }
 
-PaletteChoice choiceOf(const ConstSlotFields& fields, const LuCatalogue& luFunctions) {
+PaletteChoice choiceOf(const Step& fields, const LuCatalogue& luFunctions) {
     if (fields.code == CommandCode::LuFunction) {
         const auto row = luFunctions.rowOf({fields.row, fields.column});
         return {Palette::LuFunctions, row ? static_cast<int>(*row) : -1};

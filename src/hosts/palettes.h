@@ -47,12 +47,11 @@ struct PaletteChoice {
 [[nodiscard]] bool isRefused(const PaletteChoice& choice, HostType hostType);
 
 /// Makes a slot the chosen command: its code, and key or menu command. All else stays.
-void takeCommand(const SlotFields& fields, const PaletteChoice& choice,
-                 const LuCatalogue& luFunctions);
+void takeCommand(Step& fields, const PaletteChoice& choice, const LuCatalogue& luFunctions);
 
 /// Where the palettes hold the command of a slot: the palette of its kind, without a row for a key
 /// that the catalogue lacks and for a menu command that there is not. Nothing of the first palette
 /// for a slot without a command.
-[[nodiscard]] PaletteChoice choiceOf(const ConstSlotFields& fields, const LuCatalogue& luFunctions);
+[[nodiscard]] PaletteChoice choiceOf(const Step& fields, const LuCatalogue& luFunctions);
 
 }  // namespace quendra

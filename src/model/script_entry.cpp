@@ -34,11 +34,11 @@ ScriptEntry::~ScriptEntry() {
     wipeMemory(compareText.data(), compareText.size());
 }
 
-std::string_view textOf(const ConstSlotFields& fields) {
+std::string_view textOf(const Step& fields) {
     return {fields.text.data(), fields.textLength};
 }
 
-std::string_view promptOf(const ConstSlotFields& fields) {
+std::string_view promptOf(const Step& fields) {
     return {fields.prompt.data(), std::min<std::size_t>(fields.number, maxPromptLength)};
 }
 
@@ -46,14 +46,14 @@ std::string_view compareTextOf(const ScriptEntry& entry) {
     return {entry.compareText.data(), entry.compareTextLength};
 }
 
-void setText(const SlotFields& fields, std::string_view value) {
+void setText(Step& fields, std::string_view value) {
     const std::string_view stored = value.substr(0, maxTextLength);
     if (textOf(fields) == stored) return;
     fields.textLength = static_cast<std::uint8_t>(assign(fields.text, stored));
     fields.kept.reset();
 }
 
-void setPrompt(const SlotFields& fields, std::string_view value) {
+void setPrompt(Step& fields, std::string_view value) {
     fields.number = static_cast<std::uint32_t>(assign(fields.prompt, value));
 }
 
@@ -61,13 +61,13 @@ void setCompareText(ScriptEntry& entry, std::string_view value) {
     entry.compareTextLength = static_cast<std::uint8_t>(assign(entry.compareText, value));
 }
 
-void setCode(const SlotFields& fields, CommandCode code) {
+void setCode(Step& fields, CommandCode code) {
     if (fields.code == code) return;
     fields.code = code;
     fields.kept.reset();
 }
 
-bool isHiddenText(const ConstSlotFields& fields) {
+bool isHiddenText(const Step& fields) {
     return fields.code == CommandCode::Type && fields.hidden == 1;
 }
 

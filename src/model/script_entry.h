@@ -48,7 +48,7 @@ using KeptBytes = std::optional<std::vector<std::uint8_t>>;
 
 /// The plain fields of a step, apart from it and without values of their own, so that a new step is
 /// zeroed as one block: field by field it takes four times as long.
-struct StepFields {
+struct StepFields {  // NOLINT(cppcoreguidelines-pro-type-member-init): Step zeroes them
     CommandCode code;
     std::uint8_t textLength;
     /// Set_Cursor, and the two bytes of a key.
@@ -80,7 +80,7 @@ struct Step : StepFields {
 
     Step() : StepFields() {}
     /// Explicit, for `auto step = slotFields(...)` would be a copy where a reference was meant.
-    explicit Step(const Step&) = default;
+    explicit Step(const Step&) = default;  // NOLINT(google-explicit-constructor)
     Step& operator=(const Step&) = default;
     ~Step();
 
@@ -127,12 +127,8 @@ struct ScriptEntry : Step, EntryOptions {
 /// Which part of an entry is meant: the entry itself, its then action or its else action.
 enum class Slot : std::uint8_t { Entry, Then, Else };
 
-/// The step in a slot, to write or to read, as slotFields() gives it.
-using SlotFields = Step&;
-using ConstSlotFields = const Step&;
-
 /// The fields of a slot, valid as long as the entry.
-[[nodiscard]] inline ConstSlotFields slotFields(const ScriptEntry& entry, Slot slot) {
+[[nodiscard]] inline const Step& slotFields(const ScriptEntry& entry, Slot slot) {
     switch (slot) {
         case Slot::Then: return entry.thenAction;
         case Slot::Else: return entry.elseAction;
@@ -140,8 +136,8 @@ using ConstSlotFields = const Step&;
     }
     return entry;
 }
-[[nodiscard]] inline SlotFields slotFields(ScriptEntry& entry, Slot slot) {
-    return const_cast<SlotFields>(slotFields(std::as_const(entry), slot));
+[[nodiscard]] inline Step& slotFields(ScriptEntry& entry, Slot slot) {
+    return const_cast<Step&>(slotFields(std::as_const(entry), slot));
 }
 
 /// True for an action slot that holds a command which no action should be. Its record is carried
@@ -151,23 +147,23 @@ using ConstSlotFields = const Step&;
 }
 
 /// The text of a field by its length; it may hold NUL bytes when it comes from a foreign file.
-[[nodiscard]] std::string_view textOf(const ConstSlotFields& fields);
-[[nodiscard]] std::string_view promptOf(const ConstSlotFields& fields);
+[[nodiscard]] std::string_view textOf(const Step& fields);
+[[nodiscard]] std::string_view promptOf(const Step& fields);
 [[nodiscard]] std::string_view compareTextOf(const ScriptEntry& entry);
 
 /// Stores the first 255 (prompt: 1023) bytes of `value` with the length and zeros behind. A new
 /// text drops what was kept of the old one; the same text again does not, so that a dialog left
 /// with OK and nothing changed gives back somebody else's hidden text as it was.
-void setText(const SlotFields& fields, std::string_view value);
-void setPrompt(const SlotFields& fields, std::string_view value);
+void setText(Step& fields, std::string_view value);
+void setPrompt(Step& fields, std::string_view value);
 void setCompareText(ScriptEntry& entry, std::string_view value);
 /// Sets the command of a slot; a changed code drops what was kept.
-void setCode(const SlotFields& fields, CommandCode code);
+void setCode(Step& fields, CommandCode code);
 
 /// True when the slot is a Type whose text is stored enciphered and shown as asterisks: its hidden
 /// byte is 1. Any other byte, which only foreign files hold, is kept, and the text is stored and
 /// shown in clear. Whatever treats hidden texts in a way of their own asks here.
-[[nodiscard]] bool isHiddenText(const ConstSlotFields& fields);
+[[nodiscard]] bool isHiddenText(const Step& fields);
 
 /// The four bytes of a packed screen area. Paste uses the first two.
 struct ScreenArea {

@@ -52,7 +52,7 @@ void RecordReader::prompt(std::uint32_t& length, PromptField& field) {
     std::ranges::copy(taken, field.begin());
 }
 
-void RecordReader::typeText(const SlotFields& f) {
+void RecordReader::typeText(Step& f) {
     const auto taken = takeText();
     f.hidden = takeByte();
     if (fault_ != RecordFault::None) return;
@@ -80,7 +80,7 @@ void RecordReader::noTimeout() {
     droppedWatchedActions_ = true;
 }
 
-void RecordReader::foreignAction(const SlotFields& f) {
+void RecordReader::foreignAction(Step& f) {
     if (++nesting_ > maxNesting) fail(RecordFault::NestedTooDeep, position_ - 1);
     if (fault_ == RecordFault::None) {
         const auto* cipher = std::exchange(cipher_, nullptr);
@@ -139,7 +139,7 @@ void RecordScanner::noTimeout() {
     isMemoryForm_ = false;
 }
 
-void RecordScanner::foreignAction(const SlotFields& f) {
+void RecordScanner::foreignAction(Step& f) {
     if (++nesting_ > maxNesting) fail(RecordFault::NestedTooDeep, position_ - 1);
     if (fault_ == RecordFault::None) {
         ScriptEntry whole;

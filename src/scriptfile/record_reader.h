@@ -102,10 +102,10 @@ class RecordReader : public RecordCursor {
 
     void text(std::uint8_t& length, TextField& field);
     void prompt(std::uint32_t& length, PromptField& field);
-    void typeText(const SlotFields& f);
+    void typeText(Step& f);
     void transferBlock(std::uint8_t& host, FileTransferSettings& settings);
     void noTimeout();
-    void foreignAction(const SlotFields& f);
+    void foreignAction(Step& f);
 
   private:
     const HiddenTextCipher* cipher_;
@@ -138,13 +138,13 @@ class RecordScanner : public RecordCursor {
     void menuCommand(std::uint32_t& commandId);
     void text(std::uint8_t&, TextField&) { static_cast<void>(takeText()); }
     void prompt(std::uint32_t&, PromptField&) { static_cast<void>(takePrompt()); }
-    void typeText(const SlotFields&) {
+    void typeText(Step&) {
         static_cast<void>(takeText());
         static_cast<void>(takeByte());
     }
     void transferBlock(std::uint8_t&, FileTransferSettings&);
     void noTimeout();
-    void foreignAction(const SlotFields& f);
+    void foreignAction(Step& f);
 
   private:
     bool isMemoryForm_ = true;

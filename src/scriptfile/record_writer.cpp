@@ -41,7 +41,7 @@ void RecordWriter::prompt(const std::uint32_t& length, const PromptField& field)
     append(std::string_view(field.data(), written));
 }
 
-void RecordWriter::typeText(const ConstSlotFields& f) {
+void RecordWriter::typeText(const Step& f) {
     if (isHiddenText(f)) {
         hiddenText(f);
     } else {
@@ -50,7 +50,7 @@ void RecordWriter::typeText(const ConstSlotFields& f) {
     byte(f.hidden);
 }
 
-void RecordWriter::hiddenText(const ConstSlotFields& f) {
+void RecordWriter::hiddenText(const Step& f) {
     auto enciphered = f.kept;
     if (!enciphered) {
         if (f.textLength > maxHiddenTextLength) return fail(WriteFault::HiddenTextTooLong);
@@ -67,7 +67,7 @@ void RecordWriter::transferBlock(const std::uint8_t& host, const FileTransferSet
     append(settings.bytes);
 }
 
-void RecordWriter::foreignAction(const ConstSlotFields& f) {
+void RecordWriter::foreignAction(const Step& f) {
     if (!f.kept) {
         // Only a record read from a file has bytes to carry; anything else would be a mistake of
         // ours: no action.

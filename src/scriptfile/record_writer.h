@@ -47,16 +47,16 @@ class RecordWriter {
     void dateTime(const DateTime& value);
     void text(const std::uint8_t& length, const TextField& field);
     void prompt(const std::uint32_t& length, const PromptField& field);
-    void typeText(const ConstSlotFields& f);
+    void typeText(const Step& f);
     void transferBlock(const std::uint8_t& host, const FileTransferSettings& settings);
     void noTimeout() { byte(0); }
-    void foreignAction(const ConstSlotFields& f);
+    void foreignAction(const Step& f);
 
   private:
     void fail(WriteFault fault) {
         if (fault_ == WriteFault::None) fault_ = fault;
     }
-    void hiddenText(const ConstSlotFields& f);
+    void hiddenText(const Step& f);
     template <class Bytes>
     void append(const Bytes& added) {
         bytes_.insert(bytes_.end(), added.begin(), added.end());

@@ -113,7 +113,7 @@ TransferDirection transferDirection(std::uint32_t commandId) {
                                                                  : TransferDirection::Receive;
 }
 
-TransferInputs transferInputs(const ConstSlotFields& fields) {
+TransferInputs transferInputs(const Step& fields) {
     return {fields.transferSettings, fields.transferHost, transferDirection(fields.commandId)};
 }
 

@@ -21,7 +21,7 @@ struct TransferInputs {
 [[nodiscard]] TransferDirection transferDirection(std::uint32_t commandId);
 
 /// The transfer of a slot that holds one.
-[[nodiscard]] TransferInputs transferInputs(const ConstSlotFields& fields);
+[[nodiscard]] TransferInputs transferInputs(const Step& fields);
 
 inline constexpr std::size_t maxTransferCommandLength = 255;
 

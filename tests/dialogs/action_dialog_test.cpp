@@ -241,7 +241,7 @@ TEST_F(ActionDialogTest, ATransferStartsFromItsOwnSettingsOrElseFromTheWorkingOn
             state.editing = row.editing;
             state.workingTransfer = {settingsWith("WORKING"), transferHostVmCms, {}};
             startWith(CommandCode::MenuCommand, row.slot, row.commandId);
-            const SlotFields fields = slotFields(entry, row.slot);
+            Step& fields = slotFields(entry, row.slot);
             if (row.hasOwn) fields.transferSettings = settingsWith("OWN");
             fields.transferHost = transferHostCics;
             const ScriptEntry before = entry;

@@ -108,7 +108,7 @@ TEST_F(DialogTest, InputStoresCharacterOrStringAtOnceAndNothingElse) {
     constexpr const char* length = "maximumLength maximumLengthLabel";
     for (const Slot slot : allSlots) {
         startWith(Code::Input, slot);
-        const SlotFields fields = slotFields(entry, slot);
+        Step& fields = slotFields(entry, slot);
         fields.maxLength = 40;
         ScriptEntry expected = entry;
         open(slot);

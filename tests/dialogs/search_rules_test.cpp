@@ -39,7 +39,7 @@ TEST(ActionRules, OneFieldDecidesWhetherAnActionLacksItsParameters) {
         for (const char* filled : {"text", "number", "day", "area", ""}) {
             ScriptEntry entry;
             entry.elseAction.code = info.code;
-            const SlotFields action = slotFields(entry, Slot::Else);
+            Step& action = slotFields(entry, Slot::Else);
             if (*filled == 't') setText(action, "x");
             action.number = *filled == 'n' ? 1 : 0;
             action.waitUntil.day = *filled == 'd' ? 1 : 0;
@@ -57,7 +57,7 @@ TEST(ActionRules, MenuCommandsLackFileNamesAndTransferFiles) {
         const bool takesFile = id == 202 || id == 204 || id == 219 || id == 254 || id == 257;
         const bool transfers = id == 236 || id == 237;
         ScriptEntry entry;
-        const SlotFields action = slotFields(entry, Slot::Else);
+        Step& action = slotFields(entry, Slot::Else);
         action.code = Code::MenuCommand;
         action.commandId = id;
         EXPECT_EQ(lacksParameters(action), takesFile || transfers);
@@ -80,7 +80,7 @@ TEST(ActionRules, AHiddenTextIsNotHandedOnToACommandThatShowsIt) {
              {choiceOfCode(Code::Message), PaletteChoice{Palette::LuFunctions, 0},
               choiceOfCode(Code::MenuCommand, 202)}) {
             ScriptEntry entry;
-            const SlotFields action = slotFields(entry, Slot::Else);
+            Step& action = slotFields(entry, Slot::Else);
             action.code = Code::Type;
             action.hidden = hidden ? 1 : 0;
             setText(action, "secret");

@@ -78,7 +78,7 @@ class Sequence {
         static constexpr CommandCode actions[] = {Type, Goto, MenuCommand, Input};
         if (below(5) == 0) return false;
         for (const Slot slot : {Slot::Entry, Slot::Then, Slot::Else}) {
-            const SlotFields fields = slotFields(entry, slot);
+            Step& fields = slotFields(entry, slot);
             if (slot != Slot::Entry) setCode(fields, actions[below(std::size(actions))]);
             setText(fields, std::string(below(20), static_cast<char>('a' + below(26))));
             setPrompt(fields, std::string(below(300), 'p'));

@@ -23,9 +23,9 @@ class DialogContextTest : public ::testing::Test {
 
     /// Exactly one box was shown since the last call, with this text and caption.
     void expectTold(const std::string& text, const std::string& caption);
-    [[nodiscard]] SlotFields own() { return slotFields(entry, Slot::Entry); }
-    [[nodiscard]] SlotFields then() { return slotFields(entry, Slot::Then); }
-    [[nodiscard]] SlotFields otherwise() { return slotFields(entry, Slot::Else); }
+    [[nodiscard]] Step& own() { return slotFields(entry, Slot::Entry); }
+    [[nodiscard]] Step& then() { return slotFields(entry, Slot::Then); }
+    [[nodiscard]] Step& otherwise() { return slotFields(entry, Slot::Else); }
     /// A Wait_For with this command as an action; or the command itself for Slot::Entry.
     void startWith(CommandCode code, Slot slot, std::uint32_t commandId = 0);
 

@@ -224,7 +224,8 @@ bool memoryHoldsTheSecret() {
         if (std::sscanf(line.c_str(), "%zx-%zx %4s", &start, &end, mode) != 3) continue;
         if (mode[0] != 'r' || mode[1] != 'w' || end - start > largest) continue;
         std::string region(end - start, '\0');
-        ::pread(memory, region.data(), region.size(), static_cast<off_t>(start));
+        // A region that is gone by now holds nothing.
+        if (::pread(memory, region.data(), region.size(), static_cast<off_t>(start)) < 0) continue;
         for (const std::string& turned : {turnedSecret, wide})
             found = found || !std::ranges::search(region, turned, isTurned).empty();
         wipeMemory(region.data(), region.size());

@@ -30,6 +30,11 @@
 // Where the debugger has to find the faults, by these names.
 extern "C" {
 
+int faultByReading(const volatile int* place);
+void faultByWriting(volatile int* place);
+void faultByInstruction();
+int faultByRecursion(int depth);
+
 // The sanitizers would report the fault in place of the signal.
 __attribute__((noinline, no_sanitize("undefined"))) int faultByReading(const volatile int* place) {
     return *place;
