@@ -18,7 +18,6 @@ if(QUENDRA_SANITIZE)
 elseif(QUENDRA_HARDENING)
     set(optimised $<NOT:$<CONFIG:Debug>>)
     set(program $<STREQUAL:$<TARGET_PROPERTY:TYPE>,EXECUTABLE>)
-    set(plugin $<IN_LIST:$<TARGET_PROPERTY:TYPE>,MODULE_LIBRARY$<SEMICOLON>SHARED_LIBRARY>)
     foreach(flag -fstack-protector-strong -fstack-clash-protection -fcf-protection)
         string(MAKE_C_IDENTIFIER "has${flag}" has)
         check_cxx_compiler_flag(${flag} ${has}) # the last one is for x86 only
@@ -26,10 +25,10 @@ elseif(QUENDRA_HARDENING)
             target_compile_options(quendra_options INTERFACE $<${optimised}:${flag}>)
         endif()
     endforeach()
-    # A distribution's flags may have defined it already.
+    # A distribution's flags may have defined it already. Code of a position-independent program, but never -fPIE: Qt's
+    # libraries find their own objects by one address only when nobody copies them.
     target_compile_options(quendra_options INTERFACE
-        "$<${optimised}:-U_FORTIFY_SOURCE;-D_FORTIFY_SOURCE=3>"
-        "$<$<AND:${optimised},$<NOT:${plugin}>>:-fPIE>")
+        "$<${optimised}:-U_FORTIFY_SOURCE;-D_FORTIFY_SOURCE=3;-fPIC>")
     target_link_options(quendra_options INTERFACE
         "$<${optimised}:LINKER:-z,relro,-z,now,-z,noexecstack>"
         "$<$<AND:${optimised},${program}>:-pie>")
