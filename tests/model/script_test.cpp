@@ -53,20 +53,20 @@ TEST(Script, removesAndMovesEntriesAsOneByOne) {
     }
 }
 
-// Of memory that was given back, too, of which a read in the usual way would be a fault itself.
-// Takes nothing from the heap, which would hand out that very memory.
-std::ptrdiff_t lettersAt(const std::uint8_t* start, std::size_t size) {
-    std::array<char, 2048> bytes = {};
-    const int memory = open("/proc/self/mem", O_RDONLY | O_CLOEXEC);
-    const auto offset = static_cast<off_t>(reinterpret_cast<std::uintptr_t>(start));
-    const ssize_t got = pread(memory, bytes.data(), std::min(size, bytes.size()), offset);
-    close(memory);
-    return got == static_cast<ssize_t>(size) ? std::ranges::count(bytes, 'c') : -1;
-}
-
-// So large that the heap writes its own notes at the record's start only.
 Bytes largeRecord() {
     return joined({{8}, counted(std::string(255, 'c')), word(1000), Bytes(1000, 'c'), {0, 0, 0}});
+}
+
+// How much of a large record there is, also in memory that was given back, of which a read in the
+// usual way would be a fault itself. Neither looks at its ends, where the heap makes its notes, nor
+// takes anything from the heap, which would hand out that very memory.
+std::ptrdiff_t leftOfLargeRecord(const std::uint8_t* record) {
+    std::array<char, 1000> bytes = {};
+    const int memory = open("/proc/self/mem", O_RDONLY | O_CLOEXEC);
+    const auto offset = static_cast<off_t>(reinterpret_cast<std::uintptr_t>(record + 100));
+    const ssize_t got = pread(memory, bytes.data(), bytes.size(), offset);
+    close(memory);
+    return got == ssize_t{bytes.size()} ? std::ranges::count(bytes, 'c') : -1;
 }
 
 TEST(EntryHandle, wipesASingleRecordWithItsLastHandleOnly) {
@@ -77,9 +77,9 @@ TEST(EntryHandle, wipesASingleRecordWithItsLastHandleOnly) {
     first = numbered(1);
     EXPECT_EQ(second.record().data(), memory);
     EXPECT_EQ(second, storeRecord(record));
-    EXPECT_EQ(lettersAt(memory, record.size()), 1255) << "it can be seen";
+    EXPECT_GT(leftOfLargeRecord(memory), 900);
     second = EntryHandle();
-    EXPECT_EQ(lettersAt(memory, record.size()), 0);
+    EXPECT_EQ(leftOfLargeRecord(memory), 0);
 }
 
 TEST(EntryHandle, ofASingleRecordHasItsBytesLeftOutOfDumps) {
