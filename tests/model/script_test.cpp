@@ -114,7 +114,7 @@ TEST(RecordStore, keepsRecordsApartWhereABlockIsFullOrTooSmall) {
     RecordStore store(20);
     std::vector<EntryHandle> entries;
     std::vector<Bytes> records;
-    for (const std::size_t length : {1, 17, 3, 200, 5, 5, 5}) {
+    for (const std::size_t length : {1UL, 17UL, 3UL, 200UL, 5UL, 5UL, 5UL}) {
         records.push_back(commentRecord(std::string(length, 'x')));
         entries.push_back(store.store(records.back()));
     }
