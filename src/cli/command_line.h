@@ -1,8 +1,11 @@
 // The arguments of qds, taken apart.
 #pragma once
 
+#include "analysis/check_rules.h"
 #include "hosts/host_type.h"
+#include "text/text_pattern.h"
 
+#include <memory>
 #include <optional>
 #include <string>
 #include <variant>
@@ -15,6 +18,10 @@ inline constexpr int statusWell = 0;
 /// A file was refused, was not whole, could not be written, or would lose something.
 inline constexpr int statusRefused = 1;
 inline constexpr int statusWrongUsage = 2;
+/// Of commands that look for something: check found it, grep did not; and something kept them from
+/// looking everywhere.
+inline constexpr int statusFound = 1;
+inline constexpr int statusTrouble = 2;
 
 /// The file name that means standard input, or standard output where a file is written.
 inline constexpr const char* standardStream = "-";
@@ -41,6 +48,41 @@ struct BuildRequest {
     std::string output;
 };
 
+struct CheckRequest {
+    bool json = false;
+    bool notes = false;
+    RuleSet disabled;
+    std::vector<std::string> files;
+};
+
+/// What is looked for, and where.
+struct SearchTerms {
+    std::shared_ptr<const TextPattern> pattern;
+    /// Names of fields as FieldFilter takes them; none means all.
+    std::vector<std::string> fields;
+};
+
+struct GrepRequest {
+    SearchTerms search;
+    /// Only the names of files with a match.
+    bool filesOnly = false;
+    std::vector<std::string> files;
+};
+
+struct ReplaceRequest {
+    SearchTerms search;
+    std::string replacement;
+    bool isDryRun = false;
+    std::vector<std::string> files;
+};
+
+struct RenameLabelRequest {
+    std::string before;
+    std::string after;
+    bool isDryRun = false;
+    std::vector<std::string> files;
+};
+
 struct TextsRequest {};
 
 /// Nothing to do but to print: help and version to standard output, with status 0; wrong usage to
@@ -50,7 +92,8 @@ struct Announcement {
     int status = statusWell;
 };
 
-using Request = std::variant<Announcement, ShowRequest, ConvertRequest, BuildRequest, TextsRequest>;
+using Request = std::variant<Announcement, ShowRequest, ConvertRequest, BuildRequest, CheckRequest,
+                             GrepRequest, ReplaceRequest, RenameLabelRequest, TextsRequest>;
 
 /// Takes apart the arguments without the program's name. Arguments that make no sense give an
 /// announcement that says so.

@@ -102,6 +102,15 @@ bool writeOutput(Environment& environment, const std::string& file,
     return !result.failure;
 }
 
+bool replaceSource(Environment& environment, const std::string& file,
+                   std::span<const std::uint8_t> bytes, const FileContent& source) {
+    if (fileStamp(file) != source.stamp) {
+        report(environment, file, "the file changed while it was converted");
+        return false;
+    }
+    return writeOutput(environment, file, bytes, source);
+}
+
 EntryNames::EntryNames(Environment& environment) {
     const fs::path& folder = environment.programFolder;
     const auto notice = library.load({folder, folder, folder});

@@ -25,6 +25,8 @@ struct Environment {
     std::ostream& err;
     /// The folder of the program file, where the language library is found.
     std::filesystem::path programFolder;
+    /// Somebody looks at standard error while the command runs.
+    bool errIsTerminal = false;
 };
 
 /// What messages and headings call a file: its name with control characters escaped, or "standard
@@ -61,6 +63,15 @@ bool reportReading(Environment& environment, const std::string& file, const Read
 /// when that has these bytes already nothing happens. Reports a failure; true when there was none.
 [[nodiscard]] bool writeOutput(Environment& environment, const std::string& file,
                                std::span<const std::uint8_t> bytes, const FileContent& source);
+
+/// Writes the file that a script was read from, as above, unless somebody else has changed it
+/// since.
+[[nodiscard]] bool replaceSource(Environment& environment, const std::string& file,
+                                 std::span<const std::uint8_t> bytes, const FileContent& source);
+
+/// For an expression whose search was given up in some text.
+inline constexpr const char* gaveUpMessage =
+    "qds: the expression tries too many ways; texts in which that was so are left out";
 
 /// The texts of the language library and the names that entries show. Without a library they are
 /// empty and `isLoaded` is false; that has been reported then.

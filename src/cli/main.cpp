@@ -13,7 +13,8 @@ namespace {
 using namespace quendra::cli;
 
 int run(const std::vector<std::string>& arguments, std::ostream& out, std::ostream& err) {
-    Environment environment = {0, out, err, quendra::programFile().parent_path()};
+    Environment environment = {0, out, err, quendra::programFile().parent_path(),
+                               quendra::isTerminal(2)};
     try {
         return runQds(arguments, environment);
     } catch (const std::exception& exception) {

@@ -16,6 +16,10 @@ void prepareStandardStreams() {
     std::signal(SIGPIPE, SIG_IGN);
 }
 
+bool isTerminal(int descriptor) {
+    return isatty(descriptor) != 0;
+}
+
 DescriptorBuffer::DescriptorBuffer(int descriptor) : descriptor_(descriptor) {
     setp(buffer_.data(), buffer_.data() + buffer_.size());
 }

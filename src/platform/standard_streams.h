@@ -15,6 +15,9 @@ namespace quendra {
 /// refuses to be written. A reader that goes away is a failed write from now on, no signal.
 void prepareStandardStreams();
 
+/// True when somebody reads what is written to the descriptor from a screen.
+[[nodiscard]] bool isTerminal(int descriptor);
+
 /// Buffers what a stream writes to a descriptor, which stays open. After a failure (a full disk, a
 /// pipe without a reader) everything further is refused, so the stream turns bad.
 class DescriptorBuffer : public std::streambuf {

@@ -10,14 +10,26 @@ namespace {
 // So that most records are written without moving: no copies left behind, and no time lost.
 constexpr std::size_t usualRecordSize = 512;
 
-}  // namespace
-
-PackResult packEntry(const ScriptEntry& entry, const HiddenTextCipher& cipher) {
-    RecordWriter writer(memoryForm, &cipher);
+PackResult pack(const ScriptEntry& entry, const HiddenTextCipher* cipher) {
+    RecordWriter writer(memoryForm, cipher);
     writer.reserve(usualRecordSize);
     layout::record(writer, entry, Slot::Entry);
     if (writer.fault() != WriteFault::None) return {{}, writer.fault()};
     return {storeRecord(writer.bytes()), WriteFault::None};
+}
+
+}  // namespace
+
+PackResult packEntry(const ScriptEntry& entry, const HiddenTextCipher& cipher) {
+    return pack(entry, &cipher);
+}
+
+PackResult packSealedEntry(const ScriptEntry& entry) {
+    return pack(entry, nullptr);
+}
+
+void unpackSealedEntry(const EntryHandle& entry, ScriptEntry& unpacked) {
+    readWholeRecord(entry.record(), memoryForm, nullptr, unpacked);
 }
 
 ScriptEntry unpackEntry(const EntryHandle& entry, const HiddenTextCipher& cipher) {

@@ -44,6 +44,23 @@ void forEachEntry(const Script& script, const HiddenTextCipher& cipher, const Fu
     }
 }
 
+/// The working form without any key: each hidden text stays enciphered in its slot's `kept`, so
+/// that who searches or changes something else never has it in clear. `unpacked` as above.
+void unpackSealedEntry(const EntryHandle& entry, ScriptEntry& unpacked);
+
+/// Stores an entry that was unpacked in that way. Fails only where a new hidden text came in.
+[[nodiscard]] PackResult packSealedEntry(const ScriptEntry& entry);
+
+/// As forEachEntry, without any key.
+template <class Function>
+void forEachSealedEntry(const Script& script, const Function& function) {
+    ScriptEntry unpacked;
+    for (const EntryHandle& entry : script.entries) {
+        unpackSealedEntry(entry, unpacked);
+        function(std::as_const(unpacked));
+    }
+}
+
 /// Looks for file transfers in many entries, without unpacking them.
 class TransferSearch {
   public:
