@@ -1,6 +1,7 @@
 #include "analysis/step_rules.h"
 
 #include "analysis/entry_display.h"
+#include "model/command_names.h"
 #include "text/text_encoding.h"
 #include "text/text_ids.h"
 #include "transfer/command_builder.h"
@@ -27,13 +28,6 @@ bool asksForPassword(std::string_view text) {
     constexpr std::array<std::string_view, 4> words = {"assword", "passwd", "passwort", "kennwort"};
     return std::ranges::any_of(words,
                                [&](std::string_view word) { return holdsInAnyCase(text, word); });
-}
-
-// What a step is called in a message: its keyword, or of the two kinds without one what they are.
-std::string commandName(const Step& step) {
-    if (step.code == CommandCode::LuFunction) return "LU_Function";
-    if (step.code == CommandCode::MenuCommand) return "Menu_Command";
-    return std::string(commandKeyword(step.code));
 }
 
 std::string fieldName(const EntryField& field) {
@@ -128,7 +122,7 @@ void StepRules::checkText(const ScriptEntry& entry, Slot slot, const EntryField&
     const bool isSealed = field.kind == FieldKind::TypedText && step.kept.has_value();
     if (isSealed || isInRange(field, fieldValue(entry, slot, field))) return;
     report(Rule::ParameterMissing, slot, textid::checkParameterMissing,
-           {commandName(step), fieldName(field)});
+           {std::string(commandName(step.code)), fieldName(field)});
 }
 
 void StepRules::checkNumber(const ScriptEntry& entry, Slot slot, const EntryField& field) {
@@ -137,7 +131,7 @@ void StepRules::checkNumber(const ScriptEntry& entry, Slot slot, const EntryFiel
     const FieldValue value = fieldValue(entry, slot, field);
     if (isInRange(field, value) || isWholeScreen(entry, field)) return;
     report(Rule::ValueRange, slot, textid::checkValueRange,
-           {commandName(slotFields(entry, slot)), fieldName(field),
+           {std::string(commandName(slotFields(entry, slot).code)), fieldName(field),
             std::to_string(std::get<std::uint32_t>(value)), rangeText(field)});
 }
 

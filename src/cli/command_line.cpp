@@ -36,6 +36,8 @@ struct Parser {
     CLI::App* grep = nullptr;
     CLI::App* replace = nullptr;
     CLI::App* renameLabel = nullptr;
+    CLI::App* diff = nullptr;
+    CLI::App* merge = nullptr;
     CLI::App* texts = nullptr;
     ShowRequest showRequest;
     ConvertRequest convertRequest;
@@ -44,6 +46,8 @@ struct Parser {
     GrepRequest grepRequest;
     ReplaceRequest replaceRequest;
     RenameLabelRequest renameRequest;
+    DiffRequest diffRequest;
+    MergeRequest mergeRequest;
     std::string hostName;
     std::string pattern;
     PatternOptions patternOptions;
@@ -59,6 +63,8 @@ struct Parser {
     void addGrep();
     void addReplace();
     void addRenameLabel();
+    void addDiff();
+    void addMerge();
     void addSearchOptions(CLI::App& command);
     CLI::Option* addFiles(CLI::App& command, const std::string& help);
 };
@@ -73,7 +79,8 @@ Parser::Parser() {
         "FILE - is standard input, and standard output where a file is written.\n"
         "Exit status: 0 all well; 1 a file was refused, was not whole or would lose something;\n"
         "2 wrong usage. check: 0 nothing found, 1 errors or warnings, 2 trouble. grep: 0 found,\n"
-        "1 not found, 2 trouble.");
+        "1 not found, 2 trouble. diff: 0 the same, 1 different, 2 trouble. merge: 0 merged,\n"
+        "1 conflicts, 2 trouble, and nothing was written.");
     addShow();
     addConvert();
     addBuild();
@@ -81,6 +88,8 @@ Parser::Parser() {
     addGrep();
     addReplace();
     addRenameLabel();
+    addDiff();
+    addMerge();
     texts = app.add_subcommand("texts", "Print every text of the user interface by its number")
                 ->group("Commands");
 }
@@ -93,9 +102,13 @@ void Parser::addShow() {
     show = app.add_subcommand("show", "Print the entries of scripts, one line for each")
                ->group("Commands");
     auto* numbers = show->add_flag("--numbers", showRequest.numbers, "Number the lines");
+    auto* full = show->add_flag("--full", showRequest.full,
+                                "Print every field that the line does not tell, for review")
+                     ->excludes(numbers);
     show->add_flag("--json", showRequest.json, "Print the JSON form that build reads")
-        ->excludes(numbers);
-    show->add_flag("--reveal", showRequest.reveal, "Print hidden texts too");
+        ->excludes(numbers)
+        ->excludes(full);
+    show->add_flag("--reveal", showRequest.reveal, "Print hidden texts too")->excludes(full);
     addFiles(*show, "Script files");
 }
 
@@ -173,6 +186,29 @@ void Parser::addRenameLabel() {
     renameLabel->add_option("OLD", renameRequest.before, "The label")->required()->type_name("");
     renameLabel->add_option("NEW", renameRequest.after, "Its new name")->required()->type_name("");
     addFiles(*renameLabel, "Script files, or folders; each old file is kept as FILE.bak");
+}
+
+void Parser::addDiff() {
+    diff = app.add_subcommand("diff", "Tell the difference of two scripts")->group("Commands");
+    diff->add_flag("--json", diffRequest.json, "Print it as JSON");
+    diff->add_option("A", diffRequest.left, "A script file")->required()->type_name("");
+    diff->add_option("B", diffRequest.right, "Another one")->required()->type_name("");
+}
+
+void Parser::addMerge() {
+    merge =
+        app.add_subcommand("merge", "Merge the changes of two sides into OURS")->group("Commands");
+    merge->add_option("--name-ours", mergeRequest.oursName, "What conflicts call our side")
+        ->type_name("NAME");
+    merge->add_option("--name-theirs", mergeRequest.theirsName, "What conflicts call their side")
+        ->type_name("NAME");
+    merge->add_option("BASE", mergeRequest.base, "What both sides changed")
+        ->required()
+        ->type_name("");
+    merge->add_option("OURS", mergeRequest.ours, "Our state of it")->required()->type_name("");
+    merge->add_option("THEIRS", mergeRequest.theirs, "Theirs")->required()->type_name("");
+    merge->add_option("--output", mergeRequest.output, "Write to this file and leave OURS")
+        ->type_name("OUT");
 }
 
 Request convertRequestOf(const Parser& parser) {
@@ -269,6 +305,15 @@ Request renameRequestOf(const Parser& parser) {
     return request;
 }
 
+Request mergeRequestOf(const Parser& parser) {
+    const MergeRequest& request = parser.mergeRequest;
+    const std::string& target = request.output.empty() ? request.ours : request.output;
+    if (target == standardStream && request.output.empty()) {
+        return wrongUsage("standard input cannot be replaced; use --output");
+    }
+    return request;
+}
+
 // The parser would take a file called "[a,b]" for a list of two.
 std::string asFileName(const std::string& argument) {
     const bool looksLikeList = argument.starts_with('[') && argument.ends_with(']');
@@ -292,6 +337,8 @@ Request requestOf(const Parser& parser) {
     if (parser.renameLabel->parsed()) {
         return unlessStandardInput(renameRequestOf(parser), filesOf(*parser.renameLabel));
     }
+    if (parser.diff->parsed()) return parser.diffRequest;
+    if (parser.merge->parsed()) return mergeRequestOf(parser);
     return TextsRequest{};
 }
 

@@ -18,8 +18,8 @@ inline constexpr int statusWell = 0;
 /// A file was refused, was not whole, could not be written, or would lose something.
 inline constexpr int statusRefused = 1;
 inline constexpr int statusWrongUsage = 2;
-/// Of commands that look for something: check found it, grep did not; and something kept them from
-/// looking everywhere.
+/// Of commands that look for something: check and diff found it, grep did not, merge met a
+/// conflict; and something kept them from looking everywhere.
 inline constexpr int statusFound = 1;
 inline constexpr int statusTrouble = 2;
 
@@ -28,6 +28,7 @@ inline constexpr const char* standardStream = "-";
 
 struct ShowRequest {
     bool numbers = false;
+    bool full = false;
     bool json = false;
     bool reveal = false;
     std::vector<std::string> files;
@@ -83,6 +84,22 @@ struct RenameLabelRequest {
     std::vector<std::string> files;
 };
 
+struct DiffRequest {
+    bool json = false;
+    std::string left;
+    std::string right;
+};
+
+struct MergeRequest {
+    std::string oursName = "ours";
+    std::string theirsName = "theirs";
+    std::string base;
+    std::string ours;
+    std::string theirs;
+    /// Empty: `ours` is replaced.
+    std::string output;
+};
+
 struct TextsRequest {};
 
 /// Nothing to do but to print: help and version to standard output, with status 0; wrong usage to
@@ -92,8 +109,9 @@ struct Announcement {
     int status = statusWell;
 };
 
-using Request = std::variant<Announcement, ShowRequest, ConvertRequest, BuildRequest, CheckRequest,
-                             GrepRequest, ReplaceRequest, RenameLabelRequest, TextsRequest>;
+using Request =
+    std::variant<Announcement, ShowRequest, ConvertRequest, BuildRequest, CheckRequest, GrepRequest,
+                 ReplaceRequest, RenameLabelRequest, DiffRequest, MergeRequest, TextsRequest>;
 
 /// Takes apart the arguments without the program's name. Arguments that make no sense give an
 /// announcement that says so.

@@ -66,6 +66,25 @@ std::optional<SourceScript> readScriptInput(Environment& environment, const std:
     return SourceScript{std::move(*content), std::move(read)};
 }
 
+std::optional<SourceScript> readWholeScript(Environment& environment, const std::string& file) {
+    auto content = readInput(environment, file, maxScriptFileSize + 1);
+    if (!content) return std::nullopt;
+    auto read = wholeScriptOf(environment, file, *content);
+    if (!read) return std::nullopt;
+    return SourceScript{std::move(*content), std::move(*read)};
+}
+
+std::optional<ReadResult> wholeScriptOf(Environment& environment, const std::string& file,
+                                        const FileContent& content) {
+    ReadResult read = readScript(content.storage, content.size);
+    if (read.refusal) {
+        report(environment, file, withOffset(describe(*read.refusal), 0));
+        return std::nullopt;
+    }
+    if (!reportReading(environment, file, read)) return std::nullopt;
+    return read;
+}
+
 bool reportReading(Environment& environment, const std::string& file, const ReadResult& read) {
     for (const std::size_t index : read.droppedActions) {
         report(environment, file,
@@ -109,6 +128,18 @@ bool replaceSource(Environment& environment, const std::string& file,
         return false;
     }
     return writeOutput(environment, file, bytes, source);
+}
+
+bool writeMerged(Environment& environment, const std::string& file,
+                 std::span<const std::uint8_t> bytes, const FileContent& ours) {
+    if (file == standardStream || isStreamFile(file)) {
+        return writeOutput(environment, file, bytes, ours);
+    }
+    const bool isOurs = isSameFile(ours.stamp, fileStamp(file));
+    if (isOurs && std::ranges::equal(bytes, ours.bytes())) return true;
+    const auto result = replaceFile(file, bytes, OldFile::Drop);
+    if (result.failure) report(environment, file, result.failure->message);
+    return !result.failure;
 }
 
 EntryNames::EntryNames(Environment& environment) {

@@ -27,6 +27,8 @@ struct Environment {
     std::filesystem::path programFolder;
     /// Somebody looks at standard error while the command runs.
     bool errIsTerminal = false;
+    /// And at standard output.
+    bool outIsTerminal = false;
 };
 
 /// What messages and headings call a file: its name with control characters escaped, or "standard
@@ -58,6 +60,14 @@ struct SourceScript {
 /// Reports that a file was not read whole, and what a watched Wait_For lost. True when it is whole.
 bool reportReading(Environment& environment, const std::string& file, const ReadResult& read);
 
+/// Reads a script that has to be whole; none otherwise, which was reported.
+[[nodiscard]] std::optional<SourceScript> readWholeScript(Environment& environment,
+                                                          const std::string& file);
+/// The same of bytes that were read already.
+[[nodiscard]] std::optional<ReadResult> wholeScriptOf(Environment& environment,
+                                                      const std::string& file,
+                                                      const FileContent& content);
+
 /// Writes a file, or standard output for "-". A regular file is replaced whole or not at all; where
 /// it is the very file that the bytes came from (`source`), the old one is kept as a backup, and
 /// when that has these bytes already nothing happens. Reports a failure; true when there was none.
@@ -68,6 +78,11 @@ bool reportReading(Environment& environment, const std::string& file, const Read
 /// since.
 [[nodiscard]] bool replaceSource(Environment& environment, const std::string& file,
                                  std::span<const std::uint8_t> bytes, const FileContent& source);
+
+/// Writes what a merge gave, over `file` or a new one, without a backup: version control keeps all
+/// sides. Nothing happens where these are its bytes already.
+[[nodiscard]] bool writeMerged(Environment& environment, const std::string& file,
+                               std::span<const std::uint8_t> bytes, const FileContent& ours);
 
 /// For an expression whose search was given up in some text.
 inline constexpr const char* gaveUpMessage =

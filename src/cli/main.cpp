@@ -13,8 +13,12 @@ namespace {
 using namespace quendra::cli;
 
 int run(const std::vector<std::string>& arguments, std::ostream& out, std::ostream& err) {
-    Environment environment = {0, out, err, quendra::programFile().parent_path(),
-                               quendra::isTerminal(2)};
+    Environment environment = {0,
+                               out,
+                               err,
+                               quendra::programFile().parent_path(),
+                               quendra::isTerminal(2),
+                               quendra::isTerminal(1)};
     try {
         return runQds(arguments, environment);
     } catch (const std::exception& exception) {

@@ -25,6 +25,10 @@ struct RequestRunner {
     int operator()(const RenameLabelRequest& request) const {
         return renameLabelInScripts(request, environment);
     }
+    int operator()(const DiffRequest& request) const { return diffOfScripts(request, environment); }
+    int operator()(const MergeRequest& request) const {
+        return mergeOfScripts(request, environment);
+    }
     int operator()(const TextsRequest&) const { return printTexts(environment); }
 };
 

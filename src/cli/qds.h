@@ -20,6 +20,8 @@ namespace quendra::cli {
 [[nodiscard]] int searchScripts(const GrepRequest& request, Environment& environment);
 [[nodiscard]] int replaceInScripts(const ReplaceRequest& request, Environment& environment);
 [[nodiscard]] int renameLabelInScripts(const RenameLabelRequest& request, Environment& environment);
+[[nodiscard]] int diffOfScripts(const DiffRequest& request, Environment& environment);
+[[nodiscard]] int mergeOfScripts(const MergeRequest& request, Environment& environment);
 [[nodiscard]] int printTexts(Environment& environment);
 
 }  // namespace quendra::cli

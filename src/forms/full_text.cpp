@@ -1,0 +1,334 @@
+#include "forms/full_text.h"
+
+#include "model/command_names.h"
+#include "model/entry_fields.h"
+#include "scriptfile/entry_codec.h"
+#include "text/base64.h"
+#include "text/digest.h"
+#include "text/text_encoding.h"
+
+#include <algorithm>
+#include <map>
+#include <ostream>
+#include <string>
+
+namespace quendra {
+
+namespace {
+
+constexpr std::string_view indent = "    ";
+constexpr std::size_t fingerprintDigits = 6;
+
+std::span<const std::uint8_t> bytesOf(std::string_view text) {
+    return {reinterpret_cast<const std::uint8_t*>(text.data()), text.size()};
+}
+
+std::string sealed(std::span<const std::uint8_t> bytes) {
+    return "sealed #" + sha256Digits(bytes, fingerprintDigits);
+}
+
+bool isControl(char byte) {
+    const auto value = static_cast<unsigned char>(byte);
+    constexpr std::string_view undefined = "\x81\x8D\x8F\x90\x9D";
+    return value < 0x20 || value == 0x7F || undefined.find(byte) != std::string_view::npos;
+}
+
+// A line shows a control character as \xNN, which may as well be a text of these characters.
+bool hasEscapes(std::string_view bytes) {
+    return bytes.find("\\x") != std::string_view::npos || std::ranges::any_of(bytes, isControl);
+}
+
+// A text between quotes ends where it seems to.
+bool isQuotable(std::string_view bytes) {
+    return bytes.find('"') == std::string_view::npos && !hasEscapes(bytes);
+}
+
+// One word, which no other word of a line can be taken into.
+bool isWord(std::string_view bytes) {
+    constexpr std::string_view others = "_-.$#@";
+    return !bytes.empty() && std::ranges::all_of(bytes, [&](char c) {
+        return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') ||
+               others.find(c) != std::string_view::npos;
+    });
+}
+
+std::string quotedValue(std::string_view bytes) {
+    std::string text;
+    for (const char byte : bytes) {
+        if (byte == '"' || byte == '\\') text += '\\';
+        text += byte;
+    }
+    return '"' + escapeControlCharacters(utf8FromWindows1252(text)) + '"';
+}
+
+// What lines can begin with that stand for something: a Comment or a Label that begins so is not
+// told from that by its line.
+class LineHeads {
+  public:
+    explicit LineHeads(const DisplayNames& names) : menuCommands_(names.menuCommands) {
+        for (const LuFunction& function : names.luFunctions.rows) {
+            keysByName_[function.name].push_back(function.key);
+        }
+    }
+
+    /// A line with this text (windows-1252) at its start could be that of another command.
+    [[nodiscard]] bool mayBeCommand(std::string_view bytes) const {
+        if (bytes.empty() || bytes.front() == ' ' || bytes.front() == '<' || bytes.front() == '(') {
+            return true;
+        }
+        const std::string text = utf8FromWindows1252(bytes);
+        const auto begins = [&](std::string_view head) {
+            return !head.empty() && std::string_view(text).starts_with(head) &&
+                   (text.size() == head.size() || text[head.size()] == ' ');
+        };
+        return keysByName_.contains(text) || std::ranges::any_of(menuCommands_.names, begins) ||
+               std::ranges::any_of(scriptEvents(), begins, &ScriptEventInfo::keyword);
+    }
+
+    /// The name on the line can be no other key's and no other command's.
+    [[nodiscard]] bool tellsKey(LuKey key, const LuCatalogue& catalogue) const {
+        const auto name = findLuFunction(catalogue, key);
+        if (!name) return true;
+        const auto& keys = keysByName_.at(std::string(*name));
+        const bool isOnly = std::ranges::all_of(keys, [&](LuKey other) { return other == key; });
+        return isOnly &&
+               std::ranges::find(menuCommands_.names, *name) == menuCommands_.names.end() &&
+               std::ranges::find(scriptEvents(), *name, &ScriptEventInfo::keyword) ==
+                   scriptEvents().end();
+    }
+
+    [[nodiscard]] bool tellsMenuCommand(std::uint32_t commandId) const {
+        if (!isMenuCommand(commandId)) return true;
+        const std::string& name = menuCommands_.names[commandId - firstMenuCommand];
+        return std::ranges::count(menuCommands_.names, name) == 1 && !keysByName_.contains(name) &&
+               std::ranges::find(scriptEvents(), name, &ScriptEventInfo::keyword) ==
+                   scriptEvents().end();
+    }
+
+  private:
+    const MenuCommandCatalogue& menuCommands_;
+    std::map<std::string, std::vector<LuKey>, std::less<>> keysByName_;
+};
+
+// What of a step its line tells beyond doubt.
+class LineKnowledge {
+  public:
+    LineKnowledge(const ScriptEntry& entry, const DisplayNames& names, const LineHeads& heads)
+        : entry_(entry), names_(names), heads_(heads) {
+        for (const Slot slot : slotsOf(entry)) {
+            if (!isClear(slot)) isDoubtful_ = true;
+        }
+    }
+
+    /// The command of an action.
+    [[nodiscard]] bool tellsCommand(Slot slot) const {
+        const CommandCode code = slotFields(entry_, slot).code;
+        return !isDoubtful_ && code != CommandCode::Comment && !isForeignAction(entry_, slot);
+    }
+
+    [[nodiscard]] bool tells(Slot slot, const EntryField& field) const {
+        if (isDoubtful_ || isSecret(entry_, slot, field)) return false;
+        return slot == Slot::Entry ? onLine(slot, field)
+                                   : tellsCommand(slot) && onLine(slot, field);
+    }
+
+  private:
+    // Its texts do not run into what is around them.
+    [[nodiscard]] bool isClear(Slot slot) const {
+        const Step& step = slotFields(entry_, slot);
+        const bool isAction = slot != Slot::Entry;
+        const std::string_view text = textOf(step);
+        switch (step.code) {
+            case CommandCode::Comment: return isAction || (!text.ends_with(':') && isPlain(text));
+            case CommandCode::Label: return isAction ? isActionWord(text) : isPlain(text);
+            case CommandCode::Goto: return isAction ? isActionWord(text) : !hasEscapes(text);
+            case CommandCode::Input:
+                return isAction ? isActionWord(text)
+                                : !hasEscapes(text) && text.find(" As ") == std::string_view::npos;
+            case CommandCode::IfInputIs:
+                return isQuotable(text) && isQuotable(compareTextOf(entry_));
+            case CommandCode::LuFunction:
+                return heads_.tellsKey({step.row, step.column}, names_.luFunctions);
+            case CommandCode::MenuCommand: return isClearMenuCommand(step, isAction);
+            case CommandCode::Type: return isHiddenText(step) || isQuotable(text);
+            case CommandCode::None:
+            case CommandCode::Beep:
+            case CommandCode::ClearWatch:
+            case CommandCode::Return:
+            case CommandCode::SetCursor:
+            case CommandCode::Wait:
+            case CommandCode::WaitReady:
+            case CommandCode::WaitUntil:
+            case CommandCode::Copy:
+            case CommandCode::Paste: return true;
+            case CommandCode::Message:
+            case CommandCode::Run:
+            case CommandCode::WaitFor:
+            case CommandCode::WatchFor:
+            case CommandCode::ExpressLogon: break;
+        }
+        return isQuotable(text);
+    }
+
+    // The line of a transfer, of which no field is told, may run into what follows an action.
+    [[nodiscard]] bool isClearMenuCommand(const Step& step, bool isAction) const {
+        if (!heads_.tellsMenuCommand(step.commandId)) return false;
+        if (isFileTransfer(step.commandId)) return !isAction;
+        return !takesFileName(step.commandId) || isQuotable(textOf(step));
+    }
+
+    [[nodiscard]] bool isPlain(std::string_view text) const {
+        return !hasEscapes(text) && !heads_.mayBeCommand(text);
+    }
+
+    [[nodiscard]] bool isActionWord(std::string_view text) const {
+        return isWord(text) && isPlain(text);
+    }
+
+    [[nodiscard]] bool onLine(Slot slot, const EntryField& field) const {
+        const Step& step = slotFields(entry_, slot);
+        switch (step.code) {
+            case CommandCode::Comment:
+            case CommandCode::Goto:
+            case CommandCode::Label:
+            case CommandCode::Message:
+            case CommandCode::Run:
+            case CommandCode::ExpressLogon:
+            case CommandCode::WaitFor:
+            case CommandCode::WatchFor: return field.name == "text";
+            case CommandCode::Type: return field.name == "text" || step.hidden <= 1;
+            case CommandCode::Input:
+                return field.name == "text" || (field.name == "inputVariable" &&
+                                                step.inputVariable < inputVariableNames.size());
+            case CommandCode::IfInputIs: return isOperandOnLine(field);
+            case CommandCode::LuFunction:
+            case CommandCode::SetCursor:
+            case CommandCode::Wait:
+            case CommandCode::WaitReady: return true;
+            case CommandCode::WaitUntil:
+                return field.name != "dayOfWeek" && field.name != "milliseconds";
+            case CommandCode::Copy:
+            case CommandCode::Paste: return isAreaOnLine(step, field);
+            case CommandCode::MenuCommand: return field.name == "commandId" || field.name == "text";
+            case CommandCode::None:
+            case CommandCode::Beep:
+            case CommandCode::ClearWatch:
+            case CommandCode::Return: break;
+        }
+        return false;
+    }
+
+    [[nodiscard]] bool isOperandOnLine(const EntryField& field) const {
+        const auto kindOnLine = [](std::string_view literal, std::uint8_t kind) {
+            return literal.empty() && kind < inputVariableNames.size();
+        };
+        if (field.name == "firstOperandKind") {
+            return kindOnLine(textOf(entry_), entry_.firstOperandKind);
+        }
+        if (field.name == "secondOperandKind") {
+            return kindOnLine(compareTextOf(entry_), entry_.secondOperandKind);
+        }
+        return true;
+    }
+
+    [[nodiscard]] static bool isAreaOnLine(const Step& step, const EntryField& field) {
+        if (field.kind != FieldKind::Area) return step.number <= 1;
+        if (step.number != 0) return false;
+        const ScreenArea area = unpackArea(step.area);
+        return step.code == CommandCode::Copy || (area.endRow == 0 && area.endColumn == 0);
+    }
+
+    const ScriptEntry& entry_;
+    const DisplayNames& names_;
+    const LineHeads& heads_;
+    bool isDoubtful_ = false;
+};
+
+class FullTextPrinter {
+  public:
+    FullTextPrinter(std::ostream& out, HostType hostType, const DisplayNames& names)
+        : out_(out), isVt_(hostType == HostType::VT), names_(names), heads_(names) {}
+
+    /// `entry` for its line, and as it is stored, with hidden texts enciphered.
+    void print(const ScriptEntry& entry, const ScriptEntry& stored) {
+        printLine(escapeControlCharacters(formatEntryLine(entry, names_)));
+        const LineKnowledge knowledge(stored, names_, heads_);
+        for (const Slot slot : slotsOf(stored)) {
+            printSlot(stored, slot, knowledge);
+        }
+    }
+
+  private:
+    // A line that begins with a blank would look like a field.
+    void printLine(const std::string& line) {
+        if (line.starts_with(' ')) {
+            out_ << "\\x20" << line.substr(1) << '\n';
+        } else {
+            out_ << line << '\n';
+        }
+    }
+
+    void printSlot(const ScriptEntry& entry, Slot slot, const LineKnowledge& knowledge) {
+        const Step& step = slotFields(entry, slot);
+        if (slot != Slot::Entry && step.code != CommandCode::None &&
+            !knowledge.tellsCommand(slot)) {
+            printField(std::string(slotName(slot)) + ".command",
+                       std::string(commandName(step.code)));
+        }
+        if (isForeignAction(entry, slot)) {
+            const KeptBytes& record = step.kept;
+            printField(std::string(slotName(slot)) + ".record",
+                       record ? base64Of(*record) : std::string());
+        }
+        for (const EntryField& field : fieldsOf(entry, slot)) {
+            if (isVt_ && !field.inVt) continue;
+            if (knowledge.tells(slot, field) || isInitialField(entry, slot, field)) continue;
+            printField(fieldPath(slot, field), valueOf(entry, slot, field));
+        }
+    }
+
+    void printField(const std::string& name, const std::string& value) {
+        out_ << indent << name << ' ' << value << '\n';
+    }
+
+    static std::string valueOf(const ScriptEntry& entry, Slot slot, const EntryField& field) {
+        const FieldValue value = fieldValue(entry, slot, field);
+        if (const auto* number = std::get_if<std::uint32_t>(&value)) return std::to_string(*number);
+        const auto text = std::get<std::string_view>(value);
+        const std::string behind = bytesBehind(entry, slot, field);
+        if (isSecret(entry, slot, field)) {
+            const KeptBytes& kept = slotFields(entry, slot).kept;
+            return (kept ? sealed(*kept) : sealed(bytesOf(text))) + behind;
+        }
+        return quotedValue(text) + behind;
+    }
+
+    static std::string bytesBehind(const ScriptEntry& entry, Slot slot, const EntryField& field) {
+        const auto behind = bytesBehindText(entry, slot, field);
+        const bool isEmpty =
+            std::ranges::all_of(behind, [](std::uint8_t byte) { return byte == 0; });
+        return isEmpty ? std::string() : " behind it " + sealed(behind);
+    }
+
+    std::ostream& out_;
+    bool isVt_;
+    const DisplayNames& names_;
+    LineHeads heads_;
+};
+
+}  // namespace
+
+void printFullText(std::ostream& out, const Script& script, HostType hostType,
+                   const DisplayNames& names, const HiddenTextCipher& cipher) {
+    out << "hostType " << hostTypeInfo(hostType).name << '\n';
+    FullTextPrinter printer(out, hostType, names);
+    ScriptEntry entry;
+    ScriptEntry stored;
+    for (const EntryHandle& handle : script.entries) {
+        unpackEntry(handle, cipher, entry);
+        unpackSealedEntry(handle, stored);
+        printer.print(entry, stored);
+    }
+}
+
+}  // namespace quendra
