@@ -33,7 +33,8 @@ EntryHandle entryOf(const std::string& word) {
 
 Script scriptOf(const std::string& words) {
     Script script;
-    for (const std::string& word : wordsOf(words)) script.entries.push_back(entryOf(word));
+    for (const std::string& word : wordsOf(words))
+        script.entries.push_back(entryOf(word));
     return script;
 }
 
@@ -55,9 +56,8 @@ std::size_t lengthByTable(const std::vector<std::uint32_t>& left,
                                                std::vector<std::size_t>(right.size() + 1));
     for (std::size_t i = 1; i <= left.size(); ++i) {
         for (std::size_t j = 1; j <= right.size(); ++j) {
-            best[i][j] = left[i - 1] == right[j - 1]
-                             ? best[i - 1][j - 1] + 1
-                             : std::max(best[i - 1][j], best[i][j - 1]);
+            best[i][j] = left[i - 1] == right[j - 1] ? best[i - 1][j - 1] + 1
+                                                     : std::max(best[i - 1][j], best[i][j - 1]);
         }
     }
     return best.back().back();
@@ -69,7 +69,8 @@ TEST(CommonPart, IsALongestOneAcrossTheEdgesOfWords) {
         std::vector<std::uint32_t> lists[2];
         for (auto& list : lists) {
             list.resize(random() % 200);
-            for (auto& value : list) value = static_cast<std::uint32_t>(random() % (1 + round / 10));
+            for (auto& value : list)
+                value = static_cast<std::uint32_t>(random() % (1 + round / 10));
         }
         auto& [left, right] = lists;
         if (left.size() + right.size() <= 30) continue;
@@ -91,8 +92,8 @@ std::string differences(const std::string& left, const std::string& right) {
     };
     for (const DiffLine& line : diffLines(diffScripts(scriptOf(left), scriptOf(right)))) {
         if (!text.empty()) text += ' ';
-        text += number(line.left) + ".!>+"[static_cast<std::size_t>(line.change)] +
-                number(line.right);
+        text +=
+            number(line.left) + ".!>+"[static_cast<std::size_t>(line.change)] + number(line.right);
     }
     return text;
 }
@@ -173,8 +174,8 @@ TEST(Merge, KeepsWhatEitherSideDid) {
 // Sealed texts of others are merged without their key, each with its flag.
 TEST(Merge, TakesFieldsThatBelongTogetherAsOne) {
     const auto mergedOf = [](const Bytes& base, const Bytes& ours, const Bytes& theirs) {
-        const Script scripts[] = {{{storeRecord(base)}}, {{storeRecord(ours)}},
-                                  {{storeRecord(theirs)}}};
+        const Script scripts[] = {
+            {{storeRecord(base)}}, {{storeRecord(ours)}}, {{storeRecord(theirs)}}};
         return mergeScripts({scripts[0], HostType::UTS}, {scripts[1], HostType::UTS},
                             {scripts[2], HostType::UTS});
     };
@@ -200,19 +201,22 @@ TEST(Merge, RefusesWhatNoScriptCouldHold) {
     const Script a = scriptOf("a");
     EXPECT_EQ(mergeScripts({a, HostType::UTS}, {none, HostType::VT}, {a, HostType::ICL}).refusal,
               MergeRefusal::HostTypes);
-    const MergeResult taken = mergeScripts({a, HostType::UTS}, {a, HostType::VT}, {a, HostType::UTS});
+    const MergeResult taken =
+        mergeScripts({a, HostType::UTS}, {a, HostType::VT}, {a, HostType::UTS});
     EXPECT_EQ(taken.hostType, HostType::VT);
     const Script transfer = {{storeRecord(menuRecord(213))}};
     EXPECT_EQ(mergeScripts({none, HostType::UTS}, {none, HostType::VT}, {transfer, HostType::UTS})
                   .refusal,
               MergeRefusal::NotInHostType);
     Script many;
-    for (std::size_t i = 0; i < 2500; ++i) many.entries.push_back(entryOf("m" + std::to_string(i)));
+    for (std::size_t i = 0; i < 2500; ++i)
+        many.entries.push_back(entryOf("m" + std::to_string(i)));
     Script others;
-    for (std::size_t i = 0; i < 2500; ++i) others.entries.push_back(entryOf("t" + std::to_string(i)));
-    EXPECT_EQ(mergeScripts({none, HostType::UTS}, {many, HostType::UTS}, {others, HostType::UTS})
-                  .refusal,
-              MergeRefusal::TooManyEntries);
+    for (std::size_t i = 0; i < 2500; ++i)
+        others.entries.push_back(entryOf("t" + std::to_string(i)));
+    EXPECT_EQ(
+        mergeScripts({none, HostType::UTS}, {many, HostType::UTS}, {others, HostType::UTS}).refusal,
+        MergeRefusal::TooManyEntries);
 }
 
 }  // namespace
