@@ -110,71 +110,43 @@ class LineHeads {
     std::map<std::string, std::vector<LuKey>, std::less<>> keysByName_;
 };
 
-// What of a step its line tells beyond doubt.
+// What of a step its line tells beyond doubt. A field of which that is not so is printed; with it
+// the rest of the line can be told apart again, so that nothing else has to be.
 class LineKnowledge {
   public:
     LineKnowledge(const ScriptEntry& entry, const DisplayNames& names, const LineHeads& heads)
-        : entry_(entry), names_(names), heads_(heads) {
-        for (const Slot slot : slotsOf(entry)) {
-            if (!isClear(slot)) isDoubtful_ = true;
+        : entry_(entry), names_(names), heads_(heads) {}
+
+    /// The line has the field's value in it.
+    [[nodiscard]] bool shows(Slot slot, const EntryField& field) const {
+        return onLine(slot, field);
+    }
+
+    /// And nothing else could stand there so.
+    [[nodiscard]] bool isClear(Slot slot, const EntryField& field) const {
+        const Step& step = slotFields(entry_, slot);
+        switch (field.kind) {
+            case FieldKind::KeyPart:
+                return heads_.tellsKey({step.row, step.column}, names_.luFunctions);
+            case FieldKind::MenuCode: return heads_.tellsMenuCommand(step.commandId);
+            default: return !isText(field.kind) || isClearText(slot, field);
         }
     }
 
-    /// The command of an action.
-    [[nodiscard]] bool tellsCommand(Slot slot) const {
-        const CommandCode code = slotFields(entry_, slot).code;
-        return !isDoubtful_ && code != CommandCode::Comment && !isForeignAction(entry_, slot);
-    }
-
-    [[nodiscard]] bool tells(Slot slot, const EntryField& field) const {
-        if (isDoubtful_ || isSecret(entry_, slot, field)) return false;
-        return slot == Slot::Entry ? onLine(slot, field)
-                                   : tellsCommand(slot) && onLine(slot, field);
-    }
-
   private:
-    // Its texts do not run into what is around them.
-    [[nodiscard]] bool isClear(Slot slot) const {
-        const Step& step = slotFields(entry_, slot);
+    // The text does not run into what is around it.
+    [[nodiscard]] bool isClearText(Slot slot, const EntryField& field) const {
         const bool isAction = slot != Slot::Entry;
-        const std::string_view text = textOf(step);
-        switch (step.code) {
-            case CommandCode::Comment: return isAction || (!text.ends_with(':') && isPlain(text));
+        const auto text = std::get<std::string_view>(fieldValue(entry_, slot, field));
+        switch (slotFields(entry_, slot).code) {
+            case CommandCode::Comment: return !isAction && !text.ends_with(':') && isPlain(text);
             case CommandCode::Label: return isAction ? isActionWord(text) : isPlain(text);
             case CommandCode::Goto: return isAction ? isActionWord(text) : !hasEscapes(text);
             case CommandCode::Input:
                 return isAction ? isActionWord(text)
                                 : !hasEscapes(text) && text.find(" As ") == std::string_view::npos;
-            case CommandCode::IfInputIs:
-                return isQuotable(text) && isQuotable(compareTextOf(entry_));
-            case CommandCode::LuFunction:
-                return heads_.tellsKey({step.row, step.column}, names_.luFunctions);
-            case CommandCode::MenuCommand: return isClearMenuCommand(step, isAction);
-            case CommandCode::Type: return isHiddenText(step) || isQuotable(text);
-            case CommandCode::None:
-            case CommandCode::Beep:
-            case CommandCode::ClearWatch:
-            case CommandCode::Return:
-            case CommandCode::SetCursor:
-            case CommandCode::Wait:
-            case CommandCode::WaitReady:
-            case CommandCode::WaitUntil:
-            case CommandCode::Copy:
-            case CommandCode::Paste: return true;
-            case CommandCode::Message:
-            case CommandCode::Run:
-            case CommandCode::WaitFor:
-            case CommandCode::WatchFor:
-            case CommandCode::ExpressLogon: break;
+            default: return isQuotable(text);
         }
-        return isQuotable(text);
-    }
-
-    // The line of a transfer, of which no field is told, may run into what follows an action.
-    [[nodiscard]] bool isClearMenuCommand(const Step& step, bool isAction) const {
-        if (!heads_.tellsMenuCommand(step.commandId)) return false;
-        if (isFileTransfer(step.commandId)) return !isAction;
-        return !takesFileName(step.commandId) || isQuotable(textOf(step));
     }
 
     [[nodiscard]] bool isPlain(std::string_view text) const {
@@ -200,15 +172,17 @@ class LineKnowledge {
             case CommandCode::Input:
                 return field.name == "text" || (field.name == "inputVariable" &&
                                                 step.inputVariable < inputVariableNames.size());
-            case CommandCode::IfInputIs: return isOperandOnLine(field);
+            // Which variable is compared stands there only where no literal does.
+            case CommandCode::IfInputIs: return isText(field.kind);
             case CommandCode::LuFunction:
             case CommandCode::SetCursor:
             case CommandCode::Wait:
             case CommandCode::WaitReady: return true;
             case CommandCode::WaitUntil:
                 return field.name != "dayOfWeek" && field.name != "milliseconds";
+            // And an area only where it is not the whole screen or the cursor.
             case CommandCode::Copy:
-            case CommandCode::Paste: return isAreaOnLine(step, field);
+            case CommandCode::Paste: return field.kind == FieldKind::Flag && step.number <= 1;
             case CommandCode::MenuCommand: return field.name == "commandId" || field.name == "text";
             case CommandCode::None:
             case CommandCode::Beep:
@@ -218,30 +192,9 @@ class LineKnowledge {
         return false;
     }
 
-    [[nodiscard]] bool isOperandOnLine(const EntryField& field) const {
-        const auto kindOnLine = [](std::string_view literal, std::uint8_t kind) {
-            return literal.empty() && kind < inputVariableNames.size();
-        };
-        if (field.name == "firstOperandKind") {
-            return kindOnLine(textOf(entry_), entry_.firstOperandKind);
-        }
-        if (field.name == "secondOperandKind") {
-            return kindOnLine(compareTextOf(entry_), entry_.secondOperandKind);
-        }
-        return true;
-    }
-
-    [[nodiscard]] static bool isAreaOnLine(const Step& step, const EntryField& field) {
-        if (field.kind != FieldKind::Area) return step.number <= 1;
-        if (step.number != 0) return false;
-        const ScreenArea area = unpackArea(step.area);
-        return step.code == CommandCode::Copy || (area.endRow == 0 && area.endColumn == 0);
-    }
-
     const ScriptEntry& entry_;
     const DisplayNames& names_;
     const LineHeads& heads_;
-    bool isDoubtful_ = false;
 };
 
 class FullTextPrinter {
@@ -270,21 +223,25 @@ class FullTextPrinter {
 
     void printSlot(const ScriptEntry& entry, Slot slot, const LineKnowledge& knowledge) {
         const Step& step = slotFields(entry, slot);
-        if (slot != Slot::Entry && step.code != CommandCode::None &&
-            !knowledge.tellsCommand(slot)) {
+        if (isForeignAction(entry, slot)) {
             printField(std::string(slotName(slot)) + ".command",
                        std::string(commandName(step.code)));
-        }
-        if (isForeignAction(entry, slot)) {
             const KeptBytes& record = step.kept;
             printField(std::string(slotName(slot)) + ".record",
                        record ? base64Of(*record) : std::string());
         }
         for (const EntryField& field : fieldsOf(entry, slot)) {
             if (isVt_ && !field.inVt) continue;
-            if (knowledge.tells(slot, field) || isInitialField(entry, slot, field)) continue;
+            if (isTold(entry, slot, field, knowledge)) continue;
             printField(fieldPath(slot, field), valueOf(entry, slot, field));
         }
+    }
+
+    static bool isTold(const ScriptEntry& entry, Slot slot, const EntryField& field,
+                       const LineKnowledge& knowledge) {
+        if (isSecret(entry, slot, field)) return isInitialField(entry, slot, field);
+        return knowledge.shows(slot, field) ? knowledge.isClear(slot, field)
+                                            : isInitialField(entry, slot, field);
     }
 
     void printField(const std::string& name, const std::string& value) {

@@ -112,22 +112,22 @@ TEST_F(Review, FullTextNeverPrintsASecretAndSaysWhereAFileEnds) {
 }
 
 TEST_F(Review, DiffTellsFieldsAndItsStatus) {
-    const auto a = file("a.qds", script({waitFor("R", 30), {4}, commentRecord("x")}));
-    const auto b = file("b.qds", script({commentRecord("x"), waitFor("R", 3), {4}, {5}}));
+    const auto a = file("a.qds", script({waitFor("R", 30), {4}, {12}, commentRecord("x")}));
+    const auto b = file("b.qds", script({commentRecord("x"), waitFor("R", 3), {4}, {12}, {5}}));
     EXPECT_EQ(runQds({"diff", a, a}).status, 0);
     EXPECT_EQ(runQds({"diff", a, a}).out, "");
     const QdsRun run = runQds({"diff", a, b});
     EXPECT_EQ(run.status, 1);
     EXPECT_EQ(run.out,
-              "> 3 -> 1: x\n! 1 -> 2: Wait_For \"R\"\n      timeoutSeconds 30 -> 3\n"
-              "+ 4: Clear_Watch\n");
+              "> 4 -> 1: x\n! 1 -> 2: Wait_For \"R\"\n      timeoutSeconds 30 -> 3\n"
+              "+ 5: Clear_Watch\n");
     const auto form = nlohmann::json::parse(runQds({"diff", "--json", a, b}).out);
     ASSERT_EQ(form["changes"].size(), 3U);
     EXPECT_EQ(
         form["changes"][1].dump(),
         R"({"a":1,"b":2,"fields":[{"a":30,"b":3,"name":"timeoutSeconds"}],"kind":"changed"})");
     const auto vt =
-        file("vt.qds", scriptFile("QDVDSCR=", {waitFor("R", 30), {4}, commentRecord("x")}));
+        file("vt.qds", scriptFile("QDVTSCR=", {waitFor("R", 30), {4}, {12}, commentRecord("x")}));
     EXPECT_EQ(runQds({"diff", a, vt}).out, "! hostType Mainframe -> VT\n");
     Bytes cut = readBytes(a);
     cut.pop_back();
@@ -186,14 +186,13 @@ TEST_F(Review, GitDiffsAndMergesScripts) {
         file("a.qds", script({waitFor("R", seconds), middle, joined({{7}, counted(last)})}));
         return run("git add -A && git commit -qm change");
     };
+    file(".gitattributes", bytesOf("*.qds -text diff=qds merge=qds\n"));
     ASSERT_EQ(run("git init -q -b main && git config user.name n && git config user.email e && "
                   "git config diff.qds.textconv '" +
                   qds +
                   " show --full' && "
                   "git config merge.qds.driver '" +
-                  qds +
-                  " merge --name-ours %X --name-theirs %Y %O %A %B' && "
-                  "printf '*.qds -text diff=qds merge=qds\\noutput.txt ignore\\n' >.gitattributes"),
+                  qds + " merge --name-ours %X --name-theirs %Y %O %A %B'"),
               0)
         << output();
     ASSERT_EQ(save(30, "a"), 0) << output();
