@@ -3521,5 +3521,161 @@ Replace it? The old file is kept as a backup beside it.</translation>
         <translation>Save as VT</translation>
         <extra-name>saveAsVtStep</extra-name>
     </message>
+    <message id="17100">
+        <source>Goto %s: no such label</source>
+        <extracomment>Check: a jump to a label that is not there, %s is the label</extracomment>
+        <translation>Goto %s: no such label</translation>
+        <extra-name>checkLabelMissing</extra-name>
+    </message>
+    <message id="17101">
+        <source>; %s is in step %d</source>
+        <extracomment>Check: goes on after the text above: the label that was probably meant and its step</extracomment>
+        <translation>; %s is in step %d</translation>
+        <extra-name>checkNearestLabel</extra-name>
+    </message>
+    <message id="17102">
+        <source>Label %s is already in step %d, and jumps go there</source>
+        <extracomment>Check: a label that was defined before, %s is the label, %d the step of the first</extracomment>
+        <translation>Label %s is already in step %d, and jumps go there</translation>
+        <extra-name>checkLabelDuplicate</extra-name>
+    </message>
+    <message id="17103">
+        <source>%s: the field %s is empty</source>
+        <extracomment>Check: a text that has to be there, the %s are keyword and field name</extracomment>
+        <translation>%s: the field %s is empty</translation>
+        <extra-name>checkParameterMissing</extra-name>
+    </message>
+    <message id="17104">
+        <source>%s: %s is %s; allowed is %s</source>
+        <extracomment>Check: a number outside its range: keyword, field name, number, range such as 1..62</extracomment>
+        <translation>%s: %s is %s; allowed is %s</translation>
+        <extra-name>checkValueRange</extra-name>
+    </message>
+    <message id="17105">
+        <source>Wait_Until: there is no date %s</source>
+        <extracomment>Check: a date such as 2024-2-30</extracomment>
+        <translation>Wait_Until: there is no date %s</translation>
+        <extra-name>checkNoSuchDate</extra-name>
+    </message>
+    <message id="17106">
+        <source>A terminal of type %s has no key %s</source>
+        <extracomment>Check: an LU function that the host type lacks; host type, and group/number of the key</extracomment>
+        <translation>A terminal of type %s has no key %s</translation>
+        <extra-name>checkKeyUnknown</extra-name>
+    </message>
+    <message id="17107">
+        <source>There is no menu command %s</source>
+        <extracomment>Check: the number of a menu command outside the table</extracomment>
+        <translation>There is no menu command %s</translation>
+        <extra-name>checkMenuCommandUnknown</extra-name>
+    </message>
+    <message id="17108">
+        <source>A script of type %s cannot store this step; saving would lose it</source>
+        <extracomment>Check: %s is the host type</extracomment>
+        <translation>A script of type %s cannot store this step; saving would lose it</translation>
+        <extra-name>checkNotInHostType</extra-name>
+    </message>
+    <message id="17109">
+        <source>The transfer has no host file</source>
+        <extracomment>Check</extracomment>
+        <translation>The transfer has no host file</translation>
+        <extra-name>checkNoHostFile</extra-name>
+    </message>
+    <message id="17110">
+        <source>The transfer has no PC file</source>
+        <extracomment>Check</extracomment>
+        <translation>The transfer has no PC file</translation>
+        <extra-name>checkNoPcFile</extra-name>
+    </message>
+    <message id="17111">
+        <source>The transfer has neither host file nor PC file</source>
+        <extracomment>Check</extracomment>
+        <translation>The transfer has neither host file nor PC file</translation>
+        <extra-name>checkNoFiles</extra-name>
+    </message>
+    <message id="17112">
+        <source>The command line of the transfer has %d characters; what follows the first %d is cut off</source>
+        <extracomment>Check</extracomment>
+        <translation>The command line of the transfer has %d characters; what follows the first %d is cut off</translation>
+        <extra-name>checkTransferCut</extra-name>
+    </message>
+    <message id="17113">
+        <source>Conflict of a merge: choose between the two sides, and remove the three marks %s</source>
+        <extracomment>Check: %s is the name of the first side</extracomment>
+        <translation>Conflict of a merge: choose between the two sides, and remove the three marks %s</translation>
+        <extra-name>checkMergeConflict</extra-name>
+    </message>
+    <message id="17114">
+        <source>Label %s: no Goto leads here</source>
+        <extracomment>Check</extracomment>
+        <translation>Label %s: no Goto leads here</translation>
+        <extra-name>checkLabelUnused</extra-name>
+    </message>
+    <message id="17115">
+        <source>Label %s is an action: a jump to it goes to the whole step</source>
+        <extracomment>Check</extracomment>
+        <translation>Label %s is an action: a jump to it goes to the whole step</translation>
+        <extra-name>checkLabelAsAction</extra-name>
+    </message>
+    <message id="17116">
+        <source>This step is never reached</source>
+        <extracomment>Check</extracomment>
+        <translation>This step is never reached</translation>
+        <extra-name>checkUnreachable</extra-name>
+    </message>
+    <message id="17117">
+        <source>The steps from %d to %d form a loop in which nothing waits</source>
+        <extracomment>Check</extracomment>
+        <translation>The steps from %d to %d form a loop in which nothing waits</translation>
+        <extra-name>checkBusyLoop</extra-name>
+    </message>
+    <message id="17118">
+        <source>No Input stores %s</source>
+        <extracomment>Check: a variable is used that is never set</extracomment>
+        <translation>No Input stores %s</translation>
+        <extra-name>checkVariableUnset</extra-name>
+    </message>
+    <message id="17119">
+        <source>A password is typed in clear; hide it in the dialog of the step</source>
+        <extracomment>Check</extracomment>
+        <translation>A password is typed in clear; hide it in the dialog of the step</translation>
+        <extra-name>checkPasswordInClear</extra-name>
+    </message>
+    <message id="17120">
+        <source>The password of the host file is stored in clear</source>
+        <extracomment>Check</extracomment>
+        <translation>The password of the host file is stored in clear</translation>
+        <extra-name>checkTransferPassword</extra-name>
+    </message>
+    <message id="17121">
+        <source>Your key does not open the hidden text</source>
+        <extracomment>Check</extracomment>
+        <translation>Your key does not open the hidden text</translation>
+        <extra-name>checkSealedText</extra-name>
+    </message>
+    <message id="17122">
+        <source>Wait_For “%s” gives up at once: its timeout is 0 seconds</source>
+        <extracomment>Check</extracomment>
+        <translation>Wait_For “%s” gives up at once: its timeout is 0 seconds</translation>
+        <extra-name>checkTimeoutZero</extra-name>
+    </message>
+    <message id="17123">
+        <source>Wait_For “%s” has no timeout</source>
+        <extracomment>Check</extracomment>
+        <translation>Wait_For “%s” has no timeout</translation>
+        <extra-name>checkWaitForever</extra-name>
+    </message>
+    <message id="17124">
+        <source>No Clear_Watch ends this Watch_For</source>
+        <extracomment>Check</extracomment>
+        <translation>No Clear_Watch ends this Watch_For</translation>
+        <extra-name>checkWatchKept</extra-name>
+    </message>
+    <message id="17125">
+        <source>You have no key of your own: hidden texts are only obscured</source>
+        <extracomment>Check</extracomment>
+        <translation>You have no key of your own: hidden texts are only obscured</translation>
+        <extra-name>checkHiddenWithoutKey</extra-name>
+    </message>
 </context>
 </TS>

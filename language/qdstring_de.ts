@@ -2937,5 +2937,109 @@ Ersetzen? Die alte Datei bleibt als Sicherungskopie daneben erhalten.</translati
         <extracomment>Step that Undo and Redo name: the script has become what a VT file can store of it</extracomment>
         <translation>Als VT speichern</translation>
     </message>
+    <message id="17100">
+        <source>Goto %s: no such label</source>
+        <translation>Goto %s: Diese Marke gibt es nicht</translation>
+    </message>
+    <message id="17101">
+        <source>; %s is in step %d</source>
+        <translation>; %s steht in Schritt %d</translation>
+    </message>
+    <message id="17102">
+        <source>Label %s is already in step %d, and jumps go there</source>
+        <translation>Die Marke %s steht schon in Schritt %d, und Sprünge führen dorthin</translation>
+    </message>
+    <message id="17103">
+        <source>%s: the field %s is empty</source>
+        <translation>%s: Das Feld %s ist leer</translation>
+    </message>
+    <message id="17104">
+        <source>%s: %s is %s; allowed is %s</source>
+        <translation>%s: %s ist %s; erlaubt ist %s</translation>
+    </message>
+    <message id="17105">
+        <source>Wait_Until: there is no date %s</source>
+        <translation>Wait_Until: Ein Datum %s gibt es nicht</translation>
+    </message>
+    <message id="17106">
+        <source>A terminal of type %s has no key %s</source>
+        <translation>Ein Terminal vom Typ %s hat keine Taste %s</translation>
+    </message>
+    <message id="17107">
+        <source>There is no menu command %s</source>
+        <translation>Einen Menübefehl %s gibt es nicht</translation>
+    </message>
+    <message id="17108">
+        <source>A script of type %s cannot store this step; saving would lose it</source>
+        <translation>Ein Skript vom Typ %s kann diesen Schritt nicht aufnehmen; beim Speichern ginge er verloren</translation>
+    </message>
+    <message id="17109">
+        <source>The transfer has no host file</source>
+        <translation>Der Übertragung fehlt die Host-Datei</translation>
+    </message>
+    <message id="17110">
+        <source>The transfer has no PC file</source>
+        <translation>Der Übertragung fehlt die PC-Datei</translation>
+    </message>
+    <message id="17111">
+        <source>The transfer has neither host file nor PC file</source>
+        <translation>Der Übertragung fehlen Host-Datei und PC-Datei</translation>
+    </message>
+    <message id="17112">
+        <source>The command line of the transfer has %d characters; what follows the first %d is cut off</source>
+        <translation>Die Befehlszeile der Übertragung hat %d Zeichen; was auf die ersten %d folgt, wird abgeschnitten</translation>
+    </message>
+    <message id="17113">
+        <source>Conflict of a merge: choose between the two sides, and remove the three marks %s</source>
+        <translation>Konflikt beim Zusammenführen: Wählen Sie eine der Seiten, und entfernen Sie die drei Zeichenzeilen %s</translation>
+    </message>
+    <message id="17114">
+        <source>Label %s: no Goto leads here</source>
+        <translation>Marke %s: Kein Goto führt hierher</translation>
+    </message>
+    <message id="17115">
+        <source>Label %s is an action: a jump to it goes to the whole step</source>
+        <translation>Die Marke %s ist eine Aktion: Ein Sprung dorthin führt zum ganzen Schritt</translation>
+    </message>
+    <message id="17116">
+        <source>This step is never reached</source>
+        <translation>Dieser Schritt wird nie erreicht</translation>
+    </message>
+    <message id="17117">
+        <source>The steps from %d to %d form a loop in which nothing waits</source>
+        <translation>Die Schritte von %d bis %d bilden eine Schleife, in der nichts wartet</translation>
+    </message>
+    <message id="17118">
+        <source>No Input stores %s</source>
+        <translation>Kein Input speichert %s</translation>
+    </message>
+    <message id="17119">
+        <source>A password is typed in clear; hide it in the dialog of the step</source>
+        <translation>Ein Kennwort wird im Klartext getippt; verbergen Sie es im Dialogfeld des Schritts</translation>
+    </message>
+    <message id="17120">
+        <source>The password of the host file is stored in clear</source>
+        <translation>Das Kennwort der Host-Datei ist im Klartext gespeichert</translation>
+    </message>
+    <message id="17121">
+        <source>Your key does not open the hidden text</source>
+        <translation>Ihr Schlüssel öffnet den verborgenen Text nicht</translation>
+    </message>
+    <message id="17122">
+        <source>Wait_For “%s” gives up at once: its timeout is 0 seconds</source>
+        <translation>Wait_For „%s“ gibt sofort auf: Die Wartezeit ist 0 Sekunden</translation>
+    </message>
+    <message id="17123">
+        <source>Wait_For “%s” has no timeout</source>
+        <translation>Wait_For „%s“ hat keine Wartezeit</translation>
+    </message>
+    <message id="17124">
+        <source>No Clear_Watch ends this Watch_For</source>
+        <translation>Kein Clear_Watch beendet dieses Watch_For</translation>
+    </message>
+    <message id="17125">
+        <source>You have no key of your own: hidden texts are only obscured</source>
+        <translation>Sie haben keinen eigenen Schlüssel: Verborgene Texte sind nur verschleiert</translation>
+    </message>
 </context>
 </TS>

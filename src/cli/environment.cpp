@@ -72,6 +72,25 @@ std::optional<SourceScript> readScriptInput(Environment& environment, const std:
     return SourceScript{std::move(*content), std::move(read)};
 }
 
+std::optional<SourceScript> readWholeScript(Environment& environment, const std::string& file) {
+    auto content = readInput(environment, file, maxScriptFileSize + 1);
+    if (!content) return std::nullopt;
+    auto read = wholeScriptOf(environment, file, *content);
+    if (!read) return std::nullopt;
+    return SourceScript{std::move(*content), std::move(*read)};
+}
+
+std::optional<ReadResult> wholeScriptOf(Environment& environment, const std::string& file,
+                                        const FileContent& content) {
+    ReadResult read = readScript(content.storage, content.size);
+    if (read.refusal) {
+        report(environment, file, withOffset(describe(*read.refusal), 0));
+        return std::nullopt;
+    }
+    if (!reportReading(environment, file, read)) return std::nullopt;
+    return read;
+}
+
 std::string whyIncomplete(const ReadResult& read) {
     if (read.isWhole()) return {};
     const std::size_t count = read.script.entryCount();
@@ -98,6 +117,27 @@ bool writeOutput(Environment& environment, const std::string& file,
     if (!failure || failure->code == EPIPE) return true;
     report(environment, file, failure->message);
     return false;
+}
+
+bool replaceSource(Environment& environment, const std::string& file,
+                   std::span<const std::uint8_t> bytes, const FileContent& source) {
+    if (fileStamp(file) != source.stamp) {
+        report(environment, file, "the file changed while it was converted");
+        return false;
+    }
+    return writeOutput(environment, file, bytes, source);
+}
+
+bool writeMerged(Environment& environment, const std::string& file,
+                 std::span<const std::uint8_t> bytes, const FileContent& ours) {
+    if (file == standardStream || isStreamFile(file)) {
+        return writeOutput(environment, file, bytes, ours);
+    }
+    const bool isOurs = isSameFile(ours.stamp, fileStamp(file));
+    if (isOurs && std::ranges::equal(bytes, ours.bytes())) return true;
+    const auto result = replaceFile(file, bytes, OldFile::Drop);
+    if (result.failure) report(environment, file, result.failure->message);
+    return !result.failure;
 }
 
 EntryNames::EntryNames(Environment& environment, NamesFor reader) {

@@ -25,6 +25,10 @@ struct Environment {
     std::ostream& err;
     /// Where the language library is found, and which one the user has set for the editor.
     LanguageFolders languages;
+    /// Somebody looks at standard error while the command runs.
+    bool errIsTerminal = false;
+    /// And at standard output.
+    bool outIsTerminal = false;
 };
 
 /// What messages and headings call a file: its name with control characters escaped, or "standard
@@ -59,6 +63,14 @@ struct SourceScript {
 /// Reports that a file was not read whole. True when it was.
 bool reportReading(Environment& environment, const std::string& file, const ReadResult& read);
 
+/// Reads a script that has to be whole; none otherwise, which was reported.
+[[nodiscard]] std::optional<SourceScript> readWholeScript(Environment& environment,
+                                                          const std::string& file);
+/// The same of bytes that were read already.
+[[nodiscard]] std::optional<ReadResult> wholeScriptOf(Environment& environment,
+                                                      const std::string& file,
+                                                      const FileContent& content);
+
 /// Writes a file, or standard output for "-". A regular file is replaced whole or not at all, and
 /// the old one kept as a backup when it has other bytes; when it is the very file that the bytes
 /// came from (`source`) and has them already, nothing happens. Reports a failure; true when there
@@ -67,9 +79,22 @@ bool reportReading(Environment& environment, const std::string& file, const Read
 [[nodiscard]] bool writeOutput(Environment& environment, const std::string& file,
                                std::span<const std::uint8_t> bytes, const FileContent& source);
 
+/// Writes the file that a script was read from, as above, unless somebody else has changed it
+/// since.
+[[nodiscard]] bool replaceSource(Environment& environment, const std::string& file,
+                                 std::span<const std::uint8_t> bytes, const FileContent& source);
+
+/// Writes what a merge gave, over `file` or a new one, without a backup: version control keeps all
+/// sides. Nothing happens where these are its bytes already.
+[[nodiscard]] bool writeMerged(Environment& environment, const std::string& file,
+                               std::span<const std::uint8_t> bytes, const FileContent& ours);
+
+/// For an expression whose search was given up in some text.
+inline constexpr const char* gaveUpMessage =
+    "qds: the expression tries too many ways; texts in which that was so are left out";
+
 /// The user's language, or that of the names in the JSON form, which anybody can read and build.
 enum class NamesFor : std::uint8_t { User, JsonForm };
-
 /// The texts of the language library and the names that entries show. Without a library they are
 /// empty and `isLoaded` is false; that has been reported then.
 struct EntryNames {

@@ -4,6 +4,7 @@
 #include "forms/json_text.h"
 #include "forms/object_reader.h"
 #include "forms/script_json.h"
+#include "model/command_names.h"
 #include "model/entry_fields.h"
 #include "scriptfile/entry_codec.h"
 #include "scriptfile/script_reader.h"
@@ -63,9 +64,8 @@ class EntryReader {
 
 void EntryReader::slot(ScriptEntry& entry, Slot slot) {
     const Json* name = object_.find("command");
-    const auto code = name && name->is_string()
-                          ? commandOfJsonName(name->get_ref<const std::string&>())
-                          : std::nullopt;
+    const auto code = name && name->is_string() ? commandOfName(name->get_ref<const std::string&>())
+                                                : std::nullopt;
     if (!code) {
         object_.fail("command", name ? "is not the name of a command" : "is missing");
         return;

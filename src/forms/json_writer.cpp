@@ -3,6 +3,7 @@
 #include "forms/json_names.h"
 #include "forms/json_text.h"
 #include "forms/script_json.h"
+#include "model/command_names.h"
 #include "model/entry_fields.h"
 #include "scriptfile/entry_codec.h"
 #include "text/base64.h"
@@ -58,7 +59,7 @@ void addBlock(Json& settings, const FileTransferSettings& stored) {
 Json EntryWriter::slot(const ScriptEntry& entry, Slot slot) const {
     const Step& step = slotFields(entry, slot);
     Json object;
-    object["command"] = jsonCommandName(step.code);
+    object["command"] = commandName(step.code);
     for (const EntryField& field : fieldsOf(entry, slot)) {
         if (hostType_ == HostType::VT && !field.inVt) continue;
         Json& owner = field.group.empty() ? object : object[std::string(field.group)];

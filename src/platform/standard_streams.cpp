@@ -29,6 +29,10 @@ std::optional<FileFailure> writeToStream(const std::filesystem::path& path,
     return buffer.failure();
 }
 
+bool isTerminal(int descriptor) {
+    return isatty(descriptor) != 0;
+}
+
 DescriptorBuffer::DescriptorBuffer(int descriptor) : descriptor_(descriptor) {
     setp(buffer_.data(), buffer_.data() + buffer_.size());
 }

@@ -19,6 +19,9 @@ void prepareStandardStreams();
 [[nodiscard]] std::optional<FileFailure> writeToStream(const std::filesystem::path& path,
                                                        std::span<const std::uint8_t> bytes);
 
+/// True when somebody reads what is written to the descriptor from a screen.
+[[nodiscard]] bool isTerminal(int descriptor);
+
 /// Buffers what a stream writes to a descriptor, which stays open. After a failure (a full disk, a
 /// pipe without a reader) everything further is refused, so the stream turns bad.
 class DescriptorBuffer : public std::streambuf {

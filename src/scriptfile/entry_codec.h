@@ -51,6 +51,32 @@ void forEachEntry(const Script& script, const HiddenTextCipher& cipher, const Fu
         function(unpacker.unpack(entry));
 }
 
+/// The working form without any key: each hidden text stays enciphered in its slot's `kept`, so
+/// that who searches or changes something else never has it in clear.
+[[nodiscard]] ScriptEntry unpackSealedEntry(const EntryHandle& entry);
+
+/// Stores an entry that was unpacked in that way. Fails only where a new hidden text came in.
+[[nodiscard]] PackResult packSealedEntry(const ScriptEntry& entry);
+
+/// As EntryUnpacker, without any key.
+class SealedEntryUnpacker {
+  public:
+    const ScriptEntry& unpack(const EntryHandle& entry) {
+        return records_.read(entry.record(), memoryForm, nullptr);
+    }
+
+  private:
+    RecordUnpacker records_;
+};
+
+/// As forEachEntry, without any key.
+template <class Function>
+void forEachSealedEntry(const Script& script, const Function& function) {
+    SealedEntryUnpacker unpacker;
+    for (const EntryHandle& entry : script.entries)
+        function(unpacker.unpack(entry));
+}
+
 /// Looks for file transfers in many entries, without unpacking them.
 class TransferSearch {
   public:

@@ -29,7 +29,9 @@ TEST_F(CommandLine, tellsWrongUsageWithStatusTwo) {
 }
 
 TEST_F(CommandLine, namesAnUnknownWordBesideThoseThatThereAre) {
-    const char* const commands = "; the commands are show, convert, build, texts\n";
+    const char* const commands =
+        "; the commands are show, convert, build, check, grep, replace, rename-label, diff, "
+        "merge, texts\n";
     const std::pair<const char*, std::string> rows[] = {
         {"frobnicate --output a", std::string("unknown command frobnicate") + commands},
         {"", std::string("a command is missing") + commands},
