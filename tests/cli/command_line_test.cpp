@@ -37,7 +37,7 @@ TEST_F(CommandLine, namesAnUnknownWordBesideThoseThatThereAre) {
         {"", std::string("a command is missing") + commands},
         {"--frob show", "unknown option --frob; the options are --help, --version\n"},
         {"show --frob=1 a",
-         "unknown show option --frob; the show options are --help, --numbers, "
+         "unknown show option --frob; the show options are --help, --numbers, --full, "
          "--json, --reveal\n"},
         {"build a --output b -x",
          "unknown build option -x; the build options are --help, "
