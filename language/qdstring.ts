@@ -3600,9 +3600,9 @@ Replace it? The old file is kept as a backup beside it.</translation>
         <extra-name>checkTransferCut</extra-name>
     </message>
     <message id="17113">
-        <source>Conflict of a merge: choose between the two sides, and remove the three marks %s</source>
+        <source>Conflict of a merge, %s first: choose between the two sides, and remove the three marks</source>
         <extracomment>Check: %s is the name of the first side</extracomment>
-        <translation>Conflict of a merge: choose between the two sides, and remove the three marks %s</translation>
+        <translation>Conflict of a merge, %s first: choose between the two sides, and remove the three marks</translation>
         <extra-name>checkMergeConflict</extra-name>
     </message>
     <message id="17114">
@@ -3636,9 +3636,9 @@ Replace it? The old file is kept as a backup beside it.</translation>
         <extra-name>checkVariableUnset</extra-name>
     </message>
     <message id="17119">
-        <source>A password is typed in clear; hide it in the dialog of the step</source>
+        <source>A password is typed in clear; make a new Type that hides it</source>
         <extracomment>Check</extracomment>
-        <translation>A password is typed in clear; hide it in the dialog of the step</translation>
+        <translation>A password is typed in clear; make a new Type that hides it</translation>
         <extra-name>checkPasswordInClear</extra-name>
     </message>
     <message id="17120">
@@ -3648,9 +3648,9 @@ Replace it? The old file is kept as a backup beside it.</translation>
         <extra-name>checkTransferPassword</extra-name>
     </message>
     <message id="17121">
-        <source>Your key does not open the hidden text</source>
+        <source>Your user identity does not open the hidden text</source>
         <extracomment>Check</extracomment>
-        <translation>Your key does not open the hidden text</translation>
+        <translation>Your user identity does not open the hidden text</translation>
         <extra-name>checkSealedText</extra-name>
     </message>
     <message id="17122">
@@ -3672,9 +3672,9 @@ Replace it? The old file is kept as a backup beside it.</translation>
         <extra-name>checkWatchKept</extra-name>
     </message>
     <message id="17125">
-        <source>You have no key of your own: hidden texts are only obscured</source>
+        <source>You have no user identity: hidden texts are only obscured</source>
         <extracomment>Check</extracomment>
-        <translation>You have no key of your own: hidden texts are only obscured</translation>
+        <translation>You have no user identity: hidden texts are only obscured</translation>
         <extra-name>checkHiddenWithoutKey</extra-name>
     </message>
 </context>

@@ -2939,7 +2939,7 @@ Ersetzen? Die alte Datei bleibt als Sicherungskopie daneben erhalten.</translati
     </message>
     <message id="17100">
         <source>Goto %s: no such label</source>
-        <translation>Goto %s: Diese Marke gibt es nicht</translation>
+        <translation>Goto %s: Diese Sprungmarke gibt es nicht</translation>
     </message>
     <message id="17101">
         <source>; %s is in step %d</source>
@@ -2947,7 +2947,7 @@ Ersetzen? Die alte Datei bleibt als Sicherungskopie daneben erhalten.</translati
     </message>
     <message id="17102">
         <source>Label %s is already in step %d, and jumps go there</source>
-        <translation>Die Marke %s steht schon in Schritt %d, und Sprünge führen dorthin</translation>
+        <translation>Die Sprungmarke %s steht schon in Schritt %d, und Sprünge führen dorthin</translation>
     </message>
     <message id="17103">
         <source>%s: the field %s is empty</source>
@@ -2975,7 +2975,7 @@ Ersetzen? Die alte Datei bleibt als Sicherungskopie daneben erhalten.</translati
     </message>
     <message id="17109">
         <source>The transfer has no host file</source>
-        <translation>Der Übertragung fehlt die Host-Datei</translation>
+        <translation>Der Übertragung fehlt die Hostdatei</translation>
     </message>
     <message id="17110">
         <source>The transfer has no PC file</source>
@@ -2983,23 +2983,23 @@ Ersetzen? Die alte Datei bleibt als Sicherungskopie daneben erhalten.</translati
     </message>
     <message id="17111">
         <source>The transfer has neither host file nor PC file</source>
-        <translation>Der Übertragung fehlen Host-Datei und PC-Datei</translation>
+        <translation>Der Übertragung fehlen Hostdatei und PC-Datei</translation>
     </message>
     <message id="17112">
         <source>The command line of the transfer has %d characters; what follows the first %d is cut off</source>
         <translation>Die Befehlszeile der Übertragung hat %d Zeichen; was auf die ersten %d folgt, wird abgeschnitten</translation>
     </message>
     <message id="17113">
-        <source>Conflict of a merge: choose between the two sides, and remove the three marks %s</source>
-        <translation>Konflikt beim Zusammenführen: Wählen Sie eine der Seiten, und entfernen Sie die drei Zeichenzeilen %s</translation>
+        <source>Conflict of a merge, %s first: choose between the two sides, and remove the three marks</source>
+        <translation>Konflikt beim Zusammenführen, zuerst %s: Wählen Sie eine der beiden Seiten, und entfernen Sie die drei Markierungen</translation>
     </message>
     <message id="17114">
         <source>Label %s: no Goto leads here</source>
-        <translation>Marke %s: Kein Goto führt hierher</translation>
+        <translation>Sprungmarke %s: Kein Goto führt hierher</translation>
     </message>
     <message id="17115">
         <source>Label %s is an action: a jump to it goes to the whole step</source>
-        <translation>Die Marke %s ist eine Aktion: Ein Sprung dorthin führt zum ganzen Schritt</translation>
+        <translation>Die Sprungmarke %s ist eine Aktion: Ein Sprung dorthin führt zum ganzen Schritt</translation>
     </message>
     <message id="17116">
         <source>This step is never reached</source>
@@ -3014,32 +3014,32 @@ Ersetzen? Die alte Datei bleibt als Sicherungskopie daneben erhalten.</translati
         <translation>Kein Input speichert %s</translation>
     </message>
     <message id="17119">
-        <source>A password is typed in clear; hide it in the dialog of the step</source>
-        <translation>Ein Kennwort wird im Klartext getippt; verbergen Sie es im Dialogfeld des Schritts</translation>
+        <source>A password is typed in clear; make a new Type that hides it</source>
+        <translation>Ein Kennwort wird im Klartext getippt; legen Sie ein neues Type an, das es verbirgt</translation>
     </message>
     <message id="17120">
         <source>The password of the host file is stored in clear</source>
-        <translation>Das Kennwort der Host-Datei ist im Klartext gespeichert</translation>
+        <translation>Das Kennwort der Hostdatei ist im Klartext gespeichert</translation>
     </message>
     <message id="17121">
-        <source>Your key does not open the hidden text</source>
-        <translation>Ihr Schlüssel öffnet den verborgenen Text nicht</translation>
+        <source>Your user identity does not open the hidden text</source>
+        <translation>Ihre Benutzerkennung öffnet den verborgenen Text nicht</translation>
     </message>
     <message id="17122">
         <source>Wait_For “%s” gives up at once: its timeout is 0 seconds</source>
-        <translation>Wait_For „%s“ gibt sofort auf: Die Wartezeit ist 0 Sekunden</translation>
+        <translation>Wait_For „%s“ gibt sofort auf: Das Zeitlimit ist 0 Sekunden</translation>
     </message>
     <message id="17123">
         <source>Wait_For “%s” has no timeout</source>
-        <translation>Wait_For „%s“ hat keine Wartezeit</translation>
+        <translation>Wait_For „%s“ hat kein Zeitlimit</translation>
     </message>
     <message id="17124">
         <source>No Clear_Watch ends this Watch_For</source>
         <translation>Kein Clear_Watch beendet dieses Watch_For</translation>
     </message>
     <message id="17125">
-        <source>You have no key of your own: hidden texts are only obscured</source>
-        <translation>Sie haben keinen eigenen Schlüssel: Verborgene Texte sind nur verschleiert</translation>
+        <source>You have no user identity: hidden texts are only obscured</source>
+        <translation>Sie haben keine Benutzerkennung: Verborgene Texte sind nur verschleiert</translation>
     </message>
 </context>
 </TS>

@@ -207,8 +207,9 @@ TEST_F(CheckCommand, TellsNotesAndForeignTextsInWords) {
                   script + ":2: warning: Label NoHost: no Goto leads here [label-unused]\n" +
                   script + ":3: note: Wait_For “R\\x01” has no timeout [wait-forever]\n" + script +
                   ":4: note: No Clear_Watch ends this Watch_For [watch-kept]\n" + script +
-                  ":5: warning: Your key does not open the hidden text [sealed-text]\n" + script +
-                  ":5: note: You have no key of your own: hidden texts are only obscured "
+                  ":5: warning: Your user identity does not open the hidden text [sealed-text]\n" +
+                  script +
+                  ":5: note: You have no user identity: hidden texts are only obscured "
                   "[hidden-without-key]\n");
     EXPECT_EQ(run.err, "qds: 1 script: 1 error, 2 warnings, 3 notes\n");
     EXPECT_EQ(run.status, 1);
