@@ -42,7 +42,7 @@ Announcement unknown(const std::string& kind, const std::string& word,
 // The parser and what it fills. The lists of files are read from their options as they were typed,
 // since the parser's conversion drops a file called "{}".
 struct Parser {
-    CLI::App app{"Show, convert and build terminal automation scripts.", "qds"};
+    CLI::App app{"Show, check, change and build terminal automation scripts.", "qds"};
     CLI::App* show = nullptr;
     CLI::App* convert = nullptr;
     CLI::App* build = nullptr;
