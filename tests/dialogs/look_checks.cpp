@@ -65,7 +65,8 @@ void expectWholeTexts(const QWidget& dialog, const std::string& eliding) {
         EXPECT_TRUE(name == "note" || !textOfWidget(*part).empty()) << name;
         if (!name.empty() && eliding.find(name) != std::string::npos) continue;
         const bool wraps = part->hasHeightForWidth();
-        const QSize whole = wraps ? QSize(0, part->heightForWidth(part->width())) : part->sizeHint();
+        const QSize whole =
+            wraps ? QSize(0, part->heightForWidth(part->width())) : part->sizeHint();
         EXPECT_GE(part->width(), whole.width()) << name << " is cut off";
         EXPECT_GE(part->height(), whole.height()) << name << " is cut off";
     }
