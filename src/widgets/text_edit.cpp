@@ -251,19 +251,19 @@ void TextEdit::reportRejection() {
 }
 
 void TextEdit::keyPressEvent(QKeyEvent* event) {
-    const bool loses = event->matches(QKeySequence::Undo) || event->matches(QKeySequence::Cut);
-    if (event->matches(QKeySequence::Paste) && insertPasted(QGuiApplication::clipboard()->text())) {
-        // Done.
-    } else if (masked_ && loses) {
-        // The line edit's own undo would empty the field, and what a cut takes out of it would be
-        // nowhere, for no clipboard gets a secret.
-    } else if (masked_ && insertsText(*event)) {
-        insertMasked(event->text());
+    // The line edit's own undo would empty the field, and what a cut takes out of it would be
+    // nowhere, for no clipboard gets a secret.
+    const bool loses =
+        masked_ && (event->matches(QKeySequence::Undo) || event->matches(QKeySequence::Cut));
+    const bool pasted =
+        event->matches(QKeySequence::Paste) && insertPasted(QGuiApplication::clipboard()->text());
+    const bool typed = masked_ && !loses && !pasted && insertsText(*event);
+    if (typed) insertMasked(event->text());
+    if (loses || pasted || typed) {
+        event->accept();
     } else {
         QLineEdit::keyPressEvent(event);
-        return;
     }
-    event->accept();
 }
 
 void TextEdit::inputMethodEvent(QInputMethodEvent* event) {

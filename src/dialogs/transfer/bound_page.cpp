@@ -162,8 +162,8 @@ QWidget* BoundPage::makeTextEdit(const TransferControl& row) {
     return edit;
 }
 
-// The line edit is finished too when the focus only goes with the window, and the note that a
-// chosen file cannot be taken has to be there when it comes back.
+// The line edit is finished too when the focus only goes with the window, and what was said is
+// still true when it comes back.
 void BoundPage::endNote(const QLineEdit& edit) {
     if (window()->focusWidget() != &edit) Q_EMIT noted({});
 }
