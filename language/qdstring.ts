@@ -3411,7 +3411,7 @@ Save, and lose what the file cannot store?</translation>
     </message>
     <message id="15393">
         <source>Actions need a timeout: first select “Timeout in Seconds”.</source>
-        <extracomment>Wait_For dialog: tooltip of the action buttons while they are off</extracomment>
+        <extracomment>Wait_For dialog: note in the timeout group, and tooltip of the action buttons, while they are off</extracomment>
         <translation>Actions need a timeout: first select “Timeout in Seconds”.</translation>
         <extra-name>actionsNeedTimeout</extra-name>
     </message>
@@ -3499,6 +3499,66 @@ Save, and lose what the file cannot store?</translation>
         <translation>&amp;Time</translation>
         <extra-name>waitUntilTime</extra-name>
     </message>
+    <message id="16030">
+        <source>Only the first line was taken.</source>
+        <extracomment>Note under a field of one line: several lines were pasted or dropped</extracomment>
+        <translation>Only the first line was taken.</translation>
+        <extra-name>firstLineTaken</extra-name>
+    </message>
+    <message id="16031">
+        <source>No &amp;Action</source>
+        <extracomment>Action dialog: button that takes the action back</extracomment>
+        <translation>No &amp;Action</translation>
+        <extra-name>noActionButton</extra-name>
+    </message>
+    <message id="16032">
+        <source>combining mark</source>
+        <extracomment>Name of a mark that stands over or under a letter, in the note that it cannot be stored</extracomment>
+        <translation>combining mark</translation>
+        <extra-name>combiningMark</extra-name>
+    </message>
+    <message id="16033">
+        <source>space</source>
+        <extracomment>Name of a character that cannot be seen, in the note that it cannot be stored: a space other than the usual one</extracomment>
+        <translation>space</translation>
+        <extra-name>spaceCharacter</extra-name>
+    </message>
+    <message id="16034">
+        <source>invisible character</source>
+        <extracomment>Name of a character that cannot be seen, in the note that it cannot be stored: any other</extracomment>
+        <translation>invisible character</translation>
+        <extra-name>unseenCharacter</extra-name>
+    </message>
+    <message id="16035">
+        <source>thin space</source>
+        <extracomment>Name of a character that cannot be seen, in the note that it cannot be stored</extracomment>
+        <translation>thin space</translation>
+        <extra-name>thinSpace</extra-name>
+    </message>
+    <message id="16036">
+        <source>zero width space</source>
+        <extracomment>Name of a character that cannot be seen, in the note that it cannot be stored</extracomment>
+        <translation>zero width space</translation>
+        <extra-name>zeroWidthSpace</extra-name>
+    </message>
+    <message id="16037">
+        <source>zero width non-joiner</source>
+        <extracomment>Name of a character that cannot be seen, in the note that it cannot be stored</extracomment>
+        <translation>zero width non-joiner</translation>
+        <extra-name>zeroWidthNonJoiner</extra-name>
+    </message>
+    <message id="16038">
+        <source>zero width joiner</source>
+        <extracomment>Name of a character that cannot be seen, in the note that it cannot be stored</extracomment>
+        <translation>zero width joiner</translation>
+        <extra-name>zeroWidthJoiner</extra-name>
+    </message>
+    <message id="16039">
+        <source>left-to-right mark</source>
+        <extracomment>Name of a character that cannot be seen, in the note that it cannot be stored</extracomment>
+        <translation>left-to-right mark</translation>
+        <extra-name>leftToRightMark</extra-name>
+    </message>
     <message id="16040">
         <source>“%s” is not there yet: saving makes it</source>
         <extracomment>Status bar after a start with the name of a script that does not exist; %s is the file name</extracomment>
@@ -3520,6 +3580,36 @@ Replace it? The old file is kept as a backup beside it.</translation>
         <extracomment>Step that Undo and Redo name: the script has become what a VT file can store of it</extracomment>
         <translation>Save as VT</translation>
         <extra-name>saveAsVtStep</extra-name>
+    </message>
+    <message id="16043">
+        <source>variation selector</source>
+        <extracomment>Name of a character that cannot be seen, in the note that it cannot be stored</extracomment>
+        <translation>variation selector</translation>
+        <extra-name>variationSelector</extra-name>
+    </message>
+    <message id="16044">
+        <source>byte order mark</source>
+        <extracomment>Name of a character that cannot be seen, in the note that it cannot be stored</extracomment>
+        <translation>byte order mark</translation>
+        <extra-name>byteOrderMark</extra-name>
+    </message>
+    <message id="16100">
+        <source>word joiner</source>
+        <extracomment>Name of a character that cannot be seen, in the note that it cannot be stored</extracomment>
+        <translation>word joiner</translation>
+        <extra-name>wordJoiner</extra-name>
+    </message>
+    <message id="16101">
+        <source>right-to-left mark</source>
+        <extracomment>Name of a character that cannot be seen, in the note that it cannot be stored</extracomment>
+        <translation>right-to-left mark</translation>
+        <extra-name>rightToLeftMark</extra-name>
+    </message>
+    <message id="16102">
+        <source>narrow no-break space</source>
+        <extracomment>Name of a character that cannot be seen, in the note that it cannot be stored</extracomment>
+        <translation>narrow no-break space</translation>
+        <extra-name>narrowNoBreakSpace</extra-name>
     </message>
     <message id="17100">
         <source>Goto %s: no such label</source>

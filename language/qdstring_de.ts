@@ -2845,7 +2845,7 @@ Speichern und verlieren, was die Datei nicht aufnehmen kann?</translation>
     </message>
     <message id="15393">
         <source>Actions need a timeout: first select “Timeout in Seconds”.</source>
-        <extracomment>Wait_For dialog: tooltip of the action buttons while they are off</extracomment>
+        <extracomment>Wait_For dialog: note in the timeout group, and tooltip of the action buttons, while they are off</extracomment>
         <translation>Aktionen brauchen ein Zeitlimit: Wählen Sie zuerst „Zeitlimit in Sekunden“ aus.</translation>
     </message>
     <message id="15394">
@@ -2918,6 +2918,56 @@ Speichern und verlieren, was die Datei nicht aufnehmen kann?</translation>
         <extracomment>Wait_Until dialog: check box before the time of day</extracomment>
         <translation>&amp;Uhrzeit</translation>
     </message>
+    <message id="16030">
+        <source>Only the first line was taken.</source>
+        <extracomment>Note under a field of one line: several lines were pasted or dropped</extracomment>
+        <translation>Nur die erste Zeile wurde übernommen.</translation>
+    </message>
+    <message id="16031">
+        <source>No &amp;Action</source>
+        <extracomment>Action dialog: button that takes the action back</extracomment>
+        <translation>Keine &amp;Aktion</translation>
+    </message>
+    <message id="16032">
+        <source>combining mark</source>
+        <extracomment>Name of a mark that stands over or under a letter, in the note that it cannot be stored</extracomment>
+        <translation>kombinierendes Zeichen</translation>
+    </message>
+    <message id="16033">
+        <source>space</source>
+        <extracomment>Name of a character that cannot be seen, in the note that it cannot be stored: a space other than the usual one</extracomment>
+        <translation>Leerraum</translation>
+    </message>
+    <message id="16034">
+        <source>invisible character</source>
+        <extracomment>Name of a character that cannot be seen, in the note that it cannot be stored: any other</extracomment>
+        <translation>unsichtbares Zeichen</translation>
+    </message>
+    <message id="16035">
+        <source>thin space</source>
+        <extracomment>Name of a character that cannot be seen, in the note that it cannot be stored</extracomment>
+        <translation>schmaler Leerraum</translation>
+    </message>
+    <message id="16036">
+        <source>zero width space</source>
+        <extracomment>Name of a character that cannot be seen, in the note that it cannot be stored</extracomment>
+        <translation>Leerzeichen ohne Breite</translation>
+    </message>
+    <message id="16037">
+        <source>zero width non-joiner</source>
+        <extracomment>Name of a character that cannot be seen, in the note that it cannot be stored</extracomment>
+        <translation>Bindehemmer</translation>
+    </message>
+    <message id="16038">
+        <source>zero width joiner</source>
+        <extracomment>Name of a character that cannot be seen, in the note that it cannot be stored</extracomment>
+        <translation>Breitenloser Verbinder</translation>
+    </message>
+    <message id="16039">
+        <source>left-to-right mark</source>
+        <extracomment>Name of a character that cannot be seen, in the note that it cannot be stored</extracomment>
+        <translation>Links-nach-rechts-Zeichen</translation>
+    </message>
     <message id="16040">
         <source>“%s” is not there yet: saving makes it</source>
         <extracomment>Status bar after a start with the name of a script that does not exist; %s is the file name</extracomment>
@@ -2936,6 +2986,31 @@ Ersetzen? Die alte Datei bleibt als Sicherungskopie daneben erhalten.</translati
         <source>Save as VT</source>
         <extracomment>Step that Undo and Redo name: the script has become what a VT file can store of it</extracomment>
         <translation>Als VT speichern</translation>
+    </message>
+    <message id="16043">
+        <source>variation selector</source>
+        <extracomment>Name of a character that cannot be seen, in the note that it cannot be stored</extracomment>
+        <translation>Variantenselektor</translation>
+    </message>
+    <message id="16044">
+        <source>byte order mark</source>
+        <extracomment>Name of a character that cannot be seen, in the note that it cannot be stored</extracomment>
+        <translation>Bytereihenfolge-Markierung</translation>
+    </message>
+    <message id="16100">
+        <source>word joiner</source>
+        <extracomment>Name of a character that cannot be seen, in the note that it cannot be stored</extracomment>
+        <translation>Wortverbinder</translation>
+    </message>
+    <message id="16101">
+        <source>right-to-left mark</source>
+        <extracomment>Name of a character that cannot be seen, in the note that it cannot be stored</extracomment>
+        <translation>Rechts-nach-links-Zeichen</translation>
+    </message>
+    <message id="16102">
+        <source>narrow no-break space</source>
+        <extracomment>Name of a character that cannot be seen, in the note that it cannot be stored</extracomment>
+        <translation>schmales geschütztes Leerzeichen</translation>
     </message>
     <message id="17100">
         <source>Goto %s: no such label</source>

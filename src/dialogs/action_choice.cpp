@@ -1,6 +1,7 @@
 #include "dialogs/action_choice.h"
 
 #include "model/menu_commands.h"
+#include "transfer/command_builder.h"
 
 namespace quendra {
 
@@ -30,6 +31,11 @@ void openTransfer(const DialogContext& context, const EditTarget& target,
 }
 
 }  // namespace
+
+void loadTransfer(ApplicationState& state, const Step& action) {
+    if (action.code != CommandCode::MenuCommand || !isFileTransfer(action.commandId)) return;
+    state.workingTransfer = transferInputs(action);
+}
 
 ActionPlace placeOf(const EditTarget& target) {
     if (target.entry.code == CommandCode::WatchFor) {

@@ -7,6 +7,10 @@
 
 namespace quendra {
 
+/// The working settings become those of an action that is a file transfer and is being shown: as
+/// with the lines of the script, a new transfer starts from the one that was shown last.
+void loadTransfer(ApplicationState& state, const Step& action);
+
 /// Which action of which command the target is.
 [[nodiscard]] ActionPlace placeOf(const EditTarget& target);
 

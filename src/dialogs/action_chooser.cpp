@@ -4,7 +4,7 @@
 #include "text/text_ids.h"
 
 #include <QLabel>
-#include <QScreen>
+#include <QShortcut>
 #include <QVBoxLayout>
 
 namespace quendra {
@@ -12,8 +12,7 @@ namespace quendra {
 ActionChooser::ActionChooser(const DialogContext& context, const EditTarget& target,
                              const EditTarget& action, const char* name, const char* helpPage)
     : ParameterDialog(context, target, name, helpPage), action_(action) {
-    layout()->setSizeConstraint(QLayout::SetDefaultConstraint);
-    setSizeGripEnabled(true);
+    makeResizable();
 }
 
 void ActionChooser::addLists() {
@@ -22,11 +21,16 @@ void ActionChooser::addLists() {
     body().addWidget(lists_, 1);
     connect(lists_, &ActionLists::doubleClicked, this,
             [this](const PaletteChoice& choice) { openChoice(overThis(), action_, choice); });
+    auto* open = new QShortcut(Qt::Key_F2, this);
+    connect(open, &QShortcut::activated, this,
+            [this] { openChoice(overThis(), action_, lists_->choice()); });
 }
 
 void ActionChooser::load() {
-    // Left to itself, a window takes no more than two thirds of the screen.
-    resize(sizeHint().boundedTo(screen()->availableSize() * 9 / 10));
+    // OK on a transfer that lacks a file goes on from what this one has already.
+    if (actionFields().transferSettings != FileTransferSettings{}) {
+        loadTransfer(context().state, actionFields());
+    }
     ApplicationState& state = context().state;
     lists_->select(choiceOf(actionFields(), state.luCatalogues.of(state.currentHostType)));
 }

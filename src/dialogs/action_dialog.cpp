@@ -4,6 +4,8 @@
 #include "text/text_ids.h"
 #include "widgets/ui_text.h"
 
+#include <QPushButton>
+
 namespace quendra {
 
 namespace {
@@ -16,7 +18,10 @@ class ActionDialog : public ActionChooser {
         setWindowTitle(qtText(actionCaption(place)));
         setPicture(bitmapIdOf(place.owner, 0));
         addLists();
-        addButtons(text(textid::okButton));
+        auto* none = new QPushButton(text(textid::noActionButton));
+        none->setObjectName(QStringLiteral("noAction"));
+        connect(none, &QPushButton::clicked, this, &ActionDialog::takeBack);
+        addButtons(text(textid::okButton), none);
     }
 
     void store() override {}
@@ -25,6 +30,13 @@ class ActionDialog : public ActionChooser {
     void showEvent(QShowEvent* event) override {
         ActionChooser::showEvent(event);
         lists().focusActiveList();
+    }
+
+  private:
+    void takeBack() {
+        takeBackAction(target().entry, target().slot);
+        // Nothing needs to be chosen for that.
+        QDialog::accept();  // NOLINT(bugprone-parent-virtual-call)
     }
 };
 

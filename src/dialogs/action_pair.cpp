@@ -1,5 +1,6 @@
 #include "dialogs/action_pair.h"
 
+#include "dialogs/action_choice.h"
 #include "text/text_encoding.h"
 #include "text/text_ids.h"
 #include "widgets/tool_tip.h"
@@ -57,12 +58,6 @@ class ActionLine : public QLabel {
     }
 };
 
-// As with the lines of the script, a new transfer starts from the one that was shown last.
-void loadTransfer(ApplicationState& state, const Step& action) {
-    if (action.code != CommandCode::MenuCommand || !isFileTransfer(action.commandId)) return;
-    state.workingTransfer = transferInputs(action);
-}
-
 }  // namespace
 
 ActionPair::ActionPair(ApplicationState& state, ScriptEntry& entry, ActionOwner owner,
@@ -79,8 +74,9 @@ ActionPair::ActionPair(ApplicationState& state, ScriptEntry& entry, ActionOwner 
 
 ActionPair::Row ActionPair::addRow(int number, const char* name, const ActionTexts& texts,
                                    Slot slot) {
+    const QString prefix = qtText(libraryText(state_.language, texts.line));
     const Row row = {new QPushButton(qtText(libraryText(state_.language, texts.button))),
-                     new ActionLine(qtText(libraryText(state_.language, texts.line)))};
+                     new ActionLine(prefix), prefix};
     row.button->setObjectName(QLatin1String(name) + QStringLiteral("Button"));
     row.line->setObjectName(QLatin1String(name) + QStringLiteral("Line"));
     connect(row.button, &QPushButton::clicked, this, [this, slot] { choose(slot); });
@@ -99,7 +95,8 @@ void ActionPair::refresh() {
     const bool compares = owner_ == ActionOwner::IfInputIs;
     const ActionSummaries lines = actionSummaries(entry_, compares, state_.displayNames());
     then_.line->setText(qtText(escapeControlCharacters(lines.thenLine)));
-    if (lines.elseLine) else_.line->setText(qtText(escapeControlCharacters(*lines.elseLine)));
+    else_.line->setText(lines.elseLine ? qtText(escapeControlCharacters(*lines.elseLine))
+                                       : else_.prefix);
     for (const Slot slot : {Slot::Then, Slot::Else})
         loadTransfer(state_, slotFields(entry_, slot));
 }
@@ -109,6 +106,7 @@ void ActionPair::setActionsEnabled(bool enabled) {
     for (const Row& row : {then_, else_}) {
         row.button->setEnabled(enabled);
         row.button->setToolTip(enabled ? QString() : reason);
+        row.button->setAccessibleDescription(row.button->toolTip());
         row.line->setEnabled(enabled);
     }
 }

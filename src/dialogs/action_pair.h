@@ -30,13 +30,15 @@ class ActionPair : public QGroupBox {
     /// Shows what the entry's actions are now.
     void refresh();
     /// The buttons and lines, not the group: its title stays as it is. Buttons that are off say in
-    /// their tool tips that actions need a timeout.
+    /// their tool tips, and to screen readers, that actions need a timeout.
     void setActionsEnabled(bool enabled);
 
   private:
     struct Row {
         QPushButton* button = nullptr;
         QLabel* line = nullptr;
+        /// What the line shows while there is no action.
+        QString prefix;
     };
     Row addRow(int number, const char* name, const ActionTexts& texts, Slot slot);
     void choose(Slot slot);

@@ -94,6 +94,11 @@ void applyChoice(ScriptEntry& entry, Slot slot, const PaletteChoice& choice,
     }
 }
 
+void takeBackAction(ScriptEntry& entry, Slot slot) {
+    const ScriptEntry fresh = newCommand(entry.code);
+    slotFields(entry, slot) = slotFields(fresh, slot);
+}
+
 bool lacksParameters(const Step& action) {
     switch (action.code) {
         case CommandCode::None:

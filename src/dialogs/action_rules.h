@@ -43,6 +43,9 @@ enum class ActionRefusal : std::uint8_t { NothingSelected, CarriesActions, NotIn
 void applyChoice(ScriptEntry& entry, Slot slot, const PaletteChoice& choice,
                  const LuCatalogue& luFunctions);
 
+/// Makes an action none again, as that of a new entry, with all that it had.
+void takeBackAction(ScriptEntry& entry, Slot slot);
+
 /// True when the action is of a command whose parameters it does not have yet, so that accepting it
 /// has to ask for them first. What is kept of an action that cannot be read counts as its
 /// parameters.

@@ -2,11 +2,13 @@
 
 #include "text/text_ids.h"
 #include "widgets/input_note.h"
+#include "widgets/scrolling_content.h"
 #include "widgets/symbol_icon.h"
 #include "widgets/ui_text.h"
 
 #include <QApplication>
 #include <QDialogButtonBox>
+#include <QFocusEvent>
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -70,18 +72,19 @@ ParameterDialog::ParameterDialog(const DialogContext& context, const EditTarget&
     body_->setSpacing(6);
     body_->addStrut(std::max(fontMetrics().averageCharWidth() * bodyCharacters, widestNote()));
 
-    auto* top = new QHBoxLayout;
+    auto* content = new QWidget;
+    auto* top = new QHBoxLayout(content);
+    top->setContentsMargins({});
     top->setSpacing(16);
     top->addWidget(picture_, 0, Qt::AlignTop);
     top->addLayout(body_, 1);
     auto* all = new QVBoxLayout(this);
     all->setContentsMargins(16, 16, 16, 12);
     all->setSpacing(8);
-    all->addLayout(top);
-    all->setSizeConstraint(QLayout::SetFixedSize);
+    all->addWidget(new ScrollingContent(content), 1);
 }
 
-// A note that comes up must not make the dialog wider.
+// The notes that come up most often take one line.
 int ParameterDialog::widestNote() const {
     int widest = 0;
     for (const InputFault& fault :
@@ -122,10 +125,10 @@ void ParameterDialog::setPicture(int bitmapId) {
     static_cast<CommandPicture*>(picture_)->setBitmap(bitmapId);
 }
 
-void ParameterDialog::addButtons(const QString& okText) {
+void ParameterDialog::addButtons(const QString& okText, QPushButton* other) {
     auto& all = static_cast<QVBoxLayout&>(*layout());
     if (hasTypedFields()) addNoteLine(all);
-    all.addWidget(makeButtons(okText));
+    all.addWidget(makeButtons(okText, other));
     finish();
 }
 
@@ -207,7 +210,12 @@ void ParameterDialog::showFault(const QWidget* field, const InputFault& fault) {
 }
 
 bool ParameterDialog::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() == QEvent::FocusIn) showNote(rangeText(qobject_cast<QWidget*>(watched)));
+    // When the focus only comes back with the window, what was said before is still true: that a
+    // chosen file cannot be taken, for instance.
+    const bool focused =
+        event->type() == QEvent::FocusIn &&
+        static_cast<const QFocusEvent*>(event)->reason() != Qt::ActiveWindowFocusReason;
+    if (focused) showNote(rangeText(qobject_cast<QWidget*>(watched)));
     return DialogFrame::eventFilter(watched, event);
 }
 
@@ -248,14 +256,25 @@ Refusal ParameterDialog::required(QWidget* field, const QString& caption) const 
     return refusal(field, text(textid::valueRequired), caption);
 }
 
-Refusal ParameterDialog::outOfRange(const SpinEdit* field, const QString& label,
+Refusal ParameterDialog::outOfRange(QWidget* field, const NumberRange& range, const QString& label,
                                     const QString& caption) const {
-    const NumberRange& range = field->range();
     const std::string text =
         libraryText(language(), textid::numberOutOfRange,
                     {plainLabel(label).toStdString(), std::to_string(range.smallest),
                      std::to_string(range.largest)});
-    return refusal(const_cast<SpinEdit*>(field), qtText(text), caption);
+    return refusal(field, qtText(text), caption);
+}
+
+Refusal ParameterDialog::outOfRange(SpinEdit* field, const QString& label,
+                                    const QString& caption) const {
+    return outOfRange(field, field->range(), label, caption);
+}
+
+std::optional<Refusal> ParameterDialog::numberRefusal(NumberEdit* field, const QString& label,
+                                                      const QString& caption) const {
+    if (field->number()) return std::nullopt;
+    if (field->text().isEmpty()) return required(field, caption);
+    return outOfRange(field, field->range(), label, caption);
 }
 
 void ParameterDialog::storeText(const TextEdit& field) const {

@@ -20,6 +20,7 @@
 class QBoxLayout;
 class QGridLayout;
 class QLabel;
+class QPushButton;
 class QVBoxLayout;
 
 namespace quendra {
@@ -85,12 +86,16 @@ class ParameterDialog : public DialogFrame {
 
     /// Shows the command's icon in the corner; by default that of the slot's command.
     void setPicture(int bitmapId);
-    void addButtons(const QString& okText = QStringLiteral("OK"));
+    /// OK and Cancel, and another one apart from them.
+    void addButtons(const QString& okText = QStringLiteral("OK"), QPushButton* other = nullptr);
 
     /// The refusals that several dialogs have. `label` names the field as its label does.
     [[nodiscard]] Refusal required(QWidget* field, const QString& caption) const;
-    [[nodiscard]] Refusal outOfRange(const SpinEdit* field, const QString& label,
+    [[nodiscard]] Refusal outOfRange(SpinEdit* field, const QString& label,
                                      const QString& caption) const;
+    /// That of a number that is missing or out of range; none for one that can be stored.
+    [[nodiscard]] std::optional<Refusal> numberRefusal(NumberEdit* field, const QString& label,
+                                                       const QString& caption) const;
     /// A refusal in the caller's own words.
     [[nodiscard]] static Refusal refusal(QWidget* field, const QString& text,
                                          const QString& caption);
@@ -109,6 +114,8 @@ class ParameterDialog : public DialogFrame {
     void showFault(const QWidget* field, const InputFault& fault);
     void showRange();
     [[nodiscard]] QString rangeText(const QWidget* field) const;
+    [[nodiscard]] Refusal outOfRange(QWidget* field, const NumberRange& range, const QString& label,
+                                     const QString& caption) const;
     [[nodiscard]] int widestNote() const;
     void focusFirst() override;
 

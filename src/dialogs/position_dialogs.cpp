@@ -1,5 +1,6 @@
 // Set_Cursor, Copy and Paste: positions on the host's screen.
 #include "dialogs/command_dialogs.h"
+#include "model/entry_fields.h"
 #include "text/text_ids.h"
 
 #include <QCheckBox>
@@ -13,8 +14,6 @@ namespace quendra {
 
 namespace {
 
-constexpr std::uint32_t largestPosition = 255;
-
 std::uint8_t byteOf(const NumberEdit& field) {
     return static_cast<std::uint8_t>(field.number().value_or(0));
 }
@@ -26,8 +25,8 @@ class SetCursorDialog : public ParameterDialog {
         setWindowTitle(QStringLiteral("Set_Cursor"));
         body().addWidget(makeLabel("heading", text(textid::setCursorHeading)));
         QGridLayout& grid = *addGrid();
-        row_ = named(new NumberEdit(largestPosition), "row");
-        column_ = named(new NumberEdit(largestPosition), "column");
+        row_ = named(new NumberEdit(positionRange), "row");
+        column_ = named(new NumberEdit(positionRange), "column");
         grid.addWidget(makeLabel("rowLabel", text(textid::setCursorRow), row_), 0, 0);
         grid.addWidget(row_, 0, 1);
         grid.addWidget(makeLabel("columnLabel", text(textid::setCursorColumn), column_), 0, 2);
@@ -41,10 +40,9 @@ class SetCursorDialog : public ParameterDialog {
     }
 
     [[nodiscard]] std::optional<Refusal> check() const override {
-        for (NumberEdit* field : {row_, column_}) {
-            if (!field->number()) return required(field, windowTitle());
-        }
-        return std::nullopt;
+        if (auto found = numberRefusal(row_, text(textid::setCursorRow), windowTitle()))
+            return found;
+        return numberRefusal(column_, text(textid::setCursorColumn), windowTitle());
     }
 
     void store() override {
@@ -63,11 +61,12 @@ class AreaDialog : public ParameterDialog {
     using ParameterDialog::ParameterDialog;
 
     [[nodiscard]] std::optional<Refusal> check() const override {
-        for (NumberEdit* field : positions_) {
-            if (field->number()) continue;
+        for (const auto& [field, label] : positions_) {
+            auto found = numberRefusal(field, label->text(), windowTitle());
+            if (!found) continue;
             // What is disabled cannot have the focus: the check box enables it.
-            QWidget* focus = field->isEnabled() ? static_cast<QWidget*>(field) : instead_;
-            return required(focus, windowTitle());
+            if (!field->isEnabled()) found->field = instead_;
+            return found;
         }
         return std::nullopt;
     }
@@ -77,48 +76,50 @@ class AreaDialog : public ParameterDialog {
     void addPosition(QGridLayout& grid, const QString& label,
                      std::initializer_list<const char*> names) {
         const int line = grid.rowCount();
+        QLabel* beside = makeLabel(QByteArray(*names.begin()) + "Label", label);
+        grid.addWidget(beside, line, 0);
         int place = 1;
         for (const char* name : names) {
-            auto* field = named(new NumberEdit(largestPosition), name);
+            auto* field = named(new NumberEdit(positionRange), name);
+            if (place == 1) beside->setBuddy(field);
             field->setAccessibleName(
                 plainLabel(label) + QStringLiteral(": ") +
                 plainLabel(text(place == 1 ? textid::setCursorRow : textid::setCursorColumn)));
             grid.addWidget(field, line, place++);
-            positions_.push_back(field);
+            positions_.push_back({field, beside});
         }
-        NumberEdit* first = positions_[positions_.size() - names.size()];
-        const QByteArray labelName = QByteArray(*names.begin()) + "Label";
-        labels_.push_back(makeLabel(labelName, label, first));
-        grid.addWidget(labels_.back(), line, 0);
     }
 
     void addInstead(const QString& text, const char* name) {
         instead_ = named(new QCheckBox(text), name);
         connect(instead_, &QCheckBox::toggled, this, [this](bool checked) {
-            for (NumberEdit* field : positions_)
+            for (const auto& [field, label] : positions_) {
                 field->setEnabled(!checked);
-            for (QLabel* beside : labels_)
-                beside->setEnabled(!checked);
+                label->setEnabled(!checked);
+            }
         });
         body().addWidget(instead_);
     }
 
     [[nodiscard]] std::uint8_t position(std::size_t index) const {
-        return byteOf(*positions_[index]);
+        return byteOf(*positions_[index].field);
     }
 
     void show(const ScreenArea& area) {
         const std::uint8_t bytes[] = {area.startRow, area.startColumn, area.endRow, area.endColumn};
         for (std::size_t i = 0; i < positions_.size(); ++i)
-            positions_[i]->setNumber(bytes[i]);
+            positions_[i].field->setNumber(bytes[i]);
         instead_->setChecked(fields().number != 0);
     }
 
     void storeFlag() { fields().number = instead_->isChecked() ? 1 : 0; }
 
   private:
-    std::vector<NumberEdit*> positions_;
-    std::vector<QLabel*> labels_;
+    struct Position {
+        NumberEdit* field;
+        QLabel* label;
+    };
+    std::vector<Position> positions_;
     QCheckBox* instead_ = nullptr;
 };
 

@@ -1,12 +1,11 @@
 // Wait and Wait_Ready: one number.
 #include "dialogs/command_dialogs.h"
+#include "model/entry_fields.h"
 #include "text/text_ids.h"
 #include "widgets/ui_text.h"
 
 #include <QLabel>
 #include <QVBoxLayout>
-
-#include <limits>
 
 namespace quendra {
 
@@ -18,7 +17,7 @@ class WaitDialog : public ParameterDialog {
         : ParameterDialog(context, target, "waitDialog",
                           commandKeyword(slotFields(target.entry, target.slot).code)) {
         setWindowTitle(caption());
-        number_ = named(new NumberEdit(std::numeric_limits<std::uint32_t>::max()), "number");
+        number_ = named(new NumberEdit(waitRange), "number");
         body().addWidget(makeLabel("numberLabel", label(), number_));
         body().addWidget(number_, 0, Qt::AlignLeft);
         addButtons();
@@ -27,8 +26,7 @@ class WaitDialog : public ParameterDialog {
     void load() override { number_->setNumber(fields().number); }
 
     [[nodiscard]] std::optional<Refusal> check() const override {
-        if (!number_->number()) return required(number_, caption());
-        return std::nullopt;
+        return numberRefusal(number_, label(), caption());
     }
 
     void store() override { fields().number = number_->number().value_or(0); }

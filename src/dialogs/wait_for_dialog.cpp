@@ -22,8 +22,6 @@ namespace {
 constexpr ActionTexts foundTexts = {textid::foundButton, textid::foundLine};
 constexpr ActionTexts notFoundTexts = {textid::notFoundButton, textid::notFoundLine};
 
-constexpr NumberRange secondsRange = {0, 255};
-
 // A position from a foreign file that lies outside is offered too, so that OK does not change what
 // the user has not touched.
 NumberRange widened(NumberRange range, std::uint8_t stored) {
@@ -120,15 +118,27 @@ class WaitForDialog : public ParameterDialog {
         auto* grid = new QGridLayout(group);
         noTimeout_ = named(new QRadioButton(text(textid::waitForNoTimeout)), "noTimeout");
         timeout_ = named(new QRadioButton(text(textid::waitForTimeout)), "timeout");
-        seconds_ = named(new SpinEdit(secondsRange), "timeoutSeconds");
+        seconds_ = named(new SpinEdit(timeoutRange), "timeoutSeconds");
         seconds_->setAccessibleName(plainLabel(text(textid::waitForTimeout)));
         grid->addWidget(noTimeout_, 0, 0, 1, 3);
         grid->addWidget(timeout_, 1, 0);
         grid->addWidget(seconds_, 1, 1);
+        grid->addWidget(makeReason(), 2, 0, 1, 3, Qt::AlignTop);
         grid->setColumnStretch(2, 1);
         grid->setRowStretch(2, 1);
         connect(timeout_, &QRadioButton::toggled, this, &WaitForDialog::enableTimeout);
         return group;
+    }
+
+    // Why the actions are off. It comes and goes without moving anything, and makes the group no
+    // wider.
+    QLabel* makeReason() {
+        reason_ = makeLabel("actionsReason", text(textid::actionsNeedTimeout));
+        reason_->setWordWrap(true);
+        QSizePolicy policy(QSizePolicy::Ignored, QSizePolicy::Minimum);
+        policy.setRetainSizeWhenHidden(true);
+        reason_->setSizePolicy(policy);
+        return reason_;
     }
 
     void addActions() {
@@ -139,6 +149,7 @@ class WaitForDialog : public ParameterDialog {
 
     void enableTimeout() {
         seconds_->setEnabled(waits());
+        reason_->setVisible(!waits());
         actions_->setActionsEnabled(waits());
     }
 
@@ -150,6 +161,7 @@ class WaitForDialog : public ParameterDialog {
     QRadioButton* noTimeout_ = nullptr;
     QRadioButton* timeout_ = nullptr;
     SpinEdit* seconds_ = nullptr;
+    QLabel* reason_ = nullptr;
     /// None for the action of a Watch_For, like the timeout's fields.
     ActionPair* actions_ = nullptr;
 };

@@ -7,6 +7,7 @@
 #include <QGridLayout>
 #include <QLabel>
 #include <QLocale>
+#include <QRegularExpression>
 #include <QVBoxLayout>
 
 namespace quendra {
@@ -26,13 +27,19 @@ QString dateFormat() {
     return format;
 }
 
-// The user's short time, with seconds.
+// The user's long time, for it has seconds, without the zone, which is a "t" that no quotes stand
+// around.
 QString timeFormat() {
-    QString format = QLocale().timeFormat(QLocale::ShortFormat);
-    if (!format.contains(u's')) {
-        format.replace(QStringLiteral("mm"), QStringLiteral("mm:ss"));
+    const QString format = QLocale().timeFormat(QLocale::LongFormat);
+    static const QRegularExpression zone(QStringLiteral(R"(('[^']*')|\s*[\[(]?t+[\])]?\s*)"));
+    QString kept;
+    qsizetype end = 0;
+    for (auto matches = zone.globalMatch(format); matches.hasNext();) {
+        const auto match = matches.next();
+        kept += format.mid(end, match.capturedStart() - end) + match.captured(1);
+        end = match.capturedEnd();
     }
-    return format;
+    return (kept + format.mid(end)).trimmed();
 }
 
 bool isDateSet(const DateTime& value) {

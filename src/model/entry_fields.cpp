@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <array>
-#include <limits>
 
 namespace quendra {
 
@@ -52,14 +51,14 @@ constexpr std::array luFunction = {
     EntryField{"number", KeyPart, &StepFields::column, wholeByte},
 };
 constexpr std::array setCursor = {
-    EntryField{"row", Position, &StepFields::row, wholeByte},
-    EntryField{"column", Position, &StepFields::column, wholeByte},
+    EntryField{"row", Position, &StepFields::row, positionRange},
+    EntryField{"column", Position, &StepFields::column, positionRange},
 };
 constexpr std::array type = {textField(TypedText), flag("hidden", &StepFields::hidden)};
 constexpr std::array wait = {
-    EntryField{"number", Number, &StepFields::number, wholeWord, false, 3}};
+    EntryField{"number", Number, &StepFields::number, waitRange, false, 3}};
 constexpr std::array waitReady = {
-    EntryField{"number", Number, &StepFields::number, wholeWord, false, 1}};
+    EntryField{"number", Number, &StepFields::number, waitRange, false, 1}};
 constexpr std::array copy = {
     EntryField{"commandId", Area, &StepFields::area, wholeWord, false, packArea({1, 1, 24, 80})},
     flag("number", &StepFields::number),
@@ -102,7 +101,7 @@ constexpr std::array waitFor = {
     flag("exactPosition", &EntryOptions::exactPosition),
     flag("caseSensitive", &EntryOptions::caseSensitive, 1),
     flag("hasTimeout", &EntryOptions::hasTimeout),
-    EntryField{"timeoutSeconds", Number, &EntryOptions::timeoutSeconds, wholeByte},
+    EntryField{"timeoutSeconds", Number, &EntryOptions::timeoutSeconds, timeoutRange},
 };
 
 // Two words, and then what the kind of the menu command's parameters asks for.

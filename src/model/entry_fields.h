@@ -14,6 +14,7 @@
 #include "model/script_entry.h"
 
 #include <cstdint>
+#include <limits>
 #include <span>
 #include <string>
 #include <string_view>
@@ -82,7 +83,11 @@ struct EntryField {
 inline constexpr std::string_view waitUntilGroup = "waitUntil";
 inline constexpr std::string_view transferSettingsGroup = "transferSettings";
 
-/// The ranges of the dialogs that are not the whole byte.
+/// The ranges of the dialogs' numbers.
+inline constexpr NumberRange positionRange = {0, 255};
+/// The seconds of a Wait, and the restores of a Wait_Ready.
+inline constexpr NumberRange waitRange = {0, std::numeric_limits<std::uint32_t>::max()};
+inline constexpr NumberRange timeoutRange = {0, 255};
 inline constexpr NumberRange searchRowRange = {1, 62};
 inline constexpr NumberRange searchColumnRange = {1, 160};
 /// 0, apart from it, is a single character.

@@ -10,12 +10,14 @@
 
 class QDialogButtonBox;
 class QLabel;
+class QPushButton;
 
 namespace quendra {
 
 /// A dialog that is modal to its window. Return is OK, Escape is Cancel. A derived class builds its
-/// content in its constructor, places what makeNote() and makeButtons() give, and ends that with
-/// finish().
+/// content in its constructor, in a ScrollingContent, places what makeNote() and makeButtons() give
+/// below it, and ends that with finish(). The dialog is as large as its content, but never larger
+/// than the screen: there the content scrolls, and the buttons stay.
 class DialogFrame : public QDialog {
     Q_OBJECT
 
@@ -25,8 +27,15 @@ class DialogFrame : public QDialog {
     DialogFrame(LanguageLibrary& language, QWidget* window, const char* name,
                 std::string_view helpPage);
 
+    void setVisible(bool visible) override;
+
   protected:
+    bool event(QEvent* event) override;
     void showEvent(QShowEvent* event) override;
+    bool focusNextPrevChild(bool next) override;
+
+    /// Leaves the size to the user, once the dialog is shown.
+    void makeResizable();
 
     [[nodiscard]] LanguageLibrary& language() const { return language_; }
     /// A text of the language library.
@@ -34,7 +43,9 @@ class DialogFrame : public QDialog {
 
     /// The line of notes, which is the caller's to place, as are the buttons.
     QLabel* makeNote();
-    [[nodiscard]] QDialogButtonBox* makeButtons(const QString& okText = QStringLiteral("OK"));
+    /// OK and Cancel, and another one apart from them.
+    [[nodiscard]] QDialogButtonBox* makeButtons(const QString& okText = QStringLiteral("OK"),
+                                                QPushButton* other = nullptr);
     /// Makes OK the default button, and lets mnemonics act at once. All widgets are in the dialog.
     void finish();
 
@@ -45,8 +56,11 @@ class DialogFrame : public QDialog {
     virtual void focusFirst() = 0;
 
   private:
+    void fit();
+
     LanguageLibrary& language_;
     QLabel* note_ = nullptr;
+    bool resizable_ = false;
 };
 
 }  // namespace quendra

@@ -1,5 +1,6 @@
 #include "widgets/file_dialogs.h"
 
+#include "widgets/placement.h"
 #include "widgets/ui_text.h"
 
 #include <QFileDialog>
@@ -32,7 +33,7 @@ void fitColumns(const QFileDialog& dialog) {
 std::optional<std::filesystem::path> runDialog(QWidget* owner, const FileDialogRequest& request) {
     QFileDialog dialog(owner, qtText(request.title));
     dialog.setObjectName(QStringLiteral("fileDialog"));
-    dialog.resize(comfortableDialogSize);
+    dialog.resize(comfortableDialogSize.boundedTo(largestWindow(dialog)));
     const bool saving = request.mode == FileDialogMode::Save;
     dialog.setAcceptMode(saving ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
     dialog.setFileMode(saving ? QFileDialog::AnyFile : QFileDialog::ExistingFile);

@@ -16,7 +16,9 @@ struct InputFault {
         Length,
         /// The text would be too long to be enciphered.
         HiddenLength,
-        /// Not a number, or one outside the field's range.
+        /// Several lines; the first was taken.
+        FurtherLines,
+        /// Not a number, or one with too many digits.
         Number,
     };
     Kind kind = Kind::Character;
@@ -25,6 +27,10 @@ struct InputFault {
     /// The greatest length.
     std::size_t limit = 0;
 };
+
+/// The text as it can be stored: what is written as a letter and a mark is one character where
+/// there is one. A text that windows-1252 has is left as it is.
+[[nodiscard]] QString composedText(const QString& text);
 
 /// The first character that windows-1252 lacks; empty when there is none.
 [[nodiscard]] QString firstForeignCharacter(QStringView text);

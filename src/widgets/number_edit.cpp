@@ -11,38 +11,44 @@ namespace {
 // The value of an empty spin field.
 constexpr int noValue = -1;
 
-// Blanks around a pasted number are dropped. Leading zeros are allowed up to the width of the
-// largest number.
-bool fits(QString& input, int& cursor, std::uint32_t largest) {
+qsizetype digitsOf(const NumberRange& range) {
+    return QString::number(range.largest).size();
+}
+
+// Blanks around a pasted number are dropped.
+bool fits(QString& input, int& cursor, qsizetype digits) {
     const QString trimmed = input.trimmed();
     if (trimmed != input) {
         input = trimmed;
         cursor = static_cast<int>(input.size());
     }
-    if (input.isEmpty()) return true;
     const auto isDigit = [](QChar c) { return c >= u'0' && c <= u'9'; };
-    return std::all_of(input.begin(), input.end(), isDigit) &&
-           input.size() <= QString::number(largest).size() && input.toULongLong() <= largest;
+    return input.size() <= digits && std::all_of(input.begin(), input.end(), isDigit);
+}
+
+std::optional<std::uint32_t> numberWithin(const NumberRange& range, const QString& text) {
+    bool isNumber = false;
+    const qulonglong number = text.toULongLong(&isNumber);
+    if (!isNumber || number < range.smallest || number > range.largest) return std::nullopt;
+    return static_cast<std::uint32_t>(number);
 }
 
 class NumberValidator : public QValidator {
   public:
-    NumberValidator(std::uint32_t largest, QObject* parent)
-        : QValidator(parent), largest_(largest) {}
+    NumberValidator(qsizetype digits, QObject* parent) : QValidator(parent), digits_(digits) {}
 
     State validate(QString& input, int& cursor) const override {
-        return fits(input, cursor, largest_) ? Acceptable : Invalid;
+        return fits(input, cursor, digits_) ? Acceptable : Invalid;
     }
 
   private:
-    std::uint32_t largest_;
+    qsizetype digits_;
 };
 
 }  // namespace
 
-NumberEdit::NumberEdit(std::uint32_t largest, QWidget* parent)
-    : QLineEdit(parent), range_{0, largest} {
-    setValidator(new NumberValidator(largest, this));
+NumberEdit::NumberEdit(NumberRange range, QWidget* parent) : QLineEdit(parent), range_(range) {
+    setValidator(new NumberValidator(digitsOf(range), this));
     setInputMethodHints(Qt::ImhDigitsOnly);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     connect(this, &QLineEdit::inputRejected, this,
@@ -51,26 +57,23 @@ NumberEdit::NumberEdit(std::uint32_t largest, QWidget* parent)
 
 QSize NumberEdit::sizeHint() const {
     constexpr int digitsToSpare = 3;
-    const int digits = static_cast<int>(QString::number(range_.largest).size()) + digitsToSpare;
+    const int digits = static_cast<int>(digitsOf(range_)) + digitsToSpare;
     return {fontMetrics().horizontalAdvance(u'0') * digits, QLineEdit::sizeHint().height()};
 }
 
 std::optional<std::uint32_t> NumberEdit::number() const {
-    if (text().isEmpty()) return std::nullopt;
-    return text().toUInt();
+    return numberWithin(range_, text());
 }
 
 SpinEdit::SpinEdit(NumberRange range, QWidget* parent) : QSpinBox(parent), range_(range) {
-    setRange(noValue, static_cast<int>(range.largest));
+    setRange(noValue, QString(digitsOf(range), u'9').toInt());
     setValue(static_cast<int>(range.smallest));
     connect(lineEdit(), &QLineEdit::inputRejected, this,
             [this] { Q_EMIT refused({InputFault::Kind::Number}); });
 }
 
 std::optional<std::uint32_t> SpinEdit::number() const {
-    const int number = value();
-    if (number < static_cast<int>(range_.smallest)) return std::nullopt;
-    return static_cast<std::uint32_t>(number);
+    return numberWithin(range_, textFromValue(value()));
 }
 
 void SpinEdit::stepBy(int steps) {
@@ -88,7 +91,7 @@ int SpinEdit::valueFromText(const QString& text) const {
 }
 
 QValidator::State SpinEdit::validate(QString& input, int& cursor) const {
-    return fits(input, cursor, range_.largest) ? QValidator::Acceptable : QValidator::Invalid;
+    return fits(input, cursor, digitsOf(range_)) ? QValidator::Acceptable : QValidator::Invalid;
 }
 
 QAbstractSpinBox::StepEnabled SpinEdit::stepEnabled() const {

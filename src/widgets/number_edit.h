@@ -1,4 +1,6 @@
-// The fields of every parameter that is a number: they take only what fits.
+// The fields of every parameter that is a number. They take as many digits as the largest number of
+// their range has; a number beyond the range stays as it was typed, so that the dialog refuses it
+// where a field that drops a digit would make another number of it.
 #pragma once
 
 #include "model/number_range.h"
@@ -12,16 +14,15 @@
 
 namespace quendra {
 
-/// A plain edit for a number from 0 to a greatest value. It can be left empty, and what would not
-/// be such a number cannot be typed.
+/// A plain edit for a number.
 class NumberEdit : public QLineEdit {
     Q_OBJECT
 
   public:
-    explicit NumberEdit(std::uint32_t largest, QWidget* parent = nullptr);
+    explicit NumberEdit(NumberRange range, QWidget* parent = nullptr);
 
     void setNumber(std::uint32_t number) { setText(QString::number(number)); }
-    /// None when the field is empty.
+    /// None when the field is empty or its number is outside of the range.
     [[nodiscard]] std::optional<std::uint32_t> number() const;
     [[nodiscard]] const NumberRange& range() const { return range_; }
 
@@ -35,9 +36,7 @@ class NumberEdit : public QLineEdit {
     NumberRange range_;
 };
 
-/// An edit with a spin control for a number within a range that fits an int. What is above the
-/// range cannot be typed; what is below, or nothing at all, stays as it was typed, so that the
-/// dialog can refuse it where a plain spin box would silently take another number.
+/// An edit with a spin control, which stays within the range, for numbers that fit an int.
 class SpinEdit : public QSpinBox {
     Q_OBJECT
 
@@ -45,7 +44,7 @@ class SpinEdit : public QSpinBox {
     explicit SpinEdit(NumberRange range, QWidget* parent = nullptr);
 
     void setNumber(std::uint32_t number) { setValue(static_cast<int>(number)); }
-    /// None when the field is empty or its number is below the range.
+    /// None when the field is empty or its number is outside of the range.
     [[nodiscard]] std::optional<std::uint32_t> number() const;
     [[nodiscard]] const NumberRange& range() const { return range_; }
 

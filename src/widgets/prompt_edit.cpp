@@ -20,7 +20,8 @@ bool isBreak(QChar character) {
 }
 
 // The file's line ends from Qt's, of which there are three kinds.
-QString storedForm(QString text) {
+QString storedForm(const QString& given) {
+    QString text = composedText(given);
     text.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
     text.replace(u'\r', u'\n');
     QString stored;

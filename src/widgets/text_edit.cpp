@@ -5,10 +5,12 @@
 
 #include <QClipboard>
 #include <QContextMenuEvent>
+#include <QDropEvent>
 #include <QGuiApplication>
 #include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QMenu>
+#include <QMimeData>
 #include <QValidator>
 
 #include <algorithm>
@@ -28,6 +30,24 @@ bool isLineBreak(QChar character) {
 
 qsizetype firstLineBreak(QStringView text) {
     return std::find_if(text.begin(), text.end(), isLineBreak) - text.begin();
+}
+
+bool hasLineBreak(QStringView text) {
+    return firstLineBreak(text) < text.size();
+}
+
+// What a field of one line takes of a text: its first line that is not empty.
+struct FirstLine {
+    QString line;
+    bool hasFurther;
+};
+
+FirstLine firstLineOf(QStringView text) {
+    while (!text.isEmpty() && isLineBreak(text.front()))
+        text = text.mid(1);
+    while (!text.isEmpty() && isLineBreak(text.back()))
+        text.chop(1);
+    return {composedText(text.left(firstLineBreak(text)).toString()), hasLineBreak(text)};
 }
 
 QString fromBytes(std::string_view windows1252) {
@@ -64,6 +84,7 @@ class TextValidator : public QValidator {
 
     State validate(QString& input, int& cursor) const override {
         if (!breaksAllowed_) dropFurtherLines(input, cursor);
+        compose(input, cursor);
         rejected_ = firstForeignCharacter(input);
         return rejected_.isEmpty() ? Acceptable : Invalid;
     }
@@ -78,17 +99,16 @@ class TextValidator : public QValidator {
         cursor = first;
     }
 
+    static void compose(QString& input, int& cursor) {
+        const QString composed = composedText(input);
+        if (composed == input) return;
+        cursor = static_cast<int>(composedText(input.left(cursor)).size());
+        input = composed;
+    }
+
     bool breaksAllowed_ = false;
     mutable QString rejected_;
 };
-
-QString firstForeignCharacter(QStringView text) {
-    for (qsizetype i = 0; i < text.size(); ++i) {
-        if (windows1252FromCharacter(text[i].unicode())) continue;
-        return text.mid(i, text[i].isHighSurrogate() ? 2 : 1).toString();
-    }
-    return {};
-}
 
 TextEdit::TextEdit(QWidget* parent) : QLineEdit(parent), validator_(new TextValidator(this)) {
     setMaxLength(static_cast<int>(maxTextLength));
@@ -104,7 +124,7 @@ void TextEdit::setBytes(std::string_view windows1252) {
         return;
     }
     const QString text = fromBytes(windows1252);
-    validator_->setBreaksAllowed(firstLineBreak(text) < text.size());
+    validator_->setBreaksAllowed(hasLineBreak(text));
     setText(text);
 }
 
@@ -117,18 +137,48 @@ SecretText TextEdit::bytes() const {
 }
 
 bool TextEdit::takeText(const QString& text) {
-    const QString foreign = firstForeignCharacter(text);
+    const QString taken = composedText(text);
+    const qsizetype lineBreak = firstLineBreak(taken);
+    const QString foreign =
+        lineBreak < taken.size() ? QString(taken.at(lineBreak)) : firstForeignCharacter(taken);
     if (!foreign.isEmpty()) {
         Q_EMIT refused({InputFault::Kind::Character, foreign});
         return false;
     }
-    if (text.size() > maxLength()) {
+    if (taken.size() > maxLength()) {
         Q_EMIT refused({InputFault::Kind::Length, {}, lengthLimit()});
         return false;
     }
     selectAll();
-    insert(text);
+    insert(taken);
     return true;
+}
+
+// Left to the line edit, a text would be cut before it is composed, and where lines are left out
+// there would be nothing to undo any more.
+bool TextEdit::insertPasted(const QString& text) {
+    const FirstLine first = firstLineOf(text);
+    if (!masked_ && first.line == text) return false;
+    if (first.line.isEmpty()) return true;
+    if (!hasSelectedText()) beginUndoStep();
+    takeFirstLine(first.hasFurther,
+                  [&] { masked_ ? insertMasked(first.line) : insert(first.line); });
+    return true;
+}
+
+// Where the cursor has been elsewhere, a new step begins.
+void TextEdit::beginUndoStep() {
+    const int cursor = cursorPosition();
+    setCursorPosition(cursor == 0 ? 1 : 0);
+    setCursorPosition(cursor);
+}
+
+void TextEdit::takeFirstLine(bool hasFurther, const std::function<void()>& take) {
+    bool taken = true;
+    const auto watching = connect(this, &TextEdit::refused, this, [&taken] { taken = false; });
+    take();
+    disconnect(watching);
+    if (taken && hasFurther) Q_EMIT refused({InputFault::Kind::FurtherLines});
 }
 
 void TextEdit::setMasked(bool masked) {
@@ -149,8 +199,7 @@ void TextEdit::setMasked(bool masked) {
     setAcceptDrops(!masked);
 }
 
-void TextEdit::insertMasked(QStringView text) {
-    const QStringView line = text.left(firstLineBreak(text));
+void TextEdit::insertMasked(const QString& line) {
     const QString foreign = firstForeignCharacter(line);
     if (!foreign.isEmpty()) {
         Q_EMIT refused({InputFault::Kind::Character, foreign});
@@ -202,17 +251,19 @@ void TextEdit::reportRejection() {
 }
 
 void TextEdit::keyPressEvent(QKeyEvent* event) {
-    if (masked_ && event->matches(QKeySequence::Paste)) {
-        insertMasked(QGuiApplication::clipboard()->text());
-    } else if (masked_ && event->matches(QKeySequence::Undo)) {
-        // The line edit's own undo would empty the field.
-    } else if (masked_ && insertsText(*event)) {
-        insertMasked(event->text());
+    // The line edit's own undo would empty the field, and what a cut takes out of it would be
+    // nowhere, for no clipboard gets a secret.
+    const bool loses =
+        masked_ && (event->matches(QKeySequence::Undo) || event->matches(QKeySequence::Cut));
+    const bool pasted =
+        event->matches(QKeySequence::Paste) && insertPasted(QGuiApplication::clipboard()->text());
+    const bool typed = masked_ && !loses && !pasted && insertsText(*event);
+    if (typed) insertMasked(event->text());
+    if (loses || pasted || typed) {
+        event->accept();
     } else {
         QLineEdit::keyPressEvent(event);
-        return;
     }
-    event->accept();
 }
 
 void TextEdit::inputMethodEvent(QInputMethodEvent* event) {
@@ -220,32 +271,38 @@ void TextEdit::inputMethodEvent(QInputMethodEvent* event) {
         QLineEdit::inputMethodEvent(event);
         return;
     }
-    if (!event->commitString().isEmpty()) insertMasked(event->commitString());
+    if (!event->commitString().isEmpty()) insertMasked(composedText(event->commitString()));
     event->accept();
 }
 
 void TextEdit::mouseReleaseEvent(QMouseEvent* event) {
     const QClipboard& clipboard = *QGuiApplication::clipboard();
-    if (masked_ && event->button() == Qt::MiddleButton && clipboard.supportsSelection()) {
+    if (event->button() == Qt::MiddleButton && clipboard.supportsSelection()) {
         deselect();
-        insertMasked(clipboard.text(QClipboard::Selection));
-        return;
+        if (insertPasted(clipboard.text(QClipboard::Selection))) return;
     }
     QLineEdit::mouseReleaseEvent(event);
 }
 
 void TextEdit::contextMenuEvent(QContextMenuEvent* event) {
     const std::unique_ptr<QMenu> menu(createStandardContextMenu());
-    if (masked_) useForMaskedText(*menu);
+    useForThis(*menu);
     menu->exec(event->globalPos());
 }
 
-void TextEdit::useForMaskedText(QMenu& menu) {
+void TextEdit::dropEvent(QDropEvent* event) {
+    takeFirstLine(firstLineOf(event->mimeData()->text()).hasFurther,
+                  [&] { QLineEdit::dropEvent(event); });
+}
+
+void TextEdit::useForThis(QMenu& menu) {
     if (auto* paste = menu.findChild<QAction*>(QStringLiteral("edit-paste"))) {
         paste->disconnect();
-        connect(paste, &QAction::triggered, this,
-                [this] { insertMasked(QGuiApplication::clipboard()->text()); });
+        connect(paste, &QAction::triggered, this, [this] {
+            if (!insertPasted(QGuiApplication::clipboard()->text())) QLineEdit::paste();
+        });
     }
+    if (!masked_) return;
     if (auto* remove = menu.findChild<QAction*>(QStringLiteral("edit-delete"))) {
         remove->disconnect();
         connect(remove, &QAction::triggered, this, &TextEdit::removeMaskedSelection);

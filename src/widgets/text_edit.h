@@ -6,6 +6,7 @@
 
 #include <QLineEdit>
 
+#include <functional>
 #include <string_view>
 
 class QMenu;
@@ -16,7 +17,8 @@ class TextValidator;
 
 /// At most 255 characters of windows-1252, or fewer by setMaxLength(), in one line. A longer paste
 /// is cut; a text with other characters is refused whole; of several pasted lines the first is
-/// taken. Line breaks and other control characters that a file brought in stay in the text.
+/// taken, and that is reported. Line breaks and other control characters that a file brought in
+/// stay in the text.
 ///
 /// While masked, the line edit itself knows asterisks only: the text lies in a SecretText, so no
 /// undo history, layout or freed buffer of Qt's holds it. Read it with bytes(); text() then gives
@@ -33,7 +35,8 @@ class TextEdit : public QLineEdit {
     [[nodiscard]] SecretText bytes() const;
 
     /// Replaces the text as if it had been pasted over it. False when the text has characters that
-    /// cannot be stored or is too long; then nothing changes and the refusal is reported.
+    /// cannot be stored, has several lines or is too long; then nothing changes and the refusal is
+    /// reported.
     [[nodiscard]] bool takeText(const QString& text);
 
     /// Shows every character as "*" or in the clear. A masked field takes at most 246 characters,
@@ -48,15 +51,21 @@ class TextEdit : public QLineEdit {
     void inputMethodEvent(QInputMethodEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
 
   private:
     [[nodiscard]] std::size_t lengthLimit() const;
-    void insertMasked(QStringView text);
+    /// False when the line edit itself pastes such a text as it should.
+    bool insertPasted(const QString& text);
+    void beginUndoStep();
+    /// Reports further lines behind `take`, unless that has refused the first one.
+    void takeFirstLine(bool hasFurther, const std::function<void()>& take);
+    void insertMasked(const QString& line);
     void removeMaskedSelection();
     void showMask(std::size_t cursor);
     void followMaskedChange();
     void reportRejection();
-    void useForMaskedText(QMenu& menu);
+    void useForThis(QMenu& menu);
 
     TextValidator* validator_;
     bool masked_ = false;

@@ -148,16 +148,48 @@ TEST_F(ActionDialogTest, OkAsksForWhatTheActionLacksUntilItHasIt) {
     }
 }
 
+TEST_F(ActionDialogTest, AnActionCanBeTakenBackWithAllThatItHad) {
+    entry = newCommand(CommandCode::WaitFor);
+    setText(own(), "READY");
+    entry.hasTimeout = 1;
+    const ScriptEntry before = entry;
+    for (const Slot slot : {Slot::Then, Slot::Else}) {
+        Step& action = slotFields(entry, slot);
+        action.code = CommandCode::Type;
+        setText(action, "secret");
+        action.hidden = 1;
+        action.number = 77;
+        action.kept = {1, 2, 3};
+    }
+    for (const char* button : {"thenButton", "elseButton"}) {
+        click("waitForDialog", button);
+        click("actionDialog", "noAction");
+    }
+    steps.in("waitForDialog", [](const OpenDialog& d) {
+        EXPECT_EQ(d.shown("thenLine"), "If Found Then ");
+        EXPECT_EQ(d.shown("elseLine"), "If Not Found Then ");
+        d.click("ok");
+    });
+    ASSERT_TRUE(run());
+    EXPECT_EQ(entry, before);
+}
+
+// By the mouse, and by the key.
 TEST_F(ActionDialogTest, DoubleClickAsksAgainAndCancelTakesAllOfItBack) {
     for (const bool ok : {false, true}) {
         startWithTimeout();
         entry.thenAction.code = CommandCode::Goto;
         setText(then(), "old");
         const ScriptEntry before = entry;
-        doubleClickRow(events, "Message");
+        steps.in("actionDialog", [=](const OpenDialog& d) {
+            if (ok) return d.doubleClickRow(events, "Message");
+            d.clickRow(events, "Message");
+            d.press(Qt::Key_F2);
+        });
         answer("textDialog", "text", "new");
         steps.in("actionDialog", [this](const OpenDialog& d) {
             d.doubleClickRow(keys, "Enter");
+            d.press(Qt::Key_F2);
             d.doubleClickRow(menuCommands, menuName(201));
             EXPECT_TRUE(d.dialog->isVisible()) << "rows without parameters do nothing";
             d.clickRow(events, "Wait_Until");
@@ -206,6 +238,14 @@ TEST_F(ActionDialogTest, OkStartsATransferFromTheWorkingSettingsAndADoubleClickF
     EXPECT_EQ(state.workingTransfer.direction, TransferDirection::Send);
     EXPECT_EQ(entry.elseAction.commandId, sendFileCommand);
     EXPECT_EQ(transferText(entry.elseAction.transferSettings, transfer::pcFileName), "mine.txt");
+
+    // One that has no file of the PC yet goes on from what it has, not from what was shown since.
+    setTransferText(entry.elseAction.transferSettings, transfer::pcFileName, "");
+    setTransferText(working, transfer::hostFileName, "OTHER");
+    chooseRow(menuCommands, menuName(receiveFileCommand));
+    expectSheet("REPORT");
+    click("actionDialog", "cancel");
+    EXPECT_FALSE(choose(Slot::Else));
 
     // A new one starts from the one that an action's line shows.
     setTransferText(working, transfer::hostFileName, "OTHER");

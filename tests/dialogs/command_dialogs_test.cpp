@@ -1,6 +1,7 @@
 // What each dialog refuses, enables and takes.
 #include "support/dialog_fixture.h"
 
+#include <QApplication>
 #include <QDateTime>
 
 namespace quendra::test {
@@ -8,23 +9,42 @@ namespace {
 
 using Code = CommandCode;
 
-TEST_F(DialogTest, NumberFieldsTakeOnlyWhatFits) {
+TEST_F(DialogTest, ANumberBeyondItsRangeIsRefusedByNameAndBecomesNoOther) {
+    const struct {
+        Code code;
+        const char* field;
+        const char* typed;
+        const char* taken;
+        const char* refusal;
+    } rows[] = {
+        {Code::SetCursor, "row", "256", "256", "Row: enter a number from 0 to 255."},
+        {Code::SetCursor, "column", "2560", "256", "Column: enter a number from 0 to 255."},
+        {Code::Copy, "endColumn", "999", "999", "End Row, Column: enter a number from 0 to 255."},
+        {Code::Paste, "column", "300", "300", "Paste Row, Column: enter a number from 0 to 255."},
+        {Code::Wait, "number", "99999999999", "9999999999",
+         "Enter time to Wait(seconds): enter a number from 0 to 4294967295."},
+        {Code::WaitReady, "number", "4294967296", "4294967296",
+         "Enter the number of Keyboard Restores to wait for: enter a number from 0 to 4294967295."},
+    };
+    for (const auto& row : rows) {
+        openNew(row.code);
+        const ScriptEntry before = entry;
+        retype(row.field, row.typed);
+        EXPECT_EQ(shown(row.field), row.taken);
+        EXPECT_NE(note().find("A number from 0 to "), std::string::npos);
+        click("ok");
+        expectTold(row.refusal, title());
+        EXPECT_EQ(focused(), row.field);
+        EXPECT_EQ(entry, before);
+    }
     openNew(Code::SetCursor);
-    retype("row", "256");
-    EXPECT_EQ(shown("row"), "25");
-    EXPECT_EQ(note(), "A number from 0 to 255");
-    for (const char* pasted : {"-1", "+1", "1x", "1.5", "999"}) {
+    for (const char* pasted : {"-1", "+1", "1x", "1.5", "9999"}) {
         retype("row", "7");
         repaste("row", pasted);
         EXPECT_EQ(shown("row"), "7") << pasted;
     }
     repaste("row", " 42\n");
     EXPECT_EQ(shown("row"), "42");
-
-    openNew(Code::Wait);
-    EXPECT_EQ(note(), "A number from 0 to 4294967295");
-    retype("number", "4294967296");
-    EXPECT_EQ(shown("number"), "429496729");
 }
 
 TEST_F(DialogTest, PositionsThatAreDisabledAreStillRequired) {
@@ -38,6 +58,10 @@ TEST_F(DialogTest, PositionsThatAreDisabledAreStillRequired) {
         click("ok");
         expectTold("A value is required in this field.", title());
         EXPECT_EQ(focused(), box);
+        widget<QLineEdit>(cleared).setText(QStringLiteral("256"));
+        click("ok");
+        ASSERT_EQ(answers.messages.size(), 1U) << "nor can it be stored";
+        answers.messages.clear();
         click(box);
         EXPECT_EQ(enabled(fields).find('0'), std::string::npos);
     }
@@ -84,11 +108,17 @@ TEST_F(DialogTest, BrowseOffersTheFilesOfItsCommandAndTakesTheChoice) {
         setText(otherwise(), "before");
         open(Slot::Else);
         answers.fileDialogs.clear();
-        answers.toFileDialogs = {std::nullopt, "/\u65e5", '/' + std::string(255, 'x'), "/\u00e9.y"};
-        for (const char* fault : {"", "The character \u65e5 cannot be stored in a script.",
+        answers.toFileDialogs = {std::nullopt, "/\u65e5", "/a\nb", '/' + std::string(255, 'x'),
+                                 "/e\u0301.y"};
+        for (const char* fault : {"", "The character \u65e5 (U+65E5) cannot be stored in a script.",
+                                  "The character U+000A (invisible character) cannot be stored in "
+                                  "a script.",
                                   "At most 255 characters fit here."}) {
             click("browse");
             EXPECT_EQ(shown("file"), "before");
+            // As when the window of the files has gone.
+            QApplication::setActiveWindow(nullptr);
+            QApplication::setActiveWindow(dialog);
             EXPECT_EQ(note(), fault);
         }
         click("browse");
@@ -140,9 +170,7 @@ TEST_F(DialogTest, InputStoresCharacterOrStringAtOnceAndNothingElse) {
 TEST_F(DialogTest, AnInputLengthOutsideOfItsRangeIsRefusedByName) {
     openNew(Code::Input);
     retype("title", "t");
-    retype("maximumLength", "256");
-    EXPECT_EQ(shown("maximumLength"), "25") << "cannot be typed";
-    for (const char* typed : {"", "0", "1"}) {
+    for (const char* typed : {"", "0", "1", "256", "999"}) {
         retype("maximumLength", typed);
         press(Qt::Key_Return);
         expectTold("Maximum String Length: enter a number from 2 to 255.", "Input");
@@ -150,8 +178,10 @@ TEST_F(DialogTest, AnInputLengthOutsideOfItsRangeIsRefusedByName) {
         EXPECT_EQ(shown("maximumLength"), typed);
     }
     // The arrows stay within the range, and start in it.
-    for (const auto& [typed, key, reached] :
-         {std::tuple{"2", Qt::Key_Down, "2"}, {"255", Qt::Key_Up, "255"}, {"", Qt::Key_Up, "2"}}) {
+    for (const auto& [typed, key, reached] : {std::tuple{"2", Qt::Key_Down, "2"},
+                                              {"255", Qt::Key_Up, "255"},
+                                              {"", Qt::Key_Up, "2"},
+                                              {"300", Qt::Key_Down, "255"}}) {
         retype("maximumLength", typed);
         press(key);
         EXPECT_EQ(shown("maximumLength"), reached);
@@ -177,14 +207,14 @@ TEST_F(DialogTest, AnInputPromptHasLinesIsCutWhenPastedAndRefusedWhenTyped) {
     type("\n");
     EXPECT_EQ(shown("prompt").size(), 1022U) << "a line break takes two characters";
     type("\u4e2d");
-    EXPECT_EQ(note(), "The character \xe4\xb8\xad cannot be stored in a script.");
+    EXPECT_EQ(note(), "The character \xe4\xb8\xad (U+4E2D) cannot be stored in a script.");
 
     retype("prompt", "a\nb");
-    pasteInto(widget("prompt"), "\r\nc\nd");
+    pasteInto(widget("prompt"), "\r\nc\nu\u0308");
     press(Qt::Key_Tab);
     EXPECT_NE(focused(), "prompt");
     click("ok");
-    EXPECT_EQ(promptOf(own()), "a\r\nb\r\nc\r\nd");
+    EXPECT_EQ(promptOf(own()), "a\r\nb\r\nc\r\n\xfc");
 }
 
 TEST_F(DialogTest, WaitUntilShowsThePresentMomentForNoneAndForAnImpossibleOne) {
@@ -209,6 +239,23 @@ TEST_F(DialogTest, WaitUntilShowsThePresentMomentForNoneAndForAnImpossibleOne) {
     QLocale::setDefault(before);
     EXPECT_EQ(checked("hasDate hasTime") + enabled("date time"), "1010");
     EXPECT_EQ(shown("date"), "11/9/2031") << "as the locale has it, with the whole year";
+}
+
+TEST_F(DialogTest, ATimeStandsWithSecondsInTheWordsAndSignsOfTheLocale) {
+    const QLocale before;
+    for (const auto& [locale, time] : {std::pair{"en_US", "3:04:05 PM"},
+                                       {"de_DE", "15:04:05"},
+                                       {"fi_FI", "15.04.05"},
+                                       {"fr_CA", "15 h 04 min 05 s"},
+                                       {"ja_JP", "15時04分05秒"}}) {
+        QLocale::setDefault(QLocale(QLatin1String(locale)));
+        entry = newCommand(Code::WaitUntil);
+        entry.waitUntil = {0, 0, 0, 0, 15, 4, 5, 0};
+        open();
+        EXPECT_EQ(shown("time"), time) << locale;
+        EXPECT_EQ(shown("date").find(':'), std::string::npos);
+    }
+    QLocale::setDefault(before);
 }
 
 TEST_F(DialogTest, ReturnIsOkAndTheFirstFieldIsSelectedAtTheStart) {

@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QKeySequence>
 #include <QLabel>
+#include <QScreen>
 #include <QTest>
 
 #include <gtest/gtest.h>
@@ -39,6 +40,18 @@ void expectMnemonicsThatWork(const QWidget& dialog) {
         QTest::keyClick(dialog.focusWidget(), letter.toLatin1(), Qt::AltModifier);
         EXPECT_TRUE(dialog.focusWidget() == target || target->isAncestorOf(dialog.focusWidget()))
             << text;
+        EXPECT_FALSE(target->visibleRegion().isEmpty()) << text << " is out of sight";
+    }
+}
+
+void expectToFitItsScreen(const QWidget& dialog) {
+    const QSize largest = dialog.screen()->availableSize();
+    EXPECT_EQ(dialog.size().boundedTo(largest), dialog.size());
+    for (const char* name : {"ok", "cancel"}) {
+        const auto& button = *dialog.findChild<QWidget*>(QLatin1String(name));
+        const QRect place(button.mapTo(&dialog, QPoint()), button.size());
+        EXPECT_TRUE(dialog.rect().contains(place)) << name;
+        EXPECT_EQ(button.visibleRegion(), button.rect()) << name;
     }
 }
 
@@ -51,8 +64,11 @@ void expectWholeTexts(const QWidget& dialog, const std::string& eliding) {
         EXPECT_FALSE(name.empty()) << textOfWidget(*part);
         EXPECT_TRUE(name == "note" || !textOfWidget(*part).empty()) << name;
         if (!name.empty() && eliding.find(name) != std::string::npos) continue;
-        EXPECT_GE(part->width(), part->sizeHint().width()) << name << " is cut off";
-        EXPECT_GE(part->height(), part->sizeHint().height()) << name << " is cut off";
+        const bool wraps = part->hasHeightForWidth();
+        const QSize whole =
+            wraps ? QSize(0, part->heightForWidth(part->width())) : part->sizeHint();
+        EXPECT_GE(part->width(), whole.width()) << name << " is cut off";
+        EXPECT_GE(part->height(), whole.height()) << name << " is cut off";
     }
 }
 

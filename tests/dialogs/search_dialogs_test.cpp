@@ -24,7 +24,8 @@ TEST_F(SearchTest, ANewWaitForIsTypedAndItsTimeoutSwitchesTheActionsAtOnce) {
         EXPECT_EQ(d.shown("row") + ' ' + d.shown("column"), "1 1");
         EXPECT_EQ(d.checked("exactPosition caseSensitive noTimeout"), "011");
         EXPECT_EQ(d.enabled(actionParts), "00000");
-        EXPECT_FALSE(d.widget("thenButton").toolTip().isEmpty());
+        EXPECT_TRUE(d.widget("actionsReason").isVisible());
+        EXPECT_EQ(d.shown("actionsReason"), d.widget("thenButton").toolTip().toStdString());
         d.click("ok");
         expectTold("A value is required in this field.", "Wait_For");
         EXPECT_EQ(d.focused(), "text");
@@ -32,6 +33,7 @@ TEST_F(SearchTest, ANewWaitForIsTypedAndItsTimeoutSwitchesTheActionsAtOnce) {
         d.press(Qt::Key_M, Qt::AltModifier);
         EXPECT_TRUE(d.isChecked("timeout")) << "what is typed next goes to the new fields";
         EXPECT_EQ(d.enabled(actionParts), "11111");
+        EXPECT_FALSE(d.widget("actionsReason").isVisible());
         EXPECT_TRUE(d.widget("thenButton").toolTip().isEmpty());
         d.click("noTimeout");
         EXPECT_EQ(d.enabled(actionParts), "00000");
@@ -58,30 +60,39 @@ TEST_F(SearchTest, CancelDropsTheActionsToo) {
     EXPECT_EQ(entry, before);
 }
 
-TEST_F(SearchTest, NumbersOutsideOfTheirFieldsCannotBeTypedOrAreRefusedByName) {
-    const char* rows[][5] = {
-        {"row", "63", "6", "0", "Row: enter a number from 1 to 62."},
-        {"row", "62", "62", "", "Row: enter a number from 1 to 62."},
-        {"column", "161", "16", "", "Column: enter a number from 1 to 160."},
-        {"column", "-160", "160", "0", "Column: enter a number from 1 to 160."},
-        {"timeoutSeconds", "256", "25", "", "Timeout in Seconds: enter a number from 0 to 255."}};
+TEST_F(SearchTest, NumbersOutsideOfTheirFieldsAreRefusedByName) {
+    const struct {
+        const char* field;
+        std::vector<const char*> refused;
+        const char* taken;
+        const char* text;
+    } rows[] = {{"row", {"", "0", "63", "75"}, "62", "Row: enter a number from 1 to 62."},
+                {"column", {"", "0", "161"}, "160", "Column: enter a number from 1 to 160."},
+                {"timeoutSeconds",
+                 {"", "256", "999"},
+                 "255",
+                 "Timeout in Seconds: enter a number from 0 to 255."}};
     startWithTimeout();
     steps.in("waitForDialog", [&](const OpenDialog& d) {
-        for (const auto& [field, typed, taken, refused, text] : rows) {
-            d.retype(field, refused);
-            d.click("ok");
-            expectTold(text, "Wait_For");
-            EXPECT_EQ(d.focused(), field);
-            d.retype(field, typed);
-            EXPECT_EQ(d.shown(field), taken) << field;
+        for (const auto& row : rows) {
+            for (const char* typed : row.refused) {
+                d.retype(row.field, typed);
+                EXPECT_EQ(d.shown(row.field), typed);
+                d.click("ok");
+                expectTold(row.text, "Wait_For");
+                EXPECT_EQ(d.focused(), row.field);
+            }
+            d.retype(row.field, row.taken + std::string("0"));
+            EXPECT_EQ(d.shown(row.field), row.taken) << "no more digits than the range has";
         }
-        d.retype("timeoutSeconds", "");
+        d.retype("timeoutSeconds", "999");
         d.click("noTimeout");
         d.click("ok");
     });
     ASSERT_TRUE(run()) << "a disabled field must not keep the dialog open";
     EXPECT_EQ(entry.searchRow, 62);
     EXPECT_EQ(entry.searchColumn, 160);
+    EXPECT_EQ(entry.timeoutSeconds, 0);
 }
 
 TEST_F(SearchTest, APositionFromAForeignFileStaysUntilItIsChanged) {
@@ -148,7 +159,7 @@ TEST_F(SearchTest, ANewIfInputIsTakesAVariableInAnyCaseAndALiteral) {
         }
         EXPECT_EQ(d.shown("secondOperand"), "Var") << "completed to a variable that was not meant";
         d.type("\u0416");
-        EXPECT_EQ(d.shown("note"), "The character \u0416 cannot be stored in a script.");
+        EXPECT_EQ(d.shown("note"), "The character \u0416 (U+0416) cannot be stored in a script.");
         d.click("elseButton");
     });
     chooseRow("scriptEventsList", "Return");

@@ -49,18 +49,56 @@ TEST_F(TextEditTest, TakesTheFirstLineUpTo255CharactersThatTheEncodingHas) {
 
     retype("text", "[]");
     key(Qt::Key_Left);
-    paste("one\r\ntwo");
-    EXPECT_EQ(shown("text"), "[one]") << "the first line";
-    retype("text", "a\u4e2d");
+    paste("\none\r\ntwo\n");
+    EXPECT_EQ(shown("text"), "[one]");
+    EXPECT_EQ(note(), "Only the first line was taken.");
+    paste("!\n");
+    EXPECT_EQ(note(), "") << "a line end alone is no further line";
+    key(Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(shown("text"), "[one]");
+    retype("text", "a");
+    for (const auto& [character, named] : {std::pair{"\u4e2d", "\u4e2d (U+4E2D)"},
+                                           {"\U0001f511", "\U0001f511 (U+1F511)"},
+                                           {"\u200b", "U+200B (zero width space)"},
+                                           {"\u2003", "U+2003 (space)"},
+                                           {"\u0332", "U+0332 (combining mark)"},
+                                           {"\ue000", "U+E000 (invisible character)"}}) {
+        key(Qt::Key_End);
+        paste(character);
+        EXPECT_EQ(note(), "The character " + std::string(named) + " cannot be stored in a script.");
+        typeText("\u20ac");
+        EXPECT_EQ(note(), "");
+        key(Qt::Key_Backspace);
+    }
+    paste("whole \U0001f511 or not at all\nand nothing of this");
     EXPECT_EQ(shown("text"), "a");
-    EXPECT_EQ(note(), "The character \xe4\xb8\xad cannot be stored in a script.");
-    typeText("\u20ac");
-    EXPECT_EQ(note(), "");
-    paste("whole \U0001f511 or not at all");
-    EXPECT_EQ(shown("text"), "a\u20ac");
-    EXPECT_EQ(note(), "The character \xf0\x9f\x94\x91 cannot be stored in a script.");
+    EXPECT_EQ(note(), "The character \U0001f511 (U+1F511) cannot be stored in a script.");
     click("ok");
-    EXPECT_EQ(stored(), "a\x80");
+    EXPECT_EQ(stored(), "a");
+}
+
+TEST_F(TextEditTest, ALetterAndItsMarkAreOneCharacterWhereThereIsOne) {
+    const std::string apart = "u\u0308";
+    for (const bool masked : {false, true}) {
+        openNew(CommandCode::Type);
+        if (masked) click("hide");
+        paste(apart + "e\u0301");
+        EXPECT_EQ(note(), "");
+        click("ok");
+        EXPECT_EQ(stored(), "\xfc\xe9");
+    }
+    openNew(CommandCode::Comment);
+    typeText("[]");
+    key(Qt::Key_Left);
+    typeText(apart + "!");
+    EXPECT_EQ(shown("text"), "[\u00fc!]") << "the cursor goes on behind it";
+    edit().setText(QString(255, u'x'));
+    edit().selectAll();
+    std::string all;
+    for (int i = 0; i < 255; ++i)
+        all += apart;
+    paste(all);
+    EXPECT_EQ(edit().text(), QString(255, QChar(0xfc))) << "and none is cut off for its marks";
 }
 
 TEST_F(TextEditTest, EveryByteOfAFileSurvivesAnEditBesideIt) {
@@ -111,8 +149,12 @@ TEST_F(TextEditTest, AMaskedTextIsEditedLikeAnyOther) {
     EXPECT_EQ(held(), std::string("1\xfc") + "ef");
     paste("xyz\nnext");
     EXPECT_EQ(held(), "1\xfcxyzef");
+    EXPECT_EQ(note(), "Only the first line was taken.");
     key(Qt::Key_Left, Qt::ShiftModifier);
     key(Qt::Key_X, Qt::ControlModifier);
+    key(Qt::Key_Delete, Qt::ShiftModifier);
+    EXPECT_EQ(held(), "1\xfcxyzef") << "cut out, it would be nowhere";
+    key(Qt::Key_Delete);
     edit().backspace();
     EXPECT_EQ(displayed(), "*****");
     key(Qt::Key_Z, Qt::ControlModifier);

@@ -158,19 +158,25 @@ QWidget* BoundPage::makeTextEdit(const TransferControl& row) {
     connect(edit, &QLineEdit::textEdited, this, [this, edit] {
         if (edit->text().size() < edit->maxLength()) Q_EMIT noted({});
     });
-    connect(edit, &QLineEdit::editingFinished, this, [this] { Q_EMIT noted({}); });
+    connect(edit, &QLineEdit::editingFinished, this, [this, edit] { endNote(*edit); });
     return edit;
 }
 
+// The line edit is finished too when the focus only goes with the window, and what was said is
+// still true when it comes back.
+void BoundPage::endNote(const QLineEdit& edit) {
+    if (window()->focusWidget() != &edit) Q_EMIT noted({});
+}
+
 QWidget* BoundPage::makeNumberEdit(const TransferControl& row) {
-    auto* edit = new NumberEdit(row.field.largest, this);
+    auto* edit = new NumberEdit({0, row.field.largest}, this);
     connect(edit, &QLineEdit::textChanged, this,
             [this, &row, edit] { store(row.field, edit->number().value_or(0)); });
     const QString range = rangeNote(model_.state.language, edit->range());
     edit->setToolTip(range);
     connect(edit, &NumberEdit::refused, this, [this, range] { Q_EMIT noted(range); });
     connect(edit, &QLineEdit::textEdited, this, [this] { Q_EMIT noted({}); });
-    connect(edit, &QLineEdit::editingFinished, this, [this] { Q_EMIT noted({}); });
+    connect(edit, &QLineEdit::editingFinished, this, [this, edit] { endNote(*edit); });
     return edit;
 }
 

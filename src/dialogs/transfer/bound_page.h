@@ -111,6 +111,7 @@ class BoundPage : public QWidget {
     [[nodiscard]] const Bound& bound(const TransferField& field, std::uint8_t value) const;
     [[nodiscard]] QString caption(const TransferControl& row) const;
     [[nodiscard]] bool isOn(const TransferControl& row) const;
+    void endNote(const QLineEdit& edit);
     void applyEnabled();
     void show(const Bound& control);
     void store(const TransferField& field, std::uint32_t value);

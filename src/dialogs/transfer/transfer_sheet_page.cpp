@@ -5,11 +5,14 @@
 #include "text/text_ids.h"
 #include "widgets/dialog_frame.h"
 #include "widgets/message_box.h"
+#include "widgets/scrolling_content.h"
 
 #include <QApplication>
 #include <QDialogButtonBox>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QShortcut>
+#include <QTabBar>
 #include <QTabWidget>
 #include <QVBoxLayout>
 
@@ -30,10 +33,12 @@ class TransferSheet : public DialogFrame {
     void focusFirst() override { settings_->focusHost(); }
 
   private:
-    void addPage(QTabWidget& tabs, BoundPage* page, StringId title);
+    void addPage(BoundPage* page, StringId title);
+    void turnPages(Qt::Key key, int by);
     void tell(const QString& note);
 
     TransferSheetModel model_;
+    QTabWidget* tabs_;
     SettingsPage* settings_;
 };
 
@@ -41,27 +46,36 @@ TransferSheet::TransferSheet(ApplicationState& state, QWidget* window, std::uint
     : DialogFrame(state.language, window, "transferSheet", "File_Transfer_Settings"),
       model_{state, host} {
     setWindowTitle(text(textid::transferSettingsTitle));
-    auto* tabs = new QTabWidget;
-    tabs->setObjectName(QStringLiteral("tabs"));
+    tabs_ = new QTabWidget;
+    tabs_->setObjectName(QStringLiteral("tabs"));
     settings_ = new SettingsPage(model_);
-    addPage(*tabs, settings_, textid::transferSettingsTab);
-    addPage(*tabs, new AdvancedPage(model_), textid::transferAdvancedTab);
-    QLabel* note = makeNote();
-    // The sheet keeps its size whatever the note says.
-    note->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    addPage(settings_, textid::transferSettingsTab);
+    addPage(new AdvancedPage(model_), textid::transferAdvancedTab);
+    turnPages(Qt::Key_PageDown, 1);
+    turnPages(Qt::Key_PageUp, -1);
     auto* bottom = new QHBoxLayout;
-    bottom->addWidget(note, 1);
+    bottom->addWidget(makeNote(), 1);
     bottom->addWidget(makeButtons());
     auto* all = new QVBoxLayout(this);
-    all->addWidget(tabs);
+    all->addWidget(tabs_, 1);
     all->addLayout(bottom);
-    all->setSizeConstraint(QLayout::SetFixedSize);
     finish();
 }
 
-void TransferSheet::addPage(QTabWidget& tabs, BoundPage* page, StringId title) {
-    tabs.addTab(page, text(title));
+void TransferSheet::addPage(BoundPage* page, StringId title) {
+    tabs_->addTab(new ScrollingContent(page), text(title));
     connect(page, &BoundPage::noted, this, &TransferSheet::tell);
+}
+
+// With Ctrl, and behind the last page the first one again.
+void TransferSheet::turnPages(Qt::Key key, int by) {
+    auto* shortcut = new QShortcut(Qt::CTRL | key, this);
+    connect(shortcut, &QShortcut::activated, this, [this, by] {
+        tabs_->setCurrentIndex((tabs_->currentIndex() + by + tabs_->count()) % tabs_->count());
+        // To the first field, as Tab goes there.
+        tabs_->tabBar()->setFocus();
+        focusNextChild();
+    });
 }
 
 void TransferSheet::tell(const QString& note) {

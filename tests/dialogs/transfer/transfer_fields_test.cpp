@@ -1,6 +1,7 @@
 // Where each field of the transfer pages goes, and what the fields take.
 #include "dialogs/transfer/transfer_fixture.h"
 
+#include <QApplication>
 #include <QComboBox>
 #include <QLineEdit>
 
@@ -110,6 +111,8 @@ TEST_F(TransferSheetTest, TextsKeepAllCharactersUpToTheirLimitAndNoMore) {
             EXPECT_EQ(stored(row.field), all);
             d.type("x");
             EXPECT_EQ(stored(row.field), all);
+            QApplication::setActiveWindow(nullptr);
+            QApplication::setActiveWindow(d.dialog);
             EXPECT_EQ(d.shown("note"),
                       "At most " + std::to_string(limit) + " characters fit here.");
         });

@@ -2,6 +2,7 @@
 #include "dialogs/transfer/transfer_fixture.h"
 #include "text/text_ids.h"
 
+#include <QApplication>
 #include <QComboBox>
 
 #include <algorithm>
@@ -88,6 +89,36 @@ TEST_F(TransferSheetTest, HostSystemDecidesWhatIsEnabledAtOnceAndOnTheOtherPage)
     }
 }
 
+TEST_F(TransferSheetTest, TabGoesToTheChosenButtonsOnlyAndCtrlPageTurnsThePages) {
+    host = transferHostTso;
+    setTransferNumber(settings, transfer::binary, 1);
+    setTransferNumber(settings, transfer::recordFormat, 3);
+    setTransferNumber(settings, transfer::spaceUnit, 7);
+    const auto focusedInTurn = [](const OpenDialog& d, int count) {
+        std::string names;
+        for (int i = 0; i < count; ++i) {
+            d.press(Qt::Key_Tab);
+            names += d.focused() + ' ';
+        }
+        return names;
+    };
+    open([&](const OpenDialog& d) {
+        EXPECT_EQ(focusedInTurn(d, 6), "hostFileName member pcFileName browse binary1 crlf ");
+        d.press(Qt::Key_PageDown, Qt::ControlModifier);
+        EXPECT_TRUE(d.widget("advancedPage").isVisible());
+        EXPECT_EQ(d.focused(), "recordFormat3");
+        EXPECT_EQ(focusedInTurn(d, 4), "recordLength blockSize spaceUnit0 spaceUnit1 ")
+            << "none of the units is chosen";
+        d.press(Qt::Key_PageUp, Qt::ControlModifier);
+        EXPECT_TRUE(d.widget("settingsPage").isVisible());
+        EXPECT_EQ(d.focused(), hostButtons[1]);
+        // What is chosen and off leads nowhere.
+        d.click(hostButtons[0]);
+        d.press(Qt::Key_PageUp, Qt::ControlModifier);
+        EXPECT_EQ(d.focused(), "recordFormat0");
+    });
+}
+
 TEST_F(TransferSheetTest, APageLooksAtTheSettingsAgainButForTheBidiOptions) {
     open([&](const OpenDialog& d) {
         d.showTab(advancedPage);
@@ -157,11 +188,13 @@ TEST_F(TransferSheetTest, BrowseAsksForAnExistingFileAndTakesOneThatCanBeStored)
                              chosen};
     open([&](const OpenDialog& d) {
         d.retype("pcFileName", "old.txt");
-        for (const char* note : {"", "The character \u0416 cannot be stored in a script.",
+        for (const char* note : {"", "The character \u0416 (U+0416) cannot be stored in a script.",
                                  "At most 255 characters fit here.",
-                                 "The character \ufffd cannot be stored in a script."}) {
+                                 "The character \ufffd (U+FFFD) cannot be stored in a script."}) {
             d.click("browse");
             EXPECT_EQ(stored(transfer::pcFileName), "old.txt");
+            QApplication::setActiveWindow(nullptr);
+            QApplication::setActiveWindow(d.dialog);
             EXPECT_EQ(d.shown("note"), note);
         }
         d.click("browse");
