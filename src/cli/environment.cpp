@@ -31,6 +31,32 @@ bool isSameFile(const FileStamp& source, const std::optional<FileStamp>& target)
     return target && target->device == source.device && target->inode == source.inode;
 }
 
+// Why a file could not be written; names the folder that is the reason.
+std::string reasonOf(const FileFailure& failure) {
+    if (failure.folder.empty()) return failure.message;
+    return "the folder " + escapeControlCharacters(failure.folder.native()) + ": " +
+           failure.message;
+}
+
+// Reports how a file was replaced, as far as that is more than the user asked for.
+bool reportReplacing(Environment& environment, const std::string& file,
+                     const ReplaceResult& result) {
+    const std::string kept = escapeControlCharacters(result.backup.native());
+    if (result.failure) {
+        report(environment, file, reasonOf(*result.failure));
+        // Not even that could be undone.
+        if (!kept.empty()) report(environment, file, "damaged; its old content is kept as " + kept);
+        return false;
+    }
+    if (result.writtenOver)
+        report(environment, file, "note: written over; its old content is kept as " + kept);
+    if (result.unsynced) {
+        report(environment, file,
+               "note: saved, but a power cut may undo it: " + reasonOf(*result.unsynced));
+    }
+    return true;
+}
+
 }  // namespace
 
 std::string shownName(std::string_view file) {
@@ -46,17 +72,19 @@ std::string withOffset(std::string_view what, std::size_t offset) {
 }
 
 std::optional<FileContent> readInput(Environment& environment, const std::string& file,
-                                     std::size_t maxBytes) {
+                                     std::size_t maxBytes, Input input) {
     FileContent content = file == standardStream ? readDescriptor(environment.input, maxBytes)
-                                                 : readFile(file, maxBytes);
+                          : input == Input::RegularFile ? readRegularFile(file, maxBytes)
+                                                        : readFile(file, maxBytes);
     if (!content.failure) return content;
     report(environment, file, content.failure->message);
     return std::nullopt;
 }
 
-std::optional<SourceScript> readScriptInput(Environment& environment, const std::string& file) {
+std::optional<SourceScript> readScriptInput(Environment& environment, const std::string& file,
+                                            Input input) {
     // One byte over the limit shows that there is more.
-    auto content = readInput(environment, file, maxScriptFileSize + 1);
+    auto content = readInput(environment, file, maxScriptFileSize + 1, input);
     if (!content) return std::nullopt;
     ReadResult read = readScript(content->storage, content->size);
     if (read.refusal) {
@@ -97,9 +125,8 @@ bool writeOutput(Environment& environment, const std::string& file,
     }
     const bool isSource = isSameFile(source.stamp, fileStamp(file));
     if (isSource && std::ranges::equal(bytes, source.bytes())) return true;
-    const auto result = replaceFile(file, bytes, isSource ? OldFile::KeepAsBackup : OldFile::Drop);
-    if (result.failure) report(environment, file, result.failure->message);
-    return !result.failure;
+    const OldFile oldFile = isSource ? OldFile::KeepAsBackup : OldFile::Drop;
+    return reportReplacing(environment, file, replaceFile(file, bytes, oldFile));
 }
 
 EntryNames::EntryNames(Environment& environment) {

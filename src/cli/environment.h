@@ -37,10 +37,14 @@ void report(Environment& environment, std::string_view file, std::string_view wh
 /// "what (byte offset 12)".
 [[nodiscard]] std::string withOffset(std::string_view what, std::size_t offset);
 
+/// What may be read as a file. A pipe or a device cannot be replaced by what comes of it.
+enum class Input : std::uint8_t { AnyFile, RegularFile };
+
 /// Reads a file, or standard input for "-". When it cannot be read that is reported, and the result
 /// is none.
 [[nodiscard]] std::optional<FileContent> readInput(Environment& environment,
-                                                   const std::string& file, std::size_t maxBytes);
+                                                   const std::string& file, std::size_t maxBytes,
+                                                   Input input = Input::AnyFile);
 
 /// A script file with its bytes.
 struct SourceScript {
@@ -51,14 +55,16 @@ struct SourceScript {
 /// Reads a script file. What cannot be read or was refused is reported and gives none. Reading that
 /// stopped early is left to the caller to report, below what it prints of the file.
 [[nodiscard]] std::optional<SourceScript> readScriptInput(Environment& environment,
-                                                          const std::string& file);
+                                                          const std::string& file,
+                                                          Input input = Input::AnyFile);
 
 /// Reports that a file was not read whole, and what a watched Wait_For lost. True when it is whole.
 bool reportReading(Environment& environment, const std::string& file, const ReadResult& read);
 
 /// Writes a file, or standard output for "-". A regular file is replaced whole or not at all; where
 /// it is the very file that the bytes came from (`source`), the old one is kept as a backup, and
-/// when that has these bytes already nothing happens. Reports a failure; true when there was none.
+/// when that has these bytes already nothing happens. Reports a failure, and what else there is to
+/// know of the writing; true when there was no failure.
 [[nodiscard]] bool writeOutput(Environment& environment, const std::string& file,
                                std::span<const std::uint8_t> bytes, const FileContent& source);
 

@@ -14,6 +14,7 @@ void prepareStandardStreams() {
         descriptor = ::open("/dev/null", O_RDONLY | O_CLOEXEC);
     }
     std::signal(SIGPIPE, SIG_IGN);
+    ignoreSizeLimitSignal();
 }
 
 DescriptorBuffer::DescriptorBuffer(int descriptor) : descriptor_(descriptor) {
