@@ -10,23 +10,15 @@
 #include <unistd.h>
 
 namespace quendra::test {
-
 namespace {
 
-std::vector<FailingCall>& wanted() {
-    static std::vector<FailingCall> calls;
-    return calls;
-}
-
-std::map<std::string_view, int>& counts() {
-    static std::map<std::string_view, int> made;
-    return made;
-}
+std::vector<FailingCall> wanted;
+std::map<std::string_view, int> counts;
 
 bool fails(std::string_view name) {
-    if (wanted().empty()) return false;
-    const int count = ++counts()[name];
-    for (const FailingCall& call : wanted()) {
+    if (wanted.empty()) return false;
+    const int count = ++counts[name];
+    for (const FailingCall& call : wanted) {
         if (call.name != name || (call.which != 0 && call.which != count)) continue;
         if (call.error == stopsHere) return ::raise(SIGSTOP) != 0;
         errno = call.error;
@@ -36,55 +28,47 @@ bool fails(std::string_view name) {
 }
 
 template <typename... Arguments>
-int callReal(const char* name, Arguments... arguments) {
-    using Call = int(Arguments...);
-    return reinterpret_cast<Call*>(::dlsym(RTLD_NEXT, name))(arguments...);
+int callUnlessItFails(const char* name, Arguments... arguments) {
+    if (fails(name)) return -1;
+    return reinterpret_cast<int (*)(Arguments...)>(::dlsym(RTLD_NEXT, name))(arguments...);
 }
 
 }  // namespace
 
 FailingCalls::FailingCalls(const std::vector<FailingCall>& calls) {
-    counts().clear();
-    wanted() = calls;
+    counts.clear();
+    wanted = calls;
 }
 
 FailingCalls::~FailingCalls() {
-    wanted().clear();
+    wanted.clear();
 }
 
 }  // namespace quendra::test
 
-using quendra::test::callReal;
-using quendra::test::fails;
+using quendra::test::callUnlessItFails;
 
 extern "C" {
 
-int fchown(int file, uid_t user, gid_t group) noexcept {
-    return fails("fchown") ? -1 : callReal("fchown", file, user, group);
-}
-
 int fchmod(int file, mode_t mode) noexcept {
-    return fails("fchmod") ? -1 : callReal("fchmod", file, mode);
+    return callUnlessItFails("fchmod", file, mode);
 }
-
 int fsetxattr(int file, const char* name, const void* value, size_t size, int flags) noexcept {
-    return fails("fsetxattr") ? -1 : callReal("fsetxattr", file, name, value, size, flags);
+    return callUnlessItFails("fsetxattr", file, name, value, size, flags);
 }
-
 int fsync(int file) {
-    return fails("fsync") ? -1 : callReal("fsync", file);
+    return callUnlessItFails("fsync", file);
 }
-
 int ftruncate(int file, off_t size) noexcept {
-    return fails("ftruncate") ? -1 : callReal("ftruncate", file, size);
+    return callUnlessItFails("ftruncate", file, size);
 }
-
 int link(const char* from, const char* to) noexcept {
-    return fails("link") ? -1 : callReal("link", from, to);
+    return callUnlessItFails("link", from, to);
 }
-
 int rename(const char* from, const char* to) noexcept {
-    return fails("rename") ? -1 : callReal("rename", from, to);
+    return callUnlessItFails("rename", from, to);
 }
-
-}  // extern "C"
+int stat(const char* path, struct stat* state) noexcept {
+    return callUnlessItFails("stat", path, state);
+}
+}

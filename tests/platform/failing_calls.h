@@ -17,8 +17,7 @@ struct FailingCall {
 };
 
 /// Has these calls fail while it lives; at most one does at a time.
-class FailingCalls {
-  public:
+struct FailingCalls {
     explicit FailingCalls(const std::vector<FailingCall>& calls);
     ~FailingCalls();
     FailingCalls(const FailingCalls&) = delete;
