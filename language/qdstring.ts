@@ -3445,6 +3445,30 @@ Save, and lose what the file cannot store?</translation>
         <translation>%s loaded: the file is longer than any script (byte %d)</translation>
         <extra-name>fileIsTooLong</extra-name>
     </message>
+    <message id="15480">
+        <source>It is no regular file but a pipe, a device or a socket.</source>
+        <extracomment>Reason why a script cannot be opened or saved</extracomment>
+        <translation>It is no regular file but a pipe, a device or a socket.</translation>
+        <extra-name>fileIsNotRegular</extra-name>
+    </message>
+    <message id="15481">
+        <source>The folder “%s” takes no file: %s</source>
+        <extracomment>Reason why a script cannot be saved; %s is the folder, then the system's reason</extracomment>
+        <translation>The folder “%s” takes no file: %s</translation>
+        <extra-name>folderTakesNoFile</extra-name>
+    </message>
+    <message id="15482">
+        <source>Saved, but a power cut may undo it: %s</source>
+        <extracomment>Status bar after saving; %s is the system's reason</extracomment>
+        <translation>Saved, but a power cut may undo it: %s</translation>
+        <extra-name>savedUnsynced</extra-name>
+    </message>
+    <message id="15483">
+        <source>a power cut may undo the conversion: %s</source>
+        <extracomment>Status bar after opening, behind the number of entries; %s is the system's reason</extracomment>
+        <translation>a power cut may undo the conversion: %s</translation>
+        <extra-name>convertedUnsynced</extra-name>
+    </message>
     <message id="16001">
         <source>The character %s cannot be stored in a script.</source>
         <extracomment>Note under a field: a character that scripts cannot hold was typed or pasted</extracomment>

@@ -2873,6 +2873,26 @@ Speichern und verlieren, was die Datei nicht aufnehmen kann?</translation>
         <extracomment>Status bar: a file was not read whole: more bytes than the largest script; %s is the number of entries, as “12 entries”, %d the place in the file</extracomment>
         <translation>%s geladen: die Datei ist länger als jedes Skript (Byte %d)</translation>
     </message>
+    <message id="15480">
+        <source>It is no regular file but a pipe, a device or a socket.</source>
+        <extracomment>Reason why a script cannot be opened or saved</extracomment>
+        <translation>Es ist keine gewöhnliche Datei, sondern eine Pipe, ein Gerät oder ein Socket.</translation>
+    </message>
+    <message id="15481">
+        <source>The folder “%s” takes no file: %s</source>
+        <extracomment>Reason why a script cannot be saved; %s is the folder, then the system's reason</extracomment>
+        <translation>Der Ordner „%s“ nimmt keine Datei auf: %s</translation>
+    </message>
+    <message id="15482">
+        <source>Saved, but a power cut may undo it: %s</source>
+        <extracomment>Status bar after saving; %s is the system's reason</extracomment>
+        <translation>Gespeichert, aber ein Stromausfall kann es rückgängig machen: %s</translation>
+    </message>
+    <message id="15483">
+        <source>a power cut may undo the conversion: %s</source>
+        <extracomment>Status bar after opening, behind the number of entries; %s is the system's reason</extracomment>
+        <translation>ein Stromausfall kann die Umwandlung rückgängig machen: %s</translation>
+    </message>
     <message id="16001">
         <source>The character %s cannot be stored in a script.</source>
         <extracomment>Note under a field: a character that scripts cannot hold was typed or pasted</extracomment>

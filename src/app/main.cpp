@@ -8,6 +8,7 @@
 #include "help/editor_help.h"
 #include "platform/editor_windows.h"
 #include "platform/end_signals.h"
+#include "platform/files.h"
 #include "session/application_life.h"
 #include "session/command_line.h"
 #include "session/document.h"
@@ -147,6 +148,7 @@ int runEditor(int& argc, char** argv, const CommandLine& line, const PictureOpti
 
 int start(int& argc, char** argv) {
     if (const auto status = reportCrash(argc, argv)) return *status;
+    ignoreSizeLimitSignal();
     std::vector<std::string> arguments(argv + 1, argv + argc);
     const auto picture = takePictureOptions(arguments);
     if (!picture) {

@@ -9,7 +9,8 @@ namespace quendra::cli {
 namespace {
 
 bool convertFile(const ConvertRequest& request, Environment& environment, const std::string& file) {
-    const auto source = readScriptInput(environment, file);
+    const auto source =
+        readScriptInput(environment, file, request.inPlace ? Input::RegularFile : Input::AnyFile);
     if (!source) return false;
     const ReadResult& read = source->read;
     const HostType hostType = request.hostType.value_or(read.signature.hostType);

@@ -50,7 +50,7 @@ class ScriptEdit {
 
   private:
     [[nodiscard]] bool editFile(const std::string& file) {
-        auto source = readScriptInput(environment_, file);
+        auto source = readScriptInput(environment_, file, Input::RegularFile);
         if (!source) return false;
         ReadResult& read = source->read;
         if (!reportReading(environment_, file, read)) return false;

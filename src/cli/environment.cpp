@@ -26,15 +26,42 @@ bool isSameFile(const FileStamp& source, const std::optional<FileStamp>& target)
     return target && target->device == source.device && target->inode == source.inode;
 }
 
-// Nobody misses an empty file.
-std::optional<FileFailure> replace(const std::string& file, std::span<const std::uint8_t> bytes,
-                                   const FileContent& source) {
+// Why a file could not be written; names the folder that is the reason.
+std::string reasonOf(const FileFailure& failure) {
+    if (failure.folder.empty()) return failure.message;
+    return "the folder " + escapeControlCharacters(failure.folder.native()) + ": " +
+           failure.message;
+}
+
+// Reports how a file was replaced, as far as that is more than the user asked for.
+bool reportReplacing(Environment& environment, const std::string& file,
+                     const ReplaceResult& result) {
+    const std::string kept = escapeControlCharacters(result.backup.native());
+    if (result.failure) {
+        report(environment, file, reasonOf(*result.failure));
+        // Not even that could be undone.
+        if (!kept.empty()) report(environment, file, "damaged; its old content is kept as " + kept);
+        return false;
+    }
+    if (result.writtenOver)
+        report(environment, file, "note: written over; its old content is kept as " + kept);
+    if (result.unsynced) {
+        report(environment, file,
+               "note: saved, but a power cut may undo it: " + reasonOf(*result.unsynced));
+    }
+    return true;
+}
+
+// Nobody misses an empty file. True when all went well.
+bool replace(Environment& environment, const std::string& file, std::span<const std::uint8_t> bytes,
+             const FileContent& source) {
     const auto old = fileStamp(file);
     const bool isSame = old && old->size == bytes.size() &&
                         std::ranges::equal(bytes, readFile(file, bytes.size()).bytes());
-    if (isSame && isSameFile(source.stamp, old)) return std::nullopt;
+    if (isSame && isSameFile(source.stamp, old)) return true;
     const bool isKept = old && old->size > 0 && !isSame;
-    return replaceFile(file, bytes, isKept ? OldFile::KeepAsBackup : OldFile::Drop).failure;
+    const OldFile oldFile = isKept ? OldFile::KeepAsBackup : OldFile::Drop;
+    return reportReplacing(environment, file, replaceFile(file, bytes, oldFile));
 }
 
 }  // namespace
@@ -52,17 +79,19 @@ std::string withOffset(std::string_view what, std::size_t offset) {
 }
 
 std::optional<FileContent> readInput(Environment& environment, const std::string& file,
-                                     std::size_t maxBytes) {
+                                     std::size_t maxBytes, Input input) {
     FileContent content = file == standardStream ? readDescriptor(environment.input, maxBytes)
-                                                 : readFile(file, maxBytes);
+                          : input == Input::RegularFile ? readRegularFile(file, maxBytes)
+                                                        : readFile(file, maxBytes);
     if (!content.failure) return content;
     report(environment, file, content.failure->message);
     return std::nullopt;
 }
 
-std::optional<SourceScript> readScriptInput(Environment& environment, const std::string& file) {
+std::optional<SourceScript> readScriptInput(Environment& environment, const std::string& file,
+                                            Input input) {
     // One byte over the limit shows that there is more.
-    auto content = readInput(environment, file, maxScriptFileSize + 1);
+    auto content = readInput(environment, file, maxScriptFileSize + 1, input);
     if (!content) return std::nullopt;
     ReadResult read = readScript(content->storage, content->size);
     if (read.refusal) {
@@ -112,8 +141,8 @@ bool writeOutput(Environment& environment, const std::string& file,
                               static_cast<std::streamsize>(bytes.size()));
         return true;
     }
-    const auto failure =
-        isStreamFile(file) ? writeToStream(file, bytes) : replace(file, bytes, source);
+    if (!isStreamFile(file)) return replace(environment, file, bytes, source);
+    const auto failure = writeToStream(file, bytes);
     if (!failure || failure->code == EPIPE) return true;
     report(environment, file, failure->message);
     return false;
@@ -135,9 +164,7 @@ bool writeMerged(Environment& environment, const std::string& file,
     }
     const bool isOurs = isSameFile(ours.stamp, fileStamp(file));
     if (isOurs && std::ranges::equal(bytes, ours.bytes())) return true;
-    const auto result = replaceFile(file, bytes, OldFile::Drop);
-    if (result.failure) report(environment, file, result.failure->message);
-    return !result.failure;
+    return reportReplacing(environment, file, replaceFile(file, bytes, OldFile::Drop));
 }
 
 EntryNames::EntryNames(Environment& environment, NamesFor reader) {

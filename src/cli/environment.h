@@ -41,10 +41,14 @@ void report(Environment& environment, std::string_view file, std::string_view wh
 /// "what (byte offset 12)".
 [[nodiscard]] std::string withOffset(std::string_view what, std::size_t offset);
 
+/// What may be read as a file. A pipe or a device cannot be replaced by what comes of it.
+enum class Input : std::uint8_t { AnyFile, RegularFile };
+
 /// Reads a file, or standard input for "-". When it cannot be read that is reported, and the result
 /// is none.
 [[nodiscard]] std::optional<FileContent> readInput(Environment& environment,
-                                                   const std::string& file, std::size_t maxBytes);
+                                                   const std::string& file, std::size_t maxBytes,
+                                                   Input input = Input::AnyFile);
 
 /// A script file with its bytes.
 struct SourceScript {
@@ -55,7 +59,8 @@ struct SourceScript {
 /// Reads a script file. What cannot be read or was refused is reported and gives none. Reading that
 /// stopped early is left to the caller to report, below what it prints of the file.
 [[nodiscard]] std::optional<SourceScript> readScriptInput(Environment& environment,
-                                                          const std::string& file);
+                                                          const std::string& file,
+                                                          Input input = Input::AnyFile);
 
 /// Why and where reading stopped, after how many entries; empty when the file was read whole.
 [[nodiscard]] std::string whyIncomplete(const ReadResult& read);
@@ -73,9 +78,9 @@ bool reportReading(Environment& environment, const std::string& file, const Read
 
 /// Writes a file, or standard output for "-". A regular file is replaced whole or not at all, and
 /// the old one kept as a backup when it has other bytes; when it is the very file that the bytes
-/// came from (`source`) and has them already, nothing happens. Reports a failure; true when there
-/// was none. A pipe whose reader has gone is none, and what became of standard output shows when
-/// the program ends.
+/// came from (`source`) and has them already, nothing happens. Reports a failure, and what else
+/// there is to know of the writing; true when there was no failure. A pipe whose reader has gone is
+/// none, and what became of standard output shows when the program ends.
 [[nodiscard]] bool writeOutput(Environment& environment, const std::string& file,
                                std::span<const std::uint8_t> bytes, const FileContent& source);
 

@@ -1,7 +1,9 @@
 #include "platform/directories.h"
 
+#include <cerrno>
 #include <cstdlib>
 #include <string>
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace quendra {
@@ -16,6 +18,13 @@ void makeDirectoryPath(const fs::path& path) {
 void makeDirectory(const fs::path& path) {
     std::error_code ignored;
     fs::create_directory(path, ignored);
+}
+
+bool makePrivateDirectoryPath(const fs::path& path) {
+    if (::mkdir(path.c_str(), 0700) == 0 || errno == EEXIST) return true;
+    if (errno != ENOENT || !path.has_relative_path()) return false;
+    return makePrivateDirectoryPath(path.parent_path()) &&
+           (::mkdir(path.c_str(), 0700) == 0 || errno == EEXIST);
 }
 
 bool canMakeFilesIn(const fs::path& directory) {

@@ -16,6 +16,7 @@ void prepareStandardStreams() {
         descriptor = ::open("/dev/null", O_RDONLY | O_CLOEXEC);
     }
     std::signal(SIGPIPE, SIG_IGN);
+    ignoreSizeLimitSignal();
 }
 
 std::optional<FileFailure> writeToStream(const std::filesystem::path& path,

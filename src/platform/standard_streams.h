@@ -12,7 +12,8 @@ namespace quendra {
 
 /// For the beginning of main(). Started with a standard descriptor closed, the next file opened
 /// would take its place, and messages would be written into a script: what is opened here instead
-/// refuses to be written. A reader that goes away is a failed write from now on, no signal.
+/// refuses to be written. A reader that goes away is a failed write from now on, no signal; so is a
+/// limit on the size of files.
 void prepareStandardStreams();
 
 /// Writes to a pipe or a device that is there, which stays what it is. None when all was taken.

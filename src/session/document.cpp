@@ -4,6 +4,7 @@
 #include "scriptfile/script_files.h"
 #include "scriptfile/script_writer.h"
 #include "session/application_life.h"
+#include "session/file_texts.h"
 #include "text/path_text.h"
 #include "text/text_encoding.h"
 #include "text/text_ids.h"
@@ -42,7 +43,8 @@ std::optional<Message> openRefusal(ApplicationState& state, const fs::path& path
     if (loaded.failure) {
         const StringId text = failedWhileReading(*loaded.failure) ? textid::scriptCannotBeRead
                                                                   : textid::scriptCannotBeOpened;
-        return fileError(state, text, textid::openScriptErrorTitle, path, loaded.failure->message);
+        return fileError(state, text, textid::openScriptErrorTitle, path,
+                         failureText(state.language, *loaded.failure));
     }
     if (loaded.read.refusal == ReadRefusal::TooShort) {
         return fileError(state, textid::scriptCannotBeRead, textid::openScriptErrorTitle, path, {});
@@ -74,15 +76,18 @@ std::string stopText(ApplicationState& state, const ReadResult& read) {
 
 // What there is to tell about a loaded file; empty for an ordinary one. `unsaved` is the name of a
 // copy with changes that were not saved, empty for none.
-std::string loadNote(ApplicationState& state, const ReadResult& read,
+std::string loadNote(ApplicationState& state, const fs::path& path, const ReadResult& read,
                      const std::optional<ReplaceResult>& upgrade, const fs::path& unsaved) {
     std::string remarks;
     const auto add = [&](StringId id, const std::string& what) {
         remarks += "; " + libraryText(state.language, id, {what});
     };
-    if (upgrade && upgrade->failure) add(textid::conversionFailed, upgrade->failure->message);
-    if (upgrade && !upgrade->failure)
-        add(textid::convertedKeeping, pathText(upgrade->backup.filename()));
+    if (upgrade && upgrade->failure)
+        add(textid::conversionFailed, failureText(state.language, *upgrade->failure));
+    if (upgrade && !upgrade->backup.empty())
+        add(upgrade->failure ? textid::oldFileKept : textid::convertedKeeping,
+            keptName(path, upgrade->backup));
+    if (upgrade && upgrade->unsynced) add(textid::convertedUnsynced, upgrade->unsynced->message);
     if (!unsaved.empty()) add(textid::unsavedChangesKept, pathText(unsaved));
     if (!read.isWhole()) return stopText(state, read) + remarks;
     if (remarks.empty()) return {};
@@ -228,7 +233,7 @@ OpenOutcome openDocument(ApplicationState& state, const fs::path& path) {
     const fs::path unsaved = newerUnsavedCopy(path);
     const auto upgrade = upgradeScriptFile(path, loaded);
     if (upgrade && !upgrade->failure) backupSavedScript(state.settings, path);
-    std::string note = loadNote(state, loaded.read, upgrade, unsaved);
+    std::string note = loadNote(state, path, loaded.read, upgrade, unsaved);
     takeOver(state, path, std::move(loaded), upgrade);
     return {true, std::nullopt, std::move(note)};
 }
@@ -239,7 +244,7 @@ OpenOutcome openDocumentAtStart(ApplicationState& state, const fs::path& path) {
     state.document.fileName = path;
     state.document.stamp = fileStamp(path);
     state.document.refused = state.document.keepOldOnSave = state.document.stamp.has_value();
-    if (!readFile(path, 1).failure) return outcome;
+    if (!readRegularFile(path, 1).failure) return outcome;
     // It cannot be opened at all: no box, but it is not passed over unseen.
     outcome.note =
         isYetToBeMade(path)
@@ -252,7 +257,7 @@ OpenOutcome openDocumentAtStart(ApplicationState& state, const fs::path& path) {
 OtherScript readOtherScript(ApplicationState& state, const fs::path& path) {
     LoadedScript loaded = loadScriptFile(path);
     if (auto refusal = openRefusal(state, path, loaded)) return {{}, {}, std::move(refusal), {}};
-    std::string note = loadNote(state, loaded.read, std::nullopt, {});
+    std::string note = loadNote(state, path, loaded.read, std::nullopt, {});
     return {std::move(loaded.read.script), loaded.read.signature.hostType, std::nullopt,
             std::move(note)};
 }
@@ -279,15 +284,14 @@ SaveOutcome saveDocument(ApplicationState& state, const fs::path& path,
         const StringId text = failedWhileWriting(*result.failure) ? textid::scriptCannotBeWritten
                                                                   : textid::scriptCannotBeCreated;
         return {false,
-                fileError(state, text, textid::saveScriptErrorTitle, path, result.failure->message),
+                fileError(state, text, textid::saveScriptErrorTitle, path,
+                          failureText(state.language, result)),
                 {}};
     }
     SaveOutcome outcome = {true, std::nullopt, {}, takeWhatWasStored(state, selection)};
     state.document = {path, false, result.stamp, false, false, state.script};
     backupSavedScript(state.settings, path);
-    if (!result.backup.empty())
-        outcome.note =
-            libraryText(state.language, textid::oldFileKept, {pathText(result.backup.filename())});
+    outcome.note = savedNote(state.language, path, result);
     return outcome;
 }
 
@@ -306,8 +310,8 @@ std::optional<fs::path> keepUnsavedScript(const ApplicationState& state) {
             ++number;
         fs::path copy = unsavedName(name, number);
         // Nobody else has been allowed to read it.
-        const OwnerOnly readers;
-        const auto result = saveScriptFile(copy, state.script, hostType, OldFile::KeepAsBackup);
+        const auto result =
+            saveScriptFile(copy, state.script, hostType, OldFile::KeepAsBackup, NewFile::OwnerOnly);
         if (!result.failure) return copy;
     }
     return std::nullopt;

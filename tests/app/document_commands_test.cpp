@@ -1,11 +1,13 @@
 // New, Open, Save and Save As without a window: nothing that was read or made is lost.
 #include "session/document.h"
+#include "session/file_texts.h"
 #include "support/editor_fixture.h"
 #include "support/full_disk.h"
 
 #include <algorithm>
 #include <chrono>
 #include <filesystem>
+#include <sys/stat.h>
 
 namespace quendra::test {
 namespace {
@@ -47,7 +49,9 @@ TEST_F(DocumentTest, RefusedFilesLeaveEverythingAsItWas) {
         {file("version that UTS never had.qds", bytesOf("QDUDSCR7")), "is not a script file"},
         {editor.folder / "missing.qds", "cannot be opened"},
         {editor.folder.path(), "cannot be read"},
+        {editor.folder / "pipe.qds", "no regular file"},
     };
+    ASSERT_EQ(mkfifo(rows[5].first.c_str(), 0600), 0);
     for (const auto& [path, reason] : rows) {
         SCOPED_TRACE(path);
         const OpenOutcome outcome = openDocument(state, path);
@@ -179,9 +183,11 @@ TEST_F(DocumentTest, FailedWriteLeavesDocumentAndDisk) {
     state.document.modified = true;
     state.document.keepOldOnSave = true;
     const auto stamp = state.document.stamp;
+    ASSERT_EQ(mkfifo((editor.folder / "pipe.qds").c_str(), 0600), 0);
     const std::tuple<fs::path, bool, const char*> rows[] = {
         {editor.folder / "missing" / "b.qds", false, "cannot be created"},
         {editor.folder.path(), false, "cannot be created"},
+        {editor.folder / "pipe.qds", false, "no regular file"},
         {path, true, "cannot be written"},
         {editor.folder / "b.qds", true, "cannot be written"}};
     for (const auto& [target, diskIsFull, reason] : rows) {
@@ -200,6 +206,21 @@ TEST_F(DocumentTest, FailedWriteLeavesDocumentAndDisk) {
         EXPECT_EQ(readBytes(path), commentFile(2));
         EXPECT_EQ(filesInFolder(), 1U);
     }
+}
+
+TEST_F(DocumentTest, SavesThatAreNotOrdinaryAreToldOf) {
+    const ReplaceResult beside = {.backup = editor.folder / "a.qds.bak"};
+    const ReplaceResult elsewhere = {.unsynced = FileFailure{1, "No", editor.folder.path()},
+                                     .backup = "/k/a.qds.bak"};
+    EXPECT_EQ(savedNote(state.language, editor.folder / "a.qds", {}), "");
+    EXPECT_EQ(savedNote(state.language, editor.folder / "a.qds", beside),
+              "The old file is kept as a.qds.bak");
+    EXPECT_EQ(savedNote(state.language, editor.folder / "a.qds", elsewhere),
+              "Saved, but a power cut may undo it: No. The old file is kept as /k/a.qds.bak");
+    EXPECT_EQ(
+        failureText(state.language,
+                    {.failure = FileFailure{1, "No", "/f"}, .backup = "/k/a.qds.bak"}),
+        "The folder \u201c/f\u201d takes no file: No\n\nThe old file is kept as /k/a.qds.bak");
 }
 
 TEST_F(DocumentTest, FileNamedAtStartIsTheDocumentsEvenWhenItIsMissingOrRefused) {

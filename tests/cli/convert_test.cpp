@@ -1,5 +1,9 @@
 // qds convert.
 #include "cli/qds_run.h"
+#include "support/other_user.h"
+
+#include <sys/stat.h>
+#include <thread>
 
 namespace quendra::test {
 namespace {
@@ -92,6 +96,31 @@ TEST_F(Convert, keepsTheOldFileWhenTheOutputIsTheInput) {
     EXPECT_EQ(readBytes(other + ".bak"), bytesOf("an older result"));
     EXPECT_EQ(runQds({"convert", "--output", other, source}).status, 0);
     EXPECT_FALSE(fs::exists(other + ".bak2")) << "it was the same";
+}
+
+TEST_F(Convert, takesPipesAsTheyAreButNotInPlaceAndSaysWhereOldBytesWent) {
+    const std::string pipe = file("pipe.qds");
+    ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
+    QdsRun run = runQds({"convert", "--in-place", pipe});
+    EXPECT_EQ(run.status, 1);
+    EXPECT_EQ(run.err, "qds: " + pipe + ": not a regular file\n");
+    std::thread writer([&] { writeBytes(pipe, oldScript); });
+    EXPECT_EQ(bytesOf(runQds({"convert", "--output", "-", pipe}).out), newScript);
+    writer.join();
+    EXPECT_TRUE(fs::is_fifo(pipe));
+
+    if (!OtherUser::isPossible()) GTEST_SKIP() << "the superuser may replace every file";
+    const std::string others = file("others.qds", oldScript);
+    fs::permissions(others, fs::perms(0666));
+    fs::permissions(file("."), fs::perms(01777));
+    {
+        const OtherUser user;
+        run = runQds({"convert", "--in-place", others});
+    }
+    EXPECT_EQ(run.status, 0);
+    EXPECT_EQ(run.err, "qds: " + others + ": note: written over; its old content is kept as " +
+                           others + ".bak\n");
+    EXPECT_EQ(readBytes(others), newScript);
 }
 
 TEST_F(Convert, refusesPlacesThatCannotBeWrittenAndWritesIntoADevice) {

@@ -14,8 +14,8 @@ const Bytes script = scriptFile("QDMDSCR=", {Bytes(4096, 4)});
 class Process : public QdsTest {
   protected:
     // Runs qds by a shell in the test's folder; gives its exit status.
-    [[nodiscard]] int run(const std::string& line) const {
-        const std::string command = "cd '" + file(".") +
+    [[nodiscard]] int run(const std::string& line, const std::string& before = {}) const {
+        const std::string command = before + "cd '" + file(".") +
                                     "' && LC_ALL=C timeout 60 '" QUENDRA_PROGRAM_FOLDER "/qds' " +
                                     line;
         const int status = std::system(command.c_str());
@@ -69,6 +69,13 @@ TEST_F(Process, reportsAFullDiskAndAReaderThatGoesAway) {
     }
     ::close(pipe[1]);
     ::close(gone);
+}
+
+TEST_F(Process, takesALimitOnTheSizeOfFilesForAFullDisk) {
+    const std::string old = file("old.qds", scriptFile("QDMDSCR2", {{4}}));
+    EXPECT_EQ(run("convert --in-place old.qds 2>err", "ulimit -f 0; "), 1);
+    EXPECT_EQ(readBytes(old), scriptFile("QDMDSCR2", {{4}}));
+    EXPECT_EQ(names(), (std::vector<std::string>{"err", "old.qds"}));
 }
 
 TEST_F(Process, writesFilesUnharmedWithoutStandardStreams) {
