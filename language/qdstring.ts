@@ -3505,5 +3505,11 @@ Save, and lose what the file cannot store?</translation>
         <translation>&amp;Time</translation>
         <extra-name>waitUntilTime</extra-name>
     </message>
+    <message id="16210">
+        <source>Hidden texts can be neither read nor stored now, for the system’s cipher fails: %s</source>
+        <extracomment>Message: a step of the cipher failed; %s is the system’s reason</extracomment>
+        <translation>Hidden texts can be neither read nor stored now, for the system’s cipher fails: %s</translation>
+        <extra-name>cipherFails</extra-name>
+    </message>
 </context>
 </TS>

@@ -2923,5 +2923,10 @@ Speichern und verlieren, was die Datei nicht aufnehmen kann?</translation>
         <extracomment>Wait_Until dialog: check box before the time of day</extracomment>
         <translation>&amp;Uhrzeit</translation>
     </message>
+    <message id="16210">
+        <source>Hidden texts can be neither read nor stored now, for the system’s cipher fails: %s</source>
+        <extracomment>Message: a step of the cipher failed; %s is the system’s reason</extracomment>
+        <translation>Verborgene Texte lassen sich jetzt weder lesen noch speichern, denn die Verschlüsselung des Systems schlägt fehl: %s</translation>
+    </message>
 </context>
 </TS>

@@ -1,6 +1,7 @@
 #include "cli/environment.h"
 
 #include "cli/command_line.h"
+#include "platform/registry.h"
 #include "scriptfile/script_files.h"
 #include "text/text_encoding.h"
 
@@ -100,6 +101,13 @@ bool writeOutput(Environment& environment, const std::string& file,
     const auto result = replaceFile(file, bytes, isSource ? OldFile::KeepAsBackup : OldFile::Drop);
     if (result.failure) report(environment, file, result.failure->message);
     return !result.failure;
+}
+
+UserCipher::UserCipher(Environment& environment) : cipher(userIdentity()) {
+    cipher.reportTo([this, &environment](const CipherFailure& failure) {
+        hasFailed = true;
+        report(environment, cipherFailureTitle(failure.step), failure.reason);
+    });
 }
 
 EntryNames::EntryNames(Environment& environment) {

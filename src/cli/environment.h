@@ -4,6 +4,7 @@
 #include "hosts/lu_catalogue.h"
 #include "model/menu_commands.h"
 #include "platform/files.h"
+#include "scriptfile/hidden_text.h"
 #include "scriptfile/script_reader.h"
 #include "text/language_library.h"
 
@@ -61,6 +62,17 @@ bool reportReading(Environment& environment, const std::string& file, const Read
 /// when that has these bytes already nothing happens. Reports a failure; true when there was none.
 [[nodiscard]] bool writeOutput(Environment& environment, const std::string& file,
                                std::span<const std::uint8_t> bytes, const FileContent& source);
+
+/// The cipher of the user who runs the program. Reports each step of it that fails.
+struct UserCipher {
+    explicit UserCipher(Environment& environment);
+    UserCipher(const UserCipher&) = delete;
+    UserCipher& operator=(const UserCipher&) = delete;
+    ~UserCipher() = default;
+
+    HiddenTextCipher cipher;
+    bool hasFailed = false;
+};
 
 /// The texts of the language library and the names that entries show. Without a library they are
 /// empty and `isLoaded` is false; that has been reported then.

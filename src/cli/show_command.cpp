@@ -3,7 +3,6 @@
 #include "analysis/entry_display.h"
 #include "cli/qds.h"
 #include "forms/script_json.h"
-#include "platform/registry.h"
 #include "scriptfile/entry_codec.h"
 #include "text/text_encoding.h"
 
@@ -17,7 +16,7 @@ struct Show {
     const ShowRequest& request;
     Environment& environment;
     EntryNames names;
-    HiddenTextCipher cipher;
+    UserCipher cipher;
 };
 
 // JSON has none: what prints one form after another is made for programs.
@@ -32,7 +31,7 @@ void printLines(const Show& show, const ReadResult& read) {
     const DisplayNames names = {show.names.luFunctions.of(read.signature.hostType),
                                 show.names.menuCommands, show.request.reveal};
     std::size_t number = 0;
-    forEachEntry(read.script, show.cipher, [&](const ScriptEntry& entry) {
+    forEachEntry(read.script, show.cipher.cipher, [&](const ScriptEntry& entry) {
         if (show.request.numbers) out << std::setw(6) << ++number << '\t';
         out << escapeControlCharacters(formatEntryLine(entry, names)) << '\n';
     });
@@ -41,7 +40,7 @@ void printLines(const Show& show, const ReadResult& read) {
 void printForm(const Show& show, const ReadResult& read) {
     const HostType hostType = read.signature.hostType;
     const JsonPrinting printing = {show.names.luFunctions.of(hostType), show.names.menuCommands,
-                                   show.cipher, show.request.reveal};
+                                   show.cipher.cipher, show.request.reveal};
     printScript(show.environment.out, read.script, hostType, printing);
     show.environment.out << '\n';
 }
@@ -63,13 +62,13 @@ bool showFile(const Show& show, const std::string& file) {
 }  // namespace
 
 int showScripts(const ShowRequest& request, Environment& environment) {
-    const Show show = {request, environment, EntryNames(environment),
-                       HiddenTextCipher(userIdentity())};
+    const Show show = {request, environment, EntryNames(environment), UserCipher(environment)};
     bool isWell = show.names.isLoaded;
     for (const std::string& file : request.files) {
         if (!showFile(show, file)) isWell = false;
         if (!environment.out) break;
     }
+    if (show.cipher.hasFailed) isWell = false;
     return isWell ? statusWell : statusRefused;
 }
 

@@ -31,6 +31,17 @@ void unpackEntry(const EntryHandle& entry, const HiddenTextCipher& cipher, Scrip
     readWholeRecord(entry.record(), memoryForm, &cipher, unpacked);
 }
 
+Script encipheredAnew(const Script& script, const HiddenTextCipher& cipher) {
+    Script result = script;
+    if (!cipher.hasObscuredTexts()) return result;
+    for (EntryHandle& entry : result.entries) {
+        if (entry.code() != CommandCode::Type && !ownsActions(entry.code())) continue;
+        PackResult packed = packEntry(unpackEntry(entry, cipher), cipher);
+        if (packed.ok() && packed.entry != entry) entry = std::move(packed.entry);
+    }
+    return result;
+}
+
 bool TransferSearch::isIn(const EntryHandle& entry) {
     if (entry.code() != CommandCode::MenuCommand && !ownsActions(entry.code())) return false;
     RecordScanner scanner(entry.record(), 0, memoryForm);

@@ -252,7 +252,8 @@ std::vector<Message> questionsBeforeSave(ApplicationState& state, const fs::path
 SaveOutcome saveDocument(ApplicationState& state, const fs::path& path) {
     const bool keepOld = !isOwnFile(state.document, path) || state.document.keepOldOnSave ||
                          changedOnDisk(state.document, path);
-    const ReplaceResult result = saveScriptFile(path, state.script, state.currentHostType,
+    Script script = encipheredAnew(state.script, state.cipher);
+    const ReplaceResult result = saveScriptFile(path, script, state.currentHostType,
                                                 keepOld ? OldFile::KeepAsBackup : OldFile::Drop);
     if (result.failure) {
         const StringId text = failedWhileWriting(*result.failure) ? textid::scriptCannotBeWritten
@@ -261,6 +262,7 @@ SaveOutcome saveDocument(ApplicationState& state, const fs::path& path) {
                 fileError(state, text, textid::saveScriptErrorTitle, path, result.failure->message),
                 {}};
     }
+    state.script = std::move(script);
     state.document = {path, false, result.stamp, false, state.script};
     backupSavedScript(state.settings, path);
     if (result.backup.empty()) return {true, std::nullopt, {}};
@@ -275,6 +277,7 @@ std::optional<fs::path> keepUnsavedScript(const ApplicationState& state) {
     const HostType hostType = storable ? state.currentHostType : HostType::Mainframe;
     const fs::path& own = state.document.fileName;
     const fs::path script = own.empty() ? state.settings.scriptsDir / "Untitled.qds" : own;
+    const Script unsaved = encipheredAnew(state.script, state.cipher);
     for (const fs::path& folder : {script.parent_path(), state.settings.scriptsDir}) {
         std::error_code ignored;
         int number = 1;
@@ -284,7 +287,7 @@ std::optional<fs::path> keepUnsavedScript(const ApplicationState& state) {
         fs::path copy = unsavedName(name, number);
         // Nobody else has been allowed to read it.
         const OwnerOnly readers;
-        const auto result = saveScriptFile(copy, state.script, hostType, OldFile::KeepAsBackup);
+        const auto result = saveScriptFile(copy, unsaved, hostType, OldFile::KeepAsBackup);
         if (!result.failure) return copy;
     }
     return std::nullopt;

@@ -14,10 +14,9 @@ const Bytes script = scriptFile("QDMDSCR=", {Bytes(4096, 4)});
 class Process : public QdsTest {
   protected:
     // Runs qds by a shell in the test's folder; gives its exit status.
-    [[nodiscard]] int run(const std::string& line) const {
-        const std::string command = "cd '" + file(".") +
-                                    "' && LC_ALL=C timeout 60 '" QUENDRA_PROGRAM_FOLDER "/qds' " +
-                                    line;
+    [[nodiscard]] int run(const std::string& line, const std::string& variables = "") const {
+        const std::string command = "cd '" + file(".") + "' && LC_ALL=C " + variables +
+                                    "timeout 60 '" QUENDRA_PROGRAM_FOLDER "/qds' " + line;
         const int status = std::system(command.c_str());
         return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
     }
@@ -29,6 +28,24 @@ TEST_F(Process, readsAStreamAndFindsTheLanguageLibraryFromAnyFolderAndLocale) {
     EXPECT_EQ(readBytes(file("out")), bytesOf("New Session\n"));
     EXPECT_EQ(readBytes(file("err")), bytesOf(""));
     EXPECT_EQ(run("convert 2>err"), 2);
+}
+
+TEST_F(Process, reportsACipherThatTheSystemRefuses) {
+    file("openssl.cnf", bytesOf("openssl_conf = i\n[i]\nproviders = p\n[p]\nnull = n\n"
+                                "[n]\nactivate = 1\n"));
+    file("in.qds", scriptFile("QDMDSCR=", {hiddenTypeRecord("secret", frozenIdentity())}));
+    file("in.json", bytesOf(R"({"hostType": "UTS", "entries": [{"command": "Type", "text": "x",
+                               "hidden": true}]})"));
+    for (const char* line : {"show in.qds", "build in.json --output out.qds"}) {
+        EXPECT_EQ(run("show in.qds >out 2>err"), 0);
+        const std::string system = "OPENSSL_CONF=openssl.cnf ";
+        EXPECT_EQ(run(line + std::string(" >out 2>err"), system), 1);
+        const Bytes told = readBytes(file("err"));
+        EXPECT_EQ(std::string(told.begin(), told.end())
+                      .find("qds: Error during CryptCreateHash.: unsupported"),
+                  0U);
+    }
+    EXPECT_FALSE(std::filesystem::exists(file("out.qds")));
 }
 
 TEST_F(Process, reportsAFullDiskAndAReaderThatGoesAway) {

@@ -103,6 +103,7 @@ TEST_P(LanguageTexts, HaveTheFormatPlacesThatTheProgramFills) {
                               textid::conversionFailed,
                               textid::watchedWaitForDropped,
                               textid::unsavedChangesKept,
+                              textid::cipherFails,
                               textid::characterCannotBeStored})
         filled[id] = "%s";
     for (const StringId id :
