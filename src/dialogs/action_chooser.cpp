@@ -12,6 +12,7 @@ namespace quendra {
 ActionChooser::ActionChooser(const DialogContext& context, const EditTarget& target,
                              const EditTarget& action, const char* name, const char* helpPage)
     : ParameterDialog(context, target, name, helpPage), action_(action) {
+    action_.onceHidden = action.onceHidden || isHiddenText(actionFields());
     layout()->setSizeConstraint(QLayout::SetDefaultConstraint);
     setSizeGripEnabled(true);
 }

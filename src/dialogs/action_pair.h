@@ -37,6 +37,8 @@ class ActionPair : public QGroupBox {
     struct Row {
         QPushButton* button = nullptr;
         QLabel* line = nullptr;
+        /// The action was a hidden Type when it was chosen anew.
+        bool onceHidden = false;
     };
     Row addRow(int number, const char* name, const ActionTexts& texts, Slot slot);
     void choose(Slot slot);
