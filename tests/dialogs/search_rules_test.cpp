@@ -108,7 +108,7 @@ TEST(ActionRules, WhatMeansSomethingElseIsNotHandedOn) {
                 {Code::Copy, Code::Wait, "text", 0},  {Code::Copy, Code::Paste, "text", 5},
                 {Code::Wait, Code::Goto, "text", 5},  {Code::Goto, Code::WaitReady, "text", 5}};
     for (const auto& row : rows) {
-        SCOPED_TRACE(commandKeyword(row.before) + " to " + commandKeyword(row.after));
+        SCOPED_TRACE(&row - rows);
         ScriptEntry entry;
         Step& action = slotFields(entry, Slot::Then);
         action.code = row.before;

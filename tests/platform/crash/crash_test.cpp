@@ -14,6 +14,7 @@
 #include <algorithm>
 #include <csignal>
 #include <ctime>
+#include <fcntl.h>
 #include <fstream>
 #include <gtest/gtest.h>
 #include <sstream>
@@ -32,7 +33,7 @@ TEST(CrashFault, KnowsTheCodesAndTellsSentSignalsApart) {
         {SIGFPE, FPE_INTDIV, 0xC0000094},  {SIGFPE, FPE_INTOVF, 0xC0000095},
         {SIGILL, ILL_PRVOPC, 0xC0000096},  {SIGBUS, BUS_ADRALN, 0x80000002},
         {SIGBUS, BUS_ADRERR, 0xC0000006},  {SIGFPE, SI_USER, 0xE0000008},
-        {SIGTRAP, TRAP_BRKPT, 0x80000003}, {SIGSYS, SYS_SECCOMP, 0xE000001F},
+        {SIGTRAP, TRAP_BRKPT, 0x80000003}, {SIGSYS, 1, 0xE000001F},
     };
     for (const auto& [signal, reason, code] : rows) {
         CrashRecord record;
@@ -182,7 +183,7 @@ bool leavesCore(const fs::path& folder, const std::vector<std::string>& command,
     if (child == 0) {
         const rlimit unlimited = {RLIM_INFINITY, RLIM_INFINITY};
         ::setrlimit(RLIMIT_CORE, &unlimited);
-        ::freopen("/dev/null", "w", stderr);
+        ::dup2(::open("/dev/null", O_WRONLY), STDERR_FILENO);
         if (::chdir(folder.c_str()) == 0) ::execv(arguments[0], arguments.data());
         ::_exit(127);
     }
