@@ -224,21 +224,6 @@ TEST_F(ActionDialogTest, AHiddenTypeStaysHiddenThroughEveryDetour) {
     EXPECT_EQ(textOf(otherwise()), "new");
 }
 
-TEST_F(ActionDialogTest, AnotherCommandIsChosenOnlyWhenItsDialogIsAccepted) {
-    startWithTimeout();
-    entry.thenAction.code = CommandCode::Goto;
-    setText(then(), "label");
-    const ScriptEntry before = entry;
-    doubleClickRow(events, "Message");
-    click("textDialog", "cancel");
-    chooseRow(events, "Wait_Until");
-    click("waitUntilDialog", "cancel");
-    // What OK takes now is the row that is selected, but the text is still that of the Goto.
-    chooseRow(events, "Goto");
-    ASSERT_TRUE(choose(Slot::Then));
-    EXPECT_EQ(entry, before);
-}
-
 TEST_F(ActionDialogTest, OkStartsATransferFromTheWorkingSettingsAndADoubleClickFromItsOwn) {
     startWithTimeout();
     FileTransferSettings& working = state.workingTransfer.settings;
