@@ -3385,12 +3385,6 @@ Save, and lose what the file cannot store?</translation>
         <translation>the file keeps its older version until it is saved: %s</translation>
         <extra-name>conversionFailed</extra-name>
     </message>
-    <message id="15388">
-        <source>a watched Wait_For has no timeout and no actions: left out in entry %s</source>
-        <extracomment>Status bar after opening, behind the number of entries; %s is the numbers of the entries</extracomment>
-        <translation>a watched Wait_For has no timeout and no actions: left out in entry %s</translation>
-        <extra-name>watchedWaitForDropped</extra-name>
-    </message>
     <message id="15389">
         <source>changes that were not saved are kept as %s</source>
         <extracomment>Status bar after opening, behind the number of entries; %s is a file name</extracomment>
@@ -3504,6 +3498,28 @@ Save, and lose what the file cannot store?</translation>
         <extracomment>Wait_Until dialog: check box before the time of day</extracomment>
         <translation>&amp;Time</translation>
         <extra-name>waitUntilTime</extra-name>
+    </message>
+    <message id="16040">
+        <source>“%s” is not there yet: saving makes it</source>
+        <extracomment>Status bar after a start with the name of a script that does not exist; %s is the file name</extracomment>
+        <translation>“%s” is not there yet: saving makes it</translation>
+        <extra-name>scriptIsNotThereYet</extra-name>
+    </message>
+    <message id="16041">
+        <source>The file “%s” could not be opened as a script.
+
+Replace it? The old file is kept as a backup beside it.</source>
+        <extracomment>Question when saving, after a start with the name of a file that was refused; %s is its path</extracomment>
+        <translation>The file “%s” could not be opened as a script.
+
+Replace it? The old file is kept as a backup beside it.</translation>
+        <extra-name>replaceRefusedFileQuestion</extra-name>
+    </message>
+    <message id="16042">
+        <source>Save as VT</source>
+        <extracomment>Step that Undo and Redo name: the script has become what a VT file can store of it</extracomment>
+        <translation>Save as VT</translation>
+        <extra-name>saveAsVtStep</extra-name>
     </message>
     <message id="16210">
         <source>Hidden texts can be neither read nor stored now, for the system’s cipher fails: %s</source>

@@ -2823,11 +2823,6 @@ Speichern und verlieren, was die Datei nicht aufnehmen kann?</translation>
         <extracomment>Status bar after opening, behind the number of entries; %s is the system's reason</extracomment>
         <translation>die Datei behält ihre ältere Version, bis sie gespeichert wird: %s</translation>
     </message>
-    <message id="15388">
-        <source>a watched Wait_For has no timeout and no actions: left out in entry %s</source>
-        <extracomment>Status bar after opening, behind the number of entries; %s is the numbers of the entries</extracomment>
-        <translation>ein überwachtes Wait_For hat weder Zeitlimit noch Aktionen: weggelassen in Eintrag %s</translation>
-    </message>
     <message id="15389">
         <source>changes that were not saved are kept as %s</source>
         <extracomment>Status bar after opening, behind the number of entries; %s is a file name</extracomment>
@@ -2922,6 +2917,25 @@ Speichern und verlieren, was die Datei nicht aufnehmen kann?</translation>
         <source>&amp;Time</source>
         <extracomment>Wait_Until dialog: check box before the time of day</extracomment>
         <translation>&amp;Uhrzeit</translation>
+    </message>
+    <message id="16040">
+        <source>“%s” is not there yet: saving makes it</source>
+        <extracomment>Status bar after a start with the name of a script that does not exist; %s is the file name</extracomment>
+        <translation>„%s“ gibt es noch nicht: Speichern legt die Datei an</translation>
+    </message>
+    <message id="16041">
+        <source>The file “%s” could not be opened as a script.
+
+Replace it? The old file is kept as a backup beside it.</source>
+        <extracomment>Question when saving, after a start with the name of a file that was refused; %s is its path</extracomment>
+        <translation>Die Datei „%s“ konnte nicht als Skript geöffnet werden.
+
+Ersetzen? Die alte Datei bleibt als Sicherungskopie daneben erhalten.</translation>
+    </message>
+    <message id="16042">
+        <source>Save as VT</source>
+        <extracomment>Step that Undo and Redo name: the script has become what a VT file can store of it</extracomment>
+        <translation>Als VT speichern</translation>
     </message>
     <message id="16210">
         <source>Hidden texts can be neither read nor stored now, for the system’s cipher fails: %s</source>

@@ -11,7 +11,7 @@
 #include "session/application_life.h"
 #include "session/command_line.h"
 #include "session/document.h"
-#include "session/startup.h"
+#include "settings/startup.h"
 #include "text/text_ids.h"
 #include "widgets/appearance.h"
 #include "widgets/message_box.h"
@@ -95,10 +95,7 @@ void tellCipherFailures(ApplicationState& state) {
 std::optional<OpenOutcome> applyCommandLine(ApplicationState& state, const CommandLine& line) {
     if (line.hostType) state.currentHostType = *line.hostType;
     if (line.script.empty()) return std::nullopt;
-    // There is no absolute path when the current folder has been removed.
-    std::error_code error;
-    const std::filesystem::path script = std::filesystem::absolute(line.script, error);
-    return openDocumentAtStart(state, error ? line.script : script);
+    return openDocumentAtStart(state, tidyPath(line.script));
 }
 
 // The run from the first window to the last.

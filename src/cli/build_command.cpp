@@ -64,13 +64,28 @@ std::optional<ScriptOfJson> readSource(Environment& environment, const std::stri
         return std::nullopt;
     }
     const UserCipher user(environment);
-    ScriptOfJson made = scriptOfJson(content.bytes(), user.cipher);
+    std::optional<EntryNames> names;
+    const auto keys = [&](HostType hostType) {
+        if (!names) names.emplace(environment, NamesFor::JsonForm);
+        return names->luFunctions.of(hostType);
+    };
+    ScriptOfJson made = scriptOfJson(content.bytes(), {user.cipher, keys});
     if (!made.ok()) {
         report(environment, file, made.refusal);
         return std::nullopt;
     }
     if (!reportHiding(environment, file, made.script, user.cipher)) return std::nullopt;
     return made;
+}
+
+// True when the form is that of a whole script, or of what the user takes for one.
+bool isWhole(const BuildRequest& request, Environment& environment, const ScriptOfJson& made) {
+    if (made.incomplete.empty()) return true;
+    const std::string what =
+        "made from a file that was not whole: " + escapeControlCharacters(made.incomplete);
+    report(environment, request.source,
+           request.allowLoss ? "note: " + what : what + "; --allow-loss builds what there is");
+    return request.allowLoss;
 }
 
 }  // namespace
@@ -80,11 +95,13 @@ int buildScript(const BuildRequest& request, Environment& environment) {
     if (!content) return statusRefused;
     const auto made = readSource(environment, request.source, *content);
     if (!made) return statusRefused;
-    if (reportLoss(environment, request.source, made->script, made->hostType, made->hostType)) {
-        return statusRefused;
-    }
+    const bool losesNothing =
+        !reportLoss(environment, request.source, made->script, made->hostType, made->hostType);
+    if (!isWhole(request, environment, *made)) return statusRefused;
+    if (!losesNothing && !request.allowLoss) return statusRefused;
     const auto bytes = writeScript(made->script, made->hostType);
-    return writeOutput(environment, request.output, bytes, *content) ? statusWell : statusRefused;
+    const bool isWritten = writeOutput(environment, request.output, bytes, *content);
+    return isWritten && losesNothing ? statusWell : statusRefused;
 }
 
 }  // namespace quendra::cli

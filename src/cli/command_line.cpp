@@ -1,6 +1,7 @@
 #include "cli/command_line.h"
 
 #include "platform/product_version.h"
+#include "text/text_encoding.h"
 
 #include <CLI/CLI.hpp>
 #include <algorithm>
@@ -22,6 +23,19 @@ std::string hostTypeNames(std::string_view separator) {
 
 Announcement wrongUsage(const std::string& what) {
     return {"qds: " + what + "\nTry 'qds --help'.\n", statusWrongUsage};
+}
+
+std::string listed(const std::vector<std::string>& names) {
+    std::string text;
+    for (const std::string& name : names)
+        text += (text.empty() ? "" : ", ") + name;
+    return text;
+}
+
+Announcement unknown(const std::string& kind, const std::string& word,
+                     const std::vector<std::string>& known) {
+    return wrongUsage("unknown " + kind + " " + escapeControlCharacters(word) + "; the " + kind +
+                      "s are " + listed(known));
 }
 
 // The parser and what it fills. The lists of files are read from their options as they were typed,
@@ -83,7 +97,9 @@ void Parser::addConvert() {
         ->type_name(hostTypeNames("|"));
     convert->add_flag("--allow-loss", convertRequest.allowLoss,
                       "Write what there is of a file that is not whole or does not fit");
-    auto* output = convert->add_option("--output", convertRequest.output, "Write to this file")
+    auto* output = convert
+                       ->add_option("--output", convertRequest.output,
+                                    "Write to this file; an old one is kept as OUT.bak")
                        ->type_name("OUT");
     convert
         ->add_flag("--in-place", convertRequest.inPlace,
@@ -97,7 +113,9 @@ void Parser::addBuild() {
     build->add_option("SOURCE.json", buildRequest.source, "The JSON form")
         ->required()
         ->type_name("");
-    build->add_option("--output", buildRequest.output, "Write to this file")
+    build->add_flag("--allow-loss", buildRequest.allowLoss,
+                    "Build what there is of a script that was not whole or does not fit");
+    build->add_option("--output", buildRequest.output, "Write to this file; an old one is kept")
         ->required()
         ->type_name("OUT.qds");
 }
@@ -139,10 +157,71 @@ Request requestOf(const Parser& parser) {
     return TextsRequest{};
 }
 
+std::vector<const CLI::App*> commandsOf(const CLI::App& app) {
+    return app.get_subcommands([](const CLI::App*) { return true; });
+}
+
+// Null when there is none of that name.
+const CLI::App* commandOf(const CLI::App& app, const std::string& name) {
+    const auto commands = commandsOf(app);
+    const auto found = std::ranges::find(commands, name, &CLI::App::get_name);
+    return found == commands.end() ? nullptr : *found;
+}
+
+std::vector<std::string> commandNames(const CLI::App& app) {
+    std::vector<std::string> names;
+    for (const CLI::App* command : commandsOf(app))
+        names.push_back(command->get_name());
+    return names;
+}
+
+std::vector<std::string> optionNames(const CLI::App& command) {
+    std::vector<std::string> names;
+    for (const CLI::Option* option : command.get_options()) {
+        for (const std::string& name : option->get_lnames())
+            names.push_back("--" + name);
+        if (!option->get_lnames().empty()) continue;
+        for (const std::string& name : option->get_snames())
+            names.push_back("-" + name);
+    }
+    return names;
+}
+
+// "--name", "--name=value" or the first letter of "-xyz"; a dash alone, or a number, is no option.
+std::optional<std::string> optionName(const std::string& argument) {
+    if (argument.starts_with("--")) return argument.substr(0, argument.find('='));
+    const bool isOption =
+        argument.size() > 1 && argument[0] == '-' && (argument[1] < '0' || argument[1] > '9');
+    return isOption ? std::optional(argument.substr(0, 2)) : std::nullopt;
+}
+
+// The first word that is neither a command nor an option of one. The parser would name it without
+// those that there are, or something else in its place.
+std::optional<Announcement> unknownWord(const CLI::App& app,
+                                        const std::vector<std::string>& arguments) {
+    if (arguments.empty())
+        return wrongUsage("a command is missing; the commands are " + listed(commandNames(app)));
+    const CLI::App* command = nullptr;
+    for (const std::string& argument : arguments) {
+        if (argument == "--") break;
+        const CLI::App& scope = command ? *command : app;
+        if (const auto option = optionName(argument)) {
+            if (scope.get_option_no_throw(*option)) continue;
+            const std::string kind = command ? command->get_name() + " option" : "option";
+            return unknown(kind, *option, optionNames(scope));
+        }
+        if (command) continue;
+        command = commandOf(app, argument);
+        if (!command) return unknown("command", argument, commandNames(app));
+    }
+    return std::nullopt;
+}
+
 }  // namespace
 
 Request parseArguments(const std::vector<std::string>& arguments) {
     Parser parser;
+    if (auto wrong = unknownWord(parser.app, arguments)) return *wrong;
     try {
         // The parser takes its arguments from the back.
         std::vector<std::string> reversed(arguments.rbegin(), arguments.rend());

@@ -37,6 +37,7 @@ struct ConvertRequest {
 };
 
 struct BuildRequest {
+    bool allowLoss = false;
     std::string source;
     std::string output;
 };

@@ -2,11 +2,12 @@
 
 #include "cli/command_line.h"
 #include "platform/registry.h"
+#include "platform/standard_streams.h"
 #include "scriptfile/script_files.h"
 #include "text/text_encoding.h"
 
 #include <algorithm>
-#include <fstream>
+#include <cerrno>
 #include <utility>
 
 namespace quendra::cli {
@@ -22,14 +23,19 @@ bool isStreamFile(const fs::path& path) {
     return fs::exists(status) && !fs::is_regular_file(status) && !fs::is_directory(status);
 }
 
-void put(std::ostream& stream, std::span<const std::uint8_t> bytes) {
-    stream.write(reinterpret_cast<const char*>(bytes.data()),
-                 static_cast<std::streamsize>(bytes.size()));
-    stream.flush();
-}
-
 bool isSameFile(const FileStamp& source, const std::optional<FileStamp>& target) {
     return target && target->device == source.device && target->inode == source.inode;
+}
+
+// Nobody misses an empty file.
+std::optional<FileFailure> replace(const std::string& file, std::span<const std::uint8_t> bytes,
+                                   const FileContent& source) {
+    const auto old = fileStamp(file);
+    const bool isSame = old && old->size == bytes.size() &&
+                        std::ranges::equal(bytes, readFile(file, bytes.size()).bytes());
+    if (isSame && isSameFile(source.stamp, old)) return std::nullopt;
+    const bool isKept = old && old->size > 0 && !isSame;
+    return replaceFile(file, bytes, isKept ? OldFile::KeepAsBackup : OldFile::Drop).failure;
 }
 
 }  // namespace
@@ -67,40 +73,32 @@ std::optional<SourceScript> readScriptInput(Environment& environment, const std:
     return SourceScript{std::move(*content), std::move(read)};
 }
 
-bool reportReading(Environment& environment, const std::string& file, const ReadResult& read) {
-    for (const std::size_t index : read.droppedActions) {
-        report(environment, file,
-               "note: entry " + std::to_string(index + 1) +
-                   ": the timeout and the actions of its watched Wait_For were dropped");
-    }
-    if (read.isWhole()) return true;
+std::string whyIncomplete(const ReadResult& read) {
+    if (read.isWhole()) return {};
     const std::size_t count = read.script.entryCount();
-    report(environment, file,
-           withOffset(describe(read.stop) + ", after " + std::to_string(count) +
+    return withOffset(describe(read.stop) + ", after " + std::to_string(count) +
                           (count == 1 ? " entry" : " entries"),
-                      read.stopOffset));
+                      read.stopOffset);
+}
+
+bool reportReading(Environment& environment, const std::string& file, const ReadResult& read) {
+    if (read.isWhole()) return true;
+    report(environment, file, whyIncomplete(read));
     return false;
 }
 
 bool writeOutput(Environment& environment, const std::string& file,
                  std::span<const std::uint8_t> bytes, const FileContent& source) {
     if (file == standardStream) {
-        // A failure shows when the program ends.
-        put(environment.out, bytes);
-        return environment.out.good();
+        environment.out.write(reinterpret_cast<const char*>(bytes.data()),
+                              static_cast<std::streamsize>(bytes.size()));
+        return true;
     }
-    if (isStreamFile(file)) {
-        std::ofstream stream(file, std::ios::binary);
-        put(stream, bytes);
-        stream.close();
-        if (!stream) report(environment, file, "cannot be written");
-        return stream.good();
-    }
-    const bool isSource = isSameFile(source.stamp, fileStamp(file));
-    if (isSource && std::ranges::equal(bytes, source.bytes())) return true;
-    const auto result = replaceFile(file, bytes, isSource ? OldFile::KeepAsBackup : OldFile::Drop);
-    if (result.failure) report(environment, file, result.failure->message);
-    return !result.failure;
+    const auto failure =
+        isStreamFile(file) ? writeToStream(file, bytes) : replace(file, bytes, source);
+    if (!failure || failure->code == EPIPE) return true;
+    report(environment, file, failure->message);
+    return false;
 }
 
 UserCipher::UserCipher(Environment& environment) : cipher(userIdentity()) {
@@ -110,9 +108,11 @@ UserCipher::UserCipher(Environment& environment) : cipher(userIdentity()) {
     });
 }
 
-EntryNames::EntryNames(Environment& environment) {
-    const fs::path& folder = environment.programFolder;
-    const auto notice = library.load({folder, folder, folder});
+EntryNames::EntryNames(Environment& environment, NamesFor reader) {
+    LanguageFolders folders = environment.languages;
+    // The default is the English one.
+    if (reader == NamesFor::JsonForm) folders.configDir.clear();
+    const auto notice = library.load(folders);
     if (notice) report(environment, notice->text, notice->caption);
     isLoaded = !notice;
     luFunctions = buildLuCatalogues(library.textSource());

@@ -24,8 +24,8 @@ struct Environment {
     int input = 0;
     std::ostream& out;
     std::ostream& err;
-    /// The folder of the program file, where the language library is found.
-    std::filesystem::path programFolder;
+    /// Where the language library is found, and which one the user has set for the editor.
+    LanguageFolders languages;
 };
 
 /// What messages and headings call a file: its name with control characters escaped, or "standard
@@ -54,12 +54,17 @@ struct SourceScript {
 [[nodiscard]] std::optional<SourceScript> readScriptInput(Environment& environment,
                                                           const std::string& file);
 
-/// Reports that a file was not read whole, and what a watched Wait_For lost. True when it is whole.
+/// Why and where reading stopped, after how many entries; empty when the file was read whole.
+[[nodiscard]] std::string whyIncomplete(const ReadResult& read);
+
+/// Reports that a file was not read whole. True when it was.
 bool reportReading(Environment& environment, const std::string& file, const ReadResult& read);
 
-/// Writes a file, or standard output for "-". A regular file is replaced whole or not at all; where
-/// it is the very file that the bytes came from (`source`), the old one is kept as a backup, and
-/// when that has these bytes already nothing happens. Reports a failure; true when there was none.
+/// Writes a file, or standard output for "-". A regular file is replaced whole or not at all, and
+/// the old one kept as a backup when it has other bytes; when it is the very file that the bytes
+/// came from (`source`) and has them already, nothing happens. Reports a failure; true when there
+/// was none. A pipe whose reader has gone is none, and what became of standard output shows when
+/// the program ends.
 [[nodiscard]] bool writeOutput(Environment& environment, const std::string& file,
                                std::span<const std::uint8_t> bytes, const FileContent& source);
 
@@ -73,11 +78,13 @@ struct UserCipher {
     HiddenTextCipher cipher;
     bool hasFailed = false;
 };
+/// The user's language, or that of the names in the JSON form, which anybody can read and build.
+enum class NamesFor : std::uint8_t { User, JsonForm };
 
 /// The texts of the language library and the names that entries show. Without a library they are
 /// empty and `isLoaded` is false; that has been reported then.
 struct EntryNames {
-    explicit EntryNames(Environment& environment);
+    EntryNames(Environment& environment, NamesFor reader);
 
     LanguageLibrary library;
     bool isLoaded = false;

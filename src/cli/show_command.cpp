@@ -40,7 +40,7 @@ void printLines(const Show& show, const ReadResult& read) {
 void printForm(const Show& show, const ReadResult& read) {
     const HostType hostType = read.signature.hostType;
     const JsonPrinting printing = {show.names.luFunctions.of(hostType), show.names.menuCommands,
-                                   show.cipher.cipher, show.request.reveal};
+                                   show.cipher.cipher, show.request.reveal, whyIncomplete(read)};
     printScript(show.environment.out, read.script, hostType, printing);
     show.environment.out << '\n';
 }
@@ -62,7 +62,9 @@ bool showFile(const Show& show, const std::string& file) {
 }  // namespace
 
 int showScripts(const ShowRequest& request, Environment& environment) {
-    const Show show = {request, environment, EntryNames(environment), UserCipher(environment)};
+    const NamesFor reader = request.json ? NamesFor::JsonForm : NamesFor::User;
+    const Show show = {request, environment, EntryNames(environment, reader),
+                       UserCipher(environment)};
     bool isWell = show.names.isLoaded;
     for (const std::string& file : request.files) {
         if (!showFile(show, file)) isWell = false;

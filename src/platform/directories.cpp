@@ -27,4 +27,12 @@ bool canMakeFilesIn(const fs::path& directory) {
     return closed && removed;
 }
 
+bool mayMakeFilesIn(const fs::path& directory) {
+    std::error_code error;
+    fs::path there = fs::absolute(directory, error);
+    while (!error && !fs::exists(there, error) && there.has_relative_path())
+        there = there.parent_path();
+    return !error && ::access(there.c_str(), W_OK | X_OK) == 0;
+}
+
 }  // namespace quendra

@@ -15,4 +15,8 @@ void makeDirectory(const std::filesystem::path& path);
 /// characters) and removing it: permissions alone do not tell of a read-only or full disk.
 [[nodiscard]] bool canMakeFilesIn(const std::filesystem::path& directory);
 
+/// The same by permissions alone, for who must leave everything as it is. A directory that is not
+/// there goes by the one in which it would be made.
+[[nodiscard]] bool mayMakeFilesIn(const std::filesystem::path& directory);
+
 }  // namespace quendra

@@ -15,6 +15,10 @@ namespace quendra {
 /// refuses to be written. A reader that goes away is a failed write from now on, no signal.
 void prepareStandardStreams();
 
+/// Writes to a pipe or a device that is there, which stays what it is. None when all was taken.
+[[nodiscard]] std::optional<FileFailure> writeToStream(const std::filesystem::path& path,
+                                                       std::span<const std::uint8_t> bytes);
+
 /// Buffers what a stream writes to a descriptor, which stays open. After a failure (a full disk, a
 /// pipe without a reader) everything further is refused, so the stream turns bad.
 class DescriptorBuffer : public std::streambuf {

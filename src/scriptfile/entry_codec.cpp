@@ -1,7 +1,6 @@
 #include "scriptfile/entry_codec.h"
 
 #include "scriptfile/record_layout.h"
-#include "scriptfile/record_reader.h"
 
 namespace quendra {
 
@@ -25,10 +24,6 @@ ScriptEntry unpackEntry(const EntryHandle& entry, const HiddenTextCipher& cipher
     RecordReader reader(entry.record(), 0, memoryForm, &cipher);
     layout::record(reader, unpacked, Slot::Entry);
     return unpacked;
-}
-
-void unpackEntry(const EntryHandle& entry, const HiddenTextCipher& cipher, ScriptEntry& unpacked) {
-    readWholeRecord(entry.record(), memoryForm, &cipher, unpacked);
 }
 
 Script encipheredAnew(const Script& script, const HiddenTextCipher& cipher) {

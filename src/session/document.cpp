@@ -53,15 +53,6 @@ std::optional<Message> openRefusal(ApplicationState& state, const fs::path& path
     return std::nullopt;
 }
 
-std::string entryNumbers(const std::vector<std::size_t>& entries) {
-    constexpr std::size_t shown = 10;
-    std::string text;
-    for (std::size_t i = 0; i < std::min(entries.size(), shown); ++i) {
-        text += (i == 0 ? "" : ", ") + std::to_string(entries[i] + 1);
-    }
-    return entries.size() > shown ? text + ", ..." : text;
-}
-
 StringId stopTextId(ReadStop stop) {
     switch (stop) {
         case ReadStop::None: break;
@@ -89,8 +80,6 @@ std::string loadNote(ApplicationState& state, const ReadResult& read,
     const auto add = [&](StringId id, const std::string& what) {
         remarks += "; " + libraryText(state.language, id, {what});
     };
-    if (!read.droppedActions.empty())
-        add(textid::watchedWaitForDropped, entryNumbers(read.droppedActions));
     if (upgrade && upgrade->failure) add(textid::conversionFailed, upgrade->failure->message);
     if (upgrade && !upgrade->failure)
         add(textid::convertedKeeping, pathText(upgrade->backup.filename()));
@@ -138,6 +127,19 @@ void takeOver(ApplicationState& state, const fs::path& path, LoadedScript loaded
     state.dropPending = false;
 }
 
+// A folder or a device, or a path that names nothing in its folder: no script can be saved there.
+bool isNoFile(const fs::path& path) {
+    std::error_code ignored;
+    const fs::file_status status = fs::status(path, ignored);
+    return !path.has_filename() || (fs::exists(status) && !fs::is_regular_file(status));
+}
+
+bool isYetToBeMade(const fs::path& path) {
+    std::error_code ignored;
+    return fs::status(path, ignored).type() == fs::file_type::not_found &&
+           fs::is_directory(path.parent_path(), ignored);
+}
+
 bool isOwnFile(const ScriptDocument& document, const fs::path& path) {
     if (document.fileName.empty()) return false;
     std::error_code ignored;
@@ -158,6 +160,12 @@ std::string shortEntryLine(const ApplicationState& state, std::size_t index) {
                      longest);
 }
 
+Message replaceQuestion(ApplicationState& state, StringId text, const fs::path& path) {
+    return {libraryText(state.language, text, {pathText(path)}),
+            libraryText(state.language, textid::saveScriptErrorTitle), MessageIcon::Question,
+            MessageButtons::YesNo, true};
+}
+
 Message lossQuestion(ApplicationState& state, const std::vector<std::size_t>& entries) {
     constexpr std::size_t shown = 10;
     std::string lines;
@@ -168,6 +176,16 @@ Message lossQuestion(ApplicationState& state, const std::vector<std::size_t>& en
     const std::string text = libraryText(state.language, textid::lossInVtQuestion, {lines});
     return {text, libraryText(state.language, textid::saveScriptErrorTitle), MessageIcon::Question,
             MessageButtons::YesNo, true};
+}
+
+// What is shown after a save is what opening the file would show.
+bool takeWhatWasStored(ApplicationState& state, const EntrySelection& selection) {
+    if (unstorableEntries(state.script, state.currentHostType).empty()) return false;
+    const ScriptView before = {state.script, selection};
+    state.script = readScript(writeScript(state.script, state.currentHostType)).script;
+    state.history.record(before, {state.script, selection},
+                         libraryText(state.language, textid::saveAsVtStep));
+    return true;
 }
 
 }  // namespace
@@ -209,6 +227,7 @@ OpenOutcome openDocument(ApplicationState& state, const fs::path& path) {
     // Asked before the upgrade, which makes the script itself the newer one.
     const fs::path unsaved = newerUnsavedCopy(path);
     const auto upgrade = upgradeScriptFile(path, loaded);
+    if (upgrade && !upgrade->failure) backupSavedScript(state.settings, path);
     std::string note = loadNote(state, loaded.read, upgrade, unsaved);
     takeOver(state, path, std::move(loaded), upgrade);
     return {true, std::nullopt, std::move(note)};
@@ -216,14 +235,16 @@ OpenOutcome openDocument(ApplicationState& state, const fs::path& path) {
 
 OpenOutcome openDocumentAtStart(ApplicationState& state, const fs::path& path) {
     OpenOutcome outcome = openDocument(state, path);
-    if (outcome.opened) return outcome;
+    if (outcome.opened || isNoFile(path)) return outcome;
     state.document.fileName = path;
     state.document.stamp = fileStamp(path);
-    state.document.keepOldOnSave = state.document.stamp.has_value();
+    state.document.refused = state.document.keepOldOnSave = state.document.stamp.has_value();
     if (!readFile(path, 1).failure) return outcome;
-    // It cannot be opened at all: no box, but a file that is there is not passed over unseen.
-    if (state.document.stamp)
-        outcome.note = outcome.refusal->text.substr(0, outcome.refusal->text.find('\n'));
+    // It cannot be opened at all: no box, but it is not passed over unseen.
+    outcome.note =
+        isYetToBeMade(path)
+            ? libraryText(state.language, textid::scriptIsNotThereYet, {pathText(path.filename())})
+            : outcome.refusal->text.substr(0, outcome.refusal->text.find('\n'));
     outcome.refusal.reset();
     return outcome;
 }
@@ -238,18 +259,18 @@ OtherScript readOtherScript(ApplicationState& state, const fs::path& path) {
 
 std::vector<Message> questionsBeforeSave(ApplicationState& state, const fs::path& path) {
     std::vector<Message> questions;
-    if (changedOnDisk(state.document, path)) {
-        questions.push_back(
-            {libraryText(state.language, textid::replaceChangedFileQuestion, {pathText(path)}),
-             libraryText(state.language, textid::saveScriptErrorTitle), MessageIcon::Question,
-             MessageButtons::YesNo, true});
+    if (state.document.refused && isOwnFile(state.document, path)) {
+        questions.push_back(replaceQuestion(state, textid::replaceRefusedFileQuestion, path));
+    } else if (changedOnDisk(state.document, path)) {
+        questions.push_back(replaceQuestion(state, textid::replaceChangedFileQuestion, path));
     }
     const auto unstorable = unstorableEntries(state.script, state.currentHostType);
     if (!unstorable.empty()) questions.push_back(lossQuestion(state, unstorable));
     return questions;
 }
 
-SaveOutcome saveDocument(ApplicationState& state, const fs::path& path) {
+SaveOutcome saveDocument(ApplicationState& state, const fs::path& path,
+                         const EntrySelection& selection) {
     const bool keepOld = !isOwnFile(state.document, path) || state.document.keepOldOnSave ||
                          changedOnDisk(state.document, path);
     Script script = encipheredAnew(state.script, state.cipher);
@@ -263,11 +284,13 @@ SaveOutcome saveDocument(ApplicationState& state, const fs::path& path) {
                 {}};
     }
     state.script = std::move(script);
-    state.document = {path, false, result.stamp, false, state.script};
+    SaveOutcome outcome = {true, std::nullopt, {}, takeWhatWasStored(state, selection)};
+    state.document = {path, false, result.stamp, false, false, state.script};
     backupSavedScript(state.settings, path);
-    if (result.backup.empty()) return {true, std::nullopt, {}};
-    return {true, std::nullopt,
-            libraryText(state.language, textid::oldFileKept, {pathText(result.backup.filename())})};
+    if (!result.backup.empty())
+        outcome.note =
+            libraryText(state.language, textid::oldFileKept, {pathText(result.backup.filename())});
+    return outcome;
 }
 
 std::optional<fs::path> keepUnsavedScript(const ApplicationState& state) {

@@ -62,6 +62,8 @@ TEST_F(DocumentTest, RefusedFilesLeaveEverythingAsItWas) {
 }
 
 TEST_F(DocumentTest, OlderFilesAreConvertedOnceAndKept) {
+    state.settings.backupDir = editor.folder / "backup";
+    fs::create_directories(editor.folder / "backup/Scripts");
     for (const Case& frozen : frozenCases()) {
         if (frozen.version == '=' || !frozen.name.starts_with("kinds")) continue;
         SCOPED_TRACE(frozen.name);
@@ -69,6 +71,7 @@ TEST_F(DocumentTest, OlderFilesAreConvertedOnceAndKept) {
         expectIn(openDocument(state, path).note, frozen.name + ".bak");
         EXPECT_EQ(readBytes(path), frozen.expected);
         EXPECT_EQ(backupOf(path), frozen.file);
+        EXPECT_EQ(readBytes(editor.folder / "backup/Scripts" / frozen.name), frozen.expected);
         EXPECT_TRUE(questionsBeforeSave(state, path).empty()) << "our own writing is no change";
         save(path);
         EXPECT_EQ(readBytes(path), frozen.expected);
@@ -201,16 +204,32 @@ TEST_F(DocumentTest, FailedWriteLeavesDocumentAndDisk) {
 
 TEST_F(DocumentTest, FileNamedAtStartIsTheDocumentsEvenWhenItIsMissingOrRefused) {
     const fs::path path = editor.folder / "new.qds";
-    EXPECT_FALSE(openDocumentAtStart(state, path).refusal);
+    const OpenOutcome missing = openDocumentAtStart(state, path);
+    EXPECT_FALSE(missing.refusal);
+    expectIn(missing.note, "“new.qds” is not there yet");
     EXPECT_EQ(state.document.fileName, path);
+    expectIn(openDocumentAtStart(state, editor.folder / "no/a.qds").note, "cannot be opened");
     const Bytes letter = bytesOf("no script at all");
     writeBytes(path, letter);
-    EXPECT_EQ(questionsBeforeSave(state, path).size(), 1U) << "it appeared since";
     EXPECT_TRUE(openDocumentAtStart(state, path).refusal);
     EXPECT_EQ(state.document.fileName, path);
+    const auto questions = questionsBeforeSave(state, path);
+    ASSERT_EQ(questions.size(), 1U);
+    expectIn(questions[0].text, "could not be opened as a script");
+    EXPECT_TRUE(questionsBeforeSave(state, editor.folder / "other.qds").empty());
     save(path);
     EXPECT_EQ(readBytes(path), bytesOf("QDMDSCR="));
     EXPECT_EQ(backupOf(path), letter);
+    EXPECT_TRUE(questionsBeforeSave(state, path).empty());
+}
+
+TEST_F(DocumentTest, WhatIsNoFileIsRefusedAtStartAndLeavesAnUntitledScript) {
+    for (const fs::path& path : {editor.folder.path(), editor.folder / "new.qds/",
+                                 editor.folder / "..", fs::path("/dev/null")}) {
+        SCOPED_TRACE(path);
+        EXPECT_TRUE(openDocumentAtStart(state, path).refusal);
+        EXPECT_TRUE(state.document.fileName.empty());
+    }
 }
 
 }  // namespace

@@ -48,6 +48,23 @@ TEST_F(Process, reportsACipherThatTheSystemRefuses) {
     EXPECT_FALSE(std::filesystem::exists(file("out.qds")));
 }
 
+TEST_F(Process, showsLinesInTheLanguageOfTheEditorAndMakesNoFolders) {
+    file("in.qds", scriptFile("QDMDSCR=", {menuRecord(201)}));
+    file(".config/quendra/registry.ini",
+         bytesOf("[Software\\Quendra\\6.1]\nBaseRegistry=2\nWorking Directory=" + file("work")));
+    // So that the program does not lie in it, which gives it other settings.
+    ::setenv("TMPDIR", file(".").c_str(), 1);
+    EXPECT_EQ(run("show in.qds >out 2>err"), 0);
+    EXPECT_EQ(readBytes(file("out")), bytesOf("New Session\n"));
+    EXPECT_FALSE(std::filesystem::exists(file("work")));
+    std::filesystem::create_directories(file("work/Config"));
+    file("work/Config/language.ini", bytesOf("[Language]\nLanguage=qdstring_de\n"));
+    EXPECT_EQ(run("show in.qds >out 2>err"), 0);
+    EXPECT_EQ(readBytes(file("out")), bytesOf("Neue Sitzung\n"));
+    EXPECT_EQ(run("show --json in.qds | grep -q '\"name\": \"New Session\"'"), 0);
+    ::unsetenv("TMPDIR");
+}
+
 TEST_F(Process, reportsAFullDiskAndAReaderThatGoesAway) {
     file("in.qds", script);
     for (const char* line :
@@ -61,8 +78,12 @@ TEST_F(Process, reportsAFullDiskAndAReaderThatGoesAway) {
     ASSERT_EQ(::pipe(pipe.data()), 0);
     ASSERT_EQ(::dup2(pipe[1], gone), gone);
     ::close(pipe[0]);
-    EXPECT_EQ(run("show in.qds in.qds >&9 2>err"), 1);
-    EXPECT_EQ(readBytes(file("err")), bytesOf("qds: standard output: Broken pipe\n"));
+    for (const char* line :
+         {"show in.qds in.qds", "show --json in.qds", "convert --output - in.qds",
+          "convert --output /dev/stdout in.qds", "texts"}) {
+        EXPECT_EQ(run(line + std::string(" >&9 2>err")), 0) << line;
+        EXPECT_EQ(readBytes(file("err")), bytesOf("")) << "whoever reads has seen enough";
+    }
     ::close(pipe[1]);
     ::close(gone);
 }

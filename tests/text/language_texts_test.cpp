@@ -101,7 +101,8 @@ TEST_P(LanguageTexts, HaveTheFormatPlacesThatTheProgramFills) {
                               textid::oldFileKept,
                               textid::convertedKeeping,
                               textid::conversionFailed,
-                              textid::watchedWaitForDropped,
+                              textid::scriptIsNotThereYet,
+                              textid::replaceRefusedFileQuestion,
                               textid::unsavedChangesKept,
                               textid::cipherFails,
                               textid::characterCannotBeStored})
