@@ -3635,6 +3635,12 @@ Replace it? The old file is kept as a backup beside it.</translation>
         <translation>narrow no-break space</translation>
         <extra-name>narrowNoBreakSpace</extra-name>
     </message>
+    <message id="16210">
+        <source>Hidden texts can be neither read nor stored now, for the system’s cipher fails: %s</source>
+        <extracomment>Message: a step of the cipher failed; %s is the system’s reason</extracomment>
+        <translation>Hidden texts can be neither read nor stored now, for the system’s cipher fails: %s</translation>
+        <extra-name>cipherFails</extra-name>
+    </message>
     <message id="17100">
         <source>Goto %s: no such label</source>
         <extracomment>Check: a jump to a label that is not there, %s is the label</extracomment>

@@ -3032,6 +3032,11 @@ Ersetzen? Die alte Datei bleibt als Sicherungskopie daneben erhalten.</translati
         <extracomment>Name of a character that cannot be seen, in the note that it cannot be stored</extracomment>
         <translation>schmales geschütztes Leerzeichen</translation>
     </message>
+    <message id="16210">
+        <source>Hidden texts can be neither read nor stored now, for the system’s cipher fails: %s</source>
+        <extracomment>Message: a step of the cipher failed; %s is the system’s reason</extracomment>
+        <translation>Verborgene Texte lassen sich jetzt weder lesen noch speichern, denn die Verschlüsselung des Systems schlägt fehl: %s</translation>
+    </message>
     <message id="17100">
         <source>Goto %s: no such label</source>
         <extracomment>Check: a jump to a label that is not there, %s is the label</extracomment>

@@ -13,6 +13,7 @@
 #include "session/command_line.h"
 #include "session/document.h"
 #include "settings/startup.h"
+#include "text/text_ids.h"
 #include "widgets/appearance.h"
 #include "widgets/message_box.h"
 #include "widgets/symbol_icon.h"
@@ -20,6 +21,7 @@
 
 #include <QApplication>
 #include <QSocketNotifier>
+#include <QTimer>
 
 #include <clocale>
 #include <cstdio>
@@ -79,6 +81,15 @@ void showNotices(const std::vector<StartupNotice>& notices) {
         showMessage(nullptr, {notice.text, notice.caption, MessageIcon::Exclamation,
                               MessageButtons::Ok, false});
     }
+}
+
+// A failing cipher may show while a list is painted, where no box can be opened.
+void tellCipherFailures(ApplicationState& state) {
+    state.cipher.reportTo([&state](const CipherFailure& failure) {
+        const Message message{libraryText(state.language, textid::cipherFails, {failure.reason}),
+                              cipherFailureTitle(failure.step), MessageIcon::Stop};
+        QTimer::singleShot(0, qApp, [message] { showMessage(nullptr, message); });
+    });
 }
 
 // Before there is a window, so that it is built for the script that it is going to show.
@@ -141,6 +152,7 @@ int runEditor(int& argc, char** argv, const CommandLine& line, const PictureOpti
     useToolkitLanguage(settings.configDir);
     ApplicationState state;
     showNotices(loadApplication(state, settings, inputs.environment));
+    if (picture.file.isEmpty()) tellCipherFailures(state);
     const int status = runWindow(state, shown, line, picture, fontSettings);
     wipeApplication(state);
     return status;

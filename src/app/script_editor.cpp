@@ -201,8 +201,10 @@ void ScriptEditor::refuse(EditRefusal refusal, const ScriptEntry& entry) {
     if (refusal != EditRefusal::MenuCommandNotInVt) {
         text += "\n\n" + escapeControlCharacters(formatEntryLine(entry, state_.displayNames()));
     }
+    const bool cipherFails = refusal == EditRefusal::CannotEncipher;
     showMessage(&window_, {text, libraryText(state_.language, textid::refusedMenuCommandTitle),
-                           MessageIcon::Information, MessageButtons::Ok, false});
+                           cipherFails ? MessageIcon::Stop : MessageIcon::Information,
+                           MessageButtons::Ok, false});
 }
 
 void ScriptEditor::askForRow(Palette palette) {

@@ -4,12 +4,57 @@
 #include "cli/qds.h"
 #include "forms/script_json.h"
 #include "platform/registry.h"
+#include "scriptfile/entry_codec.h"
 #include "scriptfile/script_writer.h"
 #include "text/text_encoding.h"
+
+#include <algorithm>
+#include <array>
 
 namespace quendra::cli {
 
 namespace {
+
+bool holdsHiddenText(const ScriptEntry& entry) {
+    // What is kept of an action may be the record of an entry with actions; nothing was enciphered
+    // for either.
+    return std::ranges::any_of(std::array{Slot::Entry, Slot::Then, Slot::Else}, [&](Slot slot) {
+        const Step& step = slotFields(entry, slot);
+        return isHiddenText(step) && !step.kept;
+    });
+}
+
+// The first entry with a text that this key hides.
+std::optional<std::size_t> firstHidden(const Script& script, const HiddenTextCipher& cipher) {
+    std::optional<std::size_t> first;
+    std::size_t index = 0;
+    forEachEntry(script, cipher, [&](const ScriptEntry& entry) {
+        if (!first && holdsHiddenText(entry)) first = index;
+        ++index;
+    });
+    return first;
+}
+
+// Tells of texts that are hidden without an identity. False when it is not known whether there is
+// one: its owner could not read them again.
+bool reportHiding(Environment& environment, const std::string& file, const Script& script,
+                  const HiddenTextCipher& cipher) {
+    if (!cipher.onlyObscures()) return true;
+    const auto hidden = firstHidden(script, cipher);
+    if (!hidden) return true;
+    const std::string entry = "entry " + std::to_string(*hidden + 1) + ": ";
+    if (const auto unreadable = unreadableUserRegistry(processEnvironment())) {
+        report(environment, file,
+               entry + "its hidden text cannot be enciphered: your identity cannot be read from " +
+                   escapeControlCharacters(unreadable->native()));
+        return false;
+    }
+    report(environment, file,
+           "note: " + entry +
+               "its hidden text is only obscured, for you have no user identity: whoever has the "
+               "script can read it");
+    return true;
+}
 
 // Gives the script, or reports why there is none.
 std::optional<ScriptOfJson> readSource(Environment& environment, const std::string& file,
@@ -18,16 +63,19 @@ std::optional<ScriptOfJson> readSource(Environment& environment, const std::stri
         report(environment, file, withOffset("too long for the JSON form", maxJsonSize));
         return std::nullopt;
     }
-    const HiddenTextCipher cipher(userIdentity());
+    const UserCipher user(environment);
     std::optional<EntryNames> names;
     const auto keys = [&](HostType hostType) {
         if (!names) names.emplace(environment, NamesFor::JsonForm);
         return names->luFunctions.of(hostType);
     };
-    ScriptOfJson made = scriptOfJson(content.bytes(), {cipher, keys});
-    if (made.ok()) return made;
-    report(environment, file, made.refusal);
-    return std::nullopt;
+    ScriptOfJson made = scriptOfJson(content.bytes(), {user.cipher, keys});
+    if (!made.ok()) {
+        report(environment, file, made.refusal);
+        return std::nullopt;
+    }
+    if (!reportHiding(environment, file, made.script, user.cipher)) return std::nullopt;
+    return made;
 }
 
 // True when the form is that of a whole script, or of what the user takes for one.

@@ -5,7 +5,6 @@
 #include "cli/qds.h"
 #include "cli/script_paths.h"
 #include "forms/finding_json.h"
-#include "platform/registry.h"
 
 #include <optional>
 
@@ -25,8 +24,7 @@ class ScriptsCheck {
           environment_(environment),
           names_(environment, request.json ? NamesFor::JsonForm : NamesFor::User),
           texts_(names_.library.textSource()),
-          identity_(userIdentity()),
-          cipher_(identity_),
+          user_(environment),
           progress_(environment) {
         if (request.json) form_.emplace(environment.out);
     }
@@ -37,7 +35,8 @@ class ScriptsCheck {
         if (form_) form_->close();
         progress_.clear();
         if (!form_) printSummary();
-        if (hasTrouble_ || !areFoldersRead || !names_.isLoaded) return statusTrouble;
+        if (hasTrouble_ || user_.hasFailed || !areFoldersRead || !names_.isLoaded)
+            return statusTrouble;
         return counts_[0] + counts_[1] > 0 ? statusFound : statusWell;
     }
 
@@ -51,9 +50,9 @@ class ScriptsCheck {
     }
 
     void checkScriptOf(const std::string& file, const SourceScript& source) {
-        const CheckOptions options = {source.read.signature.hostType, !identity_.empty(),
+        const CheckOptions options = {source.read.signature.hostType, !user_.cipher.onlyObscures(),
                                       request_.notes, request_.disabled};
-        const CheckResult result = checkScript(source.read.script, cipher_, options);
+        const CheckResult result = checkScript(source.read.script, user_.cipher, options);
         if (result.findings.empty()) return;
         progress_.clear();
         for (const Finding& finding : result.findings) {
@@ -84,8 +83,7 @@ class ScriptsCheck {
     Environment& environment_;
     EntryNames names_;
     TextSource texts_;
-    std::string identity_;
-    HiddenTextCipher cipher_;
+    UserCipher user_;
     ProgressLine progress_;
     std::optional<FindingsForm> form_;
     std::size_t files_ = 0;

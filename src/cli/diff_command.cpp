@@ -4,7 +4,6 @@
 #include "cli/qds.h"
 #include "compare/script_diff.h"
 #include "forms/diff_json.h"
-#include "platform/registry.h"
 #include "scriptfile/entry_codec.h"
 #include "text/text_encoding.h"
 
@@ -30,7 +29,7 @@ class DiffPrinter {
           left_(left),
           right_(right),
           names_(environment, NamesFor::User),
-          cipher_(userIdentity()) {}
+          user_(environment) {}
 
     void print(const std::vector<DiffLine>& lines) {
         const HostType from = left_.signature.hostType;
@@ -80,7 +79,7 @@ class DiffPrinter {
     [[nodiscard]] std::string lineOf(const ReadResult& side, std::size_t step) {
         const DisplayNames names = {names_.luFunctions.of(side.signature.hostType),
                                     names_.menuCommands};
-        const ScriptEntry entry = unpackEntry(side.script.entries[step], cipher_);
+        const ScriptEntry entry = unpackEntry(side.script.entries[step], user_.cipher);
         return escapeControlCharacters(formatEntryLine(entry, names));
     }
 
@@ -97,7 +96,7 @@ class DiffPrinter {
     const ReadResult& left_;
     const ReadResult& right_;
     EntryNames names_;
-    HiddenTextCipher cipher_;
+    UserCipher user_;
 };
 
 }  // namespace

@@ -1,6 +1,7 @@
 #include "cli/environment.h"
 
 #include "cli/command_line.h"
+#include "platform/registry.h"
 #include "platform/standard_streams.h"
 #include "scriptfile/script_files.h"
 #include "text/text_encoding.h"
@@ -165,6 +166,13 @@ bool writeMerged(Environment& environment, const std::string& file,
     const bool isOurs = isSameFile(ours.stamp, fileStamp(file));
     if (isOurs && std::ranges::equal(bytes, ours.bytes())) return true;
     return reportReplacing(environment, file, replaceFile(file, bytes, OldFile::Drop));
+}
+
+UserCipher::UserCipher(Environment& environment) : cipher(userIdentity()) {
+    cipher.reportTo([this, &environment](const CipherFailure& failure) {
+        hasFailed = true;
+        report(environment, cipherFailureTitle(failure.step), failure.reason);
+    });
 }
 
 EntryNames::EntryNames(Environment& environment, NamesFor reader) {

@@ -4,6 +4,7 @@
 #include "hosts/lu_catalogue.h"
 #include "model/menu_commands.h"
 #include "platform/files.h"
+#include "scriptfile/hidden_text.h"
 #include "scriptfile/script_reader.h"
 #include "text/language_library.h"
 
@@ -97,6 +98,17 @@ bool reportReading(Environment& environment, const std::string& file, const Read
 /// For an expression whose search was given up in some text.
 inline constexpr const char* gaveUpMessage =
     "qds: the expression tries too many ways; texts in which that was so are left out";
+
+/// The cipher of the user who runs the program. Reports each step of it that fails.
+struct UserCipher {
+    explicit UserCipher(Environment& environment);
+    UserCipher(const UserCipher&) = delete;
+    UserCipher& operator=(const UserCipher&) = delete;
+    ~UserCipher() = default;
+
+    HiddenTextCipher cipher;
+    bool hasFailed = false;
+};
 
 /// The user's language, or that of the names in the JSON form, which anybody can read and build.
 enum class NamesFor : std::uint8_t { User, JsonForm };

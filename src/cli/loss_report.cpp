@@ -1,7 +1,6 @@
 #include "cli/loss_report.h"
 
 #include "analysis/entry_display.h"
-#include "platform/registry.h"
 #include "scriptfile/entry_codec.h"
 #include "scriptfile/script_writer.h"
 #include "text/text_encoding.h"
@@ -13,11 +12,11 @@ bool reportLoss(Environment& environment, const std::string& file, const Script&
     const auto indexes = unstorableEntries(script, target);
     if (indexes.empty()) return false;
     const EntryNames names(environment, NamesFor::User);
-    const HiddenTextCipher cipher(userIdentity());
+    const UserCipher user(environment);
     const DisplayNames display = {names.luFunctions.of(source), names.menuCommands};
     for (const std::size_t index : indexes) {
         const std::string line =
-            formatEntryLine(unpackEntry(script.entries[index], cipher), display);
+            formatEntryLine(unpackEntry(script.entries[index], user.cipher), display);
         report(environment, file,
                "entry " + std::to_string(index + 1) + " cannot be stored in a " +
                    std::string(hostTypeInfo(target).name) +

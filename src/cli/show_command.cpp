@@ -4,7 +4,6 @@
 #include "cli/qds.h"
 #include "forms/full_text.h"
 #include "forms/script_json.h"
-#include "platform/registry.h"
 #include "scriptfile/entry_codec.h"
 #include "scriptfile/script_files.h"
 #include "text/text_encoding.h"
@@ -19,7 +18,7 @@ struct Show {
     const ShowRequest& request;
     Environment& environment;
     EntryNames names;
-    HiddenTextCipher cipher;
+    UserCipher cipher;
 };
 
 // JSON has none: what prints one form after another is made for programs.
@@ -34,7 +33,7 @@ void printLines(const Show& show, const ReadResult& read) {
     const DisplayNames names = {show.names.luFunctions.of(read.signature.hostType),
                                 show.names.menuCommands, show.request.reveal};
     std::size_t number = 0;
-    forEachEntry(read.script, show.cipher, [&](const ScriptEntry& entry) {
+    forEachEntry(read.script, show.cipher.cipher, [&](const ScriptEntry& entry) {
         if (show.request.numbers) out << std::setw(6) << ++number << '\t';
         out << escapeControlCharacters(formatEntryLine(entry, names)) << '\n';
     });
@@ -43,7 +42,7 @@ void printLines(const Show& show, const ReadResult& read) {
 void printForm(const Show& show, const ReadResult& read) {
     const HostType hostType = read.signature.hostType;
     const JsonPrinting printing = {show.names.luFunctions.of(hostType), show.names.menuCommands,
-                                   show.cipher, show.request.reveal, whyIncomplete(read)};
+                                   show.cipher.cipher, show.request.reveal, whyIncomplete(read)};
     printScript(show.environment.out, read.script, hostType, printing);
     show.environment.out << '\n';
 }
@@ -52,7 +51,7 @@ void printForm(const Show& show, const ReadResult& read) {
 void printFull(const Show& show, const ReadResult& read) {
     const HostType hostType = read.signature.hostType;
     const DisplayNames names = {show.names.luFunctions.of(hostType), show.names.menuCommands};
-    printFullText(show.environment.out, read.script, hostType, names, show.cipher);
+    printFullText(show.environment.out, read.script, hostType, names, show.cipher.cipher);
     if (!read.isWhole()) {
         show.environment.out << "(incomplete: " << describe(read.stop) << ")\n";
     }
@@ -81,12 +80,13 @@ bool showFile(const Show& show, const std::string& file) {
 int showScripts(const ShowRequest& request, Environment& environment) {
     const NamesFor reader = request.json ? NamesFor::JsonForm : NamesFor::User;
     const Show show = {request, environment, EntryNames(environment, reader),
-                       HiddenTextCipher(userIdentity())};
+                       UserCipher(environment)};
     bool isWell = show.names.isLoaded;
     for (const std::string& file : request.files) {
         if (!showFile(show, file)) isWell = false;
         if (!environment.out) break;
     }
+    if (show.cipher.hasFailed) isWell = false;
     return isWell ? statusWell : statusRefused;
 }
 

@@ -21,6 +21,32 @@ bool askForParameters(const DialogContext& context, const EditTarget& target) {
                      : editParameters(context, target);
 }
 
+bool isSameCommand(const Step& one, const Step& other) {
+    return one.code == other.code &&
+           (one.code != CommandCode::MenuCommand || one.commandId == other.commandId);
+}
+
+// The action as the choice makes it, before anything is asked for.
+ScriptEntry withChoice(const DialogContext& context, const EditTarget& target,
+                       const PaletteChoice& choice) {
+    ScriptEntry chosen = target.entry;
+    applyChoice(chosen, target.slot, choice, luFunctions(context));
+    Step& action = slotFields(chosen, target.slot);
+    if (target.onceHidden && action.code == CommandCode::Type) action.hidden = 1;
+    return chosen;
+}
+
+// Asks for the parameters of what was chosen. Another command takes the place of the action's only
+// when its dialog was accepted; a dialog of the action's own command may keep what it does at once.
+bool askForChoice(const DialogContext& context, const EditTarget& target, ScriptEntry& chosen) {
+    const bool stays =
+        isSameCommand(slotFields(chosen, target.slot), slotFields(target.entry, target.slot));
+    const bool accepted =
+        askForParameters(context, {chosen, target.slot, target.owner, target.onceHidden});
+    if (accepted || stays) target.entry = chosen;
+    return accepted;
+}
+
 void openTransfer(const DialogContext& context, const EditTarget& target,
                   const PaletteChoice& choice) {
     Step& action = slotFields(target.entry, target.slot);
@@ -56,9 +82,11 @@ std::optional<Message> refusalOf(const DialogContext& context, const EditTarget&
 
 bool acceptChoice(const DialogContext& context, const EditTarget& target,
                   const PaletteChoice& choice) {
-    applyChoice(target.entry, target.slot, choice, luFunctions(context));
-    return !lacksParameters(slotFields(target.entry, target.slot)) ||
-           askForParameters(context, target);
+    ScriptEntry chosen = withChoice(context, target, choice);
+    if (lacksParameters(slotFields(chosen, target.slot)))
+        return askForChoice(context, target, chosen);
+    target.entry = chosen;
+    return true;
 }
 
 void openChoice(const DialogContext& context, const EditTarget& target,
@@ -74,8 +102,8 @@ void openChoice(const DialogContext& context, const EditTarget& target,
         if (tells) showMessage(context.window, *refusal);
         return;
     }
-    applyChoice(target.entry, target.slot, choice, luFunctions(context));
-    static_cast<void>(askForParameters(context, target));
+    ScriptEntry chosen = withChoice(context, target, choice);
+    static_cast<void>(askForChoice(context, target, chosen));
 }
 
 }  // namespace quendra

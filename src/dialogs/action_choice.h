@@ -20,12 +20,13 @@ void loadTransfer(ApplicationState& state, const Step& action);
                                                const PaletteChoice& choice);
 
 /// OK on a choice that is not refused: the action becomes what was chosen, and what it then lacks
-/// is asked for. False when the asking was cancelled; the action then has its new command already.
+/// is asked for. False when the asking was cancelled; the action then has the command and all the
+/// parameters that it had.
 [[nodiscard]] bool acceptChoice(const DialogContext& context, const EditTarget& target,
                                 const PaletteChoice& choice);
 
-/// Double-click: the action's parameters are asked for at once, whatever it has already. Rows
-/// without parameters do nothing.
+/// Double-click: the action's parameters are asked for at once, whatever it has already, and it
+/// becomes what was chosen when they are accepted. Rows without parameters do nothing.
 void openChoice(const DialogContext& context, const EditTarget& target,
                 const PaletteChoice& choice);
 

@@ -13,6 +13,7 @@ ActionChooser::ActionChooser(const DialogContext& context, const EditTarget& tar
                              const EditTarget& action, const char* name, const char* helpPage)
     : ParameterDialog(context, target, name, helpPage), action_(action) {
     makeResizable();
+    action_.onceHidden = action.onceHidden || isHiddenText(actionFields());
 }
 
 void ActionChooser::addLists() {

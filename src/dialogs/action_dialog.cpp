@@ -46,7 +46,7 @@ bool chooseAction(const DialogContext& context, const EditTarget& target) {
     // A copy: OK and double-click change the action before their dialogs are answered, and Cancel
     // takes all of it back.
     ScriptEntry working = target.entry;
-    ActionDialog dialog(context, {working, target.slot, target.owner});
+    ActionDialog dialog(context, {working, target.slot, target.owner, target.onceHidden});
     if (!dialog.run()) return false;
     target.entry = working;
     return true;

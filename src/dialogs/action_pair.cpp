@@ -88,7 +88,10 @@ ActionPair::Row ActionPair::addRow(int number, const char* name, const ActionTex
 }
 
 void ActionPair::choose(Slot slot) {
-    if (chooseAction({state_, window()}, {entry_, slot, owner_})) refresh();
+    const bool isHidden = isHiddenText(slotFields(entry_, slot));
+    bool& onceHidden = (slot == Slot::Then ? then_ : else_).onceHidden;
+    onceHidden = onceHidden || isHidden;
+    if (chooseAction({state_, window()}, {entry_, slot, owner_, onceHidden})) refresh();
 }
 
 void ActionPair::refresh() {

@@ -39,6 +39,8 @@ class ActionPair : public QGroupBox {
         QLabel* line = nullptr;
         /// What the line shows while there is no action.
         QString prefix;
+        /// The action was a hidden Type when it was chosen anew.
+        bool onceHidden = false;
     };
     Row addRow(int number, const char* name, const ActionTexts& texts, Slot slot);
     void choose(Slot slot);

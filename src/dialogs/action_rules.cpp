@@ -34,9 +34,24 @@ Message watchForRefusal(ActionRefusal refusal, const TextSource& texts) {
     return {};
 }
 
-void dropHiddenText(Step& action) {
-    setText(action, {});
-    action.hidden = 0;
+// Seconds for a Wait and restores for a Wait_Ready, but for these the length of a prompt and a
+// flag.
+bool hasOwnNumber(CommandCode code) {
+    return code == CommandCode::Input || code == CommandCode::Copy || code == CommandCode::Paste;
+}
+
+// Copy and Paste share theirs.
+CommandCode numberKind(CommandCode code) {
+    return code == CommandCode::Paste ? CommandCode::Copy : code;
+}
+
+// Of a command that makes place for another.
+void dropOwnFields(Step& action, CommandCode before) {
+    const bool hides = before == CommandCode::Type || before == CommandCode::Input;
+    if (hides && action.hidden == 1) setText(action, {});
+    if (hides) action.hidden = 0;
+    if (before == CommandCode::Input) setPrompt(action, {});
+    if (hasOwnNumber(before) || hasOwnNumber(action.code)) action.number = 0;
 }
 
 bool lacksTransferFiles(const FileTransferSettings& settings) {
@@ -84,12 +99,12 @@ std::string actionCaption(const ActionPlace& place) {
 void applyChoice(ScriptEntry& entry, Slot slot, const PaletteChoice& choice,
                  const LuCatalogue& luFunctions) {
     Step& action = slotFields(entry, slot);
-    const bool wasWaitFor = action.code == CommandCode::WaitFor;
-    const bool wasHidden = isHiddenText(action);
+    const CommandCode before = action.code;
     takeCommand(action, choice, luFunctions);
-    if (wasHidden && action.code != CommandCode::Type) dropHiddenText(action);
+    if (numberKind(action.code) == numberKind(before)) return;
+    dropOwnFields(action, before);
     const bool searchesNowhere = entry.searchRow == 0;
-    if (action.code == CommandCode::WaitFor && !wasWaitFor && searchesNowhere) {
+    if (action.code == CommandCode::WaitFor && searchesNowhere) {
         startCommand(entry, slot);
     }
 }

@@ -36,10 +36,12 @@ enum class ActionRefusal : std::uint8_t { NothingSelected, CarriesActions, NotIn
 [[nodiscard]] std::string actionCaption(const ActionPlace& place);
 
 /// Makes an action what was chosen: its code, and key or menu command. Every other field stays, so
-/// a text or number from before serves the new command too. But a hidden text goes when its Type
-/// does, since another command would show it and store it in clear; and a Wait_For that has no
-/// place to search at starts as any new one does. `choice` is one that is not refused, and its row
-/// exists.
+/// a text or number from before serves the new command too. But what is only for hiding, or means
+/// something else for the new command, goes with the old one: a hidden text, which another command
+/// would show and store in clear, with its flag, and the title of an Input that hides what is
+/// typed; the prompt of an Input with its length; whether a Copy or Paste takes the whole screen.
+/// And a Wait_For that has no place to search at starts as any new one does. `choice` is one that
+/// is not refused, and its row exists.
 void applyChoice(ScriptEntry& entry, Slot slot, const PaletteChoice& choice,
                  const LuCatalogue& luFunctions);
 

@@ -17,6 +17,8 @@ struct EditTarget {
     ScriptEntry& entry;
     Slot slot = Slot::Entry;
     ActionOwner owner = ActionOwner::None;
+    /// An action that was a hidden Type: as a Type it is hidden again, whatever it was meanwhile.
+    bool onceHidden = false;
 };
 
 /// What dialogs need beside their target.

@@ -1,6 +1,5 @@
 // Comment, Goto, Label, Message, Express_Logon and Type: one text.
 #include "dialogs/command_dialogs.h"
-#include "platform/registry.h"
 #include "text/text_ids.h"
 #include "widgets/ui_text.h"
 
@@ -83,13 +82,14 @@ class TextDialog : public ParameterDialog {
     [[nodiscard]] QString caption() const { return qtText(commandKeyword(fields().code)); }
 
     void addHidingParts() {
-        const QString note =
-            userIdentity().empty() ? text(textid::hiddenTextOnlyObscured) : QString();
+        const bool obscures = context().state.cipher.onlyObscures();
+        const QString note = obscures ? text(textid::hiddenTextOnlyObscured) : QString();
         text_->setToolTip(note);
         if (context().state.editing) return;
         hide_ = named(new QCheckBox(text(textid::typeHide)), "hide");
         hide_->setToolTip(note);
-        connect(hide_, &QCheckBox::toggled, text_, &TextEdit::setMasked);
+        connect(hide_, &QCheckBox::toggled, text_,
+                [this](bool hides) { text_->setMasked(hides || isHiddenText(fields())); });
         body().addWidget(hide_);
     }
 

@@ -1,8 +1,6 @@
 #include "platform/profile_file.h"
 
 #include <algorithm>
-#include <fstream>
-#include <iterator>
 
 namespace quendra {
 namespace {
@@ -76,15 +74,9 @@ bool hasSection(const Profile& profile, std::string_view section) {
                                [&](const auto& s) { return sameName(s.name, section); });
 }
 
-std::optional<Profile> readProfileFile(const std::filesystem::path& path) {
-    // Opening a FIFO would wait for a writer, and a folder opens but does not read.
-    std::error_code ignored;
-    if (!std::filesystem::is_regular_file(path, ignored)) return std::nullopt;
-    std::ifstream file(path, std::ios::binary);
-    if (!file) return std::nullopt;
-    const std::string text{std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
-    if (file.bad()) return std::nullopt;
-    return parseProfile(text);
+std::optional<Profile> readProfileFile(const std::filesystem::path& path, WrittenBy writer) {
+    const auto text = readSettingsFile(path, writer);
+    return text ? std::optional(parseProfile(*text)) : std::nullopt;
 }
 
 }  // namespace quendra

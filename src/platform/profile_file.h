@@ -8,6 +8,8 @@
 // such a file is an error.
 #pragma once
 
+#include "platform/settings_file.h"
+
 #include <filesystem>
 #include <optional>
 #include <string>
@@ -43,7 +45,9 @@ struct Profile {
 // Whether the section occurs, with or without keys.
 [[nodiscard]] bool hasSection(const Profile& profile, std::string_view section);
 
-// None when there is no regular file at `path` or it cannot be read.
-[[nodiscard]] std::optional<Profile> readProfileFile(const std::filesystem::path& path);
+// None when there is no regular file at `path`, it cannot be read, or somebody whose word is not
+// taken may have written it. Read up to the limit for settings files.
+[[nodiscard]] std::optional<Profile> readProfileFile(const std::filesystem::path& path,
+                                                     WrittenBy writer = WrittenBy::Anybody);
 
 }  // namespace quendra

@@ -1,5 +1,7 @@
 #include "platform/registry.h"
 
+#include "platform/files.h"
+
 #include <algorithm>
 #include <charconv>
 #include <filesystem>
@@ -109,6 +111,26 @@ std::string userIdentity(const Registry& registry) {
 
 std::string userIdentity() {
     return userIdentity(readRegistry(processEnvironment()));
+}
+
+std::function<std::string()> userIdentitySource(const Environment& environment) {
+    const auto file = userFile(environment);
+    return [file, seen = std::optional<FileStamp>()]() mutable -> std::string {
+        const auto stamp = file ? fileStamp(*file) : std::nullopt;
+        if (!stamp || stamp == seen) return {};
+        Registry registry;
+        addProfile(registry.currentUser, *file);
+        if (!registry.currentUser.empty()) seen = stamp;
+        return userIdentity(registry);
+    };
+}
+
+std::optional<fs::path> unreadableUserRegistry(const Environment& environment) {
+    auto file = userFile(environment);
+    if (!file) return std::nullopt;
+    std::error_code error;
+    const bool isMissing = fs::status(*file, error).type() == fs::file_type::not_found;
+    return isMissing || readProfileFile(*file) ? std::nullopt : std::move(file);
 }
 
 }  // namespace quendra

@@ -12,6 +12,8 @@
 #include "platform/profile_file.h"
 
 #include <cstdint>
+#include <filesystem>
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -58,5 +60,14 @@ struct Registry {
 [[nodiscard]] std::string userIdentity(const Registry& registry);
 /// The same by the variables of this process.
 [[nodiscard]] std::string userIdentity();
+
+/// Gives the identity each time it is called, as it is then. Cheap while there is none: the user's
+/// file is read again only when it has changed.
+[[nodiscard]] std::function<std::string()> userIdentitySource(const Environment& environment);
+
+/// The user's file when it is there and cannot be read, so that nobody knows whether there is an
+/// identity; none when it is read or missing.
+[[nodiscard]] std::optional<std::filesystem::path> unreadableUserRegistry(
+    const Environment& environment);
 
 }  // namespace quendra

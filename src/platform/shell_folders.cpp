@@ -1,6 +1,8 @@
 #include "platform/shell_folders.h"
 
-#include <fstream>
+#include "platform/settings_file.h"
+
+#include <sstream>
 #include <string>
 #include <string_view>
 
@@ -52,11 +54,9 @@ std::optional<fs::path> documentsOfLine(std::string_view line,
 // The last line counts, as it does for a shell that reads the file.
 std::optional<fs::path> documentsOfUserDirs(const fs::path& file,
                                             const std::optional<fs::path>& home) {
-    std::error_code error;
-    if (!fs::is_regular_file(file, error)) return std::nullopt;
-    std::ifstream stream(file);
+    std::istringstream lines(readSettingsFile(file).value_or(""));
     std::optional<fs::path> documents;
-    for (std::string line; std::getline(stream, line);) {
+    for (std::string line; std::getline(lines, line);) {
         if (auto found = documentsOfLine(line, home)) documents = std::move(found);
     }
     return documents;

@@ -42,6 +42,17 @@ ScriptEntry unpackSealedEntry(const EntryHandle& entry) {
     return unpack(entry, nullptr);
 }
 
+Script encipheredAnew(const Script& script, const HiddenTextCipher& cipher) {
+    Script result = script;
+    if (!cipher.hasObscuredTexts()) return result;
+    for (EntryHandle& entry : result.entries) {
+        if (entry.code() != CommandCode::Type && !ownsActions(entry.code())) continue;
+        PackResult packed = packEntry(unpackEntry(entry, cipher), cipher);
+        if (packed.ok() && packed.entry != entry) entry = std::move(packed.entry);
+    }
+    return result;
+}
+
 bool TransferSearch::isIn(const EntryHandle& entry) {
     if (entry.code() != CommandCode::MenuCommand && !ownsActions(entry.code())) return false;
     RecordScanner scanner(entry.record(), 0, memoryForm);

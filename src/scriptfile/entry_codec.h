@@ -42,6 +42,10 @@ class EntryUnpacker {
     RecordUnpacker records_;
 };
 
+/// The script with the texts that were obscured until there was an identity enciphered under it;
+/// all other entries keep their records. What cannot be enciphered now stays as it is.
+[[nodiscard]] Script encipheredAnew(const Script& script, const HiddenTextCipher& cipher);
+
 /// Calls `function` with the working form of each entry in order; it is valid during the call only,
 /// for the next one comes in its place.
 template <class Function>

@@ -7,8 +7,10 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <span>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -35,14 +37,25 @@ class DecipheredText {
     SecretMark mark_{this, sizeof(DecipheredText)};
 };
 
-/// Enciphers and deciphers under the key of one user identity. The key is derived once, at the
-/// first text: most scripts hide none, and setting up the cipher would hold up every start of the
-/// editor. For one thread.
+/// Gives the text of the user's identity, or an empty one while there is none.
+using IdentitySource = std::function<std::string()>;
+
+/// Enciphers and deciphers under the key of one user identity. The key is derived at the first
+/// text: most scripts hide none, and setting up the cipher would hold up every start of the editor.
+/// For one thread.
+///
+/// Without an identity texts are only obscured, under the key that every machine without one
+/// shares. As long as there is none it is asked for again at each use. Once there is one it stays,
+/// and what was obscured until then is still read: encipheredAnew() brings it under the new key.
 class HiddenTextCipher {
   public:
-    /// `keyMaterial` is the identity's text, of which the first 63 bytes count; empty material
-    /// gives the key that every machine without an identity shares, which only obscures.
-    explicit HiddenTextCipher(std::string_view keyMaterial);
+    /// Of the identity's text the first 63 bytes count.
+    explicit HiddenTextCipher(std::string_view identity);
+    explicit HiddenTextCipher(IdentitySource source);
+
+    /// From now on `report` is told of the steps of the cipher that fail, of each once: a failing
+    /// cipher fails for every text.
+    void reportTo(CipherReport report);
 
     /// The enciphered form of a text with its closing NUL; none when no key could be made or the
     /// cipher fails. Fits a record when the text is at most 246 bytes.
@@ -52,9 +65,20 @@ class HiddenTextCipher {
     [[nodiscard]] std::optional<DecipheredText> decipher(
         std::span<const std::uint8_t> enciphered) const;
 
+    /// There is no identity: a text enciphered now is only obscured.
+    [[nodiscard]] bool onlyObscures() const;
+
+    /// There was no identity at first, and texts may have been obscured or read then.
+    [[nodiscard]] bool hasObscuredTexts() const;
+
   private:
     /// Null when no key could be made.
     [[nodiscard]] const TripleDesCbc* cipher() const;
+    [[nodiscard]] std::optional<DecipheredText> decipherWith(
+        const TripleDesCbc& cipher, std::span<const std::uint8_t> enciphered) const;
+    /// Asks for the identity where there is none yet.
+    void findIdentity() const;
+    void tell(const CipherFailure& failure) const;
 
     struct KeyMaterial {
         explicit KeyMaterial(std::string_view material);
@@ -67,9 +91,14 @@ class HiddenTextCipher {
         SecretMark mark{this, sizeof(KeyMaterial)};
     };
 
-    KeyMaterial material_;
+    IdentitySource source_;
+    CipherReport report_;
+    mutable KeyMaterial material_;
     mutable bool isDerived_ = false;
     mutable std::optional<TripleDesCbc> cipher_;
+    /// That of the time without an identity, once it is over.
+    mutable std::optional<TripleDesCbc> obscuring_;
+    mutable std::vector<CipherStep> told_;
 };
 
 }  // namespace quendra

@@ -17,7 +17,7 @@ std::vector<StartupNotice> loadApplication(ApplicationState& state, const Startu
     }
     state.luCatalogues = buildLuCatalogues(state.language.textSource());
     state.menuCommands = buildMenuCommandCatalogue(state.language.textSource());
-    state.cipher = HiddenTextCipher(userIdentity(readRegistry(environment)));
+    state.cipher = HiddenTextCipher(userIdentitySource(environment));
     if (!userRegistryUsable(environment)) {
         notices.push_back({state.language.loadText(textid::registryKeyUnusable),
                            state.language.loadText(textid::registryKeyUnusableTitle), true});

@@ -278,7 +278,8 @@ SaveOutcome saveDocument(ApplicationState& state, const fs::path& path,
                          const EntrySelection& selection) {
     const bool keepOld = !isOwnFile(state.document, path) || state.document.keepOldOnSave ||
                          changedOnDisk(state.document, path);
-    const ReplaceResult result = saveScriptFile(path, state.script, state.currentHostType,
+    Script script = encipheredAnew(state.script, state.cipher);
+    const ReplaceResult result = saveScriptFile(path, script, state.currentHostType,
                                                 keepOld ? OldFile::KeepAsBackup : OldFile::Drop);
     if (result.failure) {
         const StringId text = failedWhileWriting(*result.failure) ? textid::scriptCannotBeWritten
@@ -288,6 +289,7 @@ SaveOutcome saveDocument(ApplicationState& state, const fs::path& path,
                           failureText(state.language, result)),
                 {}};
     }
+    state.script = std::move(script);
     SaveOutcome outcome = {true, std::nullopt, {}, takeWhatWasStored(state, selection)};
     state.document = {path, false, result.stamp, false, false, state.script};
     backupSavedScript(state.settings, path);
@@ -302,6 +304,7 @@ std::optional<fs::path> keepUnsavedScript(const ApplicationState& state) {
     const HostType hostType = storable ? state.currentHostType : HostType::Mainframe;
     const fs::path& own = state.document.fileName;
     const fs::path script = own.empty() ? state.settings.scriptsDir / "Untitled.qds" : own;
+    const Script unsaved = encipheredAnew(state.script, state.cipher);
     for (const fs::path& folder : {script.parent_path(), state.settings.scriptsDir}) {
         std::error_code ignored;
         int number = 1;
@@ -311,7 +314,7 @@ std::optional<fs::path> keepUnsavedScript(const ApplicationState& state) {
         fs::path copy = unsavedName(name, number);
         // Nobody else has been allowed to read it.
         const auto result =
-            saveScriptFile(copy, state.script, hostType, OldFile::KeepAsBackup, NewFile::OwnerOnly);
+            saveScriptFile(copy, unsaved, hostType, OldFile::KeepAsBackup, NewFile::OwnerOnly);
         if (!result.failure) return copy;
     }
     return std::nullopt;

@@ -24,8 +24,7 @@ namespace quendra {
 /// The part of a running editor's state that the operations read and change.
 struct EditingState {
     LuCatalogues luCatalogues;
-    /// Of the user identity at start-up; hidden texts in script and clipboard are enciphered under
-    /// it.
+    /// Of the user identity; hidden texts in script and clipboard are enciphered under it.
     HiddenTextCipher cipher{""};
 
     HostType currentHostType = HostType::Mainframe;

@@ -28,6 +28,12 @@ std::size_t lengthOfCharacters(std::string_view text, std::size_t count) {
     return text.size();
 }
 
+// It may name folders that everything saved is copied to: whoever can put files into the folder
+// that happens to be the current one must not decide that.
+std::optional<Profile> readGlobalIni(const fs::path& folder) {
+    return readProfileFile(folder / "global.ini", WrittenBy::UserOrRoot);
+}
+
 // A value of the section "Quendra" or "Help" in an ini file; empty when anything is missing.
 std::string iniText(const std::optional<Profile>& profile, std::string_view section,
                     std::string_view key) {
@@ -171,7 +177,7 @@ void makeBackupFolders(const StartupSettings& settings) {
 }
 
 void applyBackupDir(const StartupInputs& inputs, Folders folders, StartupSettings& settings) {
-    const auto global = readProfileFile(settings.installDir / "global.ini");
+    const auto global = readGlobalIni(settings.installDir);
     const std::string configured = iniText(global, "Quendra", "BackupWorkingDir");
     if (configured.empty()) return;
     settings.backupDir = expandEnvironmentNames(configured, inputs.environment);
@@ -187,8 +193,8 @@ void readHelpSettings(StartupSettings& settings) {
     settings.useWebHelp = settings.webDeployed;
     settings.webHelpBase = builtInWebHelpBase;
     settings.helpFilePath = settings.installDir / "quendra.chm";
-    auto global = readProfileFile(settings.installDir / "global.ini");
-    if (!global) global = readProfileFile(settings.workingDir / "global.ini");
+    auto global = readGlobalIni(settings.installDir);
+    if (!global) global = readGlobalIni(settings.workingDir);
     if (!global) return;
     if (startsWithLetter(iniText(global, "Help", "UseWebHelp"), 'y')) settings.useWebHelp = true;
     settings.webHelpBase = iniText(global, "Help", "WebHelpUrl");
@@ -246,7 +252,7 @@ StartupInputs processStartupInputs() {
 StartupSettings readProgramSettings(const StartupInputs& inputs) {
     StartupSettings settings;
     settings.programDir = inputs.programFile.parent_path();
-    const auto global = readProfileFile(settings.programDir / "global.ini");
+    const auto global = readGlobalIni(settings.programDir);
     settings.appendVersion =
         startsWithLetter(iniText(global, "Quendra", "AppendVersionToWorkingDir"), 'y');
     settings.crossVersionInterop =

@@ -37,7 +37,8 @@ struct StartupInputs {
 /// With no settings at all every folder is the current directory. Missing or malformed settings
 /// leave their defaults, without a message; a WorkingDirType above 4 counts as if the whole product
 /// key were missing. Texts of ini files count up to their 260th character, longer texts of the
-/// registry not at all.
+/// registry not at all. A "global.ini" is obeyed only when file and folder belong to the user or to
+/// root and nobody else may write them.
 [[nodiscard]] StartupSettings readStartupSettings(const StartupInputs& inputs);
 
 }  // namespace quendra

@@ -1,8 +1,11 @@
 #include "text/language_library.h"
 
 #include "platform/profile_file.h"
+#include "platform/settings_file.h"
 
 #include <QByteArray>
+#include <QCryptographicHash>
+#include <QFile>
 #include <QString>
 #include <QTranslator>
 
@@ -17,6 +20,7 @@ namespace fs = std::filesystem;
 constexpr qsizetype maxBaseName = 64;
 constexpr qsizetype maxText = 1023;
 constexpr std::size_t maxThreads = 32;
+constexpr qint64 maxFileSize = qint64{16} * 1024 * 1024;
 constexpr const char* defaultBaseName = "qdstring";
 constexpr const char* extension = ".qm";
 constexpr const char* dataFolder = "../share/quendra-script-editor/language";
@@ -32,14 +36,25 @@ fs::path libraryPath(const fs::path& folder, const std::string& baseName) {
     return folder / fs::path(baseName + extension).relative_path();
 }
 
-// Looks for exactly this file. Left to itself, QTranslator goes on with shorter names ("qdstring"
-// for a missing "qdstring_de"), and the user would get another language instead of the message.
-std::unique_ptr<QTranslator> loadFile(const fs::path& path) {
+// Length and digest as they are written beside a library, empty when there are none.
+std::string statedSum(const fs::path& path) {
+    const auto text = readSettingsFile(fs::path(path) += ".sum").value_or("");
+    return text.substr(0, text.find_last_not_of(" \r\n") + 1);
+}
+
+std::string sumOf(const QByteArray& content) {
+    return std::to_string(content.size()) + " " +
+           QCryptographicHash::hash(content, QCryptographicHash::Sha256).toHex().toStdString();
+}
+
+// The bytes of exactly this file when they are those that were built; otherwise none.
+QByteArray readWhole(const fs::path& path) {
     std::error_code ignored;
-    if (!fs::is_regular_file(path, ignored)) return nullptr;
-    auto texts = std::make_unique<QTranslator>();
-    if (!texts->load(QString::fromStdString(path.string()))) return nullptr;
-    return texts;
+    if (!fs::is_regular_file(path, ignored)) return {};
+    QFile file(QString::fromStdString(path.string()));
+    if (!file.open(QIODevice::ReadOnly)) return {};
+    QByteArray content = file.read(maxFileSize);
+    return sumOf(content) == statedSum(path) ? content : QByteArray();
 }
 
 }  // namespace
@@ -59,17 +74,30 @@ LanguageLibrary::~LanguageLibrary() = default;
 
 std::optional<LanguageNotice> LanguageLibrary::load(const LanguageFolders& folders) {
     const auto baseName = languageBaseName(folders.configDir);
-    for (const auto& folder :
-         {folders.programDir, folders.programDir / dataFolder, folders.installDir}) {
-        texts_ = loadFile(libraryPath(folder, baseName));
-        if (texts_) return std::nullopt;
+    for (const auto& folder : {folders.programDir, folders.programDir / dataFolder}) {
+        if (loadFile(libraryPath(folder, baseName))) return std::nullopt;
     }
-    return LanguageNotice{libraryPath(folders.installDir, baseName).string(),
-                          "Unable to load language library"};
+    const fs::path last = libraryPath(folders.installDir, baseName);
+    if (isTrusted(last) && loadFile(last)) return std::nullopt;
+    return LanguageNotice{last.string(), "Unable to load language library"};
+}
+
+// Read here and not by the toolkit, which goes on with shorter names ("qdstring" for a missing
+// "qdstring_de"): the user would get another language instead of the message.
+bool LanguageLibrary::loadFile(const fs::path& path) {
+    unload();
+    file_ = readWhole(path);
+    if (file_.isEmpty()) return false;
+    texts_ = std::make_unique<QTranslator>();
+    const auto* bytes = reinterpret_cast<const uchar*>(file_.constData());
+    if (texts_->load(bytes, static_cast<int>(file_.size()))) return true;
+    unload();
+    return false;
 }
 
 void LanguageLibrary::unload() {
     texts_.reset();
+    file_.clear();
 }
 
 std::string LanguageLibrary::loadText(StringId id) {

@@ -5,6 +5,8 @@
 #include "text/format_text.h"
 #include "text/string_ids.h"
 
+#include <QByteArray>
+
 #include <filesystem>
 #include <functional>
 #include <memory>
@@ -53,6 +55,10 @@ class LanguageLibrary {
     // Loads the library from the program's folder or, since an installation keeps its data apart
     // from its programs, the data folder beside that; then from `installDir`. Gives none when it is
     // loaded; otherwise the notice to show: all texts are then empty, and the program goes on.
+    //
+    // A library is passed over like a missing one when it is not what was built, as "NAME.qm.sum"
+    // beside it says: the toolkit crashes on a damaged one. That of an `installDir` elsewhere also
+    // when anybody but the user and root may have written it, for that may be any current folder.
     [[nodiscard]] std::optional<LanguageNotice> load(const LanguageFolders& folders);
 
     // Drops the texts; loadText then gives empty ones.
@@ -67,9 +73,12 @@ class LanguageLibrary {
     [[nodiscard]] TextSource textSource();
 
   private:
+    bool loadFile(const std::filesystem::path& path);
     bool servesThisThread();
 
     std::function<void(const LanguageNotice&)> report_;
+    // What the texts are read from as long as they are used.
+    QByteArray file_;
     std::unique_ptr<QTranslator> texts_;
     std::mutex threadsLock_;
     std::vector<std::thread::id> threads_;

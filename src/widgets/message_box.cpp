@@ -2,7 +2,10 @@
 
 #include "widgets/ui_text.h"
 
+#include <QFontMetrics>
+#include <QGridLayout>
 #include <QMessageBox>
+#include <QSpacerItem>
 
 #include <utility>
 
@@ -44,6 +47,33 @@ MessageAnswer answerOf(int button) {
     }
 }
 
+// The label wraps its text at blanks and the like only, and shows the beginning of longer pieces,
+// such as the names in a path: here they may be broken too, where nothing shows.
+QString breakable(const QString& text) {
+    constexpr int longestPiece = 48;
+    QString result;
+    int piece = 0;
+    for (const QChar character : text) {
+        piece = character.isLetterOrNumber() || character == u'_' ? piece + 1 : 0;
+        if (piece > longestPiece && !character.isLowSurrogate()) {
+            result += QChar(0x200B);
+            piece = 1;
+        }
+        result += character;
+    }
+    return result;
+}
+
+// The title bar has the window's buttons too, and its font may be bold.
+void makeRoomForTitle(QMessageBox& box) {
+    constexpr int buttons = 160;
+    QFont font = box.font();
+    font.setBold(true);
+    const int width = QFontMetrics(font).horizontalAdvance(box.windowTitle()) + buttons;
+    auto* grid = qobject_cast<QGridLayout*>(box.layout());
+    if (grid) grid->addItem(new QSpacerItem(width, 0), grid->rowCount(), 0, 1, grid->columnCount());
+}
+
 MessageAnswer runBox(QWidget* owner, const Message& message) {
     QMessageBox box(owner);
     box.setObjectName(QStringLiteral("messageBox"));
@@ -51,9 +81,10 @@ MessageAnswer runBox(QWidget* owner, const Message& message) {
     box.setWindowTitle(qtText(message.title));
     // A path or a script text may look like markup.
     box.setTextFormat(Qt::PlainText);
-    box.setText(qtText(message.text));
+    box.setText(breakable(qtText(message.text)));
     box.setStandardButtons(boxButtons(message.buttons));
     if (message.defaultsToNo) box.setDefaultButton(QMessageBox::No);
+    makeRoomForTitle(box);
     box.show();
     box.raise();
     box.activateWindow();

@@ -140,6 +140,40 @@ TEST_F(Build, refusesTransferSettingsThatNoRecordHolds) {
     refusesEntry(settings + "}", ": transferSettings: a VT script stores none", "VT");
 }
 
+TEST_F(Build, saysWhenAHiddenTextIsOnlyObscuredAndRefusesWhenNobodyKnows) {
+    const std::string hidden = R"({"command": "Type", "hidden": true, "text": "x"})";
+    const auto form = [](const std::string& entry) {
+        return bytesOf(R"({"hostType": "UTS", "entries": [{"command": "Beep"}, )" + entry + "]}");
+    };
+    const Bytes forms[] = {
+        form(hidden), form(R"({"command": "Watch_For", "text": "f", "then": )" + hidden + "}")};
+    const Bytes open = form(R"({"command": "Type", "text": "x"})");
+    const std::string registry = file(".config/quendra/registry.ini");
+    const std::vector<std::string> build = {"build", "-", "--output", file("out.qds")};
+    for (const Bytes& content : forms) {
+        EXPECT_EQ(runQds(build, content).err, "") << "there is an identity";
+        std::filesystem::remove(registry);
+        const QdsRun told = runQds(build, content);
+        EXPECT_EQ(told.status, 0);
+        EXPECT_NE(told.err.find("note: entry 2: its hidden text is only obscured"),
+                  std::string::npos);
+        EXPECT_EQ(runQds(build, open).err, "") << "nothing is hidden";
+        std::filesystem::create_directory(registry);
+        std::filesystem::remove(file("out.qds"));
+        const QdsRun refused = runQds(build, content);
+        EXPECT_EQ(refused.status, 1);
+        EXPECT_NE(refused.err.find("entry 2: its hidden text cannot be enciphered: your identity "
+                                   "cannot be read from " +
+                                   registry),
+                  std::string::npos)
+            << refused.err;
+        EXPECT_FALSE(std::filesystem::exists(file("out.qds"))) << "nothing was written";
+        EXPECT_EQ(runQds(build, open).status, 0);
+        std::filesystem::remove(registry);
+        setIdentity(frozenIdentity());
+    }
+}
+
 TEST_F(Build, keepsTheOutputThatItReplacesUnlessItIsTheSame) {
     const std::string source = file("a.json", bytesOf(R"({"hostType": "UTS", "entries": []})"));
     const std::string out = file("out.qds", bytesOf("an older result"));

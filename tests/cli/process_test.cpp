@@ -31,6 +31,24 @@ TEST_F(Process, readsAStreamAndFindsTheLanguageLibraryFromAnyFolderAndLocale) {
     EXPECT_EQ(run("convert 2>err"), 2);
 }
 
+TEST_F(Process, reportsACipherThatTheSystemRefuses) {
+    file("openssl.cnf", bytesOf("openssl_conf = i\n[i]\nproviders = p\n[p]\nnull = n\n"
+                                "[n]\nactivate = 1\n"));
+    file("in.qds", scriptFile("QDMDSCR=", {hiddenTypeRecord("secret", frozenIdentity())}));
+    file("in.json", bytesOf(R"({"hostType": "UTS", "entries": [{"command": "Type", "text": "x",
+                               "hidden": true}]})"));
+    for (const char* line : {"show in.qds", "build in.json --output out.qds"}) {
+        EXPECT_EQ(run("show in.qds >out 2>err"), 0);
+        const std::string system = "export OPENSSL_CONF=openssl.cnf; ";
+        EXPECT_EQ(run(line + std::string(" >out 2>err"), system), 1);
+        const Bytes told = readBytes(file("err"));
+        EXPECT_EQ(std::string(told.begin(), told.end())
+                      .find("qds: Error during CryptCreateHash.: unsupported"),
+                  0U);
+    }
+    EXPECT_FALSE(std::filesystem::exists(file("out.qds")));
+}
+
 TEST_F(Process, showsLinesInTheLanguageOfTheEditorAndMakesNoFolders) {
     file("in.qds", scriptFile("QDMDSCR=", {menuRecord(201)}));
     file(".config/quendra/registry.ini",

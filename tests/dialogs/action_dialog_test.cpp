@@ -207,6 +207,55 @@ TEST_F(ActionDialogTest, DoubleClickAsksAgainAndCancelTakesAllOfItBack) {
     }
 }
 
+TEST_F(ActionDialogTest, AHiddenTypeStaysHiddenThroughEveryDetour) {
+    // Commands that are chosen on the way; the second is accepted.
+    for (const bool accepted : {false, true}) {
+        entry = newCommand(CommandCode::WatchFor);
+        setText(own(), "ERROR");
+        then().code = CommandCode::Type;
+        then().hidden = 1;
+        setText(then(), "secret");
+        const ScriptEntry before = entry;
+        state.editing = true;
+        const auto doubleClick = [&](const char* event) {
+            steps.in("watchForDialog",
+                     [=](const OpenDialog& d) { d.doubleClickRow(events, event); });
+        };
+        doubleClick("Comment");
+        click("textDialog", "cancel");
+        if (accepted) {
+            doubleClick("Message");
+            answer("textDialog", "text", "hello");
+        }
+        doubleClick("Type");
+        steps.in("textDialog", [accepted](const OpenDialog& d) {
+            EXPECT_EQ(d.shown("text"), accepted ? "*****" : "******") << "masked";
+            d.retype("text", "new");
+            EXPECT_EQ(d.shown("text"), "***");
+            d.click("ok");
+        });
+        click("watchForDialog", "ok");
+        ASSERT_TRUE(run());
+        ScriptEntry expected = before;
+        setText(slotFields(expected, Slot::Then), "new");
+        EXPECT_EQ(entry, expected);
+    }
+    // From one opening of the Action dialog to the next.
+    startWithTimeout();
+    otherwise().code = CommandCode::Type;
+    otherwise().hidden = 1;
+    setText(otherwise(), "secret");
+    click("waitForDialog", "elseButton");
+    chooseRow(events, "Beep");
+    click("waitForDialog", "elseButton");
+    chooseRow(events, "Type");
+    answer("textDialog", "text", "new");
+    click("waitForDialog", "ok");
+    ASSERT_TRUE(run());
+    EXPECT_EQ(otherwise().hidden, 1);
+    EXPECT_EQ(textOf(otherwise()), "new");
+}
+
 TEST_F(ActionDialogTest, OkStartsATransferFromTheWorkingSettingsAndADoubleClickFromItsOwn) {
     startWithTimeout();
     FileTransferSettings& working = state.workingTransfer.settings;

@@ -97,6 +97,35 @@ TEST(ActionRules, AHiddenTextIsNotHandedOnToACommandThatShowsIt) {
     }
 }
 
+TEST(ActionRules, WhatMeansSomethingElseIsNotHandedOn) {
+    const struct {
+        Code before;
+        Code after;
+        const char* text;
+        std::uint32_t number;
+    } rows[] = {{Code::Input, Code::Type, "", 0},     {Code::Input, Code::Wait, "", 0},
+                {Code::Wait, Code::Input, "text", 0}, {Code::Wait, Code::Copy, "text", 0},
+                {Code::Copy, Code::Wait, "text", 0},  {Code::Copy, Code::Paste, "text", 5},
+                {Code::Wait, Code::Goto, "text", 5},  {Code::Goto, Code::WaitReady, "text", 5}};
+    for (const auto& row : rows) {
+        SCOPED_TRACE(&row - rows);
+        ScriptEntry entry;
+        Step& action = slotFields(entry, Slot::Then);
+        action.code = row.before;
+        setText(action, "text");
+        if (row.before == Code::Input) {
+            setPrompt(action, "Name:");
+            action.hidden = 1;
+        }
+        action.number = 5;
+        applyChoice(entry, Slot::Then, choiceOfCode(row.after), {});
+        EXPECT_EQ(textOf(action), row.text);
+        EXPECT_EQ(action.number, row.number);
+        EXPECT_EQ(action.hidden, 0);
+        EXPECT_EQ(action.prompt, PromptField{});
+    }
+}
+
 TEST(ActionRules, AWaitForThatTakesOverATextSearchesFromTheFirstPlace) {
     ScriptEntry entry;
     entry.code = Code::WatchFor;

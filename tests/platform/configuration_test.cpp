@@ -3,11 +3,17 @@
 #include "platform/environment.h"
 #include "platform/profile_file.h"
 #include "platform/registry.h"
+#include "platform/settings_file.h"
 #include "platform/shell_folders.h"
 #include "support/temporary_folder.h"
 
+#include <cstring>
 #include <fstream>
+#include <grp.h>
 #include <gtest/gtest.h>
+#include <pwd.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 namespace quendra::test {
 namespace {
@@ -89,6 +95,64 @@ class Folders : public testing::Test {
 };
 
 using RegistryFiles = Folders;
+using SettingsFiles = Folders;
+
+TEST_F(SettingsFiles, AreReadInWholeLinesUpToABoundAndNeverWaitedFor) {
+    const std::string line = "[a]\nk=" + std::string(maxSettingsSize - 8, 'v') + "\n";
+    write("full.ini", line + "[b]\nk=v\n");
+    EXPECT_EQ(readSettingsFile(folder / "full.ini"), line);
+    write("line.ini", std::string(maxSettingsSize + 1, 'v'));
+    EXPECT_EQ(readSettingsFile(folder / "line.ini"), "");
+    ASSERT_EQ(::mkfifo((folder / "fifo.ini").c_str(), 0600), 0);
+    EXPECT_FALSE(readSettingsFile(folder / "fifo.ini"));
+}
+
+TEST_F(SettingsFiles, OfSomebodyElseAreNotTrusted) {
+    constexpr uid_t nobody = 65534;
+    const struct {
+        const char* name;
+        mode_t folderMode;
+        mode_t fileMode;
+        bool trusted;
+        bool othersFolder = false;
+        bool othersFile = false;
+    } rows[] = {{"mine", 0755, 0644, true},
+                {"writableFile", 0755, 0646, false},
+                {"writableFolder", 0777, 0644, false},
+                {"sticky", 01777, 0644, false},
+                {"theirFile", 0755, 0644, false, false, true},
+                {"theirFolder", 0755, 0644, false, true}};
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.name);
+        if ((row.othersFile || row.othersFolder) && ::geteuid() != 0) continue;
+        const fs::path file = folder / row.name / "global.ini";
+        write(std::string(row.name) + "/global.ini", "[Quendra]\n");
+        ASSERT_EQ(::chmod(file.c_str(), row.fileMode), 0);
+        const auto giveAway = [](const fs::path& path) {
+            EXPECT_EQ(::chown(path.c_str(), nobody, nobody), 0);
+        };
+        if (row.othersFile) giveAway(file);
+        ASSERT_EQ(::chmod(file.parent_path().c_str(), row.folderMode), 0);
+        if (row.othersFolder) giveAway(file.parent_path());
+        EXPECT_EQ(isTrusted(file), row.trusted);
+        EXPECT_EQ(readProfileFile(file, WrittenBy::UserOrRoot).has_value(), row.trusted);
+        EXPECT_TRUE(readProfileFile(file));
+        // A link is no way around it.
+        fs::create_directories(folder / "links");
+        fs::create_symlink(file, folder / "links" / row.name);
+        EXPECT_EQ(isTrusted(folder / "links" / row.name), row.trusted);
+    }
+    // The group of one's own that many systems give each user, and any other.
+    write("group.ini", "");
+    ASSERT_EQ(::chmod((folder / "group.ini").c_str(), 0664), 0);
+    const passwd* user = ::getpwuid(::geteuid());
+    const group* own = ::getgrgid(::getegid());
+    const bool isOwn = user && own && !std::strcmp(user->pw_name, own->gr_name);
+    EXPECT_EQ(isTrusted(folder / "group.ini"), isOwn);
+    if (::geteuid() != 0) return;
+    ASSERT_EQ(::chown((folder / "group.ini").c_str(), 0, 100), 0);
+    EXPECT_FALSE(isTrusted(folder / "group.ini"));
+}
 
 TEST_F(RegistryFiles, EachValueComesFromTheMostImportantOneThatHasIt) {
     write("a/quendra/registry.ini", "[Key]\nOne=a\n");
@@ -107,6 +171,21 @@ TEST_F(RegistryFiles, EachValueComesFromTheMostImportantOneThatHasIt) {
     environment["XDG_CONFIG_HOME"] = root + "/b";
     EXPECT_EQ(userIdentity(readRegistry(environment)), "");
     EXPECT_EQ(userIdentity(readRegistry({})), "");
+}
+
+TEST_F(RegistryFiles, AnIdentityIsFoundOnceItIsThereAndAnUnreadableFileIsToldFromNone) {
+    const Environment environment = {{"XDG_CONFIG_HOME", root}};
+    const auto identity = userIdentitySource(environment);
+    EXPECT_EQ(identity(), "");
+    EXPECT_FALSE(unreadableUserRegistry(environment));
+    write("quendra/registry.ini", "[Identities]\n");
+    EXPECT_EQ(identity() + identity(), "");
+    write("quendra/registry.ini", "[Identities]\nDefault User ID={1}\n");
+    EXPECT_EQ(identity(), "{1}");
+    EXPECT_FALSE(unreadableUserRegistry(environment));
+    fs::remove(folder / "quendra/registry.ini");
+    fs::create_directory(folder / "quendra/registry.ini");
+    EXPECT_EQ(unreadableUserRegistry(environment), folder / "quendra/registry.ini");
 }
 
 TEST_F(RegistryFiles, TheUsersIsUsableUnlessItCanBeNeitherReadNorMade) {

@@ -2,11 +2,14 @@
 #include "scriptfile/hidden_text.h"
 
 #include "platform/cipher.h"
+#include "scriptfile/entry_codec.h"
 #include "support/fixtures.h"
 
 #include <QByteArray>
 
 #include <gtest/gtest.h>
+#include <openssl/crypto.h>
+#include <openssl/provider.h>
 
 namespace quendra::test {
 namespace {
@@ -41,6 +44,79 @@ TEST(HiddenText, readsBackEveryLengthAndCountsOnlySixtyThreeBytesOfTheIdentity) 
         ASSERT_TRUE(plain && plain->exact());
         EXPECT_EQ(plain->text(), text);
     }
+}
+
+TEST(HiddenText, asksForAMissingIdentityAtEachUseAndThenReadsBothAndStoresUnderIt) {
+    std::string identity;
+    const HiddenTextCipher cipher([&identity] { return identity; });
+    EXPECT_TRUE(cipher.onlyObscures());
+    const auto obscured = cipher.encipher("secret").value();
+    EXPECT_EQ(obscured, HiddenTextCipher("").encipher("secret"));
+    Script script;
+    script.entries.push_back(storeRecord(hiddenTypeRecord("secret", "")));
+    script.entries.push_back(storeRecord(hiddenTypeRecord("theirs", "{ANOTHER}")));
+    EXPECT_EQ(encipheredAnew(script, cipher), script) << "there is nothing better";
+
+    identity = "mine";
+    EXPECT_FALSE(cipher.onlyObscures());
+    EXPECT_EQ(cipher.decipher(obscured).value().text(), "secret");
+    EXPECT_EQ(cipher.encipher("new"), HiddenTextCipher("mine").encipher("new"));
+    Script anew = script;
+    anew.entries[0] = storeRecord(hiddenTypeRecord("secret", "mine"));
+    EXPECT_EQ(encipheredAnew(script, cipher), anew);
+    identity = "yours";
+    EXPECT_EQ(cipher.encipher("new"), HiddenTextCipher("mine").encipher("new")) << "it stays";
+    const HiddenTextCipher from([&identity] { return identity; });
+    EXPECT_FALSE(from.decipher(obscured)) << "obscured by somebody else, some other time";
+}
+
+// A system whose rules allow neither SHA-1 nor Triple DES.
+class WithoutAlgorithms {
+  public:
+    WithoutAlgorithms() : none_(OSSL_PROVIDER_load(context_, "null")) {
+        before_ = OSSL_LIB_CTX_set0_default(context_);
+    }
+    ~WithoutAlgorithms() {
+        OSSL_LIB_CTX_set0_default(before_);
+        OSSL_PROVIDER_unload(none_);
+        OSSL_LIB_CTX_free(context_);
+    }
+    WithoutAlgorithms(const WithoutAlgorithms&) = delete;
+    WithoutAlgorithms& operator=(const WithoutAlgorithms&) = delete;
+
+  private:
+    OSSL_LIB_CTX* context_ = OSSL_LIB_CTX_new();
+    OSSL_PROVIDER* none_;
+    OSSL_LIB_CTX* before_ = nullptr;
+};
+
+TEST(HiddenText, tellsOnceOfEachStepThatFailsAndNeverOfBadData) {
+    std::vector<std::string> told;
+    const auto listen = [&told](HiddenTextCipher& cipher) {
+        cipher.reportTo([&told](const CipherFailure& failure) {
+            told.push_back(cipherFailureTitle(failure.step) + ' ' + failure.reason);
+        });
+    };
+    HiddenTextCipher mine("mine");
+    listen(mine);
+    const auto theirs = HiddenTextCipher("theirs").encipher("password").value();
+    for (const auto& data : {theirs, Bytes(8, 0), Bytes(7, 1)})
+        EXPECT_FALSE(mine.decipher(data));
+    EXPECT_EQ(told, std::vector<std::string>());
+
+    const auto key = deriveTripleDesKey("mine").value();
+    const WithoutAlgorithms system;
+    HiddenTextCipher failing("mine");
+    listen(failing);
+    for (int text = 0; text < 2; ++text) {
+        EXPECT_FALSE(failing.encipher("x"));
+        EXPECT_FALSE(failing.decipher(theirs));
+    }
+    ASSERT_EQ(told.size(), 1U);
+    EXPECT_EQ(told[0].find("Error during CryptCreateHash. unsupported"), 0U) << told[0];
+    CipherStep failed = CipherStep::CreateHash;
+    const TripleDesCbc bare(key, [&](const CipherFailure& failure) { failed = failure.step; });
+    EXPECT_EQ(failed, CipherStep::DeriveKey);
 }
 
 TEST(HiddenText, refusesAnotherKeyAndDamagedBytesAndTellsInexactTextsApart) {

@@ -202,6 +202,27 @@ TEST(BackupDirectory, IsMadeAndTakesThePlaceOfAWorkingDirectoryThatRefusesWrites
     }
 }
 
+TEST(GlobalIni, IsNotObeyedWhereSomebodyElseMayHaveWrittenIt) {
+    for (const char* program : {"opt/bin", "tmp/q"}) {
+        for (const bool open : {false, true}) {
+            const Machine machine(program);
+            const bool isWeb = machine.start().webDeployed;
+            const std::string installed = isWeb ? cache : "current";
+            machine.write(installed + "/global.ini",
+                          "[Quendra]\nBackupWorkingDir=@/theirs\n[Help]\nWebHelpUrl=x\n");
+            machine.write(std::string(program) + "/global.ini",
+                          "[Quendra]\nAllowCrossVersionInterop=N\n");
+            const fs::perms mode = open ? fs::perms(01777) : fs::perms(0755);
+            for (const std::string& folder : {installed, std::string(program)})
+                fs::permissions(machine.at(folder), mode);
+            const StartupSettings settings = machine.start();
+            EXPECT_EQ(settings.backupDir.empty(), open);
+            EXPECT_EQ(settings.webHelpBase, open ? builtInWebHelpBase : "x");
+            EXPECT_EQ(settings.crossVersionInterop, open);
+        }
+    }
+}
+
 TEST(HelpSettings, ComeFromTheInstallationDirectoryElseTheWorkingDirectory) {
     const std::string longAddress = "WebHelpUrl=" + std::string(261, 'x');
     constexpr const char* none = nullptr;

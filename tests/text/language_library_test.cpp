@@ -29,7 +29,9 @@ class LanguageLibraryTest : public testing::Test {
     void put(const fs::path& from, const fs::path& at) const {
         fs::create_directories((root / at).parent_path());
         fs::copy_file(from, root / at);
+        fs::copy_file(withSum(from), withSum(root / at));
     }
+    static fs::path withSum(fs::path library) { return library += ".sum"; }
     void configure(const std::string& language) const {
         std::ofstream(folders.configDir / "language.ini") << "[Language]\r\n" << language << "\r\n";
     }
@@ -73,6 +75,34 @@ TEST_F(LanguageLibraryTest, MissingIsReportedWithTheLastPathAndNotReplacedByASho
     EXPECT_EQ(cancelAfterLoad(), "Cancel");
     configure("LANGUAGE=\"" + std::string(70, 'n') + "\"");
     EXPECT_EQ(languageBaseName(folders.configDir), std::string(64, 'n'));
+}
+
+TEST_F(LanguageLibraryTest, IsRefusedLikeAMissingOneWhenItIsNotWhatWasBuilt) {
+    const auto size = static_cast<std::streamoff>(fs::file_size(english));
+    put(english, "usr/bin/qdstring.qm");
+    EXPECT_EQ(cancelAfterLoad(), "Cancel");
+    const fs::path built = root / "usr/bin/qdstring.qm";
+    // One bit in its header, among the offsets and texts, and at its end.
+    for (const std::streamoff at : {std::streamoff{2}, std::streamoff{18}, size / 2, size - 1}) {
+        std::fstream file(built, std::ios::binary | std::ios::in | std::ios::out);
+        file.seekg(at);
+        const int byte = file.get();
+        file.seekp(at).put(static_cast<char>(byte ^ 1)).flush();
+        EXPECT_TRUE(library.load(folders)) << at;
+        EXPECT_EQ(library.loadText(textid::cancelButton), "");
+        file.seekp(at).put(static_cast<char>(byte)).flush();
+        EXPECT_EQ(cancelAfterLoad(), "Cancel");
+    }
+    fs::resize_file(built, fs::file_size(english) - 1);
+    EXPECT_TRUE(library.load(folders)) << "cut";
+    fs::copy_file(english, built, fs::copy_options::overwrite_existing);
+    EXPECT_EQ(cancelAfterLoad(), "Cancel");
+    fs::remove(withSum(built));
+    EXPECT_TRUE(library.load(folders)) << "nothing says what was built";
+    put(english, "install/qdstring.qm");
+    EXPECT_EQ(cancelAfterLoad(), "Cancel");
+    fs::permissions(folders.installDir, fs::perms(0777));
+    EXPECT_TRUE(library.load(folders)) << "anybody may have put it there";
 }
 
 TEST_F(LanguageLibraryTest, GivesEmptyTextsForUnknownIdsAndCutsLongOnesAtWholeCharacters) {

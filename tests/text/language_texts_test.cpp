@@ -117,6 +117,7 @@ TEST_P(LanguageTexts, HaveTheFormatPlacesThatTheProgramFills) {
                               textid::checkVariableUnset,
                               textid::checkTimeoutZero,
                               textid::checkWaitForever,
+                              textid::cipherFails,
                               textid::characterCannotBeStored})
         filled[id] = "%s";
     for (const StringId id :

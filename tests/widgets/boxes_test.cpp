@@ -5,6 +5,7 @@
 #include "widgets/message_box.h"
 
 #include <QApplication>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPointer>
@@ -45,6 +46,24 @@ TEST(MessageBoxTest, KeysGiveTheAnswerThatTheyMean) {
             });
             EXPECT_EQ(askMessage(nullptr, message), key == Qt::Key_Return ? onReturn : onEscape);
         }
+    }
+}
+
+TEST(MessageBoxTest, IsWideEnoughForItsTitleAndForEveryPieceOfItsText) {
+    const std::string title = "Unable to load language library";
+    for (const std::string& text : {std::string("/a.qm"), "/opt/" + std::string(250, 'x')}) {
+        inNextDialog([](QWidget& box) {
+            QFont bold = box.font();
+            bold.setBold(true);
+            EXPECT_GT(box.width(), QFontMetrics(bold).horizontalAdvance(box.windowTitle()) + 100);
+            const auto* label = box.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));
+            const QRect needed = label->fontMetrics().boundingRect(label->contentsRect(),
+                                                                   Qt::TextWordWrap, label->text());
+            EXPECT_GE(label->width(), needed.width());
+            EXPECT_GE(label->height(), needed.height());
+            QTest::keyClick(&box, Qt::Key_Return);
+        });
+        showMessage(nullptr, {text, title});
     }
 }
 

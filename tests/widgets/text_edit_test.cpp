@@ -228,18 +228,19 @@ TEST_F(TextEditTest, WhatCouldNotBeDecipheredIsKeptUntilTheTextIsEdited) {
     EXPECT_FALSE(entry.kept.has_value());
 }
 
-TEST_F(TextEditTest, WithoutAnIdentityTheToolTipSaysThatTextsAreOnlyObscured) {
+TEST_F(TextEditTest, WithoutAnIdentityTheToolTipSaysWhatTheCipherThatIsUsedDoes) {
+    std::string identity;
+    state.cipher = HiddenTextCipher([&identity] { return identity; });
     const auto toolTip = [this] {
         openNew(CommandCode::Type);
         EXPECT_EQ(edit().toolTip(), widget("hide").toolTip());
         return edit().toolTip().toStdString();
     };
     EXPECT_EQ(toolTip(), state.language.loadText(textid::hiddenTextOnlyObscured));
-    const auto folder = std::filesystem::path(qgetenv("XDG_CONFIG_HOME").toStdString()) / "quendra";
-    std::filesystem::create_directories(folder);
-    std::ofstream(folder / "registry.ini") << "[Identities]\nDefault User ID = {1234}\n";
+    identity = "{1234}";
     EXPECT_EQ(toolTip(), "");
-    std::filesystem::remove_all(folder);
+    identity.clear();
+    EXPECT_EQ(toolTip(), "") << "the cipher keeps it";
 }
 
 // A text that this file never holds as such: every byte is kept with its bits turned over.

@@ -14,14 +14,16 @@ struct StatusCode {
 };
 
 constexpr StatusCode statusCodes[] = {
-    {SIGSEGV, 0, accessViolation},    {SIGBUS, BUS_ADRALN, 0x80000002},  // misaligned data
+    {SIGSEGV, 0, accessViolation},     {SIGBUS, BUS_ADRALN, 0x80000002},  // misaligned data
     {SIGBUS, 0, 0xC0000006},  // a page that could not be brought in
-    {SIGFPE, FPE_INTDIV, 0xC0000094}, {SIGFPE, FPE_INTOVF, 0xC0000095},
-    {SIGFPE, FPE_FLTDIV, 0xC000008E}, {SIGFPE, FPE_FLTOVF, 0xC0000091},
-    {SIGFPE, FPE_FLTUND, 0xC0000093}, {SIGFPE, FPE_FLTRES, 0xC000008F},
-    {SIGFPE, FPE_FLTINV, 0xC0000090}, {SIGFPE, FPE_FLTSUB, 0xC000008C},
+    {SIGFPE, FPE_INTDIV, 0xC0000094},  {SIGFPE, FPE_INTOVF, 0xC0000095},
+    {SIGFPE, FPE_FLTDIV, 0xC000008E},  {SIGFPE, FPE_FLTOVF, 0xC0000091},
+    {SIGFPE, FPE_FLTUND, 0xC0000093},  {SIGFPE, FPE_FLTRES, 0xC000008F},
+    {SIGFPE, FPE_FLTINV, 0xC0000090},  {SIGFPE, FPE_FLTSUB, 0xC000008C},
     {SIGILL, ILL_PRVOPC, 0xC0000096},  // privileged instruction
-    {SIGILL, ILL_PRVREG, 0xC0000096}, {SIGILL, 0, 0xC000001D},
+    {SIGILL, ILL_PRVREG, 0xC0000096},  {SIGILL, 0, 0xC000001D},
+    {SIGTRAP, TRAP_TRACE, 0x80000004},  // single step
+    {SIGTRAP, 0, 0x80000003},           // breakpoint
 };
 
 std::uint32_t statusCode(const siginfo_t& signal) {

@@ -21,7 +21,9 @@ namespace quendra {
 
 namespace {
 
-constexpr std::array reportedSignals = {SIGSEGV, SIGBUS, SIGFPE, SIGILL, SIGABRT};
+constexpr std::array reportedSignals = {SIGSEGV, SIGBUS, SIGFPE, SIGILL, SIGABRT, SIGTRAP, SIGSYS};
+// No faults of this program, but the system writes a core file for them too.
+constexpr std::array coreSignals = {SIGQUIT, SIGXCPU, SIGXFSZ};
 constexpr const char* programFile = "/proc/self/exe";
 constexpr std::size_t signalStackSize = std::size_t{128} * 1024;
 constexpr unsigned int waitSeconds = 10;
@@ -59,6 +61,12 @@ void waitForEnd(int socket) {
     }
 }
 
+// The system's own core file has what ours leaves out, and goes wherever the machine's settings
+// send it. While none may be made the system lets no reporter look in either.
+void allowCoreFile(bool allowed) {
+    ::prctl(PR_SET_DUMPABLE, allowed ? 1 : 0, 0, 0, 0);
+}
+
 void runReporter() {
     // fork() would wait for locks that the faulting thread may hold.
     const pid_t reporter = ::_Fork();
@@ -68,6 +76,7 @@ void runReporter() {
     // Where only ancestors may look into a process, the reporter is let in before it is told whom
     // to look into.
     ::prctl(PR_SET_PTRACER, reporter, 0, 0, 0);
+    allowCoreFile(true);
     const CrashRecord& record = reporting->record;
     if (::send(reporting->ourEnd, &record, sizeof(record), MSG_NOSIGNAL) == sizeof(record)) {
         waitForEnd(reporting->ourEnd);
@@ -78,6 +87,8 @@ void runReporter() {
 // the process in the state of the fault as soon as the handler returns.
 void dieOfSignal(siginfo_t* info) {
     const int signal = info->si_signo;
+    allowCoreFile(false);
+    wipeMarkedMemory();
     struct sigaction usual = {};
     usual.sa_handler = SIG_DFL;
     ::sigaction(signal, &usual, nullptr);
@@ -89,6 +100,8 @@ void dieOfSignal(siginfo_t* info) {
 
 void onFault(int /*signal*/, siginfo_t* info, void* context) {
     const int error = errno;
+    // From here on also for a fault in this handler.
+    allowCoreFile(false);
     wipeVectorRegisters(*static_cast<const ucontext_t*>(context));
     if (reporting->inProgress.test_and_set()) {
         for (;;)
@@ -103,7 +116,12 @@ void onFault(int /*signal*/, siginfo_t* info, void* context) {
     record.registers = faultRegisters(*static_cast<const ucontext_t*>(context));
     record.secretMarks = SecretMark::listAddress();
     runReporter();
-    wipeMarkedMemory();
+    dieOfSignal(info);
+    errno = error;
+}
+
+void onCoreSignal(int /*signal*/, siginfo_t* info, void* /*context*/) {
+    const int error = errno;
     dieOfSignal(info);
     errno = error;
 }
@@ -165,6 +183,25 @@ bool prepare(Reporting& prepared, const std::vector<std::string>& reporterArgume
     return prepared.ourEnd >= 0 && prepared.reportersEnd >= 0;
 }
 
+using Action = void (*)(int, siginfo_t*, void*);
+
+// Leaves a signal alone that somebody handles already.
+void handle(int signal, Action handler) {
+    struct sigaction before = {};
+    ::sigaction(signal, nullptr, &before);
+    const bool isFree = (before.sa_flags & SA_SIGINFO) == 0 && before.sa_handler == SIG_DFL;
+    if (!isFree) return;
+    struct sigaction action = {};
+    action.sa_sigaction = handler;
+    action.sa_flags = SA_SIGINFO | SA_ONSTACK;
+    // A fault in the handler then ends the process at once.
+    for (const int reported : reportedSignals)
+        ::sigaddset(&action.sa_mask, reported);
+    for (const int other : coreSignals)
+        ::sigaddset(&action.sa_mask, other);
+    ::sigaction(signal, &action, nullptr);
+}
+
 // What a program writes to a descriptor that is not there would go into the next file it opens.
 void openStandardDescriptors() {
     for (int descriptor = STDIN_FILENO; descriptor <= STDERR_FILENO; ++descriptor) {
@@ -177,21 +214,14 @@ void openStandardDescriptors() {
 
 void installCrashHandler(const std::vector<std::string>& reporterArguments) {
     static Reporting prepared;
-    if (reporting || !prepare(prepared, reporterArguments)) return;
+    if (reporting) return;
+    for (const int signal : coreSignals)
+        handle(signal, onCoreSignal);
+    if (!prepare(prepared, reporterArguments)) return;
     reporting = &prepared;
     useOwnSignalStack();
-    struct sigaction action = {};
-    action.sa_sigaction = onFault;
-    action.sa_flags = SA_SIGINFO | SA_ONSTACK;
-    // A fault in the handler then ends the process at once.
     for (const int signal : reportedSignals)
-        ::sigaddset(&action.sa_mask, signal);
-    for (const int signal : reportedSignals) {
-        struct sigaction before = {};
-        ::sigaction(signal, nullptr, &before);
-        const bool isFree = (before.sa_flags & SA_SIGINFO) == 0 && before.sa_handler == SIG_DFL;
-        if (isFree) ::sigaction(signal, &action, nullptr);
-    }
+        handle(signal, onFault);
 }
 
 void useOwnSignalStack() {

@@ -153,8 +153,9 @@ void typeHiddenText(bool hideFirst) {
     if (edit->text().size() != static_cast<int>(canaryLength)) std::_Exit(4);
 }
 
-// In the editor with its real window and dialogs.
-void typeAndFault(const std::filesystem::path& folder, bool hideFirst, bool inDialog) {
+// In the editor with its real window and dialogs. By a signal that somebody sends, or a fault.
+void typeAndFault(const std::filesystem::path& folder, bool hideFirst, bool inDialog,
+                  int signal = 0) {
     StartupSettings settings;
     settings.programDir = pathFromQt(QCoreApplication::applicationDirPath());
     settings.workingDir = settings.installDir = settings.configDir = folder;
@@ -171,6 +172,7 @@ void typeAndFault(const std::filesystem::path& folder, bool hideFirst, bool inDi
     palette->setCurrentIndex(palette->model()->index(row, 0));
     QTimer::singleShot(0, palette, [&] {
         typeHiddenText(hideFirst);
+        if (signal != 0) ::kill(::getpid(), signal);
         if (inDialog) fault();
         QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Return);
     });
@@ -194,6 +196,11 @@ const std::map<std::string, std::function<void(const std::filesystem::path&)>> w
     {"typed", [](const auto& folder) { typeAndFault(folder, true, false); }},
     {"hiddenLater", [](const auto& folder) { typeAndFault(folder, false, false); }},
     {"dialog", [](const auto& folder) { typeAndFault(folder, true, true); }},
+    {"quit", [](const auto& folder) { typeAndFault(folder, true, true, SIGQUIT); }},
+    {"processorTime", [](const auto& folder) { typeAndFault(folder, true, true, SIGXCPU); }},
+    {"fileSize", [](const auto& folder) { typeAndFault(folder, true, true, SIGXFSZ); }},
+    {"trap", [](const auto& folder) { typeAndFault(folder, true, true, SIGTRAP); }},
+    {"systemCall", [](const auto& folder) { typeAndFault(folder, true, true, SIGSYS); }},
 };
 
 }  // namespace

@@ -14,10 +14,14 @@
 #include <algorithm>
 #include <csignal>
 #include <ctime>
+#include <fcntl.h>
 #include <fstream>
 #include <gtest/gtest.h>
 #include <sstream>
+#include <sys/resource.h>
+#include <sys/wait.h>
 #include <tuple>
+#include <unistd.h>
 
 namespace quendra::test {
 namespace {
@@ -26,9 +30,10 @@ namespace fs = std::filesystem;
 
 TEST(CrashFault, KnowsTheCodesAndTellsSentSignalsApart) {
     const std::tuple<int, int, std::uint32_t> rows[] = {
-        {SIGFPE, FPE_INTDIV, 0xC0000094}, {SIGFPE, FPE_INTOVF, 0xC0000095},
-        {SIGILL, ILL_PRVOPC, 0xC0000096}, {SIGBUS, BUS_ADRALN, 0x80000002},
-        {SIGBUS, BUS_ADRERR, 0xC0000006}, {SIGFPE, SI_USER, 0xE0000008},
+        {SIGFPE, FPE_INTDIV, 0xC0000094},  {SIGFPE, FPE_INTOVF, 0xC0000095},
+        {SIGILL, ILL_PRVOPC, 0xC0000096},  {SIGBUS, BUS_ADRALN, 0x80000002},
+        {SIGBUS, BUS_ADRERR, 0xC0000006},  {SIGFPE, SI_USER, 0xE0000008},
+        {SIGTRAP, TRAP_BRKPT, 0x80000003}, {SIGSYS, 1, 0xE000001F},
     };
     for (const auto& [signal, reason, code] : rows) {
         CrashRecord record;
@@ -166,6 +171,46 @@ TEST_P(CrashWays, IsReportedDumpedWithoutHiddenTextsAndEndsTheProcess) {
 
 INSTANTIATE_TEST_SUITE_P(Crash, CrashWays, ::testing::ValuesIn(ways),
                          [](const auto& row) { return std::string(std::get<0>(row.param)); });
+
+// Runs a command in a folder where core files are allowed, without its output. True when it died of
+// the signal and the system wrote a core file, or handed one to whoever collects them.
+bool leavesCore(const fs::path& folder, const std::vector<std::string>& command, int signal) {
+    std::vector<char*> arguments;
+    for (const std::string& argument : command)
+        arguments.push_back(const_cast<char*>(argument.c_str()));
+    arguments.push_back(nullptr);
+    const pid_t child = ::fork();
+    if (child == 0) {
+        const rlimit unlimited = {RLIM_INFINITY, RLIM_INFINITY};
+        ::setrlimit(RLIMIT_CORE, &unlimited);
+        ::dup2(::open("/dev/null", O_WRONLY), STDERR_FILENO);
+        if (::chdir(folder.c_str()) == 0) ::execv(arguments[0], arguments.data());
+        ::_exit(127);
+    }
+    int status = 0;
+    EXPECT_EQ(::waitpid(child, &status, 0), child);
+    EXPECT_TRUE(WIFSIGNALED(status) && WTERMSIG(status) == signal) << command[1] << ' ' << status;
+    return WCOREDUMP(status);
+}
+
+TEST_F(CrashTest, TheSystemsCoreFileWhichHoldsHiddenTextsIsNotMade) {
+    const bool allowed = leavesCore(folder.path(), {"/bin/sh", "-c", "kill -QUIT $$"}, SIGQUIT);
+    if (!allowed) GTEST_SKIP() << "this system makes no core files";
+    const std::pair<const char*, int> rows[] = {{"quit", SIGQUIT},      {"processorTime", SIGXCPU},
+                                                {"fileSize", SIGXFSZ},  {"trap", SIGTRAP},
+                                                {"systemCall", SIGSYS}, {"dialog", SIGSEGV},
+                                                {"abort", SIGABRT}};
+    for (const auto& [way, signal] : rows) {
+        const TemporaryFolder dumpFolder;
+        const std::string subject = programPath("crash_subject").toStdString();
+        EXPECT_FALSE(leavesCore(dumpFolder.path(), {subject, way, dumpFolder.path()}, signal))
+            << way;
+        for (const auto& left : fs::directory_iterator(dumpFolder.path())) {
+            EXPECT_EQ(left.path().extension(), ".dmp") << way;
+            expectNoHiddenText(left.path());
+        }
+    }
+}
 
 TEST_F(CrashTest, ADumpThatCannotBeMadeStillLeavesTheMessage) {
     crash("read", folder / "missing");
