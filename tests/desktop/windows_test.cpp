@@ -2,6 +2,10 @@
 #include "desktop/editor_process.h"
 #include "support/editor_fixture.h"
 
+#include <QImage>
+
+#include <chrono>
+
 namespace quendra::test {
 namespace {
 
@@ -35,6 +39,30 @@ TEST_F(WindowsTest, SecondStartRaisesTheWindowThatShowsTheScriptMinimisedOrWithA
     EXPECT_NE(titles.find(titleOf("b.qds")), std::string::npos);
     EXPECT_EQ(titles.find(titleOf("a.qds")), titles.rfind(titleOf("a.qds")));
     EXPECT_TRUE(first->runs() && other->runs());
+}
+
+TEST_F(WindowsTest, ALaunchersTokenRaisesTheWindowThoughTheUserHasWorkedElsewhereSince) {
+    const auto shows = open("a.qds");
+    const auto other = open("b.qds");
+    pressUntil({"Home", "Return"}, "Comment");
+    pressUntil({"Escape"}, titleOf("b.qds"));
+    // As launchers write it: with the time of the click by the server's clock.
+    const auto click = std::chrono::steady_clock::now().time_since_epoch();
+    const auto time = std::chrono::duration_cast<std::chrono::milliseconds>(click).count();
+    qputenv("DESKTOP_STARTUP_ID",
+            "launcher_TIME" + QByteArray::number(static_cast<std::uint32_t>(time)));
+    EXPECT_EQ(start("a.qds")->exitCodeAtEnd(), 0);
+    qunsetenv("DESKTOP_STARTUP_ID");
+    waitForTitle(titleOf("a.qds"));
+}
+
+TEST_F(WindowsTest, APictureMayBeLargerThanTheScreenAndWaitsForNobody) {
+    writeBytes(pathOf("letter.qds"), bytesOf("dear all"));
+    for (const char* script : {"a.qds", "letter.qds"}) {
+        const auto drawn = start(script, {"--screenshot", pathOf("p.png"), "--size", "2000x1500"});
+        EXPECT_EQ(drawn->exitCodeAtEnd(), 0);
+        EXPECT_EQ(QImage(QString::fromStdString(pathOf("p.png"))).size(), QSize(2000, 1500));
+    }
 }
 
 TEST_F(WindowsTest, KilledEditorLeavesNothingInTheWay) {
