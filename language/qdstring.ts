@@ -3149,7 +3149,7 @@
     </message>
     <message id="15325">
         <source>%d of %d entries inserted: the script is full</source>
-        <extracomment>Status bar after Insert Script: number of inserted entries, number of entries in the file</extracomment>
+        <extracomment>Status bar after Insert Script and Paste: number of inserted entries, number of those that there were</extracomment>
         <translation>%d of %d entries inserted: the script is full</translation>
         <extra-name>scriptInsertedUntilFull</extra-name>
     </message>
@@ -3444,6 +3444,12 @@ Save, and lose what the file cannot store?</translation>
         <extracomment>Status bar: a file was not read whole: more bytes than the largest script; %s is the number of entries, as “12 entries”, %d the place in the file</extracomment>
         <translation>%s loaded: the file is longer than any script (byte %d)</translation>
         <extra-name>fileIsTooLong</extra-name>
+    </message>
+    <message id="15410">
+        <source>Commands</source>
+        <extracomment>For screen readers: the toolbar of a window</extracomment>
+        <translation>Commands</translation>
+        <extra-name>toolBarName</extra-name>
     </message>
     <message id="15480">
         <source>It is no regular file but a pipe, a device or a socket.</source>

@@ -2625,7 +2625,7 @@
     </message>
     <message id="15325">
         <source>%d of %d entries inserted: the script is full</source>
-        <extracomment>Status bar after Insert Script: number of inserted entries, number of entries in the file</extracomment>
+        <extracomment>Status bar after Insert Script and Paste: number of inserted entries, number of those that there were</extracomment>
         <translation>%d von %d Einträgen eingefügt: Das Skript ist voll</translation>
     </message>
     <message id="15326">
@@ -2872,6 +2872,11 @@ Speichern und verlieren, was die Datei nicht aufnehmen kann?</translation>
         <source>%s loaded: the file is longer than any script (byte %d)</source>
         <extracomment>Status bar: a file was not read whole: more bytes than the largest script; %s is the number of entries, as “12 entries”, %d the place in the file</extracomment>
         <translation>%s geladen: die Datei ist länger als jedes Skript (Byte %d)</translation>
+    </message>
+    <message id="15410">
+        <source>Commands</source>
+        <extracomment>For screen readers: the toolbar of a window</extracomment>
+        <translation>Befehle</translation>
     </message>
     <message id="15480">
         <source>It is no regular file but a pipe, a device or a socket.</source>

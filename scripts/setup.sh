@@ -10,7 +10,7 @@ export CCACHE_BASEDIR="${CCACHE_BASEDIR:-$root}" CCACHE_NOHASHDIR="${CCACHE_NOHA
 # One list per purpose, so that ./run does not install what only the checks need.
 declare -A packages=(
     [build]="g++ cmake ninja-build ccache cmark-gfm
-        qt6-base-dev qt6-svg-dev qt6-tools-dev qt6-l10n-tools libfontconfig-dev
+        qt6-base-dev qt6-svg-dev qt6-tools-dev qt6-l10n-tools libfontconfig-dev libx11-dev
         libssl-dev libcli11-dev nlohmann-json3-dev libgtest-dev libgmock-dev libbenchmark-dev"
     # qt6-qpa-plugins holds both xcb and offscreen, and Qt's own package only recommends it; without a font
     # offscreen windows show no text. qt6-translations-l10n has the buttons of message boxes and the file dialogs

@@ -1,8 +1,10 @@
 #include "analysis/entry_display.h"
 
+#include "model/entry_fields.h"
 #include "scriptfile/entry_codec.h"
 #include "text/text_encoding.h"
 
+#include <algorithm>
 #include <array>
 #include <cstdio>
 #include <initializer_list>
@@ -163,6 +165,13 @@ std::string formatEntryLine(const ScriptEntry& entry, const DisplayNames& names)
         line += branches(entry, names);
     }
     return line;
+}
+
+bool showsSealedText(const ScriptEntry& entry) {
+    return std::ranges::any_of(slotsOf(entry), [&entry](Slot slot) {
+        const Step& fields = slotFields(entry, slot);
+        return isHiddenText(fields) && fields.kept && fields.textLength == 0;
+    });
 }
 
 ActionSummaries actionSummaries(const ScriptEntry& entry, bool isCompare,

@@ -28,6 +28,10 @@ struct DisplayNames {
 /// a command as the empty line.
 [[nodiscard]] std::string formatEntryLine(const ScriptEntry& entry, const DisplayNames& names);
 
+/// Whether the line shows a hidden text as if it were empty, because the present key does not open
+/// it.
+[[nodiscard]] bool showsSealedText(const ScriptEntry& entry);
+
 /// The two action lines of the Wait_For and If_Input_Is dialogs.
 struct ActionSummaries {
     /// "If Found Then " or "If Equal Then " and the then action's line, or the prefix alone.

@@ -1,5 +1,7 @@
 #include "app/command_facts.h"
 
+#include <algorithm>
+
 namespace quendra {
 
 namespace {
@@ -26,9 +28,8 @@ CommandFacts commandFacts(const ApplicationState& state, const EditorPane& pane)
     }
     if (state.history.canUndo()) facts.undoStep = state.history.undoName();
     if (state.history.canRedo()) facts.redoStep = state.history.redoName();
-    facts.selectedEvent = selectedText(pane, Palette::ScriptEvents);
-    facts.selectedLuFunction = selectedText(pane, Palette::LuFunctions);
-    facts.selectedMenuCommand = selectedText(pane, Palette::MenuCommands);
+    std::ranges::transform(allPalettes, facts.selectedRows.begin(),
+                           [&pane](Palette palette) { return selectedText(pane, palette); });
     return facts;
 }
 

@@ -19,7 +19,8 @@ CommandHandlers::~CommandHandlers() {
 }
 
 void CommandHandlers::run(EditorCommand command) {
-    if (const auto host = commandInfo(command).hostType) return window_.setHostType(*host);
+    const CommandInfo& info = commandInfo(command);
+    if (info.hostType) return window_.setHostType(*info.hostType);
     // Without default, so that the compiler names a command that has no handler.
     switch (command) {
         case EditorCommand::NewScript: return window_.newScript();
@@ -34,9 +35,9 @@ void CommandHandlers::run(EditorCommand command) {
         case EditorCommand::CopyAsText: return editor_.copyAsText();
         case EditorCommand::Paste: return editor_.paste();
         case EditorCommand::Find: return window_.openFindBar();
-        case EditorCommand::InsertScriptEvent: return editor_.insertFrom(Palette::ScriptEvents);
-        case EditorCommand::InsertLuFunction: return editor_.insertFrom(Palette::LuFunctions);
-        case EditorCommand::InsertMenuCommand: return editor_.insertFrom(Palette::MenuCommands);
+        case EditorCommand::InsertScriptEvent:
+        case EditorCommand::InsertLuFunction:
+        case EditorCommand::InsertMenuCommand: return editor_.insertFrom(info.inserts.value());
         case EditorCommand::InsertScript: return editor_.insertOtherScript();
         case EditorCommand::EditEntry: return editor_.editEntry();
         case EditorCommand::DeleteEntries: return editor_.deleteSelected();

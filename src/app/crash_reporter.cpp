@@ -70,10 +70,8 @@ std::optional<int> reportCrash(int& argc, char** argv) {
     if (!record) return std::nullopt;
 
     const auto dump = crashDumpPath(folder, program, localTimeNow());
-    if (const auto reason = writeCrashDump(*record, dump)) {
-        std::fprintf(stderr, "%s: no crash dump: %s\n", program.c_str(), reason->c_str());
-    }
-    std::string text = crashMessage(program, faultOf(*record), dump);
+    const auto noDump = writeCrashDump(*record, dump);
+    std::string text = crashMessage(program, faultOf(*record), dump, noDump);
     withoutReturns(text);
     // The arguments are no business of the toolkit's.
     argc = 1;

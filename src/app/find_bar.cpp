@@ -19,8 +19,10 @@ FindBar::FindBar(ApplicationState& state, EditorPane& pane, QWidget* parent)
       state_(state),
       pane_(pane),
       edit_(new QLineEdit(this)),
-      count_(new QLabel(this)) {
+      count_(new QLabel(this)),
+      escape_(new QShortcut(Qt::Key_Escape, parent)) {
     setObjectName(QStringLiteral("findBar"));
+    setAccessibleName(text(textid::findToolTip));
     setMovable(false);
     edit_->setObjectName(QStringLiteral("findText"));
     edit_->setPlaceholderText(text(textid::findToolTip));
@@ -40,7 +42,9 @@ FindBar::FindBar(ApplicationState& state, EditorPane& pane, QWidget* parent)
     connect(&pane_, &EditorPane::listRebuilt, this, [this] {
         if (isVisible()) search();
     });
-    connect(&pane_, &EditorPane::selectionChanged, this, &FindBar::showCount);
+    connect(&pane_, &EditorPane::selectionChanged, this, &FindBar::selectionMoved);
+    connect(escape_, &QShortcut::activated, this, &FindBar::close);
+    escape_->setEnabled(false);
     connect(new QShortcut(QKeySequence::FindNext, parent), &QShortcut::activated, this,
             &FindBar::goToNext);
     connect(new QShortcut(QKeySequence::FindPrevious, parent), &QShortcut::activated, this,
@@ -66,8 +70,10 @@ QString FindBar::text(StringId id) const {
 }
 
 void FindBar::open() {
-    origin_ = std::max(pane_.focusedEntry(), 0);
+    if (state_.script.entryCount() == 0) return;
+    origin_ = currentEntry();
     show();
+    escape_->setEnabled(true);
     edit_->setFocus();
     edit_->selectAll();
     search();
@@ -75,6 +81,7 @@ void FindBar::open() {
 
 void FindBar::close() {
     hide();
+    escape_->setEnabled(false);
     search();
     pane_.takeFocus();
 }
@@ -83,7 +90,6 @@ bool FindBar::eventFilter(QObject*, QEvent* event) {
     if (event->type() != QEvent::KeyPress) return false;
     const auto& key = static_cast<const QKeyEvent&>(*event);
     switch (key.key()) {
-        case Qt::Key_Escape: close(); return true;
         case Qt::Key_Return:
         case Qt::Key_Enter:
             if (key.modifiers().testFlag(Qt::ShiftModifier)) {
@@ -99,8 +105,7 @@ bool FindBar::eventFilter(QObject*, QEvent* event) {
 void FindBar::typed() {
     search();
     if (matches_.empty()) return;
-    const auto from = static_cast<std::size_t>(origin_);
-    const auto next = std::ranges::lower_bound(matches_, from);
+    const auto next = std::ranges::lower_bound(matches_, origin_);
     goTo(next == matches_.end() ? matches_.front() : *next);
 }
 
@@ -113,24 +118,36 @@ void FindBar::search() {
 }
 
 void FindBar::goToNext() {
+    if (isHidden()) open();
     if (matches_.empty()) return;
     const auto behind = static_cast<std::size_t>(pane_.focusedEntry() + 1);
     const auto next = std::ranges::lower_bound(matches_, behind);
     goTo(next == matches_.end() ? matches_.front() : *next);
-    origin_ = pane_.focusedEntry();
+    origin_ = currentEntry();
 }
 
 void FindBar::goToPrevious() {
+    if (isHidden()) open();
     if (matches_.empty()) return;
-    const auto from = static_cast<std::size_t>(std::max(pane_.focusedEntry(), 0));
-    const auto next = std::ranges::lower_bound(matches_, from);
+    const auto next = std::ranges::lower_bound(matches_, currentEntry());
     goTo(next == matches_.begin() ? matches_.back() : *(next - 1));
-    origin_ = pane_.focusedEntry();
+    origin_ = currentEntry();
 }
 
 void FindBar::goTo(std::size_t entry) {
     const std::size_t entries[] = {entry};
+    goes_ = true;
     pane_.selectEntries(entries, static_cast<int>(entry));
+    goes_ = false;
+}
+
+void FindBar::selectionMoved() {
+    if (!goes_) origin_ = currentEntry();
+    showCount();
+}
+
+std::size_t FindBar::currentEntry() const {
+    return static_cast<std::size_t>(std::max(pane_.focusedEntry(), 0));
 }
 
 void FindBar::showCount() {

@@ -10,6 +10,7 @@
 
 class QLabel;
 class QLineEdit;
+class QShortcut;
 
 namespace quendra {
 
@@ -22,7 +23,8 @@ class FindBar : public QToolBar {
     /// `state` and `pane` outlive the bar.
     FindBar(ApplicationState& state, EditorPane& pane, QWidget* parent = nullptr);
 
-    /// Shows the bar with its last text selected, ready to be typed over.
+    /// Shows the bar with its last text selected, ready to be typed over. A script without entries
+    /// has nothing to find.
     void open();
     /// Takes the marks away and gives the focus back to the pane.
     void close();
@@ -37,6 +39,8 @@ class FindBar : public QToolBar {
     void goToNext();
     void goToPrevious();
     void goTo(std::size_t entry);
+    void selectionMoved();
+    [[nodiscard]] std::size_t currentEntry() const;
     void showCount();
     [[nodiscard]] QString text(StringId id) const;
 
@@ -45,8 +49,12 @@ class FindBar : public QToolBar {
     QLineEdit* edit_;
     QLabel* count_;
     std::vector<std::size_t> matches_;
-    /// Where the search began that is being typed: more letters look from here on, fewer go back.
-    int origin_ = 0;
+    QShortcut* escape_;
+    /// The current entry when the search that is being typed began: more letters look from here on,
+    /// fewer go back.
+    std::size_t origin_ = 0;
+    /// The bar itself is changing the current entry.
+    bool goes_ = false;
 };
 
 }  // namespace quendra

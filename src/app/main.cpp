@@ -5,6 +5,7 @@
 #include "app/main_window.h"
 #include "app/screenshot.h"
 #include "app/script_editor.h"
+#include "app/window_activation.h"
 #include "help/editor_help.h"
 #include "platform/editor_windows.h"
 #include "platform/end_signals.h"
@@ -48,13 +49,10 @@ struct ShownWindow {
     MainWindow* window = nullptr;
 };
 
-void comeToFront(const ShownWindow& shown) {
-    if (shown.window) return shown.window->comeToFront();
+void comeToFront(const ShownWindow& shown, const std::string& token) {
+    if (shown.window) return shown.window->comeToFront(token);
     // A message at start-up stands in for the window that is to come.
-    if (QWidget* message = QApplication::activeModalWidget()) {
-        message->raise();
-        message->activateWindow();
-    }
+    if (QWidget* message = QApplication::activeModalWidget()) bringToFront(*message, token);
 }
 
 // `script` is what the window will show.
@@ -62,7 +60,7 @@ EditorWindow describeWindow(const ShownWindow& shown, const std::string& classNa
                             const std::filesystem::path& script) {
     return {className,
             [&shown, script] { return shown.state ? shown.state->document.fileName : script; },
-            [&shown] { comeToFront(shown); }};
+            [&shown](const std::string& token) { comeToFront(shown, token); }};
 }
 
 // Answers other editors from the event loop, as long as the result lives. `listener` may be null.
@@ -114,7 +112,11 @@ int runWindow(ApplicationState& state, ShownWindow& shown, const CommandLine& li
         window.endSession();
         QApplication::exit();
     });
-    window.show();
+    if (picture.file.isEmpty()) {
+        window.show();
+    } else {
+        showForPicture(window, picture, MainWindow::firstSize);
+    }
     if (opening) window.showOpened(*opening);
     int status = 0;
     if (!picture.file.isEmpty()) {
@@ -134,9 +136,11 @@ int runEditor(int& argc, char** argv, const CommandLine& line, const PictureOpti
     if (picture.file.isEmpty()) {
         const std::string className = readProgramSettings(inputs).windowClassName;
         admission = admitEditor(editorSocketFolder(inputs.environment), line.script,
-                                describeWindow(shown, className, line.script));
+                                describeWindow(shown, className, line.script),
+                                activationToken(inputs.environment));
         if (admission.raisedOther) return 0;
     }
+    if (!picture.file.isEmpty()) answerUnseenMessages();
     prepareToolkit(inputs.environment, picture);
     // As the application object is going to, but before another thread is there to notice.
     std::setlocale(LC_ALL, "");

@@ -1,7 +1,9 @@
 #include "app/main_window.h"
 
 #include "app/command_facts.h"
+#include "app/command_menu.h"
 #include "app/find_bar.h"
+#include "app/window_activation.h"
 #include "session/command_rules.h"
 #include "session/commands.h"
 #include "text/text_ids.h"
@@ -29,8 +31,6 @@
 namespace quendra {
 
 namespace {
-
-constexpr QSize firstSize{626, 410};
 
 // Qt replaces "[*]" in a title by its own mark.
 QString asWindowTitle(const std::string& title) {
@@ -105,8 +105,8 @@ void MainWindow::buildActions() {
     auto* modes = new QActionGroup(this);
     for (const CommandInfo& info : commands()) {
         const int number = commandNumber(info.id);
-        auto* action =
-            new QAction(toolbarIcon(number), qtText(commandMenuText(info, state_.language)), this);
+        auto* action = new QAction(toolbarIcon(number), {}, this);
+        setMenuText(*action, commandMenuText(info, state_.language));
         action->setObjectName(QStringLiteral("command%1").arg(number));
         action->setShortcuts(QKeySequence::listFromString(QLatin1String(info.shortcut)));
         action->setIconText(qtText(libraryText(state_.language, info.texts.toolTip)));
@@ -125,7 +125,8 @@ void MainWindow::buildActions() {
 void MainWindow::buildMenus() {
     menuBar()->setObjectName(QStringLiteral("menuBar"));
     for (const MenuInfo& info : menus()) {
-        QMenu* menu = menuBar()->addMenu(qtText(libraryText(state_.language, info.titleId)));
+        auto* menu = new CommandMenu(qtText(libraryText(state_.language, info.titleId)), menuBar());
+        menuBar()->addMenu(menu);
         menu->setObjectName(QLatin1String(info.objectName));
         for (const auto& id : menuItems(info.menu)) {
             if (id) {
@@ -140,6 +141,7 @@ void MainWindow::buildMenus() {
 void MainWindow::buildToolBar() {
     toolBar_ = new QToolBar(this);
     toolBar_->setObjectName(QStringLiteral("toolBar"));
+    toolBar_->setAccessibleName(qtText(libraryText(state_.language, textid::toolBarName)));
     toolBar_->setMovable(false);
     toolBar_->setFloatable(false);
     toolBar_->setIconSize({24, 24});
@@ -210,7 +212,7 @@ void MainWindow::newScript() {
     if (state_.script.entryCount() == 0) return;
     if (!mayDiscardChanges(DiscardingCommand::NewOrOpen)) return;
     newDocument(state_);
-    note_.clear();
+    setNote({});
     showDocument();
 }
 
@@ -223,13 +225,13 @@ void MainWindow::openScript() {
     const OpenOutcome outcome = openDocument(state_, *path);
     if (outcome.refusal) showMessage(this, *outcome.refusal);
     if (!outcome.opened) return;
-    note_ = outcome.note;
+    setNote(outcome.note);
     pane_->refillLuPalette();
     showDocument();
 }
 
 void MainWindow::showOpened(const OpenOutcome& outcome) {
-    note_ = outcome.note;
+    setNote(outcome.note);
     pane_->refillLuPalette();
     showDocument();
     if (outcome.refusal) showMessage(this, *outcome.refusal);
@@ -254,7 +256,7 @@ bool MainWindow::saveTo(const std::filesystem::path& path) {
     if (outcome.refusal) showMessage(this, *outcome.refusal);
     if (!outcome.saved) return false;
     if (outcome.scriptChanged) pane_->showScript(selection);
-    note_ = outcome.note;
+    setNote(outcome.note);
     updateTitle();
     updateStatus();
     return true;
@@ -283,6 +285,8 @@ void MainWindow::setHostType(HostType hostType) {
     state_.currentHostType = hostType;
     pane_->refillLuPalette();
     pane_->rebuildScriptList();
+    setNote({});
+    updateStatus();
     updateCommandStates();
     pane_->takeFocus();
 }
@@ -297,7 +301,7 @@ void MainWindow::showDocument() {
 void MainWindow::scriptChanged() {
     sessionEnds_ = false;
     state_.document.modified = state_.script != state_.document.saved;
-    note_.clear();
+    setNote({});
     updateTitle();
     updateStatus();
     updateCommandStates();
@@ -312,12 +316,31 @@ void MainWindow::updateStatus() {
         note_.empty() ? entryCountText(state_.language, state_.script.entryCount()) : note_));
 }
 
-void MainWindow::showNote(const std::string& note) {
+void MainWindow::setNote(const std::string& note) {
     note_ = note;
+    rowRequest_.reset();
+}
+
+void MainWindow::showNote(const std::string& note) {
+    setNote(note);
     updateStatus();
 }
 
+void MainWindow::askForRow(Palette palette) {
+    showNote(libraryText(state_.language, textid::replacementNeedsSelection,
+                         {libraryText(state_.language, paletteInfo(palette).titleId)}));
+    rowRequest_ = {palette, pane_->focusedEntry()};
+}
+
+void MainWindow::dropAnsweredRequest() {
+    if (!rowRequest_) return;
+    const bool isOpen =
+        pane_->selectedRow(rowRequest_->palette) < 0 && pane_->focusedEntry() == rowRequest_->entry;
+    if (!isOpen) showNote({});
+}
+
 void MainWindow::updateCommandStates() {
+    dropAnsweredRequest();
     const CommandFacts facts = commandFacts(state_, *pane_);
     for (const CommandInfo& info : commands()) {
         QAction* action = actions_.at(info.id);
@@ -325,19 +348,18 @@ void MainWindow::updateCommandStates() {
         if (action->isCheckable()) action->setChecked(isCommandChecked(info, facts));
         action->setToolTip(asToolTip(commandToolTip(info, facts, state_.language)));
         if (const auto text = commandMenuText(info, facts, state_.language)) {
-            action->setText(qtText(*text));
+            setMenuText(*action, *text);
         }
     }
 }
 
-void MainWindow::comeToFront() {
+void MainWindow::comeToFront(const std::string& activationToken) {
     setWindowState(windowState() & ~Qt::WindowMinimized);
     raise();
     // An open dialog has the keyboard. Not every window manager hands it on from the window behind.
     QWidget* dialog = QApplication::activeModalWidget();
     QWidget& front = dialog ? *dialog : *this;
-    front.raise();
-    front.activateWindow();
+    bringToFront(front, activationToken);
 }
 
 void MainWindow::endSession() {
@@ -354,7 +376,8 @@ void MainWindow::paintEvent(QPaintEvent* event) {
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {
-    if (sessionEnds_) state_.document.modified = false;
+    // A user who closes the window is there to be asked: the end of the session was called off.
+    if (sessionEnds_ && !event->spontaneous()) state_.document.modified = false;
     event->setAccepted(mayDiscardChanges(DiscardingCommand::Exit));
 }
 

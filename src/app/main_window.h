@@ -12,6 +12,7 @@
 #include <filesystem>
 #include <functional>
 #include <map>
+#include <optional>
 #include <string>
 
 class QAction;
@@ -26,6 +27,9 @@ class MainWindow : public QMainWindow {
     Q_OBJECT
 
   public:
+    /// Where the screen has room for it.
+    static constexpr QSize firstSize{626, 410};
+
     /// `state` outlives the window. Its language is loaded and its catalogues are built.
     /// `beforeText` is called before the first text is measured, which needs the fonts: a start
     /// that is still finding them has the icons drawn meanwhile.
@@ -69,8 +73,13 @@ class MainWindow : public QMainWindow {
     /// document changes.
     void showNote(const std::string& note);
 
-    /// Restores the window if it is minimised and brings it in front of all others.
-    void comeToFront();
+    /// Says in the same place that the focused entry can be replaced as soon as a row of this
+    /// palette is selected, until one is or another entry is focused.
+    void askForRow(Palette palette);
+
+    /// Restores the window if it is minimised and brings it in front of all others. The token is
+    /// the desktop's leave to do that, handed on by whoever asks for it; empty for none.
+    void comeToFront(const std::string& activationToken);
 
     /// The desktop's session ends, and nobody is there to be asked: changes that are not saved go
     /// into a copy beside the script, and the window closes without a question. Whoever works on,
@@ -99,6 +108,8 @@ class MainWindow : public QMainWindow {
     [[nodiscard]] bool agreedToAll(const std::vector<Message>& questions);
 
     void showDocument();
+    void setNote(const std::string& note);
+    void dropAnsweredRequest();
     void updateTitle();
     void updateStatus();
 
@@ -110,6 +121,12 @@ class MainWindow : public QMainWindow {
     FindBar* findBar_ = nullptr;
     StatusLine* statusLine_ = nullptr;
     std::string note_;
+    /// What askForRow said, as long as it stands there.
+    struct RowRequest {
+        Palette palette;
+        int entry;
+    };
+    std::optional<RowRequest> rowRequest_;
     bool sessionEnds_ = false;
 };
 

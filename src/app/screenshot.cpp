@@ -1,9 +1,13 @@
 #include "app/screenshot.h"
 
-#include <QCoreApplication>
+#include "widgets/message_box.h"
+
+#include <QApplication>
 #include <QFile>
 #include <QPixmap>
 #include <QWidget>
+
+#include <cstdio>
 
 namespace quendra {
 
@@ -68,8 +72,27 @@ std::optional<PictureOptions> takePictureOptions(std::vector<std::string>& argum
     return options;
 }
 
+void answerUnseenMessages() {
+    replaceMessageHandler([](QWidget*, const Message& message) {
+        std::fprintf(stderr, "quendra-script-editor: %s: %s\n", message.title.c_str(),
+                     message.text.c_str());
+        switch (message.buttons) {
+            case MessageButtons::Ok: break;
+            case MessageButtons::YesNo: return MessageAnswer::No;
+            case MessageButtons::YesNoCancel: return MessageAnswer::Cancel;
+        }
+        return MessageAnswer::Ok;
+    });
+}
+
+void showForPicture(QWidget& window, const PictureOptions& options, QSize usualSize) {
+    window.setAttribute(Qt::WA_DontShowOnScreen);
+    window.resize(options.size.isEmpty() ? usualSize : options.size);
+    window.show();
+    QApplication::setActiveWindow(&window);
+}
+
 bool savePicture(QWidget& window, const PictureOptions& options) {
-    if (!options.size.isEmpty()) window.resize(options.size);
     // Layout, posted commands and the first painting have to be over.
     for (int i = 0; i < 3; ++i)
         QCoreApplication::processEvents();

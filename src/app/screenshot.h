@@ -30,7 +30,15 @@ struct PictureOptions {
 /// makes no sense.
 [[nodiscard]] std::optional<PictureOptions> takePictureOptions(std::vector<std::string>& arguments);
 
-/// Draws `window`, which is shown, into the file, in the format of the file's extension.
+/// Has messages told on standard error from now on, and questions answered in the way that changes
+/// nothing: a box would wait for somebody who only wants a picture.
+void answerUnseenMessages();
+
+/// Shows a window without a screen: as large as it is asked to be (`usualSize` where the options do
+/// not say), whatever the screen and its window manager allow, and with the keyboard.
+void showForPicture(QWidget& window, const PictureOptions& options, QSize usualSize);
+
+/// Draws a window that is shown so into the file, in the format of the file's extension.
 [[nodiscard]] bool savePicture(QWidget& window, const PictureOptions& options);
 
 }  // namespace quendra

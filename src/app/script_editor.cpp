@@ -86,8 +86,11 @@ void ScriptEditor::copy() {
 
 void ScriptEditor::paste() {
     const std::size_t before = state_.script.entryCount();
+    const auto pasted = [&] { return state_.script.entryCount() - before; };
     change([this] { return quendra::pasteEntries(state_, *this); },
-           [&] { return countedName(textid::pasteStep, state_.script.entryCount() - before); });
+           [&] { return countedName(textid::pasteStep, pasted()); });
+    if (pasted() == 0) return;
+    if (const auto note = cutNote(pasted(), state_.entryClipboard.size())) window_.showNote(*note);
 }
 
 void ScriptEditor::copyAsText() {
@@ -122,16 +125,18 @@ std::string ScriptEditor::insertedNote(const OtherScript& other, std::size_t ins
     const auto add = [&note](const std::string& text) {
         note += (note.empty() ? "" : "; ") + text;
     };
-    const std::size_t count = other.script.entryCount();
-    if (inserted < count) {
-        add(libraryText(state_.language, textid::scriptInsertedUntilFull,
-                        {std::to_string(inserted), std::to_string(count)}));
-    }
+    if (const auto cut = cutNote(inserted, other.script.entryCount())) add(*cut);
     if (other.hostType != state_.currentHostType) {
         add(libraryText(state_.language, textid::insertedScriptOfOtherMode,
                         {std::string(hostTypeInfo(other.hostType).name)}));
     }
     return note;
+}
+
+std::optional<std::string> ScriptEditor::cutNote(std::size_t inserted, std::size_t offered) const {
+    if (inserted >= offered) return std::nullopt;
+    return libraryText(state_.language, textid::scriptInsertedUntilFull,
+                       {std::to_string(inserted), std::to_string(offered)});
 }
 
 void ScriptEditor::removeSelected(StringId name, bool (*operation)(EditingState&, EditingView&)) {
@@ -148,10 +153,14 @@ void ScriptEditor::takeStep(std::optional<EntrySelection> (UndoHistory::*step)(S
     window_.scriptChanged();
 }
 
-void ScriptEditor::recordMove() {
+void ScriptEditor::recordMove(bool goesOn) {
     const ScriptView after = currentView();
-    state_.history.record(beforeMove_, after,
-                          countedName(textid::moveStep, after.selection.entries.size()));
+    if (goesOn) {
+        state_.history.extend(beforeMove_, after);
+    } else {
+        state_.history.record(beforeMove_, after,
+                              countedName(textid::moveStep, after.selection.entries.size()));
+    }
     beforeMove_ = {};
     window_.scriptChanged();
 }
@@ -208,9 +217,7 @@ void ScriptEditor::refuse(EditRefusal refusal, const ScriptEntry& entry) {
 }
 
 void ScriptEditor::askForRow(Palette palette) {
-    const StringId label = paletteInfo(palette).titleId;
-    window_.showNote(libraryText(state_.language, textid::replacementNeedsSelection,
-                                 {libraryText(state_.language, label)}));
+    window_.askForRow(palette);
 }
 
 }  // namespace quendra

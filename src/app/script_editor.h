@@ -8,6 +8,7 @@
 #include <QObject>
 
 #include <functional>
+#include <optional>
 #include <string>
 
 namespace quendra {
@@ -57,7 +58,10 @@ class ScriptEditor : public QObject, private EditingView {
     void change(const std::function<bool()>& operation, const std::function<std::string()>& name);
     void removeSelected(StringId name, bool (*operation)(EditingState&, EditingView&));
     void takeStep(std::optional<EntrySelection> (UndoHistory::*step)(Script&));
-    void recordMove();
+    void recordMove(bool goesOn);
+    /// What the limit left no room for; none when all of it fitted.
+    [[nodiscard]] std::optional<std::string> cutNote(std::size_t inserted,
+                                                     std::size_t offered) const;
     [[nodiscard]] std::string insertedNote(const OtherScript& other, std::size_t inserted) const;
     [[nodiscard]] ScriptView currentView() const;
     [[nodiscard]] std::string countedName(StringId name, std::size_t count) const;

@@ -28,15 +28,28 @@ void printHeading(const Show& show, const std::string& file) {
     show.environment.out << "==> " << shownName(file) << " <==\n";
 }
 
-void printLines(const Show& show, const ReadResult& read) {
+// Gives the numbers of the entries with hidden texts that the present key does not open.
+std::string printLines(const Show& show, const ReadResult& read) {
     std::ostream& out = show.environment.out;
     const DisplayNames names = {show.names.luFunctions.of(read.signature.hostType),
                                 show.names.menuCommands, show.request.reveal};
     std::size_t number = 0;
+    std::string sealed;
     forEachEntry(read.script, show.cipher.cipher, [&](const ScriptEntry& entry) {
-        if (show.request.numbers) out << std::setw(6) << ++number << '\t';
+        ++number;
+        if (show.request.numbers) out << std::setw(6) << number << '\t';
         out << escapeControlCharacters(formatEntryLine(entry, names)) << '\n';
+        if (showsSealedText(entry)) sealed += (sealed.empty() ? "" : ", ") + std::to_string(number);
     });
+    return sealed;
+}
+
+// The lines show such a text like an empty one, and stay as they are for whoever compares them.
+void reportSealed(const Show& show, const std::string& file, const std::string& entries) {
+    if (entries.empty()) return;
+    report(show.environment, file,
+           "hidden under another user identity, and shown as if it were empty: the text of entry " +
+               entries);
 }
 
 void printForm(const Show& show, const ReadResult& read) {
@@ -65,13 +78,15 @@ bool showFile(const Show& show, const std::string& file) {
         printFull(show, source->read);
         return true;
     }
+    std::string sealed;
     if (show.request.json) {
         printForm(show, source->read);
     } else {
-        printLines(show, source->read);
+        sealed = printLines(show, source->read);
     }
     // What was read stands above the message also where both go to the same screen.
     show.environment.out.flush();
+    reportSealed(show, file, sealed);
     return reportReading(show.environment, file, source->read);
 }
 

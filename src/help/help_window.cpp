@@ -106,6 +106,7 @@ QToolBar* HelpWindow::buildBar() {
     addKeys();
     auto* bar = new QToolBar;
     bar->setObjectName(QStringLiteral("helpBar"));
+    bar->setAccessibleName(text(textid::toolBarName));
     bar->setIconSize({20, 20});
     bar->addActions({back_, forward_, start});
     bar->addSeparator();

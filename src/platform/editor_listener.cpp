@@ -102,7 +102,8 @@ void EditorListener::answer(int descriptor) {
     const auto question = parseEditorQuestion({buffer.data(), static_cast<std::size_t>(size)});
     if (!question) return drop(descriptor);
     const bool yes = isAskedFor(question->className, question->script);
-    if (yes && question->verb == EditorVerb::Raise) window_.raise();
+    if (yes && question->verb == EditorVerb::Raise)
+        window_.raise(std::string(question->activationToken));
     if (!sendPacket(descriptor, yes ? editorSaysYes : editorSaysNo)) drop(descriptor);
 }
 

@@ -13,6 +13,9 @@ std::string packetOf(const EditorQuestion& question) {
     packet += question.className;
     packet += '\0';
     packet += question.script;
+    if (question.activationToken.empty()) return packet;
+    packet += '\0';
+    packet += question.activationToken;
     return packet;
 }
 
@@ -23,12 +26,17 @@ std::optional<EditorQuestion> parseEditorQuestion(std::string_view packet) {
     if (classEnd == std::string_view::npos) return std::nullopt;
     const std::string_view verb = packet.substr(0, verbEnd);
     if (verb != "shows" && verb != "raise") return std::nullopt;
-    const EditorQuestion question = {verb == "shows" ? EditorVerb::Shows : EditorVerb::Raise,
-                                     packet.substr(verbEnd + 1, classEnd - verbEnd - 1),
-                                     packet.substr(classEnd + 1)};
-    const bool isPath =
-        question.script.starts_with('/') && question.script.find('\0') == std::string_view::npos;
-    return isPath ? std::optional(question) : std::nullopt;
+    const std::string_view rest = packet.substr(classEnd + 1);
+    const std::size_t scriptEnd = rest.find('\0');
+    EditorQuestion question = {verb == "shows" ? EditorVerb::Shows : EditorVerb::Raise,
+                               packet.substr(verbEnd + 1, classEnd - verbEnd - 1),
+                               rest.substr(0, scriptEnd)};
+    if (!question.script.starts_with('/')) return std::nullopt;
+    if (scriptEnd == std::string_view::npos) return question;
+    question.activationToken = rest.substr(scriptEnd + 1);
+    const bool isToken = !question.activationToken.empty() &&
+                         question.activationToken.find('\0') == std::string_view::npos;
+    return isToken ? std::optional(question) : std::nullopt;
 }
 
 std::optional<sockaddr_un> socketAddress(const fs::path& path) {

@@ -24,6 +24,8 @@ struct EditorQuestion {
     EditorVerb verb = EditorVerb::Shows;
     std::string_view className;
     std::string_view script;
+    /// The desktop's leave to raise the window; empty for none.
+    std::string_view activationToken = {};
 };
 
 [[nodiscard]] std::string packetOf(const EditorQuestion& question);

@@ -145,12 +145,13 @@ std::optional<fs::path> editorSocketFolder(const Environment& environment,
     return std::nullopt;
 }
 
-bool raiseEditorShowing(const fs::path& folder, const fs::path& script,
-                        std::string_view className) {
+bool raiseEditorShowing(const fs::path& folder, const fs::path& script, std::string_view className,
+                        std::string_view activationToken) {
     const std::string path = canonicalScript(script).native();
     const std::string shows = packetOf({EditorVerb::Shows, className, path});
     if (shows.size() > maxEditorQuestion) return false;
-    const std::string raise = packetOf({EditorVerb::Raise, className, path});
+    std::string raise = packetOf({EditorVerb::Raise, className, path, activationToken});
+    if (raise.size() > maxEditorQuestion) raise = packetOf({EditorVerb::Raise, className, path});
     const auto deadline = Clock::now() + answerTime;
     Peers peers = askEveryone(folder, shows);
     while (auto peer = nextYes(peers, deadline)) {
@@ -160,13 +161,20 @@ bool raiseEditorShowing(const fs::path& folder, const fs::path& script,
     return false;
 }
 
+std::string activationToken(const Environment& environment) {
+    for (const char* name : {"XDG_ACTIVATION_TOKEN", "DESKTOP_STARTUP_ID"}) {
+        if (auto token = variable(environment, name)) return *std::move(token);
+    }
+    return {};
+}
+
 EditorAdmission admitEditor(const std::optional<fs::path>& folder, const fs::path& script,
-                            EditorWindow window) {
+                            EditorWindow window, std::string_view activationToken) {
     EditorAdmission admission;
     if (!folder) return admission;
     const Descriptor lock = startLock(*folder);
     admission.raisedOther =
-        !script.empty() && raiseEditorShowing(*folder, script, window.className);
+        !script.empty() && raiseEditorShowing(*folder, script, window.className, activationToken);
     if (admission.raisedOther) return admission;
     admission.listener = std::make_unique<EditorListener>(*folder, std::move(window));
     if (admission.listener->failure()) admission.listener.reset();

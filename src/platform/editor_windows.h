@@ -26,8 +26,8 @@ struct EditorWindow {
     /// The file that the window shows now, empty for none; a relative path counts from the current
     /// directory.
     std::function<std::filesystem::path()> shownScript;
-    /// Restores the window and brings it to the front.
-    std::function<void()> raise;
+    /// Restores the window and brings it to the front; the argument is the token of whoever asks.
+    std::function<void(const std::string&)> raise;
 };
 
 /// Whether two paths name the same file: links, "." and ".." followed as far as the file exists.
@@ -44,9 +44,15 @@ struct EditorWindow {
 /// Has one editor whose class contains `className` and whose window shows `script` bring that
 /// window to the front. False when none does. Sockets that killed editors left behind are removed.
 /// Takes at most two seconds whatever the others do, and no time to speak of when all are well.
+/// `activationToken` is handed to that editor.
 [[nodiscard]] bool raiseEditorShowing(const std::filesystem::path& folder,
                                       const std::filesystem::path& script,
-                                      std::string_view className);
+                                      std::string_view className,
+                                      std::string_view activationToken = {});
+
+/// What the desktop gave this process for the window that it is to bring to the front, as
+/// XDG_ACTIVATION_TOKEN or DESKTOP_STARTUP_ID; empty when it gave nothing.
+[[nodiscard]] std::string activationToken(const Environment& environment);
 
 /// Answers the questions of other editors about this one's window.
 class EditorListener {
@@ -93,6 +99,7 @@ struct EditorAdmission {
 /// each other. An empty `script` asks nobody. The window's functions must be fit to be called as
 /// soon as serve() is.
 [[nodiscard]] EditorAdmission admitEditor(const std::optional<std::filesystem::path>& folder,
-                                          const std::filesystem::path& script, EditorWindow window);
+                                          const std::filesystem::path& script, EditorWindow window,
+                                          std::string_view activationToken = {});
 
 }  // namespace quendra

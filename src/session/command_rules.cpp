@@ -36,25 +36,11 @@ bool hasClipboard(const CommandFacts& facts) {
     return facts.clipboardCount > 0;
 }
 
-bool hasEvent(const CommandFacts& facts) {
-    return facts.selectedEvent.has_value();
-}
-
-bool hasLuFunction(const CommandFacts& facts) {
-    return facts.selectedLuFunction.has_value();
-}
-
-bool hasMenuCommand(const CommandFacts& facts) {
-    return facts.selectedMenuCommand.has_value();
-}
-
 bool canEdit(const CommandFacts& facts) {
-    switch (facts.editSource) {
-        case EditSource::None: return false;
-        case EditSource::Dialog: return true;
-        case EditSource::ScriptEvents: return hasEvent(facts);
-        case EditSource::LuFunctions: return hasLuFunction(facts);
-        case EditSource::MenuCommands: return hasMenuCommand(facts);
+    switch (facts.editSource.kind) {
+        case EditSource::Kind::None: return false;
+        case EditSource::Kind::Dialog: return true;
+        case EditSource::Kind::Row: return facts.selectedRow(facts.editSource.palette).has_value();
     }
     return false;
 }
@@ -67,24 +53,15 @@ bool canRedo(const CommandFacts& facts) {
     return facts.redoStep.has_value();
 }
 
-CommandText insertEventTip(const CommandFacts& facts, LanguageLibrary& language) {
-    return itemText(paletteInfo(Palette::ScriptEvents).insertTextId, facts.selectedEvent, language);
-}
-
-CommandText insertLuFunctionTip(const CommandFacts& facts, LanguageLibrary& language) {
-    return itemText(paletteInfo(Palette::LuFunctions).insertTextId, facts.selectedLuFunction,
-                    language);
-}
-
-CommandText insertMenuCommandTip(const CommandFacts& facts, LanguageLibrary& language) {
-    return itemText(paletteInfo(Palette::MenuCommands).insertTextId, facts.selectedMenuCommand,
-                    language);
+CommandText insertTip(Palette palette, const CommandFacts& facts, LanguageLibrary& language) {
+    return itemText(paletteInfo(palette).insertTextId, facts.selectedRow(palette), language);
 }
 
 CommandText editTip(const CommandFacts& facts, LanguageLibrary& language) {
-    if (facts.editSource == EditSource::None) return std::nullopt;
+    const EditSource::Kind kind = facts.editSource.kind;
+    if (kind == EditSource::Kind::None) return std::nullopt;
     return itemText(
-        facts.editSource == EditSource::Dialog ? textid::editNamedEntry : textid::replaceNamedEntry,
+        kind == EditSource::Kind::Dialog ? textid::editNamedEntry : textid::replaceNamedEntry,
         facts.focusedLine, language);
 }
 

@@ -5,6 +5,7 @@
 
 #include "session/application_state.h"
 
+#include <array>
 #include <optional>
 #include <string>
 
@@ -16,22 +17,22 @@ struct CommandFacts {
     std::size_t entryCount = 0;
     std::size_t selectedCount = 0;
     std::size_t clipboardCount = 0;
-    EditSource editSource = EditSource::None;
+    EditSource editSource = {};
     std::string focusedLine = {};
-    std::optional<std::string> selectedEvent = {};
-    std::optional<std::string> selectedLuFunction = {};
-    std::optional<std::string> selectedMenuCommand = {};
+    /// The text of each palette's selected row.
+    std::array<std::optional<std::string>, allPalettes.size()> selectedRows = {};
     /// The steps that Undo and Redo would take.
     std::optional<std::string> undoStep = {};
     std::optional<std::string> redoStep = {};
+
+    [[nodiscard]] const std::optional<std::string>& selectedRow(Palette palette) const {
+        return selectedRows[static_cast<std::size_t>(palette)];
+    }
 };
 
 [[nodiscard]] bool hasEntries(const CommandFacts& facts);
 [[nodiscard]] bool hasSelection(const CommandFacts& facts);
 [[nodiscard]] bool hasClipboard(const CommandFacts& facts);
-[[nodiscard]] bool hasEvent(const CommandFacts& facts);
-[[nodiscard]] bool hasLuFunction(const CommandFacts& facts);
-[[nodiscard]] bool hasMenuCommand(const CommandFacts& facts);
 /// The focused entry has a dialog, or its palette offers what would replace it.
 [[nodiscard]] bool canEdit(const CommandFacts& facts);
 [[nodiscard]] bool canUndo(const CommandFacts& facts);
@@ -39,10 +40,8 @@ struct CommandFacts {
 
 /// Texts that name what a command would act on; none while there is nothing.
 using CommandText = std::optional<std::string>;
-[[nodiscard]] CommandText insertEventTip(const CommandFacts& facts, LanguageLibrary& language);
-[[nodiscard]] CommandText insertLuFunctionTip(const CommandFacts& facts, LanguageLibrary& language);
-[[nodiscard]] CommandText insertMenuCommandTip(const CommandFacts& facts,
-                                               LanguageLibrary& language);
+[[nodiscard]] CommandText insertTip(Palette palette, const CommandFacts& facts,
+                                    LanguageLibrary& language);
 [[nodiscard]] CommandText editTip(const CommandFacts& facts, LanguageLibrary& language);
 [[nodiscard]] CommandText deleteTip(const CommandFacts& facts, LanguageLibrary& language);
 [[nodiscard]] CommandText undoTip(const CommandFacts& facts, LanguageLibrary& language);

@@ -97,25 +97,22 @@ constexpr CommandInfo rows[] = {
                textid::insertScriptEventStatusText},
      .menu = EditorMenu::Entry,
      .toolbarGroup = 4,
-     .isEnabled = hasEvent,
-     .toolTip = insertEventTip,
-     .addsEntries = true},
+     .addsEntries = true,
+     .inserts = Palette::ScriptEvents},
     {.id = InsertLuFunction,
      .texts = {textid::insertLuFunctionMenuText, textid::insertLuFunctionToolTip,
                textid::insertLuFunctionStatusText},
      .menu = EditorMenu::Entry,
      .toolbarGroup = 4,
-     .isEnabled = hasLuFunction,
-     .toolTip = insertLuFunctionTip,
-     .addsEntries = true},
+     .addsEntries = true,
+     .inserts = Palette::LuFunctions},
     {.id = InsertMenuCommand,
      .texts = {textid::insertMenuCommandMenuText, textid::insertMenuCommandToolTip,
                textid::insertMenuCommandStatusText},
      .menu = EditorMenu::Entry,
      .toolbarGroup = 4,
-     .isEnabled = hasMenuCommand,
-     .toolTip = insertMenuCommandTip,
-     .addsEntries = true},
+     .addsEntries = true,
+     .inserts = Palette::MenuCommands},
     {.id = InsertScript,
      .texts = {textid::insertScriptMenuText, textid::insertScriptToolTip,
                textid::insertScriptStatusText},
@@ -202,7 +199,12 @@ EditorCommand modeCommand(HostType type) {
     return static_cast<EditorCommand>(hostTypeInfo(type).modeCommand);
 }
 
+EditorCommand insertCommand(Palette palette) {
+    return std::ranges::find(commands(), palette, &CommandInfo::inserts)->id;
+}
+
 bool isCommandEnabled(const CommandInfo& info, const CommandFacts& facts) {
+    if (info.inserts) return facts.selectedRow(*info.inserts).has_value();
     return info.isEnabled == nullptr || info.isEnabled(facts);
 }
 
@@ -212,9 +214,10 @@ bool isCommandChecked(const CommandInfo& info, const CommandFacts& facts) {
 
 std::string commandToolTip(const CommandInfo& info, const CommandFacts& facts,
                            LanguageLibrary& language) {
-    if (info.toolTip != nullptr) {
-        if (auto text = info.toolTip(facts, language)) return *std::move(text);
-    }
+    CommandText text;
+    if (info.inserts) text = insertTip(*info.inserts, facts, language);
+    if (info.toolTip != nullptr) text = info.toolTip(facts, language);
+    if (text) return *std::move(text);
     return libraryText(language, info.texts.toolTip);
 }
 

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "hosts/host_type.h"
+#include "hosts/palettes.h"
 #include "text/language_library.h"
 
 #include <cstdint>
@@ -73,6 +74,9 @@ struct CommandInfo {
     bool addsEntries = false;
     /// It puts the keyboard focus where it is wanted; after any other the pane has it.
     bool movesFocus = false;
+    /// The palette whose selected row the command inserts: without one it cannot be chosen, and its
+    /// tool tip names it.
+    std::optional<Palette> inserts = {};
     /// What a Mode command makes the current host type, and is checked for.
     std::optional<HostType> hostType = {};
 };
@@ -85,6 +89,9 @@ struct CommandInfo {
 
 /// The Mode command of a host type.
 [[nodiscard]] EditorCommand modeCommand(HostType type);
+
+/// The command that inserts the selected row of a palette.
+[[nodiscard]] EditorCommand insertCommand(Palette palette);
 
 [[nodiscard]] constexpr int commandNumber(EditorCommand id) {
     return static_cast<int>(id);

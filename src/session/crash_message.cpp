@@ -24,7 +24,8 @@ std::filesystem::path crashDumpPath(const std::filesystem::path& folder, const s
 }
 
 std::string crashMessage(const std::string& program, const Fault& fault,
-                         const std::filesystem::path& dump) {
+                         const std::filesystem::path& dump,
+                         const std::optional<std::string>& noDump) {
     std::string text = "Caught program exception in " + program + " " + fullVersion + "\r\n";
     if (fault.access) {
         text += "Type = EXCEPTION_ACCESS_VIOLATION\r\n";
@@ -35,7 +36,10 @@ std::string crashMessage(const std::string& program, const Fault& fault,
         text += "Type = " + formatted("%lx", fault.code) + "\r\n";
         text += "Address = " + formatted("%08lx", fault.address);
     }
-    return text + "\r\nA diagnostic file was written to: " + dump.string();
+    text += "\r\nA diagnostic file was written to: " + dump.string();
+    // The line above belongs to every message.
+    if (noDump) text += "\r\nThis failed, and there is no such file: " + *noDump;
+    return text;
 }
 
 }  // namespace quendra

@@ -5,6 +5,7 @@
 
 #include <ctime>
 #include <filesystem>
+#include <optional>
 #include <string>
 
 namespace quendra {
@@ -15,9 +16,10 @@ namespace quendra {
                                                   const std::string& program,
                                                   const std::tm& localTime);
 
-/// In UTF-8, its lines ended by "\r\n". These texts are not translated: whoever gets them by mail
-/// searches for them.
+/// In UTF-8, its lines ended by "\r\n"; `noDump` is why there is no file by the name of the dump.
+/// These texts are not translated: whoever gets them by mail searches for them.
 [[nodiscard]] std::string crashMessage(const std::string& program, const Fault& fault,
-                                       const std::filesystem::path& dump);
+                                       const std::filesystem::path& dump,
+                                       const std::optional<std::string>& noDump);
 
 }  // namespace quendra

@@ -86,11 +86,15 @@ void takeRow(const EditingState& state, ScriptEntry& entry, const PaletteChoice&
                 state.luCatalogues.of(state.currentHostType));
 }
 
+bool hasDialog(const ScriptEntry& entry) {
+    return editSource(entry).kind == EditSource::Kind::Dialog;
+}
+
 std::optional<ScriptEntry> makeScriptEvent(EditingView& view) {
     const PaletteChoice choice = selectedIn(view, Palette::ScriptEvents);
     if (choice.row < 0) return std::nullopt;
     ScriptEntry entry = newCommand(commandOf(choice));
-    if (editSource(entry) == EditSource::Dialog && !view.editParameters(entry)) return std::nullopt;
+    if (hasDialog(entry) && !view.editParameters(entry)) return std::nullopt;
     return entry;
 }
 
@@ -142,7 +146,7 @@ bool replaceScriptEvent(const EditingState& state, EditingView& view, ScriptEntr
     const PaletteChoice choice = replacing(view, Palette::ScriptEvents);
     if (choice.row < 0 || commandOf(choice) == entry.code) return false;
     takeRow(state, entry, choice);
-    return editSource(entry) != EditSource::Dialog || view.editParameters(entry);
+    return !hasDialog(entry) || view.editParameters(entry);
 }
 
 bool editInDialog(EditingState& state, EditingView& view, ScriptEntry& entry) {
@@ -151,13 +155,21 @@ bool editInDialog(EditingState& state, EditingView& view, ScriptEntry& entry) {
     return editMenuParameters(state, view, entry);
 }
 
+bool replaceFrom(Palette palette, EditingState& state, EditingView& view, ScriptEntry& entry) {
+    switch (palette) {
+        case Palette::ScriptEvents: return replaceScriptEvent(state, view, entry);
+        case Palette::LuFunctions: return replaceLuFunction(state, view, entry);
+        case Palette::MenuCommands: return replaceMenuCommand(state, view, entry);
+    }
+    return false;
+}
+
 bool editWorkingCopy(EditingState& state, EditingView& view, ScriptEntry& entry) {
-    switch (editSource(entry)) {
-        case EditSource::Dialog: return editInDialog(state, view, entry);
-        case EditSource::ScriptEvents: return replaceScriptEvent(state, view, entry);
-        case EditSource::LuFunctions: return replaceLuFunction(state, view, entry);
-        case EditSource::MenuCommands: return replaceMenuCommand(state, view, entry);
-        case EditSource::None: break;
+    const EditSource source = editSource(entry);
+    switch (source.kind) {
+        case EditSource::Kind::Dialog: return editInDialog(state, view, entry);
+        case EditSource::Kind::Row: return replaceFrom(source.palette, state, view, entry);
+        case EditSource::Kind::None: break;
     }
     return false;
 }
@@ -216,15 +228,16 @@ std::optional<std::size_t> pastePoint(const EditingState& state, const EditingVi
 }  // namespace
 
 EditSource editSource(const ScriptEntry& entry) {
+    using enum EditSource::Kind;
     switch (entry.code) {
-        case CommandCode::None: return EditSource::None;
-        case CommandCode::LuFunction: return EditSource::LuFunctions;
+        case CommandCode::None: return {None};
+        case CommandCode::LuFunction: return {Row, Palette::LuFunctions};
         case CommandCode::MenuCommand:
-            return menuCommandTakesParameters(entry.commandId) ? EditSource::Dialog
-                                                               : EditSource::MenuCommands;
+            if (menuCommandTakesParameters(entry.commandId)) return {Dialog};
+            return {Row, Palette::MenuCommands};
         case CommandCode::Beep:
         case CommandCode::ClearWatch:
-        case CommandCode::Return: return EditSource::ScriptEvents;
+        case CommandCode::Return: return {Row, Palette::ScriptEvents};
         case CommandCode::Comment:
         case CommandCode::Goto:
         case CommandCode::Input:
@@ -241,9 +254,9 @@ EditSource editSource(const ScriptEntry& entry) {
         case CommandCode::WatchFor:
         case CommandCode::ExpressLogon:
         case CommandCode::Copy:
-        case CommandCode::Paste: return EditSource::Dialog;
+        case CommandCode::Paste: return {Dialog};
     }
-    return EditSource::None;
+    return {None};
 }
 
 EditSource editSource(const EntryHandle& entry, const HiddenTextCipher& cipher) {

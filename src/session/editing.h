@@ -83,15 +83,21 @@ class EditingView {
 };
 
 /// What Edit/Replace Entry takes an entry's new content from.
-enum class EditSource : std::uint8_t {
-    /// There is no entry, or one without a command.
-    None,
-    /// The entry's own dialog.
-    Dialog,
-    /// The entry has no parameters: the selected row of a palette takes its place.
-    ScriptEvents,
-    LuFunctions,
-    MenuCommands,
+struct EditSource {
+    enum class Kind : std::uint8_t {
+        /// There is no entry, or one without a command.
+        None,
+        /// The entry's own dialog.
+        Dialog,
+        /// The entry has no parameters: the selected row of the palette takes its place.
+        Row,
+    };
+
+    Kind kind = Kind::None;
+    /// Of a row only.
+    Palette palette = {};
+
+    bool operator==(const EditSource&) const = default;
 };
 [[nodiscard]] EditSource editSource(const ScriptEntry& entry);
 [[nodiscard]] EditSource editSource(const EntryHandle& entry, const HiddenTextCipher& cipher);

@@ -47,6 +47,14 @@ void UndoHistory::record(const ScriptView& before, const ScriptView& after, std:
     done_ = steps_.size();
 }
 
+void UndoHistory::extend(const ScriptView& before, const ScriptView& after) {
+    std::string name = undoName();
+    ScriptView start = before;
+    if (auto selection = undo(start.script)) start.selection = *std::move(selection);
+    steps_.erase(steps_.begin() + static_cast<std::ptrdiff_t>(done_), steps_.end());
+    record(start, after, std::move(name));
+}
+
 std::string UndoHistory::undoName() const {
     return canUndo() ? steps_[done_ - 1].name : "";
 }

@@ -35,6 +35,8 @@ class UndoHistory {
     /// Records the change from `before` to `after` under a name that menus show ("Delete 3
     /// Entries"). A change that left the script as it was is no step.
     void record(const ScriptView& before, const ScriptView& after, std::string name);
+    /// Makes the change from `before` to `after` part of the last step, which led to `before`.
+    void extend(const ScriptView& before, const ScriptView& after);
 
     [[nodiscard]] bool canUndo() const { return done_ > 0; }
     [[nodiscard]] bool canRedo() const { return done_ < steps_.size(); }

@@ -197,6 +197,8 @@ int EditorStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWi
                            QStyleHintReturn* returnData) const {
     if (hint == SH_DialogButtonBox_ButtonsHaveIcons) return 0;
     if (hint == SH_LineEdit_PasswordCharacter) return '*';
+    // On dark, the light copy behind a greyed menu item makes it look blurred.
+    if (hint == SH_EtchDisabledText) return 0;
     return QProxyStyle::styleHint(hint, option, widget, returnData);
 }
 

@@ -64,15 +64,25 @@ class RowDelegate : public QStyledItemDelegate {
         return QStyledItemDelegate::sizeHint(option, index).width();
     }
 
-    /// Only a row whose text is cut off has more to tell.
+    /// Only a row whose text is cut off, or whose tool tip says more than it, has more to tell.
     bool helpEvent(QHelpEvent* event, QAbstractItemView* view, const QStyleOptionViewItem& option,
                    const QModelIndex& index) override {
         if (index.isValid() && event->type() == QEvent::ToolTip &&
+            !index.data(PaneList::MoreInToolTip).toBool() &&
             neededWidth(option, index) <= option.rect.width()) {
             QToolTip::hideText();
             return true;
         }
         return QStyledItemDelegate::helpEvent(event, view, option, index);
+    }
+
+  protected:
+    /// A row without an icon keeps the icon's place free, so that all texts begin at one line.
+    void initStyleOption(QStyleOptionViewItem* row, const QModelIndex& index) const override {
+        const QSize icon = row->decorationSize;
+        QStyledItemDelegate::initStyleOption(row, index);
+        row->features |= QStyleOptionViewItem::HasDecoration;
+        row->decorationSize = icon;
     }
 };
 

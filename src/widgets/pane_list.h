@@ -12,6 +12,10 @@ class PaneList : public QListView {
     Q_OBJECT
 
   public:
+    /// Whether the tool tip of a row tells more than its line, and shows though that is not cut
+    /// off.
+    static constexpr int MoreInToolTip = Qt::UserRole;
+
     explicit PaneList(QWidget* parent = nullptr);
 
     /// Ascending. Costs as much as there are selected rows, and nothing per row of the list.

@@ -99,7 +99,16 @@ TEST_F(EditingWindowTest, ReturnAndDoubleClickEditTheEntryOrAskForTheRowThatRepl
     doubleClick(script(), 0);
     EXPECT_EQ(lines(), "one|2|Beep");
     doubleClick(script(), 2);
-    EXPECT_NE(status().find("Script Events"), std::string::npos) << status();
+    const std::string request = status();
+    EXPECT_NE(request.find("Script Events"), std::string::npos) << request;
+    choosePaletteRow("luFunctionsPalette", 0);
+    EXPECT_EQ(status(), request) << "not what was asked for";
+    choosePaletteRow("scriptEventsPalette", 1);
+    EXPECT_EQ(status(), "3 entries") << "now there is something to take the place";
+    list("scriptEventsPalette").clearSelection();
+    doubleClick(script(), 2);
+    select({1}, 1);
+    EXPECT_EQ(status(), "3 entries") << "another entry has its dialog";
 }
 
 TEST_F(EditingWindowTest, HiddenTextsAreShownNowhere) {
@@ -144,6 +153,30 @@ TEST_F(EditingWindowTest, UndoAndRedoNameTheirStepsAndBringSelectionBack) {
     expectScript("5|2", {0}, 0);
 }
 
+TEST_F(EditingWindowTest, AKeyHeldDownMovesInOneStep) {
+    open("a.qds", commentFile(5));
+    const auto holdDown = [this](int times) {
+        for (int i = 0; i < times; ++i) {
+            QKeyEvent again(QEvent::KeyPress, Qt::Key_Down, Qt::ControlModifier, {}, true);
+            QApplication::sendEvent(&script(), &again);
+        }
+    };
+    press(script(), Qt::Key_Down, Qt::ControlModifier);
+    press(script(), Qt::Key_Down, Qt::ControlModifier);
+    holdDown(2);
+    expectScript("2|3|4|5|1", {4}, 4);
+    run(Undo);
+    expectScript("2|1|3|4|5", {1}, 1);
+    run(Redo);
+    expectScript("2|3|4|5|1", {4}, 4);
+    run(Undo);
+    holdDown(1);
+    run(Undo);
+    expectScript("2|1|3|4|5", {1}, 1);
+    run(Undo);
+    expectScript("1|2|3|4|5", {0}, 0);
+}
+
 TEST_F(EditingWindowTest, InsertScriptTakesAnotherFileInOneStepAndLeavesItAlone) {
     const Bytes older = scriptFile("QDVTSCR<", {menuRecord(267), commentRecord("b")});
     const auto other = editor.folder / "other.qds";
@@ -165,6 +198,11 @@ TEST_F(EditingWindowTest, InsertScriptTakesAnotherFileInOneStepAndLeavesItAlone)
     writeBytes(other, commentFile(4095));
     run(InsertScript, other);
     EXPECT_EQ(status(), "4094 of 4095 entries inserted: the script is full");
+    select({0, 1, 2}, 0);
+    run(Copy);
+    deleteFirstEntry();
+    run(Paste);
+    EXPECT_EQ(status(), "1 of 3 entries inserted: the script is full");
 }
 
 class FindBarTest : public EditingWindowTest {
@@ -201,6 +239,13 @@ TEST_F(FindBarTest, GoesToTheNextMatchWithEveryLetterAndBackWhenOneIsTaken) {
     expectAt(9, "2 of 12");
     type("x");
     expectAt(9, "Not found");
+    select({18}, 18);
+    press(edit, Qt::Key_Backspace);
+    expectAt(18, "11 of 12");
+    type("5");
+    expectAt(14, "1 of 1");
+    press(edit, Qt::Key_Backspace);
+    expectAt(18, "11 of 12");
 }
 
 TEST_F(FindBarTest, NextAndPreviousGoRoundInBothDirections) {
@@ -226,6 +271,11 @@ TEST_F(FindBarTest, MarksFollowTheScriptAndGoWithTheBar) {
     EXPECT_FALSE(edit.isVisible());
     EXPECT_TRUE(found().empty());
     EXPECT_TRUE(script().hasFocus());
+    press(script(), Qt::Key_F3);
+    EXPECT_TRUE(edit.hasFocus());
+    expectAt(18, "2 of 3");
+    press(script(), Qt::Key_Escape);
+    EXPECT_FALSE(edit.isVisible()) << "from the list too";
     QTest::keyClick(&window, Qt::Key_F, Qt::ControlModifier);
     EXPECT_EQ(edit.selectedText(), QStringLiteral("9"));
     EXPECT_EQ(found(), (std::vector<std::size_t>{8, 18, 28}));

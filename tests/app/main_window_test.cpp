@@ -6,7 +6,9 @@
 
 #include <QAccessible>
 #include <QApplication>
+#include <QCloseEvent>
 #include <QLabel>
+#include <QMenu>
 #include <QPushButton>
 #include <QTest>
 #include <QTimer>
@@ -168,6 +170,12 @@ TEST_F(MainWindowTest, EndOfTheSessionClosesWithoutAQuestionAndKeepsTheChanges) 
     answers.messages.clear();
     fs::remove(kept);
     window.endSession();
+    QCloseEvent byHand;
+    QSpontaneKeyEvent::setSpontaneous(&byHand);
+    answers.toMessages.push_back(Cancel);
+    qApp->notify(&window, &byHand);
+    EXPECT_FALSE(byHand.isAccepted()) << "a user who closes the window is there to be asked";
+    answers.messages.clear();
     window.endSession();
     EXPECT_TRUE(window.close());
     EXPECT_TRUE(answers.messages.empty());
@@ -180,7 +188,9 @@ TEST_F(MainWindowTest, ModeSwitchRenamesKeysAndChangesNothingElse) {
     const Bytes bytes = scriptFile("QDMDSCR=", {Bytes{1, 4, 31}, Bytes{1, 1, 1}});
     const fs::path path = open("a.qds", bytes);
     const std::string before = lines();
+    window.showNote("told by something else");
     run(modeCommand(HostType::VT));
+    EXPECT_EQ(status(), "2 entries");
     EXPECT_EQ(state.currentHostType, HostType::VT);
     EXPECT_EQ(list("luFunctionsPalette").model()->rowCount(), 142);
     EXPECT_NE(lines(), before);
@@ -194,9 +204,9 @@ TEST_F(MainWindowTest, ModeSwitchRenamesKeysAndChangesNothingElse) {
     EXPECT_EQ(readBytes(path), bytes);
 }
 
-const CommandFacts event = {.selectedEvent = "Beep"};
-const CommandFacts luFunction = {.selectedLuFunction = "Enter"};
-const CommandFacts menuCommand = {.selectedMenuCommand = "Zoom In"};
+const CommandFacts event = {.selectedRows = {"Beep"}};
+const CommandFacts luFunction = {.selectedRows = {std::nullopt, "Enter"}};
+const CommandFacts menuCommand = {.selectedRows = {std::nullopt, std::nullopt, "Zoom In"}};
 
 CommandFacts focusedOn(EditSource source, CommandFacts facts = {}) {
     facts.entryCount = 3;
@@ -205,18 +215,22 @@ CommandFacts focusedOn(EditSource source, CommandFacts facts = {}) {
 }
 
 TEST(CommandStates, ConditionalCommandsFollowScriptAndSelections) {
-    using enum EditSource;
+    const EditSource dialog = {EditSource::Kind::Dialog};
+    const auto rowOf = [](Palette palette) { return EditSource{EditSource::Kind::Row, palette}; };
+    const EditSource events = rowOf(Palette::ScriptEvents);
+    const EditSource luFunctions = rowOf(Palette::LuFunctions);
+    const EditSource menuCommands = rowOf(Palette::MenuCommands);
     const std::pair<CommandFacts, std::set<EditorCommand>> rows[] = {
         {{}, {}},
         {{.selectedCount = 2}, {Cut, Copy, DeleteEntries, CopyAsText}},
         {{.clipboardCount = 1}, {Paste}},
-        {focusedOn(Dialog), {Save, SaveAs, Find, EditEntry}},
-        {focusedOn(ScriptEvents), {Save, SaveAs, Find}},
-        {focusedOn(ScriptEvents, event), {Save, SaveAs, Find, InsertScriptEvent, EditEntry}},
-        {focusedOn(ScriptEvents, luFunction), {Save, SaveAs, Find, InsertLuFunction}},
-        {focusedOn(LuFunctions, luFunction), {Save, SaveAs, Find, InsertLuFunction, EditEntry}},
-        {focusedOn(MenuCommands, event), {Save, SaveAs, Find, InsertScriptEvent}},
-        {focusedOn(MenuCommands, menuCommand), {Save, SaveAs, Find, InsertMenuCommand, EditEntry}},
+        {focusedOn(dialog), {Save, SaveAs, Find, EditEntry}},
+        {focusedOn(events), {Save, SaveAs, Find}},
+        {focusedOn(events, event), {Save, SaveAs, Find, InsertScriptEvent, EditEntry}},
+        {focusedOn(events, luFunction), {Save, SaveAs, Find, InsertLuFunction}},
+        {focusedOn(luFunctions, luFunction), {Save, SaveAs, Find, InsertLuFunction, EditEntry}},
+        {focusedOn(menuCommands, event), {Save, SaveAs, Find, InsertScriptEvent}},
+        {focusedOn(menuCommands, menuCommand), {Save, SaveAs, Find, InsertMenuCommand, EditEntry}},
         {{.undoStep = "Cut 1 Entry"}, {Undo}},
         {{.redoStep = "Cut 1 Entry"}, {Redo}},
     };
@@ -322,12 +336,18 @@ TEST_F(MainWindowTest, EveryControlHasANameForScreenReaders) {
     using enum QAccessible::Role;
     std::map<QAccessible::Role, int> found = {{Button, 0},       {ButtonMenu, 0}, {CheckBox, 0},
                                               {EditableText, 0}, {List, 0},       {ListItem, 0},
-                                              {MenuItem, 0},     {Window, 0}};
+                                              {MenuItem, 0},     {Window, 0},     {ToolBar, 0}};
     walkAccessibleTree(*QAccessible::queryAccessibleInterface(&window), found);
     EXPECT_EQ(found[List], 4);
     EXPECT_GT(found[ListItem], 4);
     EXPECT_GT(found[Button], 10);
     EXPECT_GE(found[MenuItem], 5);
+    EXPECT_EQ(found[ToolBar], 2);
+    for (const QMenu* menu : window.findChildren<QMenu*>())
+        for (QAction* item : menu->actions()) {
+            const QString name = item->text();
+            EXPECT_TRUE(name == name.trimmed() && !name.contains(u'\t')) << qPrintable(name);
+        }
 }
 
 }  // namespace

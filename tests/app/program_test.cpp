@@ -85,7 +85,11 @@ TEST_F(ProgramTest, EndsInOrderWhenTheSystemAsksItTo) {
 TEST_F(ProgramTest, DrawsItsWindowAsAskedAndRefusesWhatItCannotDo) {
     EXPECT_EQ(run("--dark a.qds --screenshot picture.png --size 700x500 --scale 2 /t1"), 0);
     EXPECT_EQ(QImage(at("picture.png")).size(), QSize(1400, 1000));
+    EXPECT_EQ(run("--screenshot picture.png --scale 3"), 0);
+    EXPECT_EQ(QImage(at("picture.png")).size(), QSize(1878, 1230)) << "not cut to the screen";
     EXPECT_EQ(run("--screenshot missing/picture.png"), 1);
+    writeBytes(folder / "letter.qds", bytesOf("dear all"));
+    EXPECT_EQ(run("letter.qds --screenshot refused.png"), 0) << "no box waits for anybody";
     for (const char* wrong : {"--screenshot", "--screenshot p.png --size 0x5",
                               "--screenshot p.png --scale nan", "--bogus"})
         EXPECT_EQ(run(wrong), 2) << wrong;

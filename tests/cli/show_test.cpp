@@ -79,6 +79,19 @@ TEST_F(Show, keepsHiddenTextsUnlessAskedForThem) {
               "Type \"topsecret\" (H)\nWatch_For \"w\" Then Type \"topsecret\" (H)\n");
 }
 
+TEST_F(Show, tellsOfTextsUnderAnotherIdentityBesideTheirLines) {
+    const Bytes script =
+        scriptFile("QDMDSCR=",
+                   {comment, hiddenTypeRecord("", "theirs"), hiddenTypeRecord("", frozenIdentity()),
+                    joined({{20}, counted("w"), hiddenTypeRecord("x", "theirs")})});
+    const QdsRun run = runQds({"show", "-"}, script);
+    EXPECT_EQ(run.status, 0);
+    EXPECT_EQ(run.out, "one\nType \"\" (H)\nType \"\" (H)\nWatch_For \"w\" Then Type \"\" (H)\n");
+    EXPECT_EQ(run.err,
+              "qds: standard input: hidden under another user identity, and shown as if it were "
+              "empty: the text of entry 2, 4\n");
+}
+
 TEST_F(Show, masksNothingThatLiesInTheFileInClear) {
     for (const std::uint8_t hidden : std::initializer_list<std::uint8_t>{0, 2, 255}) {
         const Bytes script = scriptFile("QDMDSCR=", {joined({{15}, counted("clear"), {hidden}})});

@@ -19,7 +19,8 @@ EditorProcessTest::~EditorProcessTest() {
     if (HasFailure()) std::cout << "on the screen:\n" << windowTitles();
 }
 
-std::unique_ptr<ChildProcess> EditorProcessTest::start(const std::string& script) {
+std::unique_ptr<ChildProcess> EditorProcessTest::start(const std::string& script,
+                                                       const Words& options) {
     auto editor = std::make_unique<ChildProcess>();
     editor->setVariable("HOME", home_.path());
     editor->setVariable("XDG_CONFIG_HOME", home_ / "config");
@@ -32,6 +33,7 @@ std::unique_ptr<ChildProcess> EditorProcessTest::start(const std::string& script
     editor->setWorkingDirectory(QString::fromStdString(home_.path()));
     editor->setProcessChannelMode(QProcess::ForwardedChannels);
     Words command = {QUENDRA_EDITOR};
+    command.insert(command.end(), options.begin(), options.end());
     if (!script.empty()) command.push_back(pathOf(script));
     editor->startAs(command);
     return editor;

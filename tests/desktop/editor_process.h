@@ -15,8 +15,9 @@ class EditorProcessTest : public testing::Test {
     EditorProcessTest();
     ~EditorProcessTest() override;
 
-    /// Starts an editor, with a script when a name is given.
-    [[nodiscard]] std::unique_ptr<ChildProcess> start(const std::string& script = {});
+    /// Starts an editor, with a script when a name is given, and with options.
+    [[nodiscard]] std::unique_ptr<ChildProcess> start(const std::string& script = {},
+                                                      const Words& options = {});
     /// Starts one and waits until its window is the active one.
     [[nodiscard]] std::unique_ptr<ChildProcess> open(const std::string& script = {});
 

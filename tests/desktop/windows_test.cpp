@@ -2,6 +2,12 @@
 #include "desktop/editor_process.h"
 #include "support/editor_fixture.h"
 
+#include <QImage>
+
+#include <chrono>
+#include <cstdlib>
+#include <xcb/xcb.h>
+
 namespace quendra::test {
 namespace {
 
@@ -35,6 +41,59 @@ TEST_F(WindowsTest, SecondStartRaisesTheWindowThatShowsTheScriptMinimisedOrWithA
     EXPECT_NE(titles.find(titleOf("b.qds")), std::string::npos);
     EXPECT_EQ(titles.find(titleOf("a.qds")), titles.rfind(titleOf("a.qds")));
     EXPECT_TRUE(first->runs() && other->runs());
+}
+
+// Hears what is asked of the window manager.
+class ManagersEar {
+  public:
+    ManagersEar() {
+        const xcb_window_t root = xcb_setup_roots_iterator(xcb_get_setup(server_)).data->root;
+        const std::uint32_t requests = XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY;
+        const auto asked =
+            xcb_change_window_attributes_checked(server_, root, XCB_CW_EVENT_MASK, &requests);
+        EXPECT_EQ(xcb_request_check(server_, asked), nullptr);
+    }
+    ~ManagersEar() { xcb_disconnect(server_); }
+    ManagersEar(const ManagersEar&) = delete;
+    ManagersEar& operator=(const ManagersEar&) = delete;
+
+    /// A request of a window's that tells this time has come.
+    [[nodiscard]] bool hears(std::uint32_t time) {
+        while (xcb_generic_event_t* event = xcb_poll_for_event(server_)) {
+            const auto& message = reinterpret_cast<xcb_client_message_event_t&>(*event);
+            heard_ = heard_ || ((event->response_type & 0x7f) == XCB_CLIENT_MESSAGE &&
+                                message.data.data32[1] == time);
+            std::free(event);
+        }
+        return heard_;
+    }
+
+  private:
+    xcb_connection_t* server_ = xcb_connect(nullptr, nullptr);
+    bool heard_ = false;
+};
+
+TEST_F(WindowsTest, ASecondStartsTokenReachesTheWindowManager) {
+    const auto shows = open("a.qds");
+    const auto other = open("b.qds");
+    ManagersEar ear;
+    const auto click = std::chrono::steady_clock::now().time_since_epoch();
+    const auto time = static_cast<std::uint32_t>(
+        std::chrono::duration_cast<std::chrono::milliseconds>(click).count());
+    qputenv("DESKTOP_STARTUP_ID", "launcher_TIME" + QByteArray::number(time));
+    EXPECT_EQ(start("a.qds")->exitCodeAtEnd(), 0);
+    qunsetenv("DESKTOP_STARTUP_ID");
+    waitUntil([&] { return ear.hears(time); }, "the manager is asked with the time of the click");
+    waitForTitle(titleOf("a.qds"));
+}
+
+TEST_F(WindowsTest, APictureMayBeLargerThanTheScreenAndWaitsForNobody) {
+    writeBytes(pathOf("letter.qds"), bytesOf("dear all"));
+    for (const char* script : {"a.qds", "letter.qds"}) {
+        const auto drawn = start(script, {"--screenshot", pathOf("p.png"), "--size", "2000x1500"});
+        EXPECT_EQ(drawn->exitCodeAtEnd(), 0);
+        EXPECT_EQ(QImage(QString::fromStdString(pathOf("p.png"))).size(), QSize(2000, 1500));
+    }
 }
 
 TEST_F(WindowsTest, KilledEditorLeavesNothingInTheWay) {

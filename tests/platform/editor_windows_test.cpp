@@ -33,16 +33,22 @@ void serve(EditorListener& listener, const std::stop_token& stop) {
 }
 
 EditorWindow windowOf(const fs::path& shown) {
-    return {className, [shown] { return shown; }, [] {}};
+    return {className, [shown] { return shown; }, [](const std::string&) {}};
 }
 
 class OtherEditor {
   public:
     OtherEditor(const fs::path& folder, const fs::path& shown, const char* windowClass = className)
-        : listener_(folder, {windowClass, [shown] { return shown; }, [this] { ++raises; }}),
+        : listener_(folder, {windowClass, [shown] { return shown; },
+                             [this](const std::string& with) {
+                                 token = with;
+                                 ++raises;
+                             }}),
           thread_([this](const std::stop_token& stop) { serve(listener_, stop); }) {}
 
     std::atomic<int> raises = 0;
+    /// Of the last one that asked, whose answer came after it was set.
+    std::string token;
 
   private:
     EditorListener listener_;
@@ -103,13 +109,21 @@ TEST_F(EditorWindowsTest, TheOneThatShowsTheScriptAndHasTheClassIsRaised) {
                                  fs::relative(script), scratch / "./new.qds"})
         EXPECT_TRUE(raise(name)) << name;
     EXPECT_EQ(shows.raises, 4);
+    EXPECT_EQ(shows.token, "");
+    const Environment launched = {{"DESKTOP_STARTUP_ID", "host_TIME42"}};
+    EXPECT_TRUE(
+        admitEditor(folder, script, windowOf(script), activationToken(launched)).raisedOther);
+    EXPECT_EQ(shows.token, "host_TIME42");
+    const std::string endless(maxEditorQuestion, 't');
+    EXPECT_TRUE(raiseEditorShowing(folder, script, className, endless));
+    EXPECT_EQ(shows.token, "") << "too long to be one";
     EXPECT_EQ(unwritten.raises, 1);
     EXPECT_EQ(other.raises + untitled.raises, 0);
     EXPECT_FALSE(raise(scratch / "third.qds")) << "another script gives another window";
     EXPECT_FALSE(raiseEditorShowing(folder, script, "Quendra Script Editor 6.2"));
     const OtherEditor second(folder, script);
     EXPECT_TRUE(raise(script));
-    EXPECT_EQ(shows.raises + second.raises, 5) << "one of two windows";
+    EXPECT_EQ(shows.raises + second.raises, 7) << "one of two windows";
 }
 
 TEST_F(EditorWindowsTest, EditorsThatAreGoneLeaveNothingInTheWayAndOtherFilesStay) {

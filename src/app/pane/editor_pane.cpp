@@ -83,8 +83,7 @@ int EditorPane::selectedRow(Palette palette) const {
 }
 
 std::optional<Palette> EditorPane::focusedPalette() const {
-    for (const Palette palette :
-         {Palette::ScriptEvents, Palette::LuFunctions, Palette::MenuCommands}) {
+    for (const Palette palette : allPalettes) {
         if (&d_->lists_.of(palette) == &d_->selection_.lastFocused()) return palette;
     }
     return std::nullopt;

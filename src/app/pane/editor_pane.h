@@ -65,8 +65,9 @@ class EditorPane : public QWidget {
     void listRebuilt();
     /// A drag or Ctrl with an arrow key is going to move entries.
     void entriesAboutToMove();
-    /// It has moved them; script, selection and currentIndex are as they end.
-    void entriesMoved();
+    /// It has moved them; script, selection and currentIndex are as they end. `goesOn`: a key that
+    /// is held down has moved them once more.
+    void entriesMoved(bool goesOn);
 
   protected:
     void resizeEvent(QResizeEvent* event) override;

@@ -7,15 +7,15 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 
-#include <array>
+#include <utility>
 
 namespace quendra {
 namespace {
 
 // What a double-click or Return asks for, by the number of the list.
-constexpr std::array<EditorCommand, 1 + PaneLists::paletteCount> commandOfList = {
-    EditorCommand::EditEntry, EditorCommand::InsertScriptEvent, EditorCommand::InsertLuFunction,
-    EditorCommand::InsertMenuCommand};
+EditorCommand commandOfList(std::size_t list) {
+    return list == 0 ? EditorCommand::EditEntry : insertCommand(allPalettes[list - 1]);
+}
 
 Qt::KeyboardModifiers heldModifiers(const QKeyEvent& event) {
     return event.modifiers() & ~Qt::KeyboardModifiers(Qt::KeypadModifier);
@@ -29,6 +29,7 @@ PaneGestures::PaneGestures(ApplicationState& state, PaneLists& lists, PaneSelect
         list->installEventFilter(this);
         list->viewport()->installEventFilter(this);
     }
+    connect(&selection, &PaneSelection::rebuilt, this, [this] { keyMoves_ = false; });
 }
 
 bool PaneGestures::eventFilter(QObject* watched, QEvent* event) {
@@ -40,6 +41,7 @@ bool PaneGestures::eventFilter(QObject* watched, QEvent* event) {
         }
         case QEvent::MouseButtonPress:
         case QEvent::MouseButtonDblClick: {
+            keyMoves_ = false;
             const std::size_t number = lists_.numberOf(watched->parent());
             return number < lists_.all().size() &&
                    pressMouse(*lists_.all()[number], static_cast<QMouseEvent&>(*event));
@@ -51,13 +53,20 @@ bool PaneGestures::eventFilter(QObject* watched, QEvent* event) {
 bool PaneGestures::pressKey(PaneList& list, QKeyEvent& event) {
     const Qt::KeyboardModifiers held = heldModifiers(event);
     const bool upOrDown = event.key() == Qt::Key_Up || event.key() == Qt::Key_Down;
+    const bool keptMoving = std::exchange(keyMoves_, false) && event.isAutoRepeat();
     if ((event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter) && held == Qt::NoModifier) {
         // A key held down would insert, or open dialog after dialog.
         if (!event.isAutoRepeat() && list.focusedRow() >= 0) activate(lists_.numberOf(&list));
         return true;
     }
     if (upOrDown && held == Qt::ControlModifier && &list == &lists_.script()) {
-        moveByOne(event.key() == Qt::Key_Up);
+        keyMoves_ = moveByOne(event.key() == Qt::Key_Up, keptMoving);
+        return true;
+    }
+    if (event.matches(QKeySequence::SelectAll) && &list != &lists_.script()) {
+        // After an insert from a palette that is still meant for the script.
+        lists_.script().setFocus();
+        lists_.script().selectAll();
         return true;
     }
     if (event.matches(QKeySequence::Copy)) {
@@ -71,8 +80,10 @@ bool PaneGestures::pressKey(PaneList& list, QKeyEvent& event) {
 bool PaneGestures::pressMouse(PaneList& list, const QMouseEvent& event) {
     if (event.button() != Qt::LeftButton) return false;
     if (event.type() == QEvent::MouseButtonDblClick) return doubleClick(list, event);
-    // Beside the rows, a press chooses none, in a list of one choice too.
-    if (!list.indexAt(event.position().toPoint()).isValid()) list.clearSelection();
+    // Beside the rows, a press chooses none, in a list of one choice too; one that was to add to
+    // the selection leaves it.
+    const bool adds = event.modifiers() & (Qt::ControlModifier | Qt::ShiftModifier);
+    if (!adds && !list.indexAt(event.position().toPoint()).isValid()) list.clearSelection();
     return false;
 }
 
@@ -89,7 +100,7 @@ bool PaneGestures::doubleClick(PaneList& list, const QMouseEvent& event) {
 
 void PaneGestures::activate(std::size_t list) {
     QMetaObject::invokeMethod(
-        this, [this, list] { Q_EMIT commandRequested(commandOfList[list]); }, Qt::QueuedConnection);
+        this, [this, list] { Q_EMIT commandRequested(commandOfList(list)); }, Qt::QueuedConnection);
 }
 
 void PaneGestures::drop(int source, int target, bool up) {
@@ -105,26 +116,28 @@ void PaneGestures::drop(int source, int target, bool up) {
     if (focused == target) return;
     const MovePlan plan =
         planMove(lists_.script().selectedRows(), focused, target, up, entryCount());
-    applyMove(plan, movesOf(orderAfter(plan.steps, entryCount())));
+    applyMove(plan, movesOf(orderAfter(plan.steps, entryCount())), false);
 }
 
-void PaneGestures::moveByOne(bool up) {
+bool PaneGestures::moveByOne(bool up, bool goesOn) {
     const std::vector<std::size_t> selected = lists_.script().selectedRows();
-    if (selected.empty()) return;
+    if (selected.empty()) return false;
     const int lead = static_cast<int>(up ? selected.front() : selected.back());
     const int focusedRow = lists_.script().focusedRow();
     const int focused = focusedRow >= 0 ? focusedRow : lead;
     const MovePlan plan = planMove(selected, focused, focused + (up ? -1 : 1), up, entryCount());
     const std::vector<EntryMove> moves = movesOf(orderAfter(plan.steps, entryCount()));
-    if (!moves.empty()) applyMove(plan, moves);
+    if (!moves.empty()) applyMove(plan, moves, goesOn);
+    return !moves.empty();
 }
 
-void PaneGestures::applyMove(const MovePlan& plan, std::span<const EntryMove> moves) {
+void PaneGestures::applyMove(const MovePlan& plan, std::span<const EntryMove> moves, bool goesOn) {
     Q_EMIT entriesAboutToMove();
     {
         const PaneSelection::QuietChange quiet(selection_);
         moveEntries(state_.script, moves);
-        state_.currentIndex = plan.current;
+        // The one entry that has to be in sight: shown first, another one would have the list jump.
+        state_.currentIndex = plan.focused >= 0 ? plan.focused : plan.current;
         selection_.rebuild();
         std::vector<std::size_t> selected;
         for (const int entry : plan.selected) {
@@ -134,7 +147,7 @@ void PaneGestures::applyMove(const MovePlan& plan, std::span<const EntryMove> mo
         }
         selection_.select(selected, plan.focused);
     }
-    Q_EMIT entriesMoved();
+    Q_EMIT entriesMoved(goesOn);
 }
 
 }  // namespace quendra

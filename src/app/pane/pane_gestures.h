@@ -34,7 +34,8 @@ class PaneGestures : public QObject {
     /// Emitted after the gesture's own event has been handled, never from inside it.
     void commandRequested(quendra::EditorCommand command);
     void entriesAboutToMove();
-    void entriesMoved();
+    /// `goesOn`: by the same key, held down, as those before.
+    void entriesMoved(bool goesOn);
 
   protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -44,13 +45,16 @@ class PaneGestures : public QObject {
     bool pressMouse(PaneList& list, const QMouseEvent& event);
     bool doubleClick(PaneList& list, const QMouseEvent& event);
     void activate(std::size_t list);
-    void moveByOne(bool up);
-    void applyMove(const MovePlan& plan, std::span<const EntryMove> moves);
+    /// True when it moved something.
+    bool moveByOne(bool up, bool goesOn);
+    void applyMove(const MovePlan& plan, std::span<const EntryMove> moves, bool goesOn);
     [[nodiscard]] int entryCount() const { return static_cast<int>(state_.script.entryCount()); }
 
     ApplicationState& state_;
     PaneLists& lists_;
     PaneSelection& selection_;
+    /// The last thing that happened is a move by a key, which may be held down.
+    bool keyMoves_ = false;
 };
 
 }  // namespace quendra

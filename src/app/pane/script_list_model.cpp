@@ -2,8 +2,11 @@
 
 #include "scriptfile/entry_codec.h"
 #include "text/text_encoding.h"
+#include "text/text_ids.h"
+#include "widgets/pane_list.h"
 #include "widgets/symbol_icon.h"
 #include "widgets/tool_tip.h"
+#include "widgets/ui_text.h"
 
 #include <QBrush>
 #include <QGuiApplication>
@@ -29,7 +32,7 @@ QBrush markBrush() {
 
 }  // namespace
 
-ScriptListModel::ScriptListModel(const ApplicationState& state, QObject* parent)
+ScriptListModel::ScriptListModel(ApplicationState& state, QObject* parent)
     : QAbstractListModel(parent),
       state_(state),
       rows_(static_cast<int>(state.script.entryCount())) {}
@@ -56,13 +59,25 @@ QVariant ScriptListModel::data(const QModelIndex& index, int role) const {
     if (role == Qt::BackgroundRole) {
         return std::ranges::binary_search(marked_, row) ? QVariant(markBrush()) : QVariant();
     }
-    if (role != Qt::DisplayRole && role != Qt::DecorationRole && role != Qt::ToolTipRole) return {};
+    if (role != Qt::DisplayRole && role != Qt::DecorationRole && role != Qt::ToolTipRole &&
+        role != PaneList::MoreInToolTip) {
+        return {};
+    }
     const ScriptEntry entry = unpackEntry(state_.script.entries[row], state_.cipher);
     switch (role) {
         case Qt::DisplayRole: return lineOf(entry, state_);
-        case Qt::ToolTipRole: return wrappingToolTip(lineOf(entry, state_));
+        case Qt::ToolTipRole: return toolTipOf(entry);
+        case PaneList::MoreInToolTip: return showsSealedText(entry);
         default: return bitmapIcon(bitmapIdOf(entry.code, entry.commandId));
     }
+}
+
+QString ScriptListModel::toolTipOf(const ScriptEntry& entry) const {
+    QString text = lineOf(entry, state_);
+    if (showsSealedText(entry)) {
+        text += u'\n' + qtText(libraryText(state_.language, textid::hiddenUnderOtherIdentity));
+    }
+    return wrappingToolTip(text);
 }
 
 }  // namespace quendra

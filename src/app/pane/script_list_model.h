@@ -14,7 +14,7 @@ class ScriptListModel : public QAbstractListModel {
 
   public:
     /// `state` outlives the model.
-    explicit ScriptListModel(const ApplicationState& state, QObject* parent = nullptr);
+    explicit ScriptListModel(ApplicationState& state, QObject* parent = nullptr);
 
     /// Shows the script as it is now. Between two calls the number of rows stays as it was,
     /// whatever happens to the script.
@@ -25,11 +25,13 @@ class ScriptListModel : public QAbstractListModel {
 
     [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
     /// The display text is one line, with control characters escaped; the tool tip is the same
-    /// text, ready to wrap.
+    /// text, ready to wrap, and says of a hidden text that is not shown why.
     [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
 
   private:
-    const ApplicationState& state_;
+    [[nodiscard]] QString toolTipOf(const ScriptEntry& entry) const;
+
+    ApplicationState& state_;
     int rows_ = 0;
     std::vector<std::size_t> marked_;
 };

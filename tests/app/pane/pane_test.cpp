@@ -5,7 +5,12 @@
 
 #include <QApplication>
 #include <QClipboard>
+#include <QHelpEvent>
+#include <QScrollBar>
+#include <QToolTip>
 
+#include <functional>
+#include <numeric>
 #include <tuple>
 
 namespace quendra::test {
@@ -63,8 +68,59 @@ TEST_F(PaneTest, CurrentIndexFollowsTheFocusOfTheScriptListOnly) {
     click(onRow(*events, 4));
     EXPECT_EQ(pane->selectedRow(Palette::ScriptEvents), 4);
     EXPECT_EQ(state.currentIndex, 2);
+    key(Qt::Key_A, Qt::ControlModifier);
+    EXPECT_EQ(selected().size(), 5U) << "those of the script, also from a palette";
+    EXPECT_TRUE(script->hasFocus());
+    for (const auto held : {Qt::ControlModifier, Qt::ShiftModifier})
+        click(belowRows(*script), held);
+    EXPECT_EQ(selected().size(), 5U) << "a press that adds nothing";
     click(belowRows(*script));
     EXPECT_TRUE(selected().empty()) << "a press beside the rows";
+}
+
+TEST_F(PaneTest, MovesScrollNoFurtherThanTheFocusedEntryNeeds) {
+    constexpr int firstInSight = 100;
+    Rows all(300);
+    std::iota(all.begin(), all.end(), std::size_t{0});
+    const std::tuple<Rows, int, std::function<void()>> rows[] = {
+        {{50, 101}, 101, [this] { key(Qt::Key_Down, Qt::ControlModifier); }},
+        {{102, 250}, 102, [this] { key(Qt::Key_Up, Qt::ControlModifier); }},
+        {all, 101, [this] { drag(onRow(*script, 101), onRow(*script, 103)); }},
+    };
+    for (const auto& [moved, focused, move] : rows) {
+        SCOPED_TRACE(testing::PrintToString(moved));
+        fillScript(300);
+        script->verticalScrollBar()->setValue(firstInSight);
+        select(moved, focused);
+        move();
+        EXPECT_EQ(moves, 1);
+        EXPECT_EQ(script->verticalScrollBar()->value(), firstInSight);
+    }
+}
+
+TEST_F(PaneTest, TextsBeginAtOneLineWithAnIconAndWithout) {
+    for (const Bytes& record : {menuRecord(300), commentRecord("<Menu Command 300>")})
+        state.script.entries.push_back(storeRecord(record));
+    state.currentIndex = -1;
+    pane->rebuildScriptList();
+    const auto textOfRow = [this](int row) {
+        const int icon = script->iconSize().width() + 4;
+        return script->viewport()->grab(script->rowRect(row).adjusted(icon, 0, 0, 0)).toImage();
+    };
+    EXPECT_EQ(textOfRow(0), textOfRow(1));
+}
+
+TEST_F(PaneTest, ATextUnderAnotherIdentityIsToldFromAnEmptyOneInItsToolTip) {
+    for (const std::string identity : {"theirs", ""})
+        state.script.entries.push_back(storeRecord(hiddenTypeRecord("", identity)));
+    pane->rebuildScriptList();
+    EXPECT_EQ(pane->entryText(0), pane->entryText(1));
+    for (const int row : {1, 0}) {
+        const QPoint at = script->rowRect(row).center();
+        QHelpEvent asks(QEvent::ToolTip, at, script->viewport()->mapToGlobal(at));
+        QApplication::sendEvent(script->viewport(), &asks);
+        EXPECT_EQ(QToolTip::text().contains(u"another user identity"), row == 0);
+    }
 }
 
 TEST_F(PaneTest, ListsPostTheirCommandOnDoubleClickAndReturn) {

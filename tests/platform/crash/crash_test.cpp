@@ -216,6 +216,9 @@ TEST_F(CrashTest, ADumpThatCannotBeMadeStillLeavesTheMessage) {
     crash("read", folder / "missing");
     const std::string named = (folder / "missing/crash_subject.6.1.4.1982.").string();
     EXPECT_NE(errors.find("A diagnostic file was written to: " + named), std::string::npos);
+    EXPECT_NE(errors.find("\nThis failed, and there is no such file: No such file or directory\n"),
+              std::string::npos)
+        << errors;
     EXPECT_TRUE(fs::is_empty(folder.path()));
 }
 
