@@ -192,7 +192,7 @@ TEST_F(Review, GitDiffsAndMergesScripts) {
                   qds +
                   " show --full' && "
                   "git config merge.qds.driver '" +
-                  qds + " merge --name-ours %X --name-theirs %Y %O %A %B'"),
+                  qds + " merge %O %A %B'"),
               0)
         << output();
     ASSERT_EQ(save(30, "a"), 0) << output();
