@@ -209,17 +209,21 @@ TEST_F(DocumentTest, FailedWriteLeavesDocumentAndDisk) {
 }
 
 TEST_F(DocumentTest, SavesThatAreNotOrdinaryAreToldOf) {
-    const ReplaceResult beside = {.backup = editor.folder / "a.qds.bak"};
-    const ReplaceResult elsewhere = {.unsynced = FileFailure{1, "No", editor.folder.path()},
-                                     .backup = "/k/a.qds.bak"};
+    ReplaceResult beside;
+    beside.backup = editor.folder / "a.qds.bak";
+    ReplaceResult elsewhere;
+    elsewhere.unsynced = FileFailure{1, "No", editor.folder.path()};
+    elsewhere.backup = "/k/a.qds.bak";
+    ReplaceResult failed;
+    failed.failure = FileFailure{1, "No", "/f"};
+    failed.backup = "/k/a.qds.bak";
     EXPECT_EQ(savedNote(state.language, editor.folder / "a.qds", {}), "");
     EXPECT_EQ(savedNote(state.language, editor.folder / "a.qds", beside),
               "The old file is kept as a.qds.bak");
     EXPECT_EQ(savedNote(state.language, editor.folder / "a.qds", elsewhere),
               "Saved, but a power cut may undo it: No. The old file is kept as /k/a.qds.bak");
     EXPECT_EQ(
-        failureText(state.language,
-                    {.failure = FileFailure{1, "No", "/f"}, .backup = "/k/a.qds.bak"}),
+        failureText(state.language, failed),
         "The folder \u201c/f\u201d takes no file: No\n\nThe old file is kept as /k/a.qds.bak");
 }
 

@@ -8,17 +8,17 @@
 namespace quendra::test {
 namespace {
 
-using Json = nlohmann::json;
+using FindingForm = nlohmann::json;
 
 // "entry slot rule" of every finding, and behind it the related entries.
 std::vector<std::string> findingsIn(const std::string& out) {
     std::vector<std::string> lines;
-    const Json form = Json::parse(out);
-    for (const Json& finding : form["findings"]) {
+    const FindingForm form = FindingForm::parse(out);
+    for (const FindingForm& finding : form["findings"]) {
         std::string line = std::to_string(finding["entry"].get<int>()) + " " +
                            finding["slot"].get<std::string>() + " " +
                            finding["rule"].get<std::string>();
-        for (const Json& related : finding["related"])
+        for (const FindingForm& related : finding["related"])
             line += " " + std::to_string(related.get<int>());
         lines.push_back(line);
     }
