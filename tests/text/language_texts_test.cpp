@@ -73,7 +73,8 @@ TEST_P(LanguageTexts, HaveTheFormatPlacesThatTheProgramFills) {
         {textid::numberOutOfRange, "%s%d%d"},      {textid::checkNearestLabel, "%s%d"},
         {textid::checkLabelDuplicate, "%s%d"},     {textid::checkParameterMissing, "%s%s"},
         {textid::checkValueRange, "%s%s%s%s"},     {textid::checkKeyUnknown, "%s%s"},
-        {textid::checkTransferCut, "%d%d"},        {textid::checkBusyLoop, "%d%d"},
+        {textid::checkTransferCut, "%d%d"},        {textid::folderTakesNoFile, "%s%s"},
+        {textid::checkBusyLoop, "%d%d"},
     };
     for (const StringId id : {textid::scriptCannotBeOpened,
                               textid::insertNamedScriptEvent,
@@ -118,6 +119,8 @@ TEST_P(LanguageTexts, HaveTheFormatPlacesThatTheProgramFills) {
                               textid::checkTimeoutZero,
                               textid::checkWaitForever,
                               textid::cipherFails,
+                              textid::savedUnsynced,
+                              textid::convertedUnsynced,
                               textid::characterCannotBeStored})
         filled[id] = "%s";
     for (const StringId id :
