@@ -40,7 +40,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 
     const ReadResult read = readScript(writeScript(made.script, HostType::Mainframe));
     require(read.isWhole() && read.script == made.script);
-    const JsonPrinting printing = {luFunctions().of(made.hostType), menuCommands(), cipher, true, {}};
+    const JsonPrinting printing = {
+        luFunctions().of(made.hostType), menuCommands(), cipher, true, {}};
     std::ostringstream out;
     printScript(out, made.script, made.hostType, printing);
     const std::string printed = out.str();

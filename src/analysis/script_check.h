@@ -15,7 +15,7 @@ namespace quendra {
 
 /// A place where a rule is broken. Holds no hidden text and no password.
 struct Finding {
-    Rule rule;
+    Rule rule = Rule::LabelMissing;
     StepPlace place;
     /// Which of the library's texts tells it, and what stands in its places, in UTF-8, of any
     /// length and with any control characters that the script's texts hold.

@@ -49,7 +49,7 @@ char lowerCase(char c) {
 class NameDistance {
   public:
     std::size_t of(std::string_view left, std::string_view right, std::size_t most) {
-        const auto [shorter, longer] = std::minmax(left.size(), right.size());
+        const auto [shorter, longer] = std::minmax({left.size(), right.size()});
         if (longer - shorter > most) return most + 1;
         before_.assign(right.size() + 1, 0);
         last_.resize(right.size() + 1);

@@ -66,9 +66,9 @@ class Table {
     }
 
     void makeRow(std::size_t i) {
-        const Word* above = &rows_[i * width_];
-        const Word* places = &places_[rowOfLeft_[i] * width_];
-        Word* row = &rows_[(i + 1) * width_];
+        const Word* above = rows_.data() + i * width_;
+        const Word* places = places_.data() + rowOfLeft_[i] * width_;
+        Word* row = rows_.data() + (i + 1) * width_;
         Word carry = 0;
         for (std::size_t k = 0; k < width_; ++k) {
             const Word matches = above[k] & places[k];

@@ -137,6 +137,7 @@ class WaitForDialog : public ParameterDialog {
         reason_->setWordWrap(true);
         QSizePolicy policy(QSizePolicy::Ignored, QSizePolicy::Minimum);
         policy.setRetainSizeWhenHidden(true);
+        policy.setHeightForWidth(true);
         reason_->setSizePolicy(policy);
         return reason_;
     }

@@ -17,6 +17,11 @@ ScrollingContent::ScrollingContent(QWidget* content) {
             [this](QWidget*, QWidget* focused) { showFocused(focused); });
 }
 
+// The focus leaves a content that goes, when this is no longer what it was.
+ScrollingContent::~ScrollingContent() {
+    disconnect(qApp, nullptr, this, nullptr);
+}
+
 QSize ScrollingContent::sizeHint() const {
     return widget()->sizeHint();
 }

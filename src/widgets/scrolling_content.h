@@ -12,6 +12,9 @@ class ScrollingContent : public QScrollArea {
   public:
     /// Takes the content over.
     explicit ScrollingContent(QWidget* content);
+    ScrollingContent(const ScrollingContent&) = delete;
+    ScrollingContent& operator=(const ScrollingContent&) = delete;
+    ~ScrollingContent() override;
 
     [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSizeHint() const override { return {0, 0}; }

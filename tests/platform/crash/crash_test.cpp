@@ -62,16 +62,16 @@ std::string matching(const std::string& text, const std::string& pattern) {
     return expression.match(qtText(text)).captured().toStdString();
 }
 
+// A sanitizer takes the signals for itself, and keeps freed blocks as they are, unless told not to.
+constexpr const char* quietSanitizer =
+    "handle_segv=0:handle_sigbus=0:handle_sigfpe=0:handle_sigill=0:handle_abort=0:"
+    "max_free_fill_size=65536:free_fill_byte=0";
+
 class CrashTest : public ::testing::Test {
   protected:
-    // A sanitizer takes the signals for itself, and keeps freed blocks as they are, unless told not
-    // to.
     void start(const char* program, const QStringList& arguments) {
         auto environment = QProcessEnvironment::systemEnvironment();
-        environment.insert(QStringLiteral("ASAN_OPTIONS"),
-                           QStringLiteral("handle_segv=0:handle_sigbus=0:handle_sigfpe=0:"
-                                          "handle_sigill=0:handle_abort=0:"
-                                          "max_free_fill_size=65536:free_fill_byte=0"));
+        environment.insert(QStringLiteral("ASAN_OPTIONS"), QString::fromLatin1(quietSanitizer));
         // A program that lies in the temporary folder works in another one.
         environment.insert(QStringLiteral("TMPDIR"), qtText(folder.path().string()));
         process.setProcessEnvironment(environment);
@@ -183,6 +183,7 @@ bool leavesCore(const fs::path& folder, const std::vector<std::string>& command,
     if (child == 0) {
         const rlimit unlimited = {RLIM_INFINITY, RLIM_INFINITY};
         ::setrlimit(RLIMIT_CORE, &unlimited);
+        ::setenv("ASAN_OPTIONS", quietSanitizer, 1);
         ::dup2(::open("/dev/null", O_WRONLY), STDERR_FILENO);
         if (::chdir(folder.c_str()) == 0) ::execv(arguments[0], arguments.data());
         ::_exit(127);
