@@ -133,13 +133,13 @@ class EntryMerger {
 
     void takeSlot(Slot slot) {
         if (slot == Slot::Entry) {
-            static_cast<Step&>(merged_) = theirs_;
+            static_cast<Step&>(merged_) = static_cast<const Step&>(theirs_);
             return;
         }
         slotFields(merged_, slot) = slotFields(theirs_, slot);
         // A watched Wait_For has its search options in its owner.
         if (merged_.code == CommandCode::WatchFor) {
-            static_cast<EntryOptions&>(merged_) = theirs_;
+            static_cast<EntryOptions&>(merged_) = static_cast<const EntryOptions&>(theirs_);
         }
     }
 
