@@ -46,7 +46,7 @@ struct ScriptDiff {
 /// One difference, as it is told.
 struct DiffLine {
     /// A moved step is told where it is now.
-    StepChange change;
+    StepChange change = StepChange::Single;
     std::optional<std::size_t> left;
     std::optional<std::size_t> right;
 };
