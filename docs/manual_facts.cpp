@@ -6,7 +6,11 @@
 //   key      host type, name, group/number
 //   menu     code, name
 //   command  number, caption, shortcuts
+//   rule     severity, id, of those that checks know
+//   field    a name that qds grep takes
 
+#include "analysis/check_rules.h"
+#include "analysis/field_search.h"
 #include "hosts/lu_catalogue.h"
 #include "model/command_catalogue.h"
 #include "model/menu_commands.h"
@@ -57,6 +61,15 @@ void printCommands(LanguageLibrary& language) {
     }
 }
 
+void printRules() {
+    for (const RuleInfo& rule : checkRules)
+        std::cout << "rule\t" << severityName(rule.severity) << '\t' << rule.id << '\n';
+}
+
+void printFields() {
+    for (const std::string& name : searchableFieldNames()) std::cout << "field\t" << name << '\n';
+}
+
 }  // namespace
 }  // namespace quendra
 
@@ -76,6 +89,8 @@ int main(int argc, char** argv) {
     printKeys(language.textSource());
     printMenuCommands(language.textSource());
     printCommands(language);
+    printRules();
+    printFields();
     std::cout.flush();
     return std::cout ? 0 : 1;
 }

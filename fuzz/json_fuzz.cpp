@@ -34,7 +34,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     static const HiddenTextCipher cipher("");
-    const ScriptOfJson made = scriptOfJson({data, size}, cipher);
+    const JsonBuilding building = {cipher, [](HostType type) { return luFunctions().of(type); }};
+    const ScriptOfJson made = scriptOfJson({data, size}, building);
     if (!made.ok()) return 0;
 
     const ReadResult read = readScript(writeScript(made.script, HostType::Mainframe));
@@ -44,7 +45,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     printScript(out, made.script, made.hostType, printing);
     const std::string printed = out.str();
     const ScriptOfJson remade = scriptOfJson(
-        {reinterpret_cast<const std::uint8_t*>(printed.data()), printed.size()}, cipher);
+        {reinterpret_cast<const std::uint8_t*>(printed.data()), printed.size()}, building);
     require(remade.ok() && remade.script == made.script && remade.hostType == made.hostType);
     return 0;
 }

@@ -3385,12 +3385,6 @@ Save, and lose what the file cannot store?</translation>
         <translation>the file keeps its older version until it is saved: %s</translation>
         <extra-name>conversionFailed</extra-name>
     </message>
-    <message id="15388">
-        <source>a watched Wait_For has no timeout and no actions: left out in entry %s</source>
-        <extracomment>Status bar after opening, behind the number of entries; %s is the numbers of the entries</extracomment>
-        <translation>a watched Wait_For has no timeout and no actions: left out in entry %s</translation>
-        <extra-name>watchedWaitForDropped</extra-name>
-    </message>
     <message id="15389">
         <source>changes that were not saved are kept as %s</source>
         <extracomment>Status bar after opening, behind the number of entries; %s is a file name</extracomment>
@@ -3450,6 +3444,30 @@ Save, and lose what the file cannot store?</translation>
         <extracomment>Status bar: a file was not read whole: more bytes than the largest script; %s is the number of entries, as “12 entries”, %d the place in the file</extracomment>
         <translation>%s loaded: the file is longer than any script (byte %d)</translation>
         <extra-name>fileIsTooLong</extra-name>
+    </message>
+    <message id="15480">
+        <source>It is no regular file but a pipe, a device or a socket.</source>
+        <extracomment>Reason why a script cannot be opened or saved</extracomment>
+        <translation>It is no regular file but a pipe, a device or a socket.</translation>
+        <extra-name>fileIsNotRegular</extra-name>
+    </message>
+    <message id="15481">
+        <source>The folder “%s” takes no file: %s</source>
+        <extracomment>Reason why a script cannot be saved; %s is the folder, then the system's reason</extracomment>
+        <translation>The folder “%s” takes no file: %s</translation>
+        <extra-name>folderTakesNoFile</extra-name>
+    </message>
+    <message id="15482">
+        <source>Saved, but a power cut may undo it: %s</source>
+        <extracomment>Status bar after saving; %s is the system's reason</extracomment>
+        <translation>Saved, but a power cut may undo it: %s</translation>
+        <extra-name>savedUnsynced</extra-name>
+    </message>
+    <message id="15483">
+        <source>a power cut may undo the conversion: %s</source>
+        <extracomment>Status bar after opening, behind the number of entries; %s is the system's reason</extracomment>
+        <translation>a power cut may undo the conversion: %s</translation>
+        <extra-name>convertedUnsynced</extra-name>
     </message>
     <message id="16001">
         <source>The character %s cannot be stored in a script.</source>
@@ -3566,22 +3584,26 @@ Save, and lose what the file cannot store?</translation>
         <extra-name>leftToRightMark</extra-name>
     </message>
     <message id="16040">
-        <source>right-to-left mark</source>
-        <extracomment>Name of a character that cannot be seen, in the note that it cannot be stored</extracomment>
-        <translation>right-to-left mark</translation>
-        <extra-name>rightToLeftMark</extra-name>
+        <source>“%s” is not there yet: saving makes it</source>
+        <extracomment>Status bar after a start with the name of a script that does not exist; %s is the file name</extracomment>
+        <translation>“%s” is not there yet: saving makes it</translation>
+        <extra-name>scriptIsNotThereYet</extra-name>
     </message>
     <message id="16041">
-        <source>narrow no-break space</source>
-        <extracomment>Name of a character that cannot be seen, in the note that it cannot be stored</extracomment>
-        <translation>narrow no-break space</translation>
-        <extra-name>narrowNoBreakSpace</extra-name>
+        <source>The file “%s” could not be opened as a script.
+
+Replace it? The old file is kept as a backup beside it.</source>
+        <extracomment>Question when saving, after a start with the name of a file that was refused; %s is its path</extracomment>
+        <translation>The file “%s” could not be opened as a script.
+
+Replace it? The old file is kept as a backup beside it.</translation>
+        <extra-name>replaceRefusedFileQuestion</extra-name>
     </message>
     <message id="16042">
-        <source>word joiner</source>
-        <extracomment>Name of a character that cannot be seen, in the note that it cannot be stored</extracomment>
-        <translation>word joiner</translation>
-        <extra-name>wordJoiner</extra-name>
+        <source>Save as VT</source>
+        <extracomment>Step that Undo and Redo name: the script has become what a VT file can store of it</extracomment>
+        <translation>Save as VT</translation>
+        <extra-name>saveAsVtStep</extra-name>
     </message>
     <message id="16043">
         <source>variation selector</source>
@@ -3594,6 +3616,180 @@ Save, and lose what the file cannot store?</translation>
         <extracomment>Name of a character that cannot be seen, in the note that it cannot be stored</extracomment>
         <translation>byte order mark</translation>
         <extra-name>byteOrderMark</extra-name>
+    </message>
+    <message id="16100">
+        <source>word joiner</source>
+        <extracomment>Name of a character that cannot be seen, in the note that it cannot be stored</extracomment>
+        <translation>word joiner</translation>
+        <extra-name>wordJoiner</extra-name>
+    </message>
+    <message id="16101">
+        <source>right-to-left mark</source>
+        <extracomment>Name of a character that cannot be seen, in the note that it cannot be stored</extracomment>
+        <translation>right-to-left mark</translation>
+        <extra-name>rightToLeftMark</extra-name>
+    </message>
+    <message id="16102">
+        <source>narrow no-break space</source>
+        <extracomment>Name of a character that cannot be seen, in the note that it cannot be stored</extracomment>
+        <translation>narrow no-break space</translation>
+        <extra-name>narrowNoBreakSpace</extra-name>
+    </message>
+    <message id="17100">
+        <source>Goto %s: no such label</source>
+        <extracomment>Check: a jump to a label that is not there, %s is the label</extracomment>
+        <translation>Goto %s: no such label</translation>
+        <extra-name>checkLabelMissing</extra-name>
+    </message>
+    <message id="17101">
+        <source>; %s is in step %d</source>
+        <extracomment>Check: goes on after the text above: the label that was probably meant and its step</extracomment>
+        <translation>; %s is in step %d</translation>
+        <extra-name>checkNearestLabel</extra-name>
+    </message>
+    <message id="17102">
+        <source>Label %s is already in step %d, and jumps go there</source>
+        <extracomment>Check: a label that was defined before, %s is the label, %d the step of the first</extracomment>
+        <translation>Label %s is already in step %d, and jumps go there</translation>
+        <extra-name>checkLabelDuplicate</extra-name>
+    </message>
+    <message id="17103">
+        <source>%s: the field %s is empty</source>
+        <extracomment>Check: a text that has to be there, the %s are keyword and field name</extracomment>
+        <translation>%s: the field %s is empty</translation>
+        <extra-name>checkParameterMissing</extra-name>
+    </message>
+    <message id="17104">
+        <source>%s: %s is %s; allowed is %s</source>
+        <extracomment>Check: a number outside its range: keyword, field name, number, range such as 1..62</extracomment>
+        <translation>%s: %s is %s; allowed is %s</translation>
+        <extra-name>checkValueRange</extra-name>
+    </message>
+    <message id="17105">
+        <source>Wait_Until: there is no date %s</source>
+        <extracomment>Check: a date such as 2024-2-30</extracomment>
+        <translation>Wait_Until: there is no date %s</translation>
+        <extra-name>checkNoSuchDate</extra-name>
+    </message>
+    <message id="17106">
+        <source>A terminal of type %s has no key %s</source>
+        <extracomment>Check: an LU function that the host type lacks; host type, and group/number of the key</extracomment>
+        <translation>A terminal of type %s has no key %s</translation>
+        <extra-name>checkKeyUnknown</extra-name>
+    </message>
+    <message id="17107">
+        <source>There is no menu command %s</source>
+        <extracomment>Check: the number of a menu command outside the table</extracomment>
+        <translation>There is no menu command %s</translation>
+        <extra-name>checkMenuCommandUnknown</extra-name>
+    </message>
+    <message id="17108">
+        <source>A script of type %s cannot store this step; saving would lose it</source>
+        <extracomment>Check: %s is the host type</extracomment>
+        <translation>A script of type %s cannot store this step; saving would lose it</translation>
+        <extra-name>checkNotInHostType</extra-name>
+    </message>
+    <message id="17109">
+        <source>The transfer has no host file</source>
+        <extracomment>Check</extracomment>
+        <translation>The transfer has no host file</translation>
+        <extra-name>checkNoHostFile</extra-name>
+    </message>
+    <message id="17110">
+        <source>The transfer has no PC file</source>
+        <extracomment>Check</extracomment>
+        <translation>The transfer has no PC file</translation>
+        <extra-name>checkNoPcFile</extra-name>
+    </message>
+    <message id="17111">
+        <source>The transfer has neither host file nor PC file</source>
+        <extracomment>Check</extracomment>
+        <translation>The transfer has neither host file nor PC file</translation>
+        <extra-name>checkNoFiles</extra-name>
+    </message>
+    <message id="17112">
+        <source>The command line of the transfer has %d characters; what follows the first %d is cut off</source>
+        <extracomment>Check</extracomment>
+        <translation>The command line of the transfer has %d characters; what follows the first %d is cut off</translation>
+        <extra-name>checkTransferCut</extra-name>
+    </message>
+    <message id="17113">
+        <source>Conflict of a merge, %s first: choose between the two sides, and remove the three marks</source>
+        <extracomment>Check: %s is the name of the first side</extracomment>
+        <translation>Conflict of a merge, %s first: choose between the two sides, and remove the three marks</translation>
+        <extra-name>checkMergeConflict</extra-name>
+    </message>
+    <message id="17114">
+        <source>Label %s: no Goto leads here</source>
+        <extracomment>Check</extracomment>
+        <translation>Label %s: no Goto leads here</translation>
+        <extra-name>checkLabelUnused</extra-name>
+    </message>
+    <message id="17115">
+        <source>Label %s is an action: a jump to it goes to the whole step</source>
+        <extracomment>Check</extracomment>
+        <translation>Label %s is an action: a jump to it goes to the whole step</translation>
+        <extra-name>checkLabelAsAction</extra-name>
+    </message>
+    <message id="17116">
+        <source>This step is never reached</source>
+        <extracomment>Check</extracomment>
+        <translation>This step is never reached</translation>
+        <extra-name>checkUnreachable</extra-name>
+    </message>
+    <message id="17117">
+        <source>The steps from %d to %d form a loop in which nothing waits</source>
+        <extracomment>Check</extracomment>
+        <translation>The steps from %d to %d form a loop in which nothing waits</translation>
+        <extra-name>checkBusyLoop</extra-name>
+    </message>
+    <message id="17118">
+        <source>No Input stores %s</source>
+        <extracomment>Check: a variable is used that is never set</extracomment>
+        <translation>No Input stores %s</translation>
+        <extra-name>checkVariableUnset</extra-name>
+    </message>
+    <message id="17119">
+        <source>A password is typed in clear; make a new Type that hides it</source>
+        <extracomment>Check</extracomment>
+        <translation>A password is typed in clear; make a new Type that hides it</translation>
+        <extra-name>checkPasswordInClear</extra-name>
+    </message>
+    <message id="17120">
+        <source>The password of the host file is stored in clear</source>
+        <extracomment>Check</extracomment>
+        <translation>The password of the host file is stored in clear</translation>
+        <extra-name>checkTransferPassword</extra-name>
+    </message>
+    <message id="17121">
+        <source>Your user identity does not open the hidden text</source>
+        <extracomment>Check</extracomment>
+        <translation>Your user identity does not open the hidden text</translation>
+        <extra-name>checkSealedText</extra-name>
+    </message>
+    <message id="17122">
+        <source>Wait_For “%s” gives up at once: its timeout is 0 seconds</source>
+        <extracomment>Check</extracomment>
+        <translation>Wait_For “%s” gives up at once: its timeout is 0 seconds</translation>
+        <extra-name>checkTimeoutZero</extra-name>
+    </message>
+    <message id="17123">
+        <source>Wait_For “%s” has no timeout</source>
+        <extracomment>Check</extracomment>
+        <translation>Wait_For “%s” has no timeout</translation>
+        <extra-name>checkWaitForever</extra-name>
+    </message>
+    <message id="17124">
+        <source>No Clear_Watch ends this Watch_For</source>
+        <extracomment>Check</extracomment>
+        <translation>No Clear_Watch ends this Watch_For</translation>
+        <extra-name>checkWatchKept</extra-name>
+    </message>
+    <message id="17125">
+        <source>You have no user identity: hidden texts are only obscured</source>
+        <extracomment>Check</extracomment>
+        <translation>You have no user identity: hidden texts are only obscured</translation>
+        <extra-name>checkHiddenWithoutKey</extra-name>
     </message>
 </context>
 </TS>

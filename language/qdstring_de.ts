@@ -2823,11 +2823,6 @@ Speichern und verlieren, was die Datei nicht aufnehmen kann?</translation>
         <extracomment>Status bar after opening, behind the number of entries; %s is the system's reason</extracomment>
         <translation>die Datei behält ihre ältere Version, bis sie gespeichert wird: %s</translation>
     </message>
-    <message id="15388">
-        <source>a watched Wait_For has no timeout and no actions: left out in entry %s</source>
-        <extracomment>Status bar after opening, behind the number of entries; %s is the numbers of the entries</extracomment>
-        <translation>ein überwachtes Wait_For hat weder Zeitlimit noch Aktionen: weggelassen in Eintrag %s</translation>
-    </message>
     <message id="15389">
         <source>changes that were not saved are kept as %s</source>
         <extracomment>Status bar after opening, behind the number of entries; %s is a file name</extracomment>
@@ -2877,6 +2872,26 @@ Speichern und verlieren, was die Datei nicht aufnehmen kann?</translation>
         <source>%s loaded: the file is longer than any script (byte %d)</source>
         <extracomment>Status bar: a file was not read whole: more bytes than the largest script; %s is the number of entries, as “12 entries”, %d the place in the file</extracomment>
         <translation>%s geladen: die Datei ist länger als jedes Skript (Byte %d)</translation>
+    </message>
+    <message id="15480">
+        <source>It is no regular file but a pipe, a device or a socket.</source>
+        <extracomment>Reason why a script cannot be opened or saved</extracomment>
+        <translation>Es ist keine gewöhnliche Datei, sondern eine Pipe, ein Gerät oder ein Socket.</translation>
+    </message>
+    <message id="15481">
+        <source>The folder “%s” takes no file: %s</source>
+        <extracomment>Reason why a script cannot be saved; %s is the folder, then the system's reason</extracomment>
+        <translation>Der Ordner „%s“ nimmt keine Datei auf: %s</translation>
+    </message>
+    <message id="15482">
+        <source>Saved, but a power cut may undo it: %s</source>
+        <extracomment>Status bar after saving; %s is the system's reason</extracomment>
+        <translation>Gespeichert, aber ein Stromausfall kann es rückgängig machen: %s</translation>
+    </message>
+    <message id="15483">
+        <source>a power cut may undo the conversion: %s</source>
+        <extracomment>Status bar after opening, behind the number of entries; %s is the system's reason</extracomment>
+        <translation>ein Stromausfall kann die Umwandlung rückgängig machen: %s</translation>
     </message>
     <message id="16001">
         <source>The character %s cannot be stored in a script.</source>
@@ -2974,19 +2989,23 @@ Speichern und verlieren, was die Datei nicht aufnehmen kann?</translation>
         <translation>Links-nach-rechts-Zeichen</translation>
     </message>
     <message id="16040">
-        <source>right-to-left mark</source>
-        <extracomment>Name of a character that cannot be seen, in the note that it cannot be stored</extracomment>
-        <translation>Rechts-nach-links-Zeichen</translation>
+        <source>“%s” is not there yet: saving makes it</source>
+        <extracomment>Status bar after a start with the name of a script that does not exist; %s is the file name</extracomment>
+        <translation>„%s“ gibt es noch nicht: Speichern legt die Datei an</translation>
     </message>
     <message id="16041">
-        <source>narrow no-break space</source>
-        <extracomment>Name of a character that cannot be seen, in the note that it cannot be stored</extracomment>
-        <translation>schmales geschütztes Leerzeichen</translation>
+        <source>The file “%s” could not be opened as a script.
+
+Replace it? The old file is kept as a backup beside it.</source>
+        <extracomment>Question when saving, after a start with the name of a file that was refused; %s is its path</extracomment>
+        <translation>Die Datei „%s“ konnte nicht als Skript geöffnet werden.
+
+Ersetzen? Die alte Datei bleibt als Sicherungskopie daneben erhalten.</translation>
     </message>
     <message id="16042">
-        <source>word joiner</source>
-        <extracomment>Name of a character that cannot be seen, in the note that it cannot be stored</extracomment>
-        <translation>Wortverbinder</translation>
+        <source>Save as VT</source>
+        <extracomment>Step that Undo and Redo name: the script has become what a VT file can store of it</extracomment>
+        <translation>Als VT speichern</translation>
     </message>
     <message id="16043">
         <source>variation selector</source>
@@ -2997,6 +3016,151 @@ Speichern und verlieren, was die Datei nicht aufnehmen kann?</translation>
         <source>byte order mark</source>
         <extracomment>Name of a character that cannot be seen, in the note that it cannot be stored</extracomment>
         <translation>Bytereihenfolge-Markierung</translation>
+    </message>
+    <message id="16100">
+        <source>word joiner</source>
+        <extracomment>Name of a character that cannot be seen, in the note that it cannot be stored</extracomment>
+        <translation>Wortverbinder</translation>
+    </message>
+    <message id="16101">
+        <source>right-to-left mark</source>
+        <extracomment>Name of a character that cannot be seen, in the note that it cannot be stored</extracomment>
+        <translation>Rechts-nach-links-Zeichen</translation>
+    </message>
+    <message id="16102">
+        <source>narrow no-break space</source>
+        <extracomment>Name of a character that cannot be seen, in the note that it cannot be stored</extracomment>
+        <translation>schmales geschütztes Leerzeichen</translation>
+    </message>
+    <message id="17100">
+        <source>Goto %s: no such label</source>
+        <extracomment>Check: a jump to a label that is not there, %s is the label</extracomment>
+        <translation>Goto %s: Diese Sprungmarke gibt es nicht</translation>
+    </message>
+    <message id="17101">
+        <source>; %s is in step %d</source>
+        <extracomment>Check: goes on after the text above: the label that was probably meant and its step</extracomment>
+        <translation>; %s steht in Schritt %d</translation>
+    </message>
+    <message id="17102">
+        <source>Label %s is already in step %d, and jumps go there</source>
+        <extracomment>Check: a label that was defined before, %s is the label, %d the step of the first</extracomment>
+        <translation>Die Sprungmarke %s steht schon in Schritt %d, und Sprünge führen dorthin</translation>
+    </message>
+    <message id="17103">
+        <source>%s: the field %s is empty</source>
+        <extracomment>Check: a text that has to be there, the %s are keyword and field name</extracomment>
+        <translation>%s: Das Feld %s ist leer</translation>
+    </message>
+    <message id="17104">
+        <source>%s: %s is %s; allowed is %s</source>
+        <extracomment>Check: a number outside its range: keyword, field name, number, range such as 1..62</extracomment>
+        <translation>%s: %s ist %s; erlaubt ist %s</translation>
+    </message>
+    <message id="17105">
+        <source>Wait_Until: there is no date %s</source>
+        <extracomment>Check: a date such as 2024-2-30</extracomment>
+        <translation>Wait_Until: Ein Datum %s gibt es nicht</translation>
+    </message>
+    <message id="17106">
+        <source>A terminal of type %s has no key %s</source>
+        <extracomment>Check: an LU function that the host type lacks; host type, and group/number of the key</extracomment>
+        <translation>Ein Terminal vom Typ %s hat keine Taste %s</translation>
+    </message>
+    <message id="17107">
+        <source>There is no menu command %s</source>
+        <extracomment>Check: the number of a menu command outside the table</extracomment>
+        <translation>Einen Menübefehl %s gibt es nicht</translation>
+    </message>
+    <message id="17108">
+        <source>A script of type %s cannot store this step; saving would lose it</source>
+        <extracomment>Check: %s is the host type</extracomment>
+        <translation>Ein Skript vom Typ %s kann diesen Schritt nicht aufnehmen; beim Speichern ginge er verloren</translation>
+    </message>
+    <message id="17109">
+        <source>The transfer has no host file</source>
+        <extracomment>Check</extracomment>
+        <translation>Der Übertragung fehlt die Hostdatei</translation>
+    </message>
+    <message id="17110">
+        <source>The transfer has no PC file</source>
+        <extracomment>Check</extracomment>
+        <translation>Der Übertragung fehlt die PC-Datei</translation>
+    </message>
+    <message id="17111">
+        <source>The transfer has neither host file nor PC file</source>
+        <extracomment>Check</extracomment>
+        <translation>Der Übertragung fehlen Hostdatei und PC-Datei</translation>
+    </message>
+    <message id="17112">
+        <source>The command line of the transfer has %d characters; what follows the first %d is cut off</source>
+        <extracomment>Check</extracomment>
+        <translation>Die Befehlszeile der Übertragung hat %d Zeichen; was auf die ersten %d folgt, wird abgeschnitten</translation>
+    </message>
+    <message id="17113">
+        <source>Conflict of a merge, %s first: choose between the two sides, and remove the three marks</source>
+        <extracomment>Check: %s is the name of the first side</extracomment>
+        <translation>Konflikt beim Zusammenführen, zuerst %s: Wählen Sie eine der beiden Seiten, und entfernen Sie die drei Markierungen</translation>
+    </message>
+    <message id="17114">
+        <source>Label %s: no Goto leads here</source>
+        <extracomment>Check</extracomment>
+        <translation>Sprungmarke %s: Kein Goto führt hierher</translation>
+    </message>
+    <message id="17115">
+        <source>Label %s is an action: a jump to it goes to the whole step</source>
+        <extracomment>Check</extracomment>
+        <translation>Die Sprungmarke %s ist eine Aktion: Ein Sprung dorthin führt zum ganzen Schritt</translation>
+    </message>
+    <message id="17116">
+        <source>This step is never reached</source>
+        <extracomment>Check</extracomment>
+        <translation>Dieser Schritt wird nie erreicht</translation>
+    </message>
+    <message id="17117">
+        <source>The steps from %d to %d form a loop in which nothing waits</source>
+        <extracomment>Check</extracomment>
+        <translation>Die Schritte von %d bis %d bilden eine Schleife, in der nichts wartet</translation>
+    </message>
+    <message id="17118">
+        <source>No Input stores %s</source>
+        <extracomment>Check: a variable is used that is never set</extracomment>
+        <translation>Kein Input speichert %s</translation>
+    </message>
+    <message id="17119">
+        <source>A password is typed in clear; make a new Type that hides it</source>
+        <extracomment>Check</extracomment>
+        <translation>Ein Kennwort wird im Klartext getippt; legen Sie ein neues Type an, das es verbirgt</translation>
+    </message>
+    <message id="17120">
+        <source>The password of the host file is stored in clear</source>
+        <extracomment>Check</extracomment>
+        <translation>Das Kennwort der Hostdatei ist im Klartext gespeichert</translation>
+    </message>
+    <message id="17121">
+        <source>Your user identity does not open the hidden text</source>
+        <extracomment>Check</extracomment>
+        <translation>Ihre Benutzerkennung öffnet den verborgenen Text nicht</translation>
+    </message>
+    <message id="17122">
+        <source>Wait_For “%s” gives up at once: its timeout is 0 seconds</source>
+        <extracomment>Check</extracomment>
+        <translation>Wait_For „%s“ gibt sofort auf: Das Zeitlimit ist 0 Sekunden</translation>
+    </message>
+    <message id="17123">
+        <source>Wait_For “%s” has no timeout</source>
+        <extracomment>Check</extracomment>
+        <translation>Wait_For „%s“ hat kein Zeitlimit</translation>
+    </message>
+    <message id="17124">
+        <source>No Clear_Watch ends this Watch_For</source>
+        <extracomment>Check</extracomment>
+        <translation>Kein Clear_Watch beendet dieses Watch_For</translation>
+    </message>
+    <message id="17125">
+        <source>You have no user identity: hidden texts are only obscured</source>
+        <extracomment>Check</extracomment>
+        <translation>Sie haben keine Benutzerkennung: Verborgene Texte sind nur verschleiert</translation>
     </message>
 </context>
 </TS>

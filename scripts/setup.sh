@@ -16,12 +16,12 @@ declare -A packages=(
     # offscreen windows show no text. qt6-translations-l10n has the buttons of message boxes and the file dialogs
     # in other languages.
     [runtime]="qt6-qpa-plugins qt6-translations-l10n hicolor-icon-theme fonts-dejavu-core"
-    [test]="xvfb xauth xdotool openbox gdb"
+    [test]="xvfb xauth xdotool openbox gdb git"
     # clang-tidy 14 cannot read the ranges of g++ 12's library; 16 can.
     [check]="clang-format-14 clang-tidy-16 shellcheck"
     # What looks at the package: validators, what detects types and completes words, and a clean system to install into.
     [package]="dpkg-dev file lintian appstream desktop-file-utils shared-mime-info libglib2.0-bin xdg-utils
-        man-db bsdextrautils mandoc bash-completion git ca-certificates mmdebstrap"
+        man-db bsdextrautils mandoc bash-completion ca-certificates mmdebstrap"
     [fuzz]="clang-14 libclang-rt-14-dev"
 )
 

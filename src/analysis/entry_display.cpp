@@ -180,11 +180,10 @@ ActionSummaries actionSummaries(const ScriptEntry& entry, bool isCompare,
 std::optional<TransferInputs> lastTransferShown(const Script& script,
                                                 const HiddenTextCipher& cipher) {
     TransferSearch transfer;
-    ScriptEntry unpacked;
+    EntryUnpacker unpacker(cipher);
     for (auto entry = script.entries.rbegin(); entry != script.entries.rend(); ++entry) {
         if (!transfer.isIn(*entry)) continue;
-        unpackEntry(*entry, cipher, unpacked);
-        if (auto inputs = lastTransferOf(unpacked)) return inputs;
+        if (auto inputs = lastTransferOf(unpacker.unpack(*entry))) return inputs;
     }
     return std::nullopt;
 }

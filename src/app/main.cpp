@@ -8,10 +8,11 @@
 #include "help/editor_help.h"
 #include "platform/editor_windows.h"
 #include "platform/end_signals.h"
+#include "platform/files.h"
 #include "session/application_life.h"
 #include "session/command_line.h"
 #include "session/document.h"
-#include "session/startup.h"
+#include "settings/startup.h"
 #include "widgets/appearance.h"
 #include "widgets/message_box.h"
 #include "widgets/symbol_icon.h"
@@ -84,10 +85,7 @@ void showNotices(const std::vector<StartupNotice>& notices) {
 std::optional<OpenOutcome> applyCommandLine(ApplicationState& state, const CommandLine& line) {
     if (line.hostType) state.currentHostType = *line.hostType;
     if (line.script.empty()) return std::nullopt;
-    // There is no absolute path when the current folder has been removed.
-    std::error_code error;
-    const std::filesystem::path script = std::filesystem::absolute(line.script, error);
-    return openDocumentAtStart(state, error ? line.script : script);
+    return openDocumentAtStart(state, tidyPath(line.script));
 }
 
 // The run from the first window to the last.
@@ -150,6 +148,7 @@ int runEditor(int& argc, char** argv, const CommandLine& line, const PictureOpti
 
 int start(int& argc, char** argv) {
     if (const auto status = reportCrash(argc, argv)) return *status;
+    ignoreSizeLimitSignal();
     std::vector<std::string> arguments(argv + 1, argv + argc);
     const auto picture = takePictureOptions(arguments);
     if (!picture) {

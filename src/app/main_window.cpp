@@ -249,9 +249,11 @@ bool MainWindow::saveAs() {
 
 bool MainWindow::saveTo(const std::filesystem::path& path) {
     if (!agreedToAll(questionsBeforeSave(state_, path))) return false;
-    const SaveOutcome outcome = saveDocument(state_, path);
+    const EntrySelection selection = {pane_->selectedEntries(), pane_->focusedEntry()};
+    const SaveOutcome outcome = saveDocument(state_, path, selection);
     if (outcome.refusal) showMessage(this, *outcome.refusal);
     if (!outcome.saved) return false;
+    if (outcome.scriptChanged) pane_->showScript(selection);
     note_ = outcome.note;
     updateTitle();
     updateStatus();

@@ -1,6 +1,7 @@
 #include "app/script_editor.h"
 
 #include "app/main_window.h"
+#include "scriptfile/entry_codec.h"
 #include "session/command_rules.h"
 #include "session/document.h"
 #include "text/text_encoding.h"
@@ -90,11 +91,13 @@ void ScriptEditor::paste() {
 }
 
 void ScriptEditor::copyAsText() {
-    QString text;
-    for (const std::size_t entry : selectedEntries()) {
-        text += window_.pane().entryText(static_cast<int>(entry)) + u'\n';
+    std::string text;
+    EntryUnpacker unpacker(state_.cipher);
+    for (const std::size_t index : selectedEntries()) {
+        const ScriptEntry& entry = unpacker.unpack(state_.script.entries[index]);
+        text += escapeControlCharacters(formatEntryLine(entry, state_.displayNames())) + '\n';
     }
-    if (!text.isEmpty()) QGuiApplication::clipboard()->setText(text);
+    if (!text.empty()) QGuiApplication::clipboard()->setText(qtText(text));
 }
 
 void ScriptEditor::insertOtherScript() {

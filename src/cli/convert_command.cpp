@@ -8,17 +8,9 @@ namespace quendra::cli {
 
 namespace {
 
-bool replaceSource(Environment& environment, const std::string& file,
-                   std::span<const std::uint8_t> bytes, const FileContent& source) {
-    if (fileStamp(file) != source.stamp) {
-        report(environment, file, "the file changed while it was converted");
-        return false;
-    }
-    return writeOutput(environment, file, bytes, source);
-}
-
 bool convertFile(const ConvertRequest& request, Environment& environment, const std::string& file) {
-    const auto source = readScriptInput(environment, file);
+    const auto source =
+        readScriptInput(environment, file, request.inPlace ? Input::RegularFile : Input::AnyFile);
     if (!source) return false;
     const ReadResult& read = source->read;
     const HostType hostType = request.hostType.value_or(read.signature.hostType);

@@ -12,7 +12,7 @@ bool reportLoss(Environment& environment, const std::string& file, const Script&
                 HostType source, HostType target) {
     const auto indexes = unstorableEntries(script, target);
     if (indexes.empty()) return false;
-    const EntryNames names(environment);
+    const EntryNames names(environment, NamesFor::User);
     const HiddenTextCipher cipher(userIdentity());
     const DisplayNames display = {names.luFunctions.of(source), names.menuCommands};
     for (const std::size_t index : indexes) {

@@ -1,9 +1,10 @@
 // qds: show, convert and build scripts on the command line.
 
 #include "cli/qds.h"
-#include "platform/process.h"
 #include "platform/standard_streams.h"
+#include "settings/startup.h"
 
+#include <cerrno>
 #include <exception>
 #include <ostream>
 #include <span>
@@ -13,7 +14,13 @@ namespace {
 using namespace quendra::cli;
 
 int run(const std::vector<std::string>& arguments, std::ostream& out, std::ostream& err) {
-    Environment environment = {0, out, err, quendra::programFile().parent_path()};
+    const auto settings = quendra::findStartupSettings(quendra::processStartupInputs());
+    Environment environment = {0,
+                               out,
+                               err,
+                               {settings.programDir, settings.configDir, settings.installDir},
+                               quendra::isTerminal(2),
+                               quendra::isTerminal(1)};
     try {
         return runQds(arguments, environment);
     } catch (const std::exception& exception) {
@@ -38,8 +45,9 @@ int main(int argc, char** argv) {
 
     int status = run(arguments, out, err);
     out.flush();
-    if (outBuffer.failure()) {
-        err << "qds: standard output: " << outBuffer.failure()->message << std::endl;
+    // A reader that has seen enough goes away; that is no fault.
+    if (const auto& failure = outBuffer.failure(); failure && failure->code != EPIPE) {
+        err << "qds: standard output: " << failure->message << std::endl;
         if (status == statusWell) status = statusRefused;
     }
     err.flush();

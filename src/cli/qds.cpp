@@ -17,6 +17,18 @@ struct RequestRunner {
         return convertScripts(request, environment);
     }
     int operator()(const BuildRequest& request) const { return buildScript(request, environment); }
+    int operator()(const CheckRequest& request) const { return checkScripts(request, environment); }
+    int operator()(const GrepRequest& request) const { return searchScripts(request, environment); }
+    int operator()(const ReplaceRequest& request) const {
+        return replaceInScripts(request, environment);
+    }
+    int operator()(const RenameLabelRequest& request) const {
+        return renameLabelInScripts(request, environment);
+    }
+    int operator()(const DiffRequest& request) const { return diffOfScripts(request, environment); }
+    int operator()(const MergeRequest& request) const {
+        return mergeOfScripts(request, environment);
+    }
     int operator()(const TextsRequest&) const { return printTexts(environment); }
 };
 

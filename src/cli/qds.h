@@ -16,6 +16,12 @@ namespace quendra::cli {
 [[nodiscard]] int showScripts(const ShowRequest& request, Environment& environment);
 [[nodiscard]] int convertScripts(const ConvertRequest& request, Environment& environment);
 [[nodiscard]] int buildScript(const BuildRequest& request, Environment& environment);
+[[nodiscard]] int checkScripts(const CheckRequest& request, Environment& environment);
+[[nodiscard]] int searchScripts(const GrepRequest& request, Environment& environment);
+[[nodiscard]] int replaceInScripts(const ReplaceRequest& request, Environment& environment);
+[[nodiscard]] int renameLabelInScripts(const RenameLabelRequest& request, Environment& environment);
+[[nodiscard]] int diffOfScripts(const DiffRequest& request, Environment& environment);
+[[nodiscard]] int mergeOfScripts(const MergeRequest& request, Environment& environment);
 [[nodiscard]] int printTexts(Environment& environment);
 
 }  // namespace quendra::cli

@@ -2,9 +2,11 @@
 
 #include "analysis/entry_display.h"
 #include "cli/qds.h"
+#include "forms/full_text.h"
 #include "forms/script_json.h"
 #include "platform/registry.h"
 #include "scriptfile/entry_codec.h"
+#include "scriptfile/script_files.h"
 #include "text/text_encoding.h"
 
 #include <iomanip>
@@ -41,15 +43,29 @@ void printLines(const Show& show, const ReadResult& read) {
 void printForm(const Show& show, const ReadResult& read) {
     const HostType hostType = read.signature.hostType;
     const JsonPrinting printing = {show.names.luFunctions.of(hostType), show.names.menuCommands,
-                                   show.cipher, show.request.reveal};
+                                   show.cipher, show.request.reveal, whyIncomplete(read)};
     printScript(show.environment.out, read.script, hostType, printing);
     show.environment.out << '\n';
+}
+
+// A file that is not whole says so in the form: a failing command would end what compares with it.
+void printFull(const Show& show, const ReadResult& read) {
+    const HostType hostType = read.signature.hostType;
+    const DisplayNames names = {show.names.luFunctions.of(hostType), show.names.menuCommands};
+    printFullText(show.environment.out, read.script, hostType, names, show.cipher);
+    if (!read.isWhole()) {
+        show.environment.out << "(incomplete: " << describe(read.stop) << ")\n";
+    }
 }
 
 bool showFile(const Show& show, const std::string& file) {
     const auto source = readScriptInput(show.environment, file);
     if (!source) return false;
     printHeading(show, file);
+    if (show.request.full) {
+        printFull(show, source->read);
+        return true;
+    }
     if (show.request.json) {
         printForm(show, source->read);
     } else {
@@ -63,7 +79,8 @@ bool showFile(const Show& show, const std::string& file) {
 }  // namespace
 
 int showScripts(const ShowRequest& request, Environment& environment) {
-    const Show show = {request, environment, EntryNames(environment),
+    const NamesFor reader = request.json ? NamesFor::JsonForm : NamesFor::User;
+    const Show show = {request, environment, EntryNames(environment, reader),
                        HiddenTextCipher(userIdentity())};
     bool isWell = show.names.isLoaded;
     for (const std::string& file : request.files) {

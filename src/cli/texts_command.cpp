@@ -7,7 +7,7 @@
 namespace quendra::cli {
 
 int printTexts(Environment& environment) {
-    EntryNames names(environment);
+    EntryNames names(environment, NamesFor::User);
     for (const StringId id : stringIds()) {
         environment.out << id << '\t' << escapeControlCharacters(names.library.loadText(id))
                         << '\n';

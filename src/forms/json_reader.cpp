@@ -4,6 +4,7 @@
 #include "forms/json_text.h"
 #include "forms/object_reader.h"
 #include "forms/script_json.h"
+#include "model/command_names.h"
 #include "model/entry_fields.h"
 #include "scriptfile/entry_codec.h"
 #include "scriptfile/script_reader.h"
@@ -29,14 +30,20 @@ std::uint16_t dayOfWeek(const DateTime& date) {
     return static_cast<std::uint16_t>(weekday.c_encoding());
 }
 
+struct FormContext {
+    HostType hostType;
+    const JsonBuilding& building;
+};
+
 class EntryReader {
   public:
-    EntryReader(ObjectReader& object, HostType hostType) : object_(object), hostType_(hostType) {}
+    EntryReader(ObjectReader& object, const FormContext& form) : object_(object), form_(form) {}
 
     void slot(ScriptEntry& entry, Slot slot);
 
   private:
     void names(const ScriptEntry& entry, Slot slot);
+    void keyOfName(Step& step);
     void fields(ScriptEntry& entry, Slot slot);
     void group(ScriptEntry& entry, Slot slot, std::span<const EntryField> fields);
     void field(ScriptEntry& entry, Slot slot, const EntryField& field);
@@ -49,26 +56,29 @@ class EntryReader {
     void transferBlock(FileTransferSettings& settings);
     void noTimeout();
     void action(ScriptEntry& entry, Slot which);
-    void foreignAction(Step& step);
+    void keptRecord(Step& step);
 
     ObjectReader& object_;
-    HostType hostType_;
+    const FormContext& form_;
 };
 
 void EntryReader::slot(ScriptEntry& entry, Slot slot) {
     const Json* name = object_.find("command");
-    const auto code = name && name->is_string()
-                          ? commandOfJsonName(name->get_ref<const std::string&>())
-                          : std::nullopt;
+    const auto code = name && name->is_string() ? commandOfName(name->get_ref<const std::string&>())
+                                                : std::nullopt;
     if (!code) {
         object_.fail("command", name ? "is not the name of a command" : "is missing");
         return;
     }
     setCode(slotFields(entry, slot), *code);
+    Step& step = slotFields(entry, slot);
     if (isForeignAction(entry, slot)) {
-        foreignAction(slotFields(entry, slot));
+        keptRecord(step);
+        if (!step.kept) object_.fail("command", "cannot be an action");
     } else {
         fields(entry, slot);
+        // It has one beside its fields when it claims a timeout.
+        if (slot != Slot::Entry && *code == CommandCode::WaitFor) keptRecord(step);
     }
     if (slot == Slot::Entry) {
         for (const Slot which : slotsOf(entry).subspan(1))
@@ -78,14 +88,36 @@ void EntryReader::slot(ScriptEntry& entry, Slot slot) {
     object_.finish();
 }
 
-// What a key or a menu command is cannot be left out.
+// What a key or a menu command is cannot be left out. Beside it the name is for readers only: the
+// same key has other names on other host types.
 void EntryReader::names(const ScriptEntry& entry, Slot slot) {
+    const CommandCode code = slotFields(entry, slot).code;
+    if (code != CommandCode::LuFunction && code != CommandCode::MenuCommand) return;
+    const Json* name = object_.find("name");
+    const bool isNamed = name && !name->is_null();
+    const bool isNumbered = object_.find("group") || object_.find("number");
+    if (code == CommandCode::LuFunction && isNamed && !isNumbered) return;
     for (const EntryField& field : fieldsOf(entry, slot)) {
-        if (field.kind != FieldKind::KeyPart && field.kind != FieldKind::MenuCode) continue;
-        if (!object_.find(field.name)) object_.fail(field.name, "is missing");
-        // For readers only: the same key has other names on other host types.
-        static_cast<void>(object_.find("name"));
+        const bool isNeeded = field.kind == FieldKind::KeyPart || field.kind == FieldKind::MenuCode;
+        if (isNeeded && !object_.find(field.name)) object_.fail(field.name, "is missing");
     }
+}
+
+void EntryReader::keyOfName(Step& step) {
+    if (object_.find("group")) return;
+    const auto* name = object_.find("name")->get_ptr<const std::string*>();
+    const LuCatalogue keys = form_.building.luFunctions(form_.hostType);
+    const auto isCalledSo = [&](const LuFunction& row) { return *name == row.name; };
+    const auto found = name ? std::ranges::find_if(keys.rows, isCalledSo) : keys.rows.end();
+    if (found == keys.rows.end()) {
+        return object_.fail("name", "is not the name of a key that the host type has");
+    }
+    step.row = found->key.group;
+    step.column = found->key.number;
+    const bool isOneKey = std::ranges::all_of(keys.rows, [&](const LuFunction& row) {
+        return !isCalledSo(row) || row.key == found->key;
+    });
+    if (!isOneKey) object_.fail("name", "several keys are called so: give group and number");
 }
 
 void EntryReader::fields(ScriptEntry& entry, Slot slot) {
@@ -98,7 +130,7 @@ void EntryReader::fields(ScriptEntry& entry, Slot slot) {
             rest, [&](const EntryField& other) { return other.group != first.group; });
         const auto size = first.group.empty() ? 1 : static_cast<std::size_t>(end - rest.begin());
         const std::string_view name = first.group.empty() ? first.name : first.group;
-        if (hostType_ == HostType::VT && !first.inVt) {
+        if (form_.hostType == HostType::VT && !first.inVt) {
             if (object_.find(name)) object_.fail(name, "a VT script stores none");
         } else {
             for (const EntryField& each : rest.first(size))
@@ -111,14 +143,16 @@ void EntryReader::fields(ScriptEntry& entry, Slot slot) {
         }
         i += size;
     }
+    Step& step = slotFields(entry, slot);
+    if (step.code == CommandCode::LuFunction && object_.ok()) keyOfName(step);
 }
 
 void EntryReader::group(ScriptEntry& entry, Slot slot, std::span<const EntryField> fields) {
     const std::string name(fields.front().group);
     const Json* value = object_.find(fields.front().group);
     if (!value) return;
-    ObjectReader object(*value, object_.place() + ", " + name, object_.refusal());
-    EntryReader reader(object, hostType_);
+    ObjectReader object(*value, object_.pathOf(name), object_.refusal());
+    EntryReader reader(object, form_);
     Step& step = slotFields(entry, slot);
     if (name == transferSettingsGroup) reader.transferBlock(step.transferSettings);
     for (const EntryField& field : fields)
@@ -259,29 +293,26 @@ void EntryReader::noTimeout() {
 }
 
 void EntryReader::action(ScriptEntry& entry, Slot which) {
-    const std::string name(slotName(which));
     const Json* value = object_.find(slotName(which));
     if (!value) return;
-    ObjectReader fields(*value, object_.place() + ", " + name + " action", object_.refusal());
-    EntryReader(fields, hostType_).slot(entry, which);
+    ObjectReader fields(*value, object_.pathOf(slotName(which)), object_.refusal());
+    EntryReader(fields, form_).slot(entry, which);
 }
 
 // The record is proved to be one when the entry is stored.
-void EntryReader::foreignAction(Step& step) {
-    auto record = object_.bytes("record");
-    if (!record) object_.fail("command", "cannot be an action");
-    step.kept = std::move(record);
+void EntryReader::keptRecord(Step& step) {
+    step.kept = object_.bytes("record");
 }
 
-// True when the stored entry holds the records of its foreign actions as they were given, and can
-// be read from a file again. Anything may have been typed for them.
+// True when the stored entry holds the records of its actions as they were given, and can be read
+// from a file again. Anything may have been typed for them.
 bool keptRecordsAreWhole(const ScriptEntry& entry, const EntryHandle& stored,
                          const HiddenTextCipher& cipher) {
     const ScriptEntry unpacked = unpackEntry(stored, cipher);
     for (const Slot slot : {Slot::Then, Slot::Else}) {
         const Step& given = slotFields(entry, slot);
-        const bool isForeign = ownsActions(entry.code) && isForeignAction(entry, slot);
-        if (isForeign && slotFields(unpacked, slot).kept != given.kept) return false;
+        const bool isRecord = given.kept && given.code != CommandCode::Type;
+        if (isRecord && slotFields(unpacked, slot).kept != given.kept) return false;
     }
     Script alone;
     alone.entries.push_back(stored);
@@ -289,20 +320,30 @@ bool keptRecordsAreWhole(const ScriptEntry& entry, const EntryHandle& stored,
     return read.isWhole() && read.script == alone;
 }
 
-EntryHandle entryOfJson(const Json& value, const std::string& place, HostType hostType,
-                        const HiddenTextCipher& cipher, std::string& refusal) {
+EntryHandle entryOfJson(const Json& value, JsonPath path, const FormContext& form,
+                        FormRefusal& refusal) {
     ScriptEntry entry;
-    ObjectReader object(value, place, refusal);
-    EntryReader(object, hostType).slot(entry, Slot::Entry);
+    ObjectReader object(value, std::move(path), refusal);
+    EntryReader(object, form).slot(entry, Slot::Entry);
     if (!object.ok()) return {};
+    const HiddenTextCipher& cipher = form.building.cipher;
     PackResult packed = packEntry(entry, cipher);
     if (!packed.ok()) {
         object.fail("", "its hidden text cannot be enciphered");
     } else if ((entry.thenAction.kept || entry.elseAction.kept) &&
                !keptRecordsAreWhole(entry, packed.entry, cipher)) {
-        object.fail("", "the record of an action is damaged");
+        object.fail("", "the record of an action is damaged, or says otherwise than its fields");
     }
     return packed.entry;
+}
+
+std::string hostTypeNames() {
+    std::string names;
+    for (const HostType type : allHostTypes) {
+        if (!names.empty()) names += type == allHostTypes.back() ? " or " : ", ";
+        names += hostTypeInfo(type).name;
+    }
+    return names;
 }
 
 void readHostType(ObjectReader& form, HostType& hostType) {
@@ -313,38 +354,51 @@ void readHostType(ObjectReader& form, HostType& hostType) {
     if (known) {
         hostType = *known;
     } else {
-        form.fail("hostType", "must be Mainframe, ISeries, VT, UTS, T27 or ICL");
+        form.fail("hostType", "must be " + hostTypeNames());
     }
 }
 
-ScriptOfJson scriptOfForm(const Json& form, const HiddenTextCipher& cipher) {
-    ScriptOfJson result;
-    ObjectReader fields(form, "", result.refusal);
+void readIncomplete(ObjectReader& form, std::string& incomplete) {
+    const Json* reason = form.find("incomplete");
+    if (!reason) return;
+    if (reason->is_string()) incomplete = reason->get<std::string>();
+    if (incomplete.empty()) form.fail("incomplete", "must say why");
+}
+
+FormRefusal readForm(const Json& form, const JsonBuilding& building, ScriptOfJson& result) {
+    FormRefusal refusal;
+    ObjectReader fields(form, {}, refusal);
     readHostType(fields, result.hostType);
+    readIncomplete(fields, result.incomplete);
     const Json* entries = fields.find("entries");
     fields.finish();
     if (!entries || !entries->is_array()) {
         fields.fail("entries", "must be a list");
-        return result;
+        return refusal;
     }
-    if (entries->size() > maxEntries) {
+    if (fields.ok() && entries->size() > maxEntries) {
         fields.fail("entries", "a script has at most " + std::to_string(maxEntries));
+        refusal.path.push_back(listStep(maxEntries));
     }
-    for (std::size_t i = 0; result.ok() && i < entries->size(); ++i) {
-        result.script.entries.push_back(entryOfJson((*entries)[i], "entry " + std::to_string(i + 1),
-                                                    result.hostType, cipher, result.refusal));
+    const FormContext context = {result.hostType, building};
+    for (std::size_t i = 0; fields.ok() && i < entries->size(); ++i) {
+        result.script.entries.push_back(
+            entryOfJson((*entries)[i], {"entries", listStep(i)}, context, refusal));
     }
-    return result;
+    return refusal;
 }
 
 }  // namespace
 
-ScriptOfJson scriptOfJson(std::span<const std::uint8_t> text, const HiddenTextCipher& cipher) {
+ScriptOfJson scriptOfJson(std::span<const std::uint8_t> text, const JsonBuilding& building) {
     const ParsedJson parsed = parseJson(text);
-    if (parsed.value) return scriptOfForm(*parsed.value, cipher);
-    ScriptOfJson refused;
-    refused.refusal = parsed.refusal;
-    return refused;
+    ScriptOfJson result;
+    result.refusal = parsed.refusal;
+    if (!parsed.value) return result;
+    const FormRefusal refusal = readForm(*parsed.value, building, result);
+    if (!refusal.what.empty())
+        result.refusal = refusal.what + ' ' + placeInJson(text, refusal.path);
+    return result;
 }
 
 }  // namespace quendra

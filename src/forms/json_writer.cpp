@@ -3,6 +3,7 @@
 #include "forms/json_names.h"
 #include "forms/json_text.h"
 #include "forms/script_json.h"
+#include "model/command_names.h"
 #include "model/entry_fields.h"
 #include "scriptfile/entry_codec.h"
 #include "text/base64.h"
@@ -58,7 +59,7 @@ void addBlock(Json& settings, const FileTransferSettings& stored) {
 Json EntryWriter::slot(const ScriptEntry& entry, Slot slot) const {
     const Step& step = slotFields(entry, slot);
     Json object;
-    object["command"] = jsonCommandName(step.code);
+    object["command"] = commandName(step.code);
     for (const EntryField& field : fieldsOf(entry, slot)) {
         if (hostType_ == HostType::VT && !field.inVt) continue;
         Json& owner = field.group.empty() ? object : object[std::string(field.group)];
@@ -71,7 +72,7 @@ Json EntryWriter::slot(const ScriptEntry& entry, Slot slot) const {
         addBlock(*settings, step.transferSettings);
     }
     if (step.kept)
-        object[isForeignAction(entry, slot) ? "record" : "sealed"] = base64Of(*step.kept);
+        object[step.code == CommandCode::Type ? "sealed" : "record"] = base64Of(*step.kept);
     if (slot != Slot::Entry) return object;
     for (const Slot action : slotsOf(entry).subspan(1))
         object[std::string(slotName(action))] = this->slot(entry, action);
@@ -114,7 +115,10 @@ void printEntry(std::ostream& out, const Json& entry) {
 
 void printScript(std::ostream& out, const Script& script, HostType hostType,
                  const JsonPrinting& printing) {
-    out << "{\n  \"hostType\": \"" << hostTypeInfo(hostType).name << "\",\n  \"entries\": [";
+    out << "{\n  \"hostType\": \"" << hostTypeInfo(hostType).name << "\",\n";
+    if (!printing.incomplete.empty())
+        out << "  \"incomplete\": " << printJson(printing.incomplete) << ",\n";
+    out << "  \"entries\": [";
     const EntryWriter writer(hostType, printing);
     // Entry by entry: the tree of a whole script takes a hundred megabytes.
     const char* separator = "\n    ";

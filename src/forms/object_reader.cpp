@@ -14,8 +14,8 @@ const ObjectReader::Json noFields = ObjectReader::Json::object();
 
 }  // namespace
 
-ObjectReader::ObjectReader(const Json& value, std::string place, std::string& refusal)
-    : object_(value.is_object() ? value : noFields), place_(std::move(place)), refusal_(refusal) {
+ObjectReader::ObjectReader(const Json& value, JsonPath path, FormRefusal& refusal)
+    : object_(value.is_object() ? value : noFields), path_(std::move(path)), refusal_(refusal) {
     if (!value.is_object()) fail("", "must be an object");
 }
 
@@ -27,10 +27,14 @@ const ObjectReader::Json* ObjectReader::find(std::string_view name) {
 
 void ObjectReader::fail(std::string_view name, std::string_view what) {
     if (!ok()) return;
-    for (const std::string_view part : {std::string_view(place_), name}) {
-        if (!part.empty()) refusal_ += escapeControlCharacters(part) + ": ";
-    }
-    refusal_ += what;
+    refusal_.what = placeHeading(path_, name).append(what);
+    refusal_.path = name.empty() ? path_ : pathOf(name);
+}
+
+JsonPath ObjectReader::pathOf(std::string_view name) const {
+    JsonPath path = path_;
+    path.emplace_back(name);
+    return path;
 }
 
 std::uint32_t ObjectReader::wholeNumber(std::string_view name, const Json& value,

@@ -1,6 +1,8 @@
 // One JSON object whose fields are taken by name, with checks on type and range.
 #pragma once
 
+#include "forms/json_text.h"
+
 #include <cstdint>
 #include <nlohmann/json.hpp>
 #include <optional>
@@ -10,6 +12,12 @@
 
 namespace quendra {
 
+/// What is wrong with a form, and the way to it.
+struct FormRefusal {
+    std::string what;
+    JsonPath path;
+};
+
 /// Takes fields out of an object. The first thing that is wrong fills the refusal, which all
 /// readers of one form share, and what is taken from then on means nothing; so a form is read to
 /// its end and tested once. A refusal names the place and the field, never the value.
@@ -17,17 +25,18 @@ class ObjectReader {
   public:
     using Json = nlohmann::ordered_json;
 
-    /// `place` begins every refusal: "entry 3, then action"; may be empty. The value and the
-    /// refusal outlive the reader. A value that is no object is refused.
-    ObjectReader(const Json& value, std::string place, std::string& refusal);
+    /// The value, to which `path` leads, and the refusal outlive the reader. A value that is no
+    /// object is refused.
+    ObjectReader(const Json& value, JsonPath path, FormRefusal& refusal);
 
-    [[nodiscard]] bool ok() const { return refusal_.empty(); }
-    [[nodiscard]] const std::string& place() const { return place_; }
-    [[nodiscard]] std::string& refusal() const { return refusal_; }
+    [[nodiscard]] bool ok() const { return refusal_.what.empty(); }
+    [[nodiscard]] JsonPath pathOf(std::string_view name) const;
+    [[nodiscard]] FormRefusal& refusal() const { return refusal_; }
 
     /// The value of a field, or none when it was left out. From here on the field is known.
     [[nodiscard]] const Json* find(std::string_view name);
 
+    /// Refuses a field, or the object for an empty name.
     void fail(std::string_view name, std::string_view what);
 
     /// A whole number up to `highest`, or with `isFlag` true or false for 1 or 0; none when the
@@ -50,8 +59,8 @@ class ObjectReader {
 
   private:
     const Json& object_;
-    std::string place_;
-    std::string& refusal_;
+    JsonPath path_;
+    FormRefusal& refusal_;
     std::vector<std::string_view> known_;
 };
 

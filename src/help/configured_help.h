@@ -1,7 +1,7 @@
 // The help that an installation brings itself: a compiled help file beside it, or a web site.
 #pragma once
 
-#include "session/startup_settings.h"
+#include "settings/startup_settings.h"
 
 #include <functional>
 #include <string>

@@ -59,4 +59,7 @@ struct LuRow {
 };
 [[nodiscard]] std::span<const LuRow> luRows(HostType type);
 
+/// True for a key that the host type's keyboard has. Quick, for all steps of many scripts.
+[[nodiscard]] bool hasLuKey(HostType type, LuKey key);
+
 }  // namespace quendra

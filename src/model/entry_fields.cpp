@@ -192,6 +192,11 @@ void storeNumber(ScriptEntry& entry, Slot slot, const EntryField& field, std::ui
                [value]<class Number>(Number& number) { number = static_cast<Number>(value); });
 }
 
+// All that is stored of a field of a transfer, what is behind the end of a text included.
+auto transferBytes(auto& settings, const TransferField& field) {
+    return std::span(settings.bytes).subspan(field.offset, field.size);
+}
+
 // A NUL would end it where it is stored.
 bool endsAtNul(const ScriptEntry& entry, Slot slot, const EntryField& field) {
     if (field.kind == TypedText) return isHiddenText(slotFields(entry, slot));
@@ -295,13 +300,44 @@ bool sameField(const ScriptEntry& left, Slot leftSlot, const ScriptEntry& right,
     const Step& leftStep = slotFields(left, leftSlot);
     const Step& rightStep = slotFields(right, rightSlot);
     if (const auto* transfer = transferPlace(field)) {
-        const auto bytesOf = [&](const Step& step) {
-            return std::span(step.transferSettings.bytes).subspan(transfer->offset, transfer->size);
-        };
-        return std::ranges::equal(bytesOf(leftStep), bytesOf(rightStep));
+        return std::ranges::equal(transferBytes(leftStep.transferSettings, *transfer),
+                                  transferBytes(rightStep.transferSettings, *transfer));
     }
     if (field.kind == TypedText && leftStep.kept != rightStep.kept) return false;
     return fieldValue(left, leftSlot, field) == fieldValue(right, rightSlot, field);
+}
+
+void copyField(const ScriptEntry& from, ScriptEntry& to, Slot slot, const EntryField& field) {
+    const Step& source = slotFields(from, slot);
+    Step& target = slotFields(to, slot);
+    if (const auto* transfer = transferPlace(field)) {
+        std::ranges::copy(transferBytes(source.transferSettings, *transfer),
+                          transferBytes(target.transferSettings, *transfer).begin());
+    } else if (isText(field.kind)) {
+        storeText(to, slot, field, textValue(from, slot, field));
+        if (field.kind == TypedText) target.kept = source.kept;
+    } else {
+        storeNumber(to, slot, field, numberValue(from, slot, field));
+    }
+}
+
+bool isInitialField(const ScriptEntry& entry, Slot slot, const EntryField& field) {
+    const Step& step = slotFields(entry, slot);
+    if (const auto* transfer = transferPlace(field)) {
+        return std::ranges::equal(transferBytes(step.transferSettings, *transfer),
+                                  transferBytes(defaultTransferSettings(), *transfer));
+    }
+    if (field.kind == TypedText && step.kept) return false;
+    return fieldValue(entry, slot, field) == initialValue(field);
+}
+
+std::span<const std::uint8_t> bytesBehindText(const ScriptEntry& entry, Slot slot,
+                                              const EntryField& field) {
+    const auto* transfer = transferPlace(field);
+    if (transfer == nullptr || !isText(field.kind)) return {};
+    const FileTransferSettings& settings = slotFields(entry, slot).transferSettings;
+    const auto bytes = transferBytes(settings, *transfer);
+    return bytes.subspan(transferText(settings, *transfer).size());
 }
 
 std::uint32_t largestStored(const ScriptEntry& entry, Slot slot, const EntryField& field) {

@@ -140,6 +140,17 @@ enum class FieldRefusal : std::uint8_t {
 [[nodiscard]] FieldRefusal setField(ScriptEntry& entry, Slot slot, const EntryField& field,
                                     const FieldValue& value);
 
+/// Gives a field of one entry to the other, with everything that is stored of it; the commands of
+/// both slots have the field.
+void copyField(const ScriptEntry& from, ScriptEntry& to, Slot slot, const EntryField& field);
+
+/// True when the field would be stored as that of a new entry or action is.
+[[nodiscard]] bool isInitialField(const ScriptEntry& entry, Slot slot, const EntryField& field);
+
+/// What is stored behind the end of a transfer's text; nothing for other fields.
+[[nodiscard]] std::span<const std::uint8_t> bytesBehindText(const ScriptEntry& entry, Slot slot,
+                                                            const EntryField& field);
+
 /// What a field of a new entry or action starts with.
 [[nodiscard]] FieldValue initialValue(const EntryField& field);
 /// Gives a field what a new entry or action starts with.

@@ -42,8 +42,8 @@ struct DateTime {
 };
 
 /// What a slot holds that cannot be taken apart, kept so that saving gives it back unchanged: the
-/// enciphered bytes of a hidden text that the present key does not open, or the whole record of a
-/// command that no action should be. Setting a new text or a new command code drops it.
+/// enciphered bytes of a hidden text that the present key does not open, or what follows the code
+/// of an action as no editor makes it. Setting a new text or a new command code drops it.
 using KeptBytes = std::optional<std::vector<std::uint8_t>>;
 
 /// The plain fields of a step, apart from it and without values of their own, so that a new step is
@@ -141,7 +141,7 @@ enum class Slot : std::uint8_t { Entry, Then, Else };
 }
 
 /// True for an action slot that holds a command which no action should be. Its record is carried
-/// whole, in `kept`, not taken apart.
+/// whole, in `kept`, not taken apart. (That of a watched Wait_For with a timeout is both.)
 [[nodiscard]] inline bool isForeignAction(const ScriptEntry& entry, Slot slot) {
     return slot != Slot::Entry && !mayBeAction(slotFields(entry, slot).code, entry.code);
 }

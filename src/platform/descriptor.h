@@ -21,6 +21,8 @@ class Descriptor {
     }
     [[nodiscard]] bool isOpen() const { return descriptor_ >= 0; }
     [[nodiscard]] int get() const { return descriptor_; }
+    /// Gives the descriptor away.
+    [[nodiscard]] int release() { return std::exchange(descriptor_, -1); }
     [[nodiscard]] bool close() { return ::close(std::exchange(descriptor_, -1)) == 0; }
 
   private:

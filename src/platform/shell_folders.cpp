@@ -101,4 +101,9 @@ ShellFolders shellFolders(const Environment& environment) {
     return folders;
 }
 
+std::optional<fs::path> stateFolder(const Environment& environment) {
+    const auto folder = folderVariable(environment, "XDG_STATE_HOME");
+    return folder ? folder : below(folderVariable(environment, "HOME"), ".local/state");
+}
+
 }  // namespace quendra

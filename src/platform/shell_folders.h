@@ -40,4 +40,8 @@ struct ShellFolders {
 /// Variables with a relative path count as not set; without $HOME, what rests on it is not found.
 [[nodiscard]] ShellFolders shellFolders(const Environment& environment);
 
+/// Where programs keep what is neither settings nor the user's documents: $XDG_STATE_HOME, else
+/// ~/.local/state. It need not exist yet; none without $HOME.
+[[nodiscard]] std::optional<std::filesystem::path> stateFolder(const Environment& environment);
+
 }  // namespace quendra

@@ -1,5 +1,7 @@
 #include "platform/standard_streams.h"
 
+#include "platform/descriptor.h"
+
 #include <cerrno>
 #include <csignal>
 #include <fcntl.h>
@@ -14,6 +16,22 @@ void prepareStandardStreams() {
         descriptor = ::open("/dev/null", O_RDONLY | O_CLOEXEC);
     }
     std::signal(SIGPIPE, SIG_IGN);
+    ignoreSizeLimitSignal();
+}
+
+std::optional<FileFailure> writeToStream(const std::filesystem::path& path,
+                                         std::span<const std::uint8_t> bytes) {
+    const Descriptor descriptor(::open(path.c_str(), O_WRONLY | O_NOCTTY | O_CLOEXEC));
+    if (descriptor.get() < 0) return FileFailure{errno, std::generic_category().message(errno)};
+    DescriptorBuffer buffer(descriptor.get());
+    buffer.sputn(reinterpret_cast<const char*>(bytes.data()),
+                 static_cast<std::streamsize>(bytes.size()));
+    static_cast<void>(buffer.pubsync());
+    return buffer.failure();
+}
+
+bool isTerminal(int descriptor) {
+    return isatty(descriptor) != 0;
 }
 
 DescriptorBuffer::DescriptorBuffer(int descriptor) : descriptor_(descriptor) {

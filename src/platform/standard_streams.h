@@ -12,8 +12,16 @@ namespace quendra {
 
 /// For the beginning of main(). Started with a standard descriptor closed, the next file opened
 /// would take its place, and messages would be written into a script: what is opened here instead
-/// refuses to be written. A reader that goes away is a failed write from now on, no signal.
+/// refuses to be written. A reader that goes away is a failed write from now on, no signal; so is a
+/// limit on the size of files.
 void prepareStandardStreams();
+
+/// Writes to a pipe or a device that is there, which stays what it is. None when all was taken.
+[[nodiscard]] std::optional<FileFailure> writeToStream(const std::filesystem::path& path,
+                                                       std::span<const std::uint8_t> bytes);
+
+/// True when somebody reads what is written to the descriptor from a screen.
+[[nodiscard]] bool isTerminal(int descriptor);
 
 /// Buffers what a stream writes to a descriptor, which stays open. After a failure (a full disk, a
 /// pipe without a reader) everything further is refused, so the stream turns bad.

@@ -1,7 +1,6 @@
 #include "scriptfile/entry_codec.h"
 
 #include "scriptfile/record_layout.h"
-#include "scriptfile/record_reader.h"
 
 namespace quendra {
 
@@ -10,25 +9,37 @@ namespace {
 // So that most records are written without moving: no copies left behind, and no time lost.
 constexpr std::size_t usualRecordSize = 512;
 
-}  // namespace
-
-PackResult packEntry(const ScriptEntry& entry, const HiddenTextCipher& cipher) {
-    RecordWriter writer(memoryForm, &cipher);
+PackResult pack(const ScriptEntry& entry, const HiddenTextCipher* cipher) {
+    RecordWriter writer(memoryForm, cipher);
     writer.reserve(usualRecordSize);
     layout::record(writer, entry, Slot::Entry);
     if (writer.fault() != WriteFault::None) return {{}, writer.fault()};
     return {storeRecord(writer.bytes()), WriteFault::None};
 }
 
-ScriptEntry unpackEntry(const EntryHandle& entry, const HiddenTextCipher& cipher) {
+ScriptEntry unpack(const EntryHandle& entry, const HiddenTextCipher* cipher) {
     ScriptEntry unpacked;
-    RecordReader reader(entry.record(), 0, memoryForm, &cipher);
+    RecordReader reader(entry.record(), 0, memoryForm, cipher);
     layout::record(reader, unpacked, Slot::Entry);
     return unpacked;
 }
 
-void unpackEntry(const EntryHandle& entry, const HiddenTextCipher& cipher, ScriptEntry& unpacked) {
-    readWholeRecord(entry.record(), memoryForm, &cipher, unpacked);
+}  // namespace
+
+PackResult packEntry(const ScriptEntry& entry, const HiddenTextCipher& cipher) {
+    return pack(entry, &cipher);
+}
+
+PackResult packSealedEntry(const ScriptEntry& entry) {
+    return pack(entry, nullptr);
+}
+
+ScriptEntry unpackEntry(const EntryHandle& entry, const HiddenTextCipher& cipher) {
+    return unpack(entry, &cipher);
+}
+
+ScriptEntry unpackSealedEntry(const EntryHandle& entry) {
+    return unpack(entry, nullptr);
 }
 
 bool TransferSearch::isIn(const EntryHandle& entry) {

@@ -5,9 +5,8 @@
 #include "model/script.h"
 #include "model/script_entry.h"
 #include "scriptfile/hidden_text.h"
+#include "scriptfile/record_reader.h"
 #include "scriptfile/record_writer.h"
-
-#include <utility>
 
 namespace quendra {
 
@@ -28,20 +27,54 @@ struct PackResult {
 /// that packing gives the same record again.
 [[nodiscard]] ScriptEntry unpackEntry(const EntryHandle& entry, const HiddenTextCipher& cipher);
 
-/// The same into a new entry, or one that served only for this before, of which nothing stays. For
-/// many entries in turn: of the time that unpacking takes, making and wiping a new one is a large
-/// part.
-void unpackEntry(const EntryHandle& entry, const HiddenTextCipher& cipher, ScriptEntry& unpacked);
+/// The same for many entries in turn, each in the place of the one before.
+class EntryUnpacker {
+  public:
+    explicit EntryUnpacker(const HiddenTextCipher& cipher) : cipher_(cipher) {}
+
+    /// Valid until the next call.
+    const ScriptEntry& unpack(const EntryHandle& entry) {
+        return records_.read(entry.record(), memoryForm, &cipher_);
+    }
+
+  private:
+    const HiddenTextCipher& cipher_;
+    RecordUnpacker records_;
+};
 
 /// Calls `function` with the working form of each entry in order; it is valid during the call only,
 /// for the next one comes in its place.
 template <class Function>
 void forEachEntry(const Script& script, const HiddenTextCipher& cipher, const Function& function) {
-    ScriptEntry unpacked;
-    for (const EntryHandle& entry : script.entries) {
-        unpackEntry(entry, cipher, unpacked);
-        function(std::as_const(unpacked));
+    EntryUnpacker unpacker(cipher);
+    for (const EntryHandle& entry : script.entries)
+        function(unpacker.unpack(entry));
+}
+
+/// The working form without any key: each hidden text stays enciphered in its slot's `kept`, so
+/// that who searches or changes something else never has it in clear.
+[[nodiscard]] ScriptEntry unpackSealedEntry(const EntryHandle& entry);
+
+/// Stores an entry that was unpacked in that way. Fails only where a new hidden text came in.
+[[nodiscard]] PackResult packSealedEntry(const ScriptEntry& entry);
+
+/// As EntryUnpacker, without any key.
+class SealedEntryUnpacker {
+  public:
+    const ScriptEntry& unpack(const EntryHandle& entry) {
+        return records_.read(entry.record(), memoryForm, nullptr);
     }
+
+  private:
+    RecordUnpacker records_;
+};
+
+/// As forEachEntry, without any key.
+template <class Function>
+void forEachSealedEntry(const Script& script, const Function& function) {
+    SealedEntryUnpacker unpacker;
+    for (const EntryHandle& entry : script.entries)
+        function(unpacker.unpack(entry));
 }
 
 /// Looks for file transfers in many entries, without unpacking them.

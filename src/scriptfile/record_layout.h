@@ -9,33 +9,38 @@
 #include "model/script_entry.h"
 #include "scriptfile/format_version.h"
 
+#include <tuple>
+
 namespace quendra::layout {
 
-template <class Io, class E>
-void searchOptions(Io& io, E& entry) {
-    io.byte(entry.searchRow);
-    io.byte(entry.searchColumn);
-    io.byte(entry.exactPosition);
-    io.byte(entry.caseSensitive);
+/// In the order of the record.
+template <class E>
+auto searchOptionsOf(E& entry) {
+    return std::tie(entry.searchRow, entry.searchColumn, entry.exactPosition, entry.caseSensitive);
 }
 
 template <class Io, class E>
 void record(Io& io, E& entry, Slot slot);
 
 template <class Io, class E>
-void waitFor(Io& io, E& entry, Slot slot) {
-    if (!io.format().hasSearchOptions()) return;
-    searchOptions(io, entry);
-    if (slot != Slot::Entry) {
-        // Watched for by a Watch_For, it has neither timeout nor actions.
-        io.noTimeout();
-        return;
-    }
+void timeout(Io& io, E& entry) {
     io.byte(entry.hasTimeout);
     if (entry.hasTimeout == 0) return;
     io.byte(entry.timeoutSeconds);
     record(io, entry, Slot::Then);
     record(io, entry, Slot::Else);
+}
+
+template <class Io, class E>
+void waitFor(Io& io, E& entry, Slot slot) {
+    if (!io.format().hasSearchOptions()) return;
+    std::apply([&io](auto&... option) { (io.byte(option), ...); }, searchOptionsOf(entry));
+    if (slot == Slot::Entry) {
+        timeout(io, entry);
+    } else {
+        // Watched for by a Watch_For, it has neither timeout nor actions; foreign files claim them.
+        io.watchedTimeout(entry, slotFields(entry, slot));
+    }
 }
 
 template <class Io, class E>

@@ -71,26 +71,33 @@ void RecordReader::transferBlock(std::uint8_t& host, FileTransferSettings& setti
     std::ranges::copy(take(format_.storedTransferSettings()), settings.bytes.begin());
 }
 
-void RecordReader::noTimeout() {
-    if (takeByte() == 0) return;
-    static_cast<void>(takeByte());
-    ScriptEntry passedOver;
-    layout::record(*this, passedOver, Slot::Then);
-    layout::record(*this, passedOver, Slot::Else);
-    droppedWatchedActions_ = true;
+template <class Read>
+void RecordReader::keep(Step& f, ScriptEntry& whole, const Read& read) {
+    const auto* cipher = std::exchange(cipher_, nullptr);
+    whole.code = f.code;
+    read();
+    cipher_ = cipher;
+    if (fault_ != RecordFault::None) return;
+    RecordWriter writer(memoryForm, nullptr);
+    layout::fieldsAfterCode(writer, std::as_const(whole), Slot::Entry);
+    f.kept = std::move(writer).bytes();
+}
+
+void RecordReader::watchedTimeout(const ScriptEntry& entry, Step& f) {
+    // Mostly there is none, and then no entry is made for it.
+    const bool isClaimed = !atEnd() && bytes_[position_] != 0;
+    if (!isClaimed) return static_cast<void>(takeByte());
+    ScriptEntry whole;
+    setText(whole, textOf(f));
+    layout::searchOptionsOf(whole) = layout::searchOptionsOf(entry);
+    keep(f, whole, [&] { layout::timeout(*this, whole); });
 }
 
 void RecordReader::foreignAction(Step& f) {
     if (++nesting_ > maxNesting) fail(RecordFault::NestedTooDeep, position_ - 1);
     if (fault_ == RecordFault::None) {
-        const auto* cipher = std::exchange(cipher_, nullptr);
         ScriptEntry whole;
-        whole.code = f.code;
-        layout::fieldsAfterCode(*this, whole, Slot::Entry);
-        cipher_ = cipher;
-        RecordWriter writer(memoryForm, nullptr);
-        layout::fieldsAfterCode(writer, std::as_const(whole), Slot::Entry);
-        f.kept = std::move(writer).bytes();
+        keep(f, whole, [&] { layout::fieldsAfterCode(*this, whole, Slot::Entry); });
     }
     --nesting_;
 }
@@ -112,11 +119,12 @@ void resetForReading(ScriptEntry& entry) {
 
 }  // namespace
 
-void readWholeRecord(std::span<const std::uint8_t> record, RecordFormat format,
-                     const HiddenTextCipher* cipher, ScriptEntry& entry) {
-    resetForReading(entry);
+const ScriptEntry& RecordUnpacker::read(std::span<const std::uint8_t> record, RecordFormat format,
+                                        const HiddenTextCipher* cipher) {
+    resetForReading(entry_);
     RecordReader reader(record, 0, format, cipher);
-    layout::record(reader, entry, Slot::Entry);
+    layout::record(reader, entry_, Slot::Entry);
+    return entry_;
 }
 
 void RecordScanner::menuCommand(std::uint32_t& commandId) {
@@ -130,13 +138,13 @@ void RecordScanner::transferBlock(std::uint8_t&, FileTransferSettings&) {
     static_cast<void>(take(1 + format_.storedTransferSettings()));
 }
 
-void RecordScanner::noTimeout() {
+void RecordScanner::watchedTimeout(const ScriptEntry&, Step&) {
     if (takeByte() == 0) return;
     static_cast<void>(takeByte());
     ScriptEntry passedOver;
+    passedOver.code = CommandCode::WaitFor;
     layout::record(*this, passedOver, Slot::Then);
     layout::record(*this, passedOver, Slot::Else);
-    isMemoryForm_ = false;
 }
 
 void RecordScanner::foreignAction(Step& f) {

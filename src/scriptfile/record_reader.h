@@ -38,8 +38,6 @@ class RecordCursor {
     [[nodiscard]] RecordFault fault() const { return fault_; }
     /// Where the field starts that could not be read.
     [[nodiscard]] std::size_t faultOffset() const { return faultOffset_; }
-    /// A Wait_For inside a Watch_For claimed a timeout and actions; they were passed over.
-    [[nodiscard]] bool droppedWatchedActions() const { return droppedWatchedActions_; }
 
     bool code(CommandCode& code) {
         const std::size_t start = position_;
@@ -87,7 +85,6 @@ class RecordCursor {
     RecordFormat format_;
     RecordFault fault_ = RecordFault::None;
     std::size_t faultOffset_ = 0;
-    bool droppedWatchedActions_ = false;
     int nesting_ = 0;
 };
 
@@ -104,17 +101,30 @@ class RecordReader : public RecordCursor {
     void prompt(std::uint32_t& length, PromptField& field);
     void typeText(Step& f);
     void transferBlock(std::uint8_t& host, FileTransferSettings& settings);
-    void noTimeout();
+    void watchedTimeout(const ScriptEntry& entry, Step& f);
     void foreignAction(Step& f);
 
   private:
+    /// Keeps what `read` gives the fields of a command that the slot cannot have, hidden texts
+    /// enciphered.
+    template <class Read>
+    void keep(Step& f, ScriptEntry& whole, const Read& read);
+
     const HiddenTextCipher* cipher_;
 };
 
-/// Reads one record that is known to be whole into a new entry, or into one that only this function
-/// has filled before, of which nothing stays. Without a cipher as above.
-void readWholeRecord(std::span<const std::uint8_t> record, RecordFormat format,
-                     const HiddenTextCipher* cipher, ScriptEntry& entry);
+/// Reads records that are known to be whole, one after the other into the same entry: of the time
+/// that reading takes, making and wiping a new one is a large part.
+class RecordUnpacker {
+  public:
+    /// Nothing of the record before stays in the entry, which is valid until the next call. Without
+    /// a cipher as above.
+    const ScriptEntry& read(std::span<const std::uint8_t> record, RecordFormat format,
+                            const HiddenTextCipher* cipher);
+
+  private:
+    ScriptEntry entry_;
+};
 
 /// Walks over records without taking their texts, and tells whether the bytes are what a writer in
 /// memory form would give. Entries that it is driven with hold nothing useful afterwards.
@@ -143,7 +153,7 @@ class RecordScanner : public RecordCursor {
         static_cast<void>(takeByte());
     }
     void transferBlock(std::uint8_t&, FileTransferSettings&);
-    void noTimeout();
+    void watchedTimeout(const ScriptEntry&, Step&);
     void foreignAction(Step& f);
 
   private:

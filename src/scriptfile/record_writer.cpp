@@ -67,6 +67,27 @@ void RecordWriter::transferBlock(const std::uint8_t& host, const FileTransferSet
     append(settings.bytes);
 }
 
+namespace {
+
+// The command of a slot as a foreign file had it, from the bytes that were kept of it.
+void readKept(const Step& f, ScriptEntry& whole) {
+    whole.code = f.code;
+    RecordReader reader(*f.kept, 0, memoryForm, nullptr);
+    layout::fieldsAfterCode(reader, whole, Slot::Entry);
+}
+
+}  // namespace
+
+void RecordWriter::watchedTimeout(const ScriptEntry& entry, const Step& f) {
+    if (!f.kept) return byte(0);
+    ScriptEntry whole;
+    readKept(f, whole);
+    const bool isEdited = textOf(whole) != textOf(f) ||
+                          layout::searchOptionsOf(whole) != layout::searchOptionsOf(entry);
+    if (isEdited) return byte(0);
+    layout::timeout(*this, std::as_const(whole));
+}
+
 void RecordWriter::foreignAction(const Step& f) {
     if (!f.kept) {
         // Only a record read from a file has bytes to carry; anything else would be a mistake of
@@ -75,9 +96,7 @@ void RecordWriter::foreignAction(const Step& f) {
         return;
     }
     ScriptEntry whole;
-    whole.code = f.code;
-    RecordReader reader(*f.kept, 0, memoryForm, nullptr);
-    layout::fieldsAfterCode(reader, whole, Slot::Entry);
+    readKept(f, whole);
     layout::fieldsAfterCode(*this, std::as_const(whole), Slot::Entry);
 }
 

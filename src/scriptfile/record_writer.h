@@ -49,7 +49,7 @@ class RecordWriter {
     void prompt(const std::uint32_t& length, const PromptField& field);
     void typeText(const Step& f);
     void transferBlock(const std::uint8_t& host, const FileTransferSettings& settings);
-    void noTimeout() { byte(0); }
+    void watchedTimeout(const ScriptEntry& entry, const Step& f);
     void foreignAction(const Step& f);
 
   private:

@@ -9,7 +9,7 @@ namespace quendra {
 LoadedScript loadScriptFile(const std::filesystem::path& path) {
     LoadedScript loaded;
     // One byte over the limit shows that there is more.
-    FileContent content = readFile(path, maxScriptFileSize + 1);
+    FileContent content = readRegularFile(path, maxScriptFileSize + 1);
     loaded.stamp = content.stamp;
     if (content.failure) {
         loaded.failure = std::move(content.failure);
@@ -20,8 +20,8 @@ LoadedScript loadScriptFile(const std::filesystem::path& path) {
 }
 
 ReplaceResult saveScriptFile(const std::filesystem::path& path, const Script& script,
-                             HostType hostType, OldFile oldFile) {
-    return replaceFile(path, writeScript(script, hostType), oldFile);
+                             HostType hostType, OldFile oldFile, NewFile newFile) {
+    return replaceFile(path, writeScript(script, hostType), oldFile, newFile);
 }
 
 std::optional<ReplaceResult> upgradeScriptFile(const std::filesystem::path& path,

@@ -19,12 +19,13 @@ struct LoadedScript {
     [[nodiscard]] bool ok() const { return !failure && !read.refusal; }
 };
 
-/// Reads a script file of any version. Never writes.
+/// Reads a script file of any version. Never writes, and never waits for a pipe: that is refused.
 [[nodiscard]] LoadedScript loadScriptFile(const std::filesystem::path& path);
 
 /// Writes the script to `path` in the current version, whole or not at all.
 [[nodiscard]] ReplaceResult saveScriptFile(const std::filesystem::path& path, const Script& script,
-                                           HostType hostType, OldFile oldFile);
+                                           HostType hostType, OldFile oldFile,
+                                           NewFile newFile = NewFile::AsInItsFolder);
 
 /// Rewrites a file that was loaded in an older version, whole, and keeps the old one as a backup.
 /// Does nothing for a current file, for one that was not read whole, and for one that changed on

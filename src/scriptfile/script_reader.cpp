@@ -78,9 +78,6 @@ class ScriptLoad {
             stop(stopOf(reader.fault()), reader.faultOffset());
             return start;
         }
-        if (reader.droppedWatchedActions()) {
-            result_.droppedActions.push_back(result_.script.entryCount());
-        }
         writer_.clear();
         layout::record(writer_, std::as_const(entry), Slot::Entry);
         result_.script.entries.push_back(converted_.store(writer_.bytes()));

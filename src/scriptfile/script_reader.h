@@ -38,9 +38,6 @@ struct ReadResult {
     ReadStop stop = ReadStop::None;
     /// Byte offset in the file of what stopped the reading.
     std::size_t stopOffset = 0;
-    /// Entries (from 0) whose watched Wait_For claimed a timeout and actions, which no script can
-    /// have there.
-    std::vector<std::size_t> droppedActions;
 
     [[nodiscard]] bool isWhole() const { return !refusal && stop == ReadStop::None; }
     [[nodiscard]] bool isOlderVersion() const { return signature.version != currentVersion; }

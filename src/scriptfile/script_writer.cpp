@@ -7,7 +7,6 @@
 
 #include <algorithm>
 #include <span>
-#include <utility>
 
 namespace quendra {
 
@@ -26,25 +25,23 @@ class VtRecords {
     /// The record of the entry in a VT file, valid until the next call.
     std::span<const std::uint8_t> of(const EntryHandle& entry) {
         if (!mayHoldMenuCommand(entry)) return entry.record();
-        readWholeRecord(entry.record(), memoryForm, nullptr, entry_);
         stored_.clear();
-        layout::record(stored_, std::as_const(entry_), Slot::Entry);
+        layout::record(stored_, entries_.read(entry.record(), memoryForm, nullptr), Slot::Entry);
         return stored_.bytes();
     }
 
     /// Written for VT and read back, an entry that VT can store is what it was.
     bool store(const EntryHandle& entry) {
         if (!mayHoldMenuCommand(entry)) return true;
-        readWholeRecord(of(entry), vtForm, nullptr, readBack_);
         again_.clear();
-        layout::record(again_, std::as_const(readBack_), Slot::Entry);
+        layout::record(again_, readBack_.read(of(entry), vtForm, nullptr), Slot::Entry);
         return std::ranges::equal(again_.bytes(), entry.record());
     }
 
   private:
-    ScriptEntry entry_;
+    RecordUnpacker entries_;
     RecordWriter stored_{vtForm, nullptr};
-    ScriptEntry readBack_;
+    RecordUnpacker readBack_;
     RecordWriter again_{memoryForm, nullptr};
 };
 

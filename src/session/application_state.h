@@ -5,8 +5,8 @@
 #include "model/menu_commands.h"
 #include "platform/files.h"
 #include "session/editing.h"
-#include "session/startup_settings.h"
 #include "session/undo_history.h"
+#include "settings/startup_settings.h"
 #include "text/language_library.h"
 
 #include <filesystem>
@@ -25,6 +25,8 @@ struct ScriptDocument {
     std::optional<FileStamp> stamp;
     /// The file was not read whole: the first save over it keeps the old bytes as a backup.
     bool keepOldOnSave = false;
+    /// The file is there and was not read at all: nothing is saved over it without asking.
+    bool refused = false;
     /// The script as it was loaded or saved last, empty for a new one.
     Script saved = {};
 };

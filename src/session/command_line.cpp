@@ -113,6 +113,17 @@ CommandLine parseCommandLine(std::span<const std::string> arguments, const PathP
     return Parser(arguments, probe).parse();
 }
 
+fs::path tidyPath(const fs::path& path) {
+    std::error_code error;
+    const fs::path absolute = fs::absolute(path, error);
+    if (error) return path;
+    const fs::path tidy = absolute.lexically_normal();
+    const fs::path folder = fs::canonical(absolute.parent_path(), error);
+    // A folder that is not there is not behind a link either.
+    if (error || fs::equivalent(tidy.parent_path(), folder, error)) return tidy;
+    return folder / absolute.filename();
+}
+
 std::string commandLineHelp() {
     return "usage: quendra-script-editor [OPTION]... [SCRIPT]\n"
            "\n"

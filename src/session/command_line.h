@@ -43,6 +43,10 @@ using PathProbe = std::function<std::filesystem::file_type(const std::filesystem
 [[nodiscard]] CommandLine parseCommandLine(std::span<const std::string> arguments,
                                            const PathProbe& probe = fileTypeAt);
 
+/// The absolute form of a path, without "." and "..". Links stay what they are called, but where a
+/// ".." behind one leads elsewhere than it reads. As it is when the current folder is gone.
+[[nodiscard]] std::filesystem::path tidyPath(const std::filesystem::path& path);
+
 /// For --help and --version, each with its final line end.
 [[nodiscard]] std::string commandLineHelp();
 [[nodiscard]] std::string versionText();

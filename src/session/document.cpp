@@ -4,6 +4,7 @@
 #include "scriptfile/script_files.h"
 #include "scriptfile/script_writer.h"
 #include "session/application_life.h"
+#include "session/file_texts.h"
 #include "text/path_text.h"
 #include "text/text_encoding.h"
 #include "text/text_ids.h"
@@ -42,7 +43,8 @@ std::optional<Message> openRefusal(ApplicationState& state, const fs::path& path
     if (loaded.failure) {
         const StringId text = failedWhileReading(*loaded.failure) ? textid::scriptCannotBeRead
                                                                   : textid::scriptCannotBeOpened;
-        return fileError(state, text, textid::openScriptErrorTitle, path, loaded.failure->message);
+        return fileError(state, text, textid::openScriptErrorTitle, path,
+                         failureText(state.language, *loaded.failure));
     }
     if (loaded.read.refusal == ReadRefusal::TooShort) {
         return fileError(state, textid::scriptCannotBeRead, textid::openScriptErrorTitle, path, {});
@@ -51,15 +53,6 @@ std::optional<Message> openRefusal(ApplicationState& state, const fs::path& path
         return fileError(state, textid::scriptOfUnknownVersion, textid::openScriptErrorTitle, path,
                          {});
     return std::nullopt;
-}
-
-std::string entryNumbers(const std::vector<std::size_t>& entries) {
-    constexpr std::size_t shown = 10;
-    std::string text;
-    for (std::size_t i = 0; i < std::min(entries.size(), shown); ++i) {
-        text += (i == 0 ? "" : ", ") + std::to_string(entries[i] + 1);
-    }
-    return entries.size() > shown ? text + ", ..." : text;
 }
 
 StringId stopTextId(ReadStop stop) {
@@ -83,17 +76,18 @@ std::string stopText(ApplicationState& state, const ReadResult& read) {
 
 // What there is to tell about a loaded file; empty for an ordinary one. `unsaved` is the name of a
 // copy with changes that were not saved, empty for none.
-std::string loadNote(ApplicationState& state, const ReadResult& read,
+std::string loadNote(ApplicationState& state, const fs::path& path, const ReadResult& read,
                      const std::optional<ReplaceResult>& upgrade, const fs::path& unsaved) {
     std::string remarks;
     const auto add = [&](StringId id, const std::string& what) {
         remarks += "; " + libraryText(state.language, id, {what});
     };
-    if (!read.droppedActions.empty())
-        add(textid::watchedWaitForDropped, entryNumbers(read.droppedActions));
-    if (upgrade && upgrade->failure) add(textid::conversionFailed, upgrade->failure->message);
-    if (upgrade && !upgrade->failure)
-        add(textid::convertedKeeping, pathText(upgrade->backup.filename()));
+    if (upgrade && upgrade->failure)
+        add(textid::conversionFailed, failureText(state.language, *upgrade->failure));
+    if (upgrade && !upgrade->backup.empty())
+        add(upgrade->failure ? textid::oldFileKept : textid::convertedKeeping,
+            keptName(path, upgrade->backup));
+    if (upgrade && upgrade->unsynced) add(textid::convertedUnsynced, upgrade->unsynced->message);
     if (!unsaved.empty()) add(textid::unsavedChangesKept, pathText(unsaved));
     if (!read.isWhole()) return stopText(state, read) + remarks;
     if (remarks.empty()) return {};
@@ -138,6 +132,19 @@ void takeOver(ApplicationState& state, const fs::path& path, LoadedScript loaded
     state.dropPending = false;
 }
 
+// A folder or a device, or a path that names nothing in its folder: no script can be saved there.
+bool isNoFile(const fs::path& path) {
+    std::error_code ignored;
+    const fs::file_status status = fs::status(path, ignored);
+    return !path.has_filename() || (fs::exists(status) && !fs::is_regular_file(status));
+}
+
+bool isYetToBeMade(const fs::path& path) {
+    std::error_code ignored;
+    return fs::status(path, ignored).type() == fs::file_type::not_found &&
+           fs::is_directory(path.parent_path(), ignored);
+}
+
 bool isOwnFile(const ScriptDocument& document, const fs::path& path) {
     if (document.fileName.empty()) return false;
     std::error_code ignored;
@@ -158,6 +165,12 @@ std::string shortEntryLine(const ApplicationState& state, std::size_t index) {
                      longest);
 }
 
+Message replaceQuestion(ApplicationState& state, StringId text, const fs::path& path) {
+    return {libraryText(state.language, text, {pathText(path)}),
+            libraryText(state.language, textid::saveScriptErrorTitle), MessageIcon::Question,
+            MessageButtons::YesNo, true};
+}
+
 Message lossQuestion(ApplicationState& state, const std::vector<std::size_t>& entries) {
     constexpr std::size_t shown = 10;
     std::string lines;
@@ -168,6 +181,16 @@ Message lossQuestion(ApplicationState& state, const std::vector<std::size_t>& en
     const std::string text = libraryText(state.language, textid::lossInVtQuestion, {lines});
     return {text, libraryText(state.language, textid::saveScriptErrorTitle), MessageIcon::Question,
             MessageButtons::YesNo, true};
+}
+
+// What is shown after a save is what opening the file would show.
+bool takeWhatWasStored(ApplicationState& state, const EntrySelection& selection) {
+    if (unstorableEntries(state.script, state.currentHostType).empty()) return false;
+    const ScriptView before = {state.script, selection};
+    state.script = readScript(writeScript(state.script, state.currentHostType)).script;
+    state.history.record(before, {state.script, selection},
+                         libraryText(state.language, textid::saveAsVtStep));
+    return true;
 }
 
 }  // namespace
@@ -209,21 +232,24 @@ OpenOutcome openDocument(ApplicationState& state, const fs::path& path) {
     // Asked before the upgrade, which makes the script itself the newer one.
     const fs::path unsaved = newerUnsavedCopy(path);
     const auto upgrade = upgradeScriptFile(path, loaded);
-    std::string note = loadNote(state, loaded.read, upgrade, unsaved);
+    if (upgrade && !upgrade->failure) backupSavedScript(state.settings, path);
+    std::string note = loadNote(state, path, loaded.read, upgrade, unsaved);
     takeOver(state, path, std::move(loaded), upgrade);
     return {true, std::nullopt, std::move(note)};
 }
 
 OpenOutcome openDocumentAtStart(ApplicationState& state, const fs::path& path) {
     OpenOutcome outcome = openDocument(state, path);
-    if (outcome.opened) return outcome;
+    if (outcome.opened || isNoFile(path)) return outcome;
     state.document.fileName = path;
     state.document.stamp = fileStamp(path);
-    state.document.keepOldOnSave = state.document.stamp.has_value();
-    if (!readFile(path, 1).failure) return outcome;
-    // It cannot be opened at all: no box, but a file that is there is not passed over unseen.
-    if (state.document.stamp)
-        outcome.note = outcome.refusal->text.substr(0, outcome.refusal->text.find('\n'));
+    state.document.refused = state.document.keepOldOnSave = state.document.stamp.has_value();
+    if (!readRegularFile(path, 1).failure) return outcome;
+    // It cannot be opened at all: no box, but it is not passed over unseen.
+    outcome.note =
+        isYetToBeMade(path)
+            ? libraryText(state.language, textid::scriptIsNotThereYet, {pathText(path.filename())})
+            : outcome.refusal->text.substr(0, outcome.refusal->text.find('\n'));
     outcome.refusal.reset();
     return outcome;
 }
@@ -231,25 +257,25 @@ OpenOutcome openDocumentAtStart(ApplicationState& state, const fs::path& path) {
 OtherScript readOtherScript(ApplicationState& state, const fs::path& path) {
     LoadedScript loaded = loadScriptFile(path);
     if (auto refusal = openRefusal(state, path, loaded)) return {{}, {}, std::move(refusal), {}};
-    std::string note = loadNote(state, loaded.read, std::nullopt, {});
+    std::string note = loadNote(state, path, loaded.read, std::nullopt, {});
     return {std::move(loaded.read.script), loaded.read.signature.hostType, std::nullopt,
             std::move(note)};
 }
 
 std::vector<Message> questionsBeforeSave(ApplicationState& state, const fs::path& path) {
     std::vector<Message> questions;
-    if (changedOnDisk(state.document, path)) {
-        questions.push_back(
-            {libraryText(state.language, textid::replaceChangedFileQuestion, {pathText(path)}),
-             libraryText(state.language, textid::saveScriptErrorTitle), MessageIcon::Question,
-             MessageButtons::YesNo, true});
+    if (state.document.refused && isOwnFile(state.document, path)) {
+        questions.push_back(replaceQuestion(state, textid::replaceRefusedFileQuestion, path));
+    } else if (changedOnDisk(state.document, path)) {
+        questions.push_back(replaceQuestion(state, textid::replaceChangedFileQuestion, path));
     }
     const auto unstorable = unstorableEntries(state.script, state.currentHostType);
     if (!unstorable.empty()) questions.push_back(lossQuestion(state, unstorable));
     return questions;
 }
 
-SaveOutcome saveDocument(ApplicationState& state, const fs::path& path) {
+SaveOutcome saveDocument(ApplicationState& state, const fs::path& path,
+                         const EntrySelection& selection) {
     const bool keepOld = !isOwnFile(state.document, path) || state.document.keepOldOnSave ||
                          changedOnDisk(state.document, path);
     const ReplaceResult result = saveScriptFile(path, state.script, state.currentHostType,
@@ -258,14 +284,15 @@ SaveOutcome saveDocument(ApplicationState& state, const fs::path& path) {
         const StringId text = failedWhileWriting(*result.failure) ? textid::scriptCannotBeWritten
                                                                   : textid::scriptCannotBeCreated;
         return {false,
-                fileError(state, text, textid::saveScriptErrorTitle, path, result.failure->message),
+                fileError(state, text, textid::saveScriptErrorTitle, path,
+                          failureText(state.language, result)),
                 {}};
     }
-    state.document = {path, false, result.stamp, false, state.script};
+    SaveOutcome outcome = {true, std::nullopt, {}, takeWhatWasStored(state, selection)};
+    state.document = {path, false, result.stamp, false, false, state.script};
     backupSavedScript(state.settings, path);
-    if (result.backup.empty()) return {true, std::nullopt, {}};
-    return {true, std::nullopt,
-            libraryText(state.language, textid::oldFileKept, {pathText(result.backup.filename())})};
+    outcome.note = savedNote(state.language, path, result);
+    return outcome;
 }
 
 std::optional<fs::path> keepUnsavedScript(const ApplicationState& state) {
@@ -283,8 +310,8 @@ std::optional<fs::path> keepUnsavedScript(const ApplicationState& state) {
             ++number;
         fs::path copy = unsavedName(name, number);
         // Nobody else has been allowed to read it.
-        const OwnerOnly readers;
-        const auto result = saveScriptFile(copy, state.script, hostType, OldFile::KeepAsBackup);
+        const auto result =
+            saveScriptFile(copy, state.script, hostType, OldFile::KeepAsBackup, NewFile::OwnerOnly);
         if (!result.failure) return copy;
     }
     return std::nullopt;

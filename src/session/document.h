@@ -36,13 +36,14 @@ struct OpenOutcome {
 };
 
 /// Loads a script file and makes its host type the current one. An older file is rewritten in the
-/// current version at once, the old bytes kept beside it; one that was not read whole is never
-/// rewritten here.
+/// current version at once, the old bytes kept beside it, and copied into the backup directory like
+/// every saved script; one that was not read whole is never rewritten here.
 [[nodiscard]] OpenOutcome openDocument(ApplicationState& state, const std::filesystem::path& path);
 
 /// The same for the file named on the command line, which becomes the document's file even when it
 /// was not read, so that a new script can be started by its name: without a message when it cannot
-/// be opened, and with its old bytes kept by the first save when there are any.
+/// be opened. The first save asks before it replaces what is there, and keeps it. What is no file,
+/// a folder above all, is refused as by Open.
 [[nodiscard]] OpenOutcome openDocumentAtStart(ApplicationState& state,
                                               const std::filesystem::path& path);
 
@@ -61,7 +62,8 @@ struct OtherScript {
                                           const std::filesystem::path& path);
 
 /// What has to be answered with Yes, in this order, before the script may be saved at `path`: the
-/// file has changed on disk since it was loaded; the host type cannot store some entries.
+/// file was refused when the editor started, or has changed on disk since it was loaded; the host
+/// type cannot store some entries.
 [[nodiscard]] std::vector<Message> questionsBeforeSave(ApplicationState& state,
                                                        const std::filesystem::path& path);
 
@@ -70,11 +72,16 @@ struct SaveOutcome {
     bool saved = false;
     std::optional<Message> refusal;
     std::string note;
+    /// The script has become what the file holds: the host type could not store all of it.
+    bool scriptChanged = false;
 };
 
 /// Writes the script to `path`, which becomes the document's file. Bytes that nobody has agreed to
 /// lose (another file's, or those that the editor could not read whole) stay beside it as a backup.
-[[nodiscard]] SaveOutcome saveDocument(ApplicationState& state, const std::filesystem::path& path);
+/// Where the host type cannot store all of the script, it becomes what was stored, which can be
+/// undone; `selection` is shown then, as it was.
+[[nodiscard]] SaveOutcome saveDocument(ApplicationState& state, const std::filesystem::path& path,
+                                       const EntrySelection& selection = {});
 
 /// Keeps the changes of a script that is going without having been saved, when the desktop's
 /// session ends or an untitled one was to be saved and got no name: a copy "NAME (unsaved).qds"

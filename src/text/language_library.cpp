@@ -45,7 +45,8 @@ std::unique_ptr<QTranslator> loadFile(const fs::path& path) {
 }  // namespace
 
 std::string languageBaseName(const fs::path& configDir) {
-    const auto profile = readProfileFile(configDir / "language.ini");
+    const auto profile =
+        configDir.empty() ? std::nullopt : readProfileFile(configDir / "language.ini");
     const auto name = profile ? lookup(*profile, "Language", "Language") : std::nullopt;
     if (!name || name->empty()) return defaultBaseName;
     return cut(QString::fromStdString(*name), maxBaseName).toStdString();

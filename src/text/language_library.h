@@ -32,7 +32,7 @@ struct LanguageNotice {
 // Where the library and its setting are looked for.
 struct LanguageFolders {
     std::filesystem::path programDir;  // the folder of the program file
-    std::filesystem::path configDir;   // holds "language.ini", if there is one
+    std::filesystem::path configDir;   // holds "language.ini"; empty: the default, English
     std::filesystem::path installDir;
 };
 

@@ -117,7 +117,7 @@ TransferInputs transferInputs(const Step& fields) {
     return {fields.transferSettings, fields.transferHost, transferDirection(fields.commandId)};
 }
 
-std::string buildTransferCommand(const FileTransferSettings& settings, std::uint8_t host,
+std::string wholeTransferCommand(const FileTransferSettings& settings, std::uint8_t host,
                                  TransferDirection direction) {
     const bool send = direction == TransferDirection::Send;
     const Options options{settings, host == transferHostTso, send};
@@ -130,6 +130,12 @@ std::string buildTransferCommand(const FileTransferSettings& settings, std::uint
         case transferHostCics: appendCics(line, options); break;
         default: break;
     }
+    return line;
+}
+
+std::string buildTransferCommand(const FileTransferSettings& settings, std::uint8_t host,
+                                 TransferDirection direction) {
+    std::string line = wholeTransferCommand(settings, host, direction);
     if (line.size() > maxTransferCommandLength) line.resize(maxTransferCommandLength);
     return line;
 }

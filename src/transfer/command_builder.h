@@ -25,6 +25,14 @@ struct TransferInputs {
 
 inline constexpr std::size_t maxTransferCommandLength = 255;
 
+/// The command line in windows-1252, of any length; the emulator takes maxTransferCommandLength
+/// bytes of it.
+[[nodiscard]] std::string wholeTransferCommand(const FileTransferSettings& settings,
+                                               std::uint8_t host, TransferDirection direction);
+[[nodiscard]] inline std::string wholeTransferCommand(const TransferInputs& inputs) {
+    return wholeTransferCommand(inputs.settings, inputs.host, inputs.direction);
+}
+
 /// The command line in windows-1252, at most 255 bytes; what would be longer is cut. It ends in a
 /// blank when there are no additional parameters. Never fails: a host above 2, which only a foreign
 /// file holds, gives program, direction and host file; a record format or space unit outside its

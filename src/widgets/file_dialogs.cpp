@@ -5,6 +5,7 @@
 
 #include <QFileDialog>
 #include <QHeaderView>
+#include <QMimeDatabase>
 #include <QTreeView>
 
 #include <utility>
@@ -50,6 +51,18 @@ std::optional<std::filesystem::path> runDialog(QWidget* owner, const FileDialogR
     return std::filesystem::absolute(pathFromQt(dialog.selectedFiles().constFirst()));
 }
 
+// The dialog adds it only to a name without any dot.
+std::filesystem::path withExtension(const std::filesystem::path& path,
+                                    const std::string& extension) {
+    std::error_code ignored;
+    const QString name = qtText(path.filename().native());
+    const QString ending = QLatin1Char('.') + qtText(extension);
+    const bool isComplete = extension.empty() || name.endsWith(ending, Qt::CaseInsensitive) ||
+                            !QMimeDatabase().suffixForFileName(name).isEmpty() ||
+                            std::filesystem::exists(path, ignored);
+    return isComplete ? path : std::filesystem::path(path.native() + '.' + extension);
+}
+
 }  // namespace
 
 QString fileDialogFilter(const FileDialogRequest& request) {
@@ -62,7 +75,10 @@ QString fileDialogFilter(const FileDialogRequest& request) {
 
 std::optional<std::filesystem::path> chooseFile(QWidget* owner, const FileDialogRequest& request) {
     const FileDialogHandler handler = currentHandler();
-    return handler ? handler(owner, request) : runDialog(owner, request);
+    auto path = handler ? handler(owner, request) : runDialog(owner, request);
+    if (path && request.mode == FileDialogMode::Save)
+        return withExtension(*path, request.extension);
+    return path;
 }
 
 FileDialogHandler replaceFileDialogHandler(FileDialogHandler handler) {

@@ -21,7 +21,8 @@ struct FileDialogRequest {
     std::string title;
     /// "Quendra Script Files(*.qds)".
     std::string filterDescription;
-    /// Without a dot; added to a name that has none. Empty: every file is offered.
+    /// Without a dot. Save adds it to a name that has no extension that the system knows: to
+    /// "release1.2", not to "a.txt", nor to one that is there. Empty: every file is offered.
     std::string extension;
     /// Where the dialog starts; empty for the current folder.
     std::filesystem::path initialFolder;

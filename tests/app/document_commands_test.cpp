@@ -1,11 +1,13 @@
 // New, Open, Save and Save As without a window: nothing that was read or made is lost.
 #include "session/document.h"
+#include "session/file_texts.h"
 #include "support/editor_fixture.h"
 #include "support/full_disk.h"
 
 #include <algorithm>
 #include <chrono>
 #include <filesystem>
+#include <sys/stat.h>
 
 namespace quendra::test {
 namespace {
@@ -47,7 +49,9 @@ TEST_F(DocumentTest, RefusedFilesLeaveEverythingAsItWas) {
         {file("version that UTS never had.qds", bytesOf("QDUDSCR7")), "is not a script file"},
         {editor.folder / "missing.qds", "cannot be opened"},
         {editor.folder.path(), "cannot be read"},
+        {editor.folder / "pipe.qds", "no regular file"},
     };
+    ASSERT_EQ(mkfifo(rows[5].first.c_str(), 0600), 0);
     for (const auto& [path, reason] : rows) {
         SCOPED_TRACE(path);
         const OpenOutcome outcome = openDocument(state, path);
@@ -62,6 +66,8 @@ TEST_F(DocumentTest, RefusedFilesLeaveEverythingAsItWas) {
 }
 
 TEST_F(DocumentTest, OlderFilesAreConvertedOnceAndKept) {
+    state.settings.backupDir = editor.folder / "backup";
+    fs::create_directories(editor.folder / "backup/Scripts");
     for (const Case& frozen : frozenCases()) {
         if (frozen.version == '=' || !frozen.name.starts_with("kinds")) continue;
         SCOPED_TRACE(frozen.name);
@@ -69,6 +75,7 @@ TEST_F(DocumentTest, OlderFilesAreConvertedOnceAndKept) {
         expectIn(openDocument(state, path).note, frozen.name + ".bak");
         EXPECT_EQ(readBytes(path), frozen.expected);
         EXPECT_EQ(backupOf(path), frozen.file);
+        EXPECT_EQ(readBytes(editor.folder / "backup/Scripts" / frozen.name), frozen.expected);
         EXPECT_TRUE(questionsBeforeSave(state, path).empty()) << "our own writing is no change";
         save(path);
         EXPECT_EQ(readBytes(path), frozen.expected);
@@ -176,9 +183,11 @@ TEST_F(DocumentTest, FailedWriteLeavesDocumentAndDisk) {
     state.document.modified = true;
     state.document.keepOldOnSave = true;
     const auto stamp = state.document.stamp;
+    ASSERT_EQ(mkfifo((editor.folder / "pipe.qds").c_str(), 0600), 0);
     const std::tuple<fs::path, bool, const char*> rows[] = {
         {editor.folder / "missing" / "b.qds", false, "cannot be created"},
         {editor.folder.path(), false, "cannot be created"},
+        {editor.folder / "pipe.qds", false, "no regular file"},
         {path, true, "cannot be written"},
         {editor.folder / "b.qds", true, "cannot be written"}};
     for (const auto& [target, diskIsFull, reason] : rows) {
@@ -199,18 +208,49 @@ TEST_F(DocumentTest, FailedWriteLeavesDocumentAndDisk) {
     }
 }
 
+TEST_F(DocumentTest, SavesThatAreNotOrdinaryAreToldOf) {
+    const ReplaceResult beside = {.backup = editor.folder / "a.qds.bak"};
+    const ReplaceResult elsewhere = {.unsynced = FileFailure{1, "No", editor.folder.path()},
+                                     .backup = "/k/a.qds.bak"};
+    EXPECT_EQ(savedNote(state.language, editor.folder / "a.qds", {}), "");
+    EXPECT_EQ(savedNote(state.language, editor.folder / "a.qds", beside),
+              "The old file is kept as a.qds.bak");
+    EXPECT_EQ(savedNote(state.language, editor.folder / "a.qds", elsewhere),
+              "Saved, but a power cut may undo it: No. The old file is kept as /k/a.qds.bak");
+    EXPECT_EQ(
+        failureText(state.language,
+                    {.failure = FileFailure{1, "No", "/f"}, .backup = "/k/a.qds.bak"}),
+        "The folder \u201c/f\u201d takes no file: No\n\nThe old file is kept as /k/a.qds.bak");
+}
+
 TEST_F(DocumentTest, FileNamedAtStartIsTheDocumentsEvenWhenItIsMissingOrRefused) {
     const fs::path path = editor.folder / "new.qds";
-    EXPECT_FALSE(openDocumentAtStart(state, path).refusal);
+    const OpenOutcome missing = openDocumentAtStart(state, path);
+    EXPECT_FALSE(missing.refusal);
+    expectIn(missing.note, "“new.qds” is not there yet");
     EXPECT_EQ(state.document.fileName, path);
+    expectIn(openDocumentAtStart(state, editor.folder / "no/a.qds").note, "cannot be opened");
     const Bytes letter = bytesOf("no script at all");
     writeBytes(path, letter);
-    EXPECT_EQ(questionsBeforeSave(state, path).size(), 1U) << "it appeared since";
     EXPECT_TRUE(openDocumentAtStart(state, path).refusal);
     EXPECT_EQ(state.document.fileName, path);
+    const auto questions = questionsBeforeSave(state, path);
+    ASSERT_EQ(questions.size(), 1U);
+    expectIn(questions[0].text, "could not be opened as a script");
+    EXPECT_TRUE(questionsBeforeSave(state, editor.folder / "other.qds").empty());
     save(path);
     EXPECT_EQ(readBytes(path), bytesOf("QDMDSCR="));
     EXPECT_EQ(backupOf(path), letter);
+    EXPECT_TRUE(questionsBeforeSave(state, path).empty());
+}
+
+TEST_F(DocumentTest, WhatIsNoFileIsRefusedAtStartAndLeavesAnUntitledScript) {
+    for (const fs::path& path : {editor.folder.path(), editor.folder / "new.qds/",
+                                 editor.folder / "..", fs::path("/dev/null")}) {
+        SCOPED_TRACE(path);
+        EXPECT_TRUE(openDocumentAtStart(state, path).refusal);
+        EXPECT_TRUE(state.document.fileName.empty());
+    }
 }
 
 }  // namespace

@@ -115,6 +115,15 @@ TEST_F(MainWindowTest, OverwritingAChangedFileAndLosingEntriesBothNeedAYes) {
     EXPECT_EQ(readBytes(path).at(2), 'V');
     EXPECT_EQ(readBytes(path.string() + ".bak"), letter);
     EXPECT_EQ(status(), "The old file is kept as a.qds.bak");
+    // The window shows what opening the file would show, and the rest is not lost.
+    const std::string stored = lines();
+    EXPECT_FALSE(isMarked());
+    run(Undo);
+    EXPECT_NE(lines(), stored);
+    EXPECT_TRUE(isMarked());
+    answers.toFileDialogs.emplace_back(path);
+    run(Open, No);
+    EXPECT_EQ(lines(), stored);
 }
 
 TEST_F(MainWindowTest, AsksBeforeNewOpenAndExitDiscardChanges) {

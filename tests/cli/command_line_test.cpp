@@ -28,6 +28,29 @@ TEST_F(CommandLine, tellsWrongUsageWithStatusTwo) {
     }
 }
 
+TEST_F(CommandLine, namesAnUnknownWordBesideThoseThatThereAre) {
+    const char* const commands =
+        "; the commands are show, convert, build, check, grep, replace, rename-label, diff, "
+        "merge, texts\n";
+    const std::pair<const char*, std::string> rows[] = {
+        {"frobnicate --output a", std::string("unknown command frobnicate") + commands},
+        {"", std::string("a command is missing") + commands},
+        {"--frob show", "unknown option --frob; the options are --help, --version\n"},
+        {"show --frob=1 a",
+         "unknown show option --frob; the show options are --help, --numbers, --full, "
+         "--json, --reveal\n"},
+        {"build a --output b -x",
+         "unknown build option -x; the build options are --help, "
+         "--allow-loss, --output\n"},
+        {"\x1b[2J", std::string("unknown command \\x1b[2J") + commands},
+    };
+    for (const auto& [line, message] : rows) {
+        const QdsRun run = runLine(line);
+        EXPECT_EQ(run.status, 2);
+        EXPECT_EQ(run.err, "qds: " + message + "Try 'qds --help'.\n");
+    }
+}
+
 TEST_F(CommandLine, givesHelpOnStandardOutput) {
     for (const char* line : {"--help", "show --help", "convert -h", "build --help", "--version"}) {
         const QdsRun run = runLine(line);

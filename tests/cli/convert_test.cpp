@@ -1,5 +1,9 @@
 // qds convert.
 #include "cli/qds_run.h"
+#include "support/other_user.h"
+
+#include <sys/stat.h>
+#include <thread>
 
 namespace quendra::test {
 namespace {
@@ -45,18 +49,20 @@ TEST_F(Convert, writesNothingForAFileThatIsNotWhole) {
     const Bytes none = bytesOf("no script");
     EXPECT_EQ(runQds({"convert", "--allow-loss", "--output", out, "-"}, none).status, 1);
     EXPECT_EQ(readBytes(out), newScript);
-    EXPECT_EQ(names(), Names{"out.qds"});
+    EXPECT_EQ(names(), (Names{"out.qds", "out.qds.bak"}));
 }
 
-TEST_F(Convert, writesWhatAWatchedWaitForKeepsAndSaysSo) {
-    const Bytes kept = joined({{20}, counted("w"), {17}, counted("f"), {1, 1, 0, 1}});
-    const Bytes claims = scriptFile("QDMDSCR=", {beep, kept, {1, 5, 4, 4}});
+TEST_F(Convert, carriesTheTimeoutOfAWatchedWaitForAlsoThroughJson) {
+    const Bytes watched = joined({{20}, counted("w"), {17}, counted("f"), {1, 1, 0, 1, 9, 5}});
+    const Bytes claims =
+        scriptFile("QDMDSCR=", {beep, watched, hiddenTypeRecord("secret", "{ANOTHER}"), {12}, {4}});
     const QdsRun run = runQds({"convert", "--output", "-", "-"}, claims);
     EXPECT_EQ(run.status, 0);
-    EXPECT_EQ(bytesOf(run.out), scriptFile("QDMDSCR=", {beep, kept, {0}}));
-    EXPECT_EQ(run.err,
-              "qds: standard input: note: entry 2: the timeout and the actions of its "
-              "watched Wait_For were dropped\n");
+    EXPECT_EQ(bytesOf(run.out), claims);
+    EXPECT_EQ(run.err, "");
+    const QdsRun shown = runQds({"show", "--json", "-"}, claims);
+    EXPECT_EQ(shown.status, 0);
+    EXPECT_EQ(built(shown.out), claims);
 }
 
 TEST_F(Convert, keepsTheOldFilesInPlaceAndGoesOnAfterABadOne) {
@@ -87,7 +93,34 @@ TEST_F(Convert, keepsTheOldFileWhenTheOutputIsTheInput) {
     const std::string other = file("b.qds", bytesOf("an older result"));
     EXPECT_EQ(runQds({"convert", "--output", other, source}).status, 0);
     EXPECT_EQ(readBytes(other), newScript);
-    EXPECT_FALSE(fs::exists(other + ".bak"));
+    EXPECT_EQ(readBytes(other + ".bak"), bytesOf("an older result"));
+    EXPECT_EQ(runQds({"convert", "--output", other, source}).status, 0);
+    EXPECT_FALSE(fs::exists(other + ".bak2")) << "it was the same";
+}
+
+TEST_F(Convert, takesPipesAsTheyAreButNotInPlaceAndSaysWhereOldBytesWent) {
+    const std::string pipe = file("pipe.qds");
+    ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
+    QdsRun run = runQds({"convert", "--in-place", pipe});
+    EXPECT_EQ(run.status, 1);
+    EXPECT_EQ(run.err, "qds: " + pipe + ": not a regular file\n");
+    std::thread writer([&] { writeBytes(pipe, oldScript); });
+    EXPECT_EQ(bytesOf(runQds({"convert", "--output", "-", pipe}).out), newScript);
+    writer.join();
+    EXPECT_TRUE(fs::is_fifo(pipe));
+
+    if (!OtherUser::isPossible()) GTEST_SKIP() << "the superuser may replace every file";
+    const std::string others = file("others.qds", oldScript);
+    fs::permissions(others, fs::perms(0666));
+    fs::permissions(file("."), fs::perms(01777));
+    {
+        const OtherUser user;
+        run = runQds({"convert", "--in-place", others});
+    }
+    EXPECT_EQ(run.status, 0);
+    EXPECT_EQ(run.err, "qds: " + others + ": note: written over; its old content is kept as " +
+                           others + ".bak\n");
+    EXPECT_EQ(readBytes(others), newScript);
 }
 
 TEST_F(Convert, refusesPlacesThatCannotBeWrittenAndWritesIntoADevice) {
@@ -96,6 +129,7 @@ TEST_F(Convert, refusesPlacesThatCannotBeWrittenAndWritesIntoADevice) {
         const QdsRun run = runQds({"convert", "--output", place, source});
         EXPECT_EQ(run.status, 1) << place;
         EXPECT_TRUE(run.err.starts_with("qds: " + place + ": ")) << run.err;
+        EXPECT_EQ(run.err.find("cannot be written"), std::string::npos) << "the system's reason";
     }
     EXPECT_EQ(runQds({"convert", "--output", "/dev/null", source}).status, 0);
     EXPECT_TRUE(fs::is_character_file("/dev/null"));

@@ -64,6 +64,16 @@ TEST_F(Documents, examplesAreWhatTheirSourcesBuildAndName) {
     EXPECT_EQ(count, 8);
 }
 
+TEST_F(Documents, examplesHaveNothingThatCheckFinds) {
+    // Their hidden texts are foreign to everyone who has an identity.
+    for (const char* identity : {"", "somebody"}) {
+        setIdentity(identity);
+        const QdsRun run = runQds({"check", QUENDRA_EXAMPLES});
+        EXPECT_EQ(run.out, "") << identity;
+        EXPECT_EQ(run.err, "qds: 8 scripts: 0 errors, 0 warnings\n");
+    }
+}
+
 TEST_F(Documents, formatDumpsTheExampleByteForByteUnderItsLines) {
     Bytes bytes;
     std::string lines;

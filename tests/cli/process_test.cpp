@@ -14,8 +14,8 @@ const Bytes script = scriptFile("QDMDSCR=", {Bytes(4096, 4)});
 class Process : public QdsTest {
   protected:
     // Runs qds by a shell in the test's folder; gives its exit status.
-    [[nodiscard]] int run(const std::string& line) const {
-        const std::string command = "cd '" + file(".") +
+    [[nodiscard]] int run(const std::string& line, const std::string& before = {}) const {
+        const std::string command = before + "cd '" + file(".") +
                                     "' && LC_ALL=C timeout 60 '" QUENDRA_PROGRAM_FOLDER "/qds' " +
                                     line;
         const int status = std::system(command.c_str());
@@ -31,6 +31,23 @@ TEST_F(Process, readsAStreamAndFindsTheLanguageLibraryFromAnyFolderAndLocale) {
     EXPECT_EQ(run("convert 2>err"), 2);
 }
 
+TEST_F(Process, showsLinesInTheLanguageOfTheEditorAndMakesNoFolders) {
+    file("in.qds", scriptFile("QDMDSCR=", {menuRecord(201)}));
+    file(".config/quendra/registry.ini",
+         bytesOf("[Software\\Quendra\\6.1]\nBaseRegistry=2\nWorking Directory=" + file("work")));
+    // So that the program does not lie in it, which gives it other settings.
+    ::setenv("TMPDIR", file(".").c_str(), 1);
+    EXPECT_EQ(run("show in.qds >out 2>err"), 0);
+    EXPECT_EQ(readBytes(file("out")), bytesOf("New Session\n"));
+    EXPECT_FALSE(std::filesystem::exists(file("work")));
+    std::filesystem::create_directories(file("work/Config"));
+    file("work/Config/language.ini", bytesOf("[Language]\nLanguage=qdstring_de\n"));
+    EXPECT_EQ(run("show in.qds >out 2>err"), 0);
+    EXPECT_EQ(readBytes(file("out")), bytesOf("Neue Sitzung\n"));
+    EXPECT_EQ(run("show --json in.qds | grep -q '\"name\": \"New Session\"'"), 0);
+    ::unsetenv("TMPDIR");
+}
+
 TEST_F(Process, reportsAFullDiskAndAReaderThatGoesAway) {
     file("in.qds", script);
     for (const char* line :
@@ -44,10 +61,21 @@ TEST_F(Process, reportsAFullDiskAndAReaderThatGoesAway) {
     ASSERT_EQ(::pipe(pipe.data()), 0);
     ASSERT_EQ(::dup2(pipe[1], gone), gone);
     ::close(pipe[0]);
-    EXPECT_EQ(run("show in.qds in.qds >&9 2>err"), 1);
-    EXPECT_EQ(readBytes(file("err")), bytesOf("qds: standard output: Broken pipe\n"));
+    for (const char* line :
+         {"show in.qds in.qds", "show --json in.qds", "convert --output - in.qds",
+          "convert --output /dev/stdout in.qds", "texts"}) {
+        EXPECT_EQ(run(line + std::string(" >&9 2>err")), 0) << line;
+        EXPECT_EQ(readBytes(file("err")), bytesOf("")) << "whoever reads has seen enough";
+    }
     ::close(pipe[1]);
     ::close(gone);
+}
+
+TEST_F(Process, takesALimitOnTheSizeOfFilesForAFullDisk) {
+    const std::string old = file("old.qds", scriptFile("QDMDSCR2", {{4}}));
+    EXPECT_EQ(run("convert --in-place old.qds 2>err", "ulimit -f 0; "), 1);
+    EXPECT_EQ(readBytes(old), scriptFile("QDMDSCR2", {{4}}));
+    EXPECT_EQ(names(), (std::vector<std::string>{"err", "old.qds"}));
 }
 
 TEST_F(Process, writesFilesUnharmedWithoutStandardStreams) {

@@ -18,7 +18,8 @@ QdsRun runQds(const std::vector<std::string>& arguments, std::span<const std::ui
     std::rewind(stream);
     std::ostringstream out;
     std::ostringstream err;
-    cli::Environment environment = {::fileno(stream), out, err, programFolder};
+    cli::Environment environment = {
+        ::fileno(stream), out, err, {programFolder, programFolder, programFolder}};
     const int status = cli::runQds(arguments, environment);
     std::fclose(stream);
     return {status, out.str(), err.str()};

@@ -19,7 +19,7 @@ struct QdsRun {
 };
 
 /// Runs qds in this process. `input` is what standard input holds; the language library is looked
-/// for from `programFolder`.
+/// for from `programFolder`, and `language.ini` is beside it.
 [[nodiscard]] QdsRun runQds(const std::vector<std::string>& arguments,
                             std::span<const std::uint8_t> input = {},
                             const std::filesystem::path& programFolder = QUENDRA_PROGRAM_FOLDER);

@@ -71,16 +71,12 @@ TEST_F(ReplaceFile, changesNothingWhenTheDiskIsFull) {
     expectFiles("old", 1);
 }
 
-TEST_F(ReplaceFile, refusesFoldersMissingFoldersAndWriteProtectedFiles) {
+TEST_F(ReplaceFile, refusesFoldersAndMissingFolders) {
     const auto failure = [&](const fs::path& at) {
         return replaceFile(at, bytesOf("x"), OldFile::KeepAsBackup).failure->code;
     };
     EXPECT_EQ(failure(folder.path()), EISDIR);
     EXPECT_EQ(failure(folder / "none/a.qds"), ENOENT);
-    expectFiles("old", 1);
-    if (geteuid() == 0) GTEST_SKIP() << "the superuser may write everything";
-    ASSERT_EQ(chmod(file.c_str(), 0444), 0);
-    EXPECT_EQ(failure(file), EACCES);
     expectFiles("old", 1);
 }
 

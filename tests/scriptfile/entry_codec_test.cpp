@@ -116,5 +116,26 @@ TEST(EntryCodec, sharesOptionsOfAWatchedWaitForWithItsOwnerAndStoresNoTimeout) {
     EXPECT_EQ(packed(claims), packed(watch));
 }
 
+TEST(EntryCodec, carriesTheTimeoutThatAWatchedWaitForClaimsUntilItIsEdited) {
+    // Its then action is a hidden Type of whoever made the file.
+    const Bytes options = {1, 2, 0, 1};
+    const Bytes head = joined({{20}, counted("w"), {17}, counted("i"), options});
+    const Bytes whole = joined({head, {1, 30}, hiddenTypeRecord("x", "mine"), {12}});
+    const ScriptEntry entry = unpackEntry(storeRecord(whole), myCipher);
+    EXPECT_EQ(packed(entry), storeRecord(whole));
+    ScriptEntry edited = entry;
+    setText(edited.thenAction, "i");
+    setText(edited, "another watched text");
+    EXPECT_EQ(packed(edited).record().size(), whole.size() + 19) << "its owner was edited";
+    edited = entry;
+    edited.exactPosition = 1;
+    EXPECT_EQ(packed(edited).record().back(), 0);
+    EXPECT_EQ(packed(edited).record().size(), head.size() + 1);
+    edited.exactPosition = 0;
+    EXPECT_EQ(packed(edited), storeRecord(whole)) << "as it was";
+    setText(edited.thenAction, "other");
+    EXPECT_EQ(packed(edited).record().size(), head.size() + 5);
+}
+
 }  // namespace
 }  // namespace quendra::test

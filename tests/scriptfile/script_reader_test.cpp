@@ -6,12 +6,16 @@
 
 #include <algorithm>
 #include <gtest/gtest.h>
+#include <tuple>
 
 namespace quendra::test {
 namespace {
 
 const Bytes mainframe = bytesOf("QDMDSCR=");
 const Bytes beep = {4};
+
+// A file transfer as VT files store it.
+const Bytes transferNumber = joined({{2}, word(234), word(0)});
 
 Bytes repeated(const Bytes& piece, std::size_t count) {
     Bytes all;
@@ -109,14 +113,29 @@ TEST(ScriptReader, readsTheFirstEntriesOfAFileLongerThanAnyScript) {
     EXPECT_EQ(readScript(large).stop, ReadStop::FileTooLong);
 }
 
-TEST(ScriptReader, passesOverTheTimeoutOfAWatchedWaitForAndSaysSo) {
-    const Bytes options = {1, 2, 0, 1};
-    const Bytes before = joined({mainframe, beep, {20}, counted("w"), {17}, counted("i"), options});
-    const Bytes file = joined({before, {1, 30}, nestedCompares(2), {12}, {5}});
-    const ReadResult read = readScript(file);
-    ASSERT_TRUE(read.isWhole());
-    EXPECT_EQ(read.droppedActions, (std::vector<std::size_t>{1}));
-    EXPECT_EQ(writeScript(read.script, HostType::Mainframe), joined({before, {0}, {5}}));
+TEST(ScriptReader, carriesTheTimeoutOfAWatchedWaitForInEveryVersionAndHostType) {
+    // In the file and in one of the current version: a menu command and what it is numbered, an
+    // If_Input_Is of either layout, and one Wait_For that claims a timeout below another.
+    const Bytes watched = joined({{20}, counted("w"), {17}, counted("i"), {1, 2, 0, 1, 7, 30}});
+    const Bytes oldWatched = joined({{19}, counted("w"), {16}, counted("i"), {1, 2, 0, 1, 7, 30}});
+    const Bytes compare = joined({{9}, counted("c"), {4}});
+    const Bytes newCompare = joined({{9}, counted("c"), {0, 0, 0, 4, 0}});
+    const std::tuple<const char*, Bytes, Bytes> rows[] = {
+        {"QDMDSCR=", joined({beep, watched, newCompare, watched, {0, 0}, {5}}), {}},
+        {"QDVTSCR=", joined({watched, menuRecord(267), transferNumber, {5}}), {}},
+        {"QDMDSCR9", joined({oldWatched, compare, {0}, {5}}),
+         joined({watched, newCompare, {0}, {5}})},
+    };
+    for (const auto& [signature, records, current] : rows) {
+        SCOPED_TRACE(signature);
+        const ReadResult read = readScript(joined({bytesOf(signature), records}));
+        EXPECT_TRUE(read.isWhole());
+        const Bytes written = writeScript(read.script, read.signature.hostType);
+        EXPECT_EQ(Bytes(written.begin() + signatureSize, written.end()),
+                  current.empty() ? records : current);
+        const Bytes again = writeScript(readScript(written).script, read.signature.hostType);
+        EXPECT_EQ(again, written);
+    }
 }
 
 TEST(ScriptWriter, setsTheMarkOfATransferBlock) {

@@ -1,6 +1,8 @@
 // Arguments that may be options of the Windows kind, options of the usual kind, or paths.
 #include "session/command_line.h"
 
+#include "support/temporary_folder.h"
+
 #include <gtest/gtest.h>
 #include <set>
 #include <vector>
@@ -8,6 +10,7 @@
 namespace quendra {
 namespace {
 
+namespace fs = std::filesystem;
 using Arguments = std::vector<std::string>;
 
 // What is there; everything else is not.
@@ -54,6 +57,19 @@ TEST(CommandLine, IsRead) {
         EXPECT_EQ(line.script, row.script);
         EXPECT_EQ(line.hostType, row.hostType);
     }
+}
+
+TEST(CommandLine, TidiesPathsWithoutLeadingThemElsewhere) {
+    const test::TemporaryFolder folder;
+    fs::create_directories(folder / "real/inner");
+    fs::create_directory_symlink(folder / "real/inner", folder / "link");
+    const std::pair<const char*, const char*> rows[] = {
+        {"a.qds", "a.qds"},           {"./real/.//a.qds", "real/a.qds"}, {"real/../a.qds", "a.qds"},
+        {"link/a.qds", "link/a.qds"}, {"link/../a.qds", "real/a.qds"},   {"no/../a.qds", "a.qds"},
+    };
+    for (const auto& [path, tidy] : rows)
+        EXPECT_EQ(tidyPath(folder / path), folder / tidy) << path;
+    EXPECT_EQ(tidyPath("./a.qds"), fs::current_path() / "a.qds");
 }
 
 TEST(CommandLine, RefusesWhatItCannotMeanAndTellsHelpAndVersion) {

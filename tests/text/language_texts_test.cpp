@@ -70,7 +70,10 @@ TEST_P(LanguageTexts, HaveTheFormatPlacesThatTheProgramFills) {
     std::map<StringId, std::string> filled = {
         {textid::scriptInsertedUntilFull, "%d%d"}, {textid::findPosition, "%d%d"},
         {textid::deleteVerbAndObject, "%s%s"},     {textid::numberRange, "%d%d"},
-        {textid::numberOutOfRange, "%s%d%d"},
+        {textid::numberOutOfRange, "%s%d%d"},      {textid::checkNearestLabel, "%s%d"},
+        {textid::checkLabelDuplicate, "%s%d"},     {textid::checkParameterMissing, "%s%s"},
+        {textid::checkValueRange, "%s%s%s%s"},     {textid::checkKeyUnknown, "%s%s"},
+        {textid::checkTransferCut, "%d%d"},        {textid::checkBusyLoop, "%d%d"},
     };
     for (const StringId id : {textid::scriptCannotBeOpened,
                               textid::insertNamedScriptEvent,
@@ -101,8 +104,19 @@ TEST_P(LanguageTexts, HaveTheFormatPlacesThatTheProgramFills) {
                               textid::oldFileKept,
                               textid::convertedKeeping,
                               textid::conversionFailed,
-                              textid::watchedWaitForDropped,
+                              textid::scriptIsNotThereYet,
+                              textid::replaceRefusedFileQuestion,
                               textid::unsavedChangesKept,
+                              textid::checkLabelMissing,
+                              textid::checkNoSuchDate,
+                              textid::checkMenuCommandUnknown,
+                              textid::checkNotInHostType,
+                              textid::checkMergeConflict,
+                              textid::checkLabelUnused,
+                              textid::checkLabelAsAction,
+                              textid::checkVariableUnset,
+                              textid::checkTimeoutZero,
+                              textid::checkWaitForever,
                               textid::characterCannotBeStored})
         filled[id] = "%s";
     for (const StringId id :

@@ -50,13 +50,17 @@ TEST(MessageBoxTest, KeysGiveTheAnswerThatTheyMean) {
 
 TEST(FileDialogTest, StartsInTheFolderAddsTheExtensionAndNeverAsksToOverwrite) {
     const TemporaryFolder folder;
-    writeBytes(folder / "taken.qds", bytesOf("x"));
+    for (const char* name : {"taken.qds", "there.2"})
+        writeBytes(folder / name, bytesOf("x"));
     using enum FileDialogMode;
     const std::tuple<FileDialogMode, const char*, const char*> rows[] = {
         {Save, "new", "new.qds"},
         {Save, "taken", "taken.qds"},
         {Save, "taken.qds", "taken.qds"},
         {Save, "other.txt", "other.txt"},
+        {Save, "release1.2", "release1.2.qds"},
+        {Save, "there.2", "there.2"},
+        {Save, "A.QDS", "A.QDS"},
         {Open, "taken", "taken.qds"}};
     for (const auto& [mode, typed, chosen] : rows) {
         inNextDialog([name = typed](QWidget& dialog) {

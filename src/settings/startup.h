@@ -5,7 +5,7 @@
 
 #include "platform/environment.h"
 #include "platform/shell_folders.h"
-#include "session/startup_settings.h"
+#include "settings/startup_settings.h"
 
 #include <filesystem>
 
@@ -26,6 +26,10 @@ struct StartupInputs {
 /// windowClassName; all else as it is without settings. Enough to look for another editor's window,
 /// and nothing on disk has changed after it.
 [[nodiscard]] StartupSettings readProgramSettings(const StartupInputs& inputs);
+
+/// All settings as the editor would find them, for programs that only look something up in its
+/// folders. Makes none; where that decides, permissions tell whether files can be made in one.
+[[nodiscard]] StartupSettings findStartupSettings(const StartupInputs& inputs);
 
 /// All settings. Also makes the folders that they name, as far as that works, and tests whether
 /// files can be made in the working directory when a backup directory could take its place.

@@ -1,4 +1,4 @@
-#include "session/startup.h"
+#include "settings/startup.h"
 
 #include "platform/directories.h"
 #include "platform/process.h"
@@ -157,11 +157,10 @@ void findWorkingDir(const StartupInputs& inputs, const ProductKey& key, StartupS
     }
 }
 
-void applyBackupDir(const StartupInputs& inputs, StartupSettings& settings) {
-    const auto global = readProfileFile(settings.installDir / "global.ini");
-    const std::string configured = iniText(global, "Quendra", "BackupWorkingDir");
-    if (configured.empty()) return;
-    settings.backupDir = expandEnvironmentNames(configured, inputs.environment);
+// Whether the folders that settings name are made.
+enum class Folders : std::uint8_t { Make, Leave };
+
+void makeBackupFolders(const StartupSettings& settings) {
     makeDirectoryPath(settings.backupDir);
     if (settings.withSubfolders) {
         for (const char* name : {"Config", "Transfer", "Scripts"}) {
@@ -169,7 +168,17 @@ void applyBackupDir(const StartupInputs& inputs, StartupSettings& settings) {
         }
     }
     makeDirectoryPath(settings.workingDir);
-    if (canMakeFilesIn(settings.workingDir)) return;
+}
+
+void applyBackupDir(const StartupInputs& inputs, Folders folders, StartupSettings& settings) {
+    const auto global = readProfileFile(settings.installDir / "global.ini");
+    const std::string configured = iniText(global, "Quendra", "BackupWorkingDir");
+    if (configured.empty()) return;
+    settings.backupDir = expandEnvironmentNames(configured, inputs.environment);
+    if (folders == Folders::Make) makeBackupFolders(settings);
+    const bool isUsable = folders == Folders::Make ? canMakeFilesIn(settings.workingDir)
+                                                   : mayMakeFilesIn(settings.workingDir);
+    if (isUsable) return;
     settings.usingBackupDir = true;
     settings.workingDir = settings.backupDir;
 }
@@ -185,17 +194,41 @@ void readHelpSettings(StartupSettings& settings) {
     settings.webHelpBase = iniText(global, "Help", "WebHelpUrl");
 }
 
-void makeFolders(StartupSettings& settings) {
+void nameFolders(StartupSettings& settings) {
     const auto subfolder = [&](const char* name) {
         return settings.withSubfolders ? settings.workingDir / name : settings.workingDir;
     };
     settings.scriptsDir = subfolder("Scripts");
     settings.transferDir = subfolder("Transfer");
     settings.configDir = subfolder("Config");
+}
+
+void makeFolders(const StartupSettings& settings) {
     makeDirectoryPath(settings.workingDir);
     for (const auto& folder : {settings.scriptsDir, settings.transferDir, settings.configDir}) {
         makeDirectory(folder);
     }
+}
+
+StartupSettings settingsOf(const StartupInputs& inputs, Folders folders) {
+    StartupSettings settings = readProgramSettings(inputs);
+    settings.protectedMode = liesInProtectedFolder(inputs.programFile);
+    settings.webDeployed = isWebDeployed(inputs, settings);
+    settings.productKeyPath =
+        std::string(settings.webDeployed ? "Software\\Quendra Web\\" : "Software\\Quendra\\") +
+        productVersion;
+
+    const Registry registry = readRegistry(inputs.environment);
+    settings.baseRegistry = readBaseRegistry(registry, settings.productKeyPath);
+    const RegistryRoot root =
+        settings.baseRegistry == 2 ? RegistryRoot::CurrentUser : RegistryRoot::LocalMachine;
+    const ProductKey key = {registry, root, settings.productKeyPath};
+    settings.installDir = findInstallDir(inputs, key, settings);
+    findWorkingDir(inputs, key, settings);
+    applyBackupDir(inputs, folders, settings);
+    readHelpSettings(settings);
+    nameFolders(settings);
+    return settings;
 }
 
 }  // namespace
@@ -224,23 +257,12 @@ StartupSettings readProgramSettings(const StartupInputs& inputs) {
     return settings;
 }
 
-StartupSettings readStartupSettings(const StartupInputs& inputs) {
-    StartupSettings settings = readProgramSettings(inputs);
-    settings.protectedMode = liesInProtectedFolder(inputs.programFile);
-    settings.webDeployed = isWebDeployed(inputs, settings);
-    settings.productKeyPath =
-        std::string(settings.webDeployed ? "Software\\Quendra Web\\" : "Software\\Quendra\\") +
-        productVersion;
+StartupSettings findStartupSettings(const StartupInputs& inputs) {
+    return settingsOf(inputs, Folders::Leave);
+}
 
-    const Registry registry = readRegistry(inputs.environment);
-    settings.baseRegistry = readBaseRegistry(registry, settings.productKeyPath);
-    const RegistryRoot root =
-        settings.baseRegistry == 2 ? RegistryRoot::CurrentUser : RegistryRoot::LocalMachine;
-    const ProductKey key = {registry, root, settings.productKeyPath};
-    settings.installDir = findInstallDir(inputs, key, settings);
-    findWorkingDir(inputs, key, settings);
-    applyBackupDir(inputs, settings);
-    readHelpSettings(settings);
+StartupSettings readStartupSettings(const StartupInputs& inputs) {
+    StartupSettings settings = settingsOf(inputs, Folders::Make);
     makeFolders(settings);
     return settings;
 }

@@ -1,4 +1,4 @@
-#include "forms/json_names.h"
+#include "model/command_names.h"
 
 #include <algorithm>
 #include <array>
@@ -20,12 +20,12 @@ constexpr std::array otherNames = {
 
 }  // namespace
 
-std::string_view jsonCommandName(CommandCode code) {
+std::string_view commandName(CommandCode code) {
     const auto* row = std::ranges::find(otherNames, code, &CommandName::code);
     return row == otherNames.end() ? commandKeyword(code) : row->name;
 }
 
-std::optional<CommandCode> commandOfJsonName(std::string_view name) {
+std::optional<CommandCode> commandOfName(std::string_view name) {
     const auto* row = std::ranges::find(otherNames, name, &CommandName::name);
     return row == otherNames.end() ? commandOfKeyword(name) : row->code;
 }

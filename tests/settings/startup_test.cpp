@@ -1,5 +1,5 @@
 // Where folders, flags and help settings come from, each case in a home folder of its own.
-#include "session/startup.h"
+#include "settings/startup.h"
 
 #include "support/temporary_folder.h"
 

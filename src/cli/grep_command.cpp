@@ -1,0 +1,73 @@
+// qds grep: which scripts, steps and fields hold a text.
+
+#include "analysis/field_search.h"
+#include "cli/progress_line.h"
+#include "cli/qds.h"
+#include "cli/script_paths.h"
+#include "text/text_encoding.h"
+
+namespace quendra::cli {
+
+namespace {
+
+class Grep {
+  public:
+    Grep(const GrepRequest& request, Environment& environment)
+        : request_(request),
+          environment_(environment),
+          filter_(request.search.fields),
+          progress_(environment) {}
+
+    int run() {
+        const bool areFoldersRead = forEachScriptFile(
+            environment_, request_.files, [this](const std::string& file) { searchFile(file); });
+        if (request_.search.pattern->gaveUp()) {
+            progress_.clear();
+            environment_.err << gaveUpMessage << std::endl;
+            hasTrouble_ = true;
+        }
+        if (hasTrouble_ || !areFoldersRead) return statusTrouble;
+        return isFound_ ? statusWell : statusFound;
+    }
+
+  private:
+    void searchFile(const std::string& file) {
+        const auto source = readScriptInput(environment_, file);
+        if (source) print(file, source->read.script);
+        environment_.out.flush();
+        if (!source || !reportReading(environment_, file, source->read)) hasTrouble_ = true;
+        progress_.count();
+    }
+
+    void print(const std::string& file, const Script& script) {
+        const TextPattern& pattern = *request_.search.pattern;
+        if (request_.filesOnly) {
+            if (!holdsMatch(script, pattern, filter_)) return;
+            isFound_ = true;
+            progress_.clear();
+            environment_.out << shownName(file) << '\n';
+            return;
+        }
+        for (const FieldHit& hit : searchFields(script, pattern, filter_)) {
+            isFound_ = true;
+            progress_.clear();
+            environment_.out << shownName(file) << ':' << hit.place.step + 1 << ':' << hit.path
+                             << ": " << escapeControlCharacters(hit.value) << '\n';
+        }
+    }
+
+    const GrepRequest& request_;
+    Environment& environment_;
+    FieldFilter filter_;
+    ProgressLine progress_;
+    bool isFound_ = false;
+    bool hasTrouble_ = false;
+};
+
+}  // namespace
+
+int searchScripts(const GrepRequest& request, Environment& environment) {
+    return Grep(request, environment).run();
+}
+
+}  // namespace quendra::cli
