@@ -27,16 +27,18 @@ QString dateFormat() {
     return format;
 }
 
-// The user's long time, for it has seconds, without the zone, which is a "t" that no quotes stand
-// around.
+// The user's long time, for it has seconds. The zone, a "t" that no quotes stand around, goes, and
+// the part of the day, "B", which no field has, becomes one half of it.
 QString timeFormat() {
     const QString format = QLocale().timeFormat(QLocale::LongFormat);
-    static const QRegularExpression zone(QStringLiteral(R"(('[^']*')|\s*[\[(]?t+[\])]?\s*)"));
+    static const QRegularExpression zone(QStringLiteral(R"(('[^']*')|,?\s*[\[(]?t+[\])]?\s*|B+)"));
     QString kept;
     qsizetype end = 0;
     for (auto matches = zone.globalMatch(format); matches.hasNext();) {
         const auto match = matches.next();
-        kept += format.mid(end, match.capturedStart() - end) + match.captured(1);
+        const bool isPartOfDay = match.capturedView().startsWith(u'B');
+        kept += format.mid(end, match.capturedStart() - end) +
+                (isPartOfDay ? QStringLiteral("AP ") : match.captured(1));
         end = match.capturedEnd();
     }
     return (kept + format.mid(end)).trimmed();

@@ -246,6 +246,8 @@ TEST_F(DialogTest, ATimeStandsWithSecondsInTheWordsAndSignsOfTheLocale) {
     for (const auto& [locale, time] : {std::pair{"en_US", "3:04:05 PM"},
                                        {"de_DE", "15:04:05"},
                                        {"fi_FI", "15.04.05"},
+                                       {"be_BY", "15:04:05"},
+                                       {"zh_TW", "下午 3:04:05"},
                                        {"fr_CA", "15 h 04 min 05 s"},
                                        {"ja_JP", "15時04分05秒"}}) {
         QLocale::setDefault(QLocale(QLatin1String(locale)));
