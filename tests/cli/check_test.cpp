@@ -2,6 +2,8 @@
 #include "analysis/check_rules.h"
 #include "cli/qds_run.h"
 
+#include <algorithm>
+#include <iterator>
 #include <nlohmann/json.hpp>
 #include <set>
 
@@ -35,7 +37,8 @@ struct Row {
 
 constexpr const char* transferToA = R"("transferSettings": {"hostFileName": "A")";
 
-const std::vector<Row>& rows() {
+// What is wrong with a step by itself, or with the names of labels.
+std::vector<Row> stepRows() {
     static const std::string transfer = R"({"command": "Menu_Command", "commandId": 236, )";
     static const std::string incomplete = transfer + transferToA + "}}";
     static const std::string cut = transfer + transferToA + R"(, "pcFileName": "b",)" +
@@ -44,7 +47,7 @@ const std::vector<Row>& rows() {
                                    R"("}})";
     static const std::string withPassword = transfer + transferToA + R"(, "pcFileName": "b",
         "hostFilePassword": "pw"}})";
-    static const std::vector<Row> all = {
+    return {
         {"nothing",
          R"({"command": "Label", "text": "a"}, {"command": "Wait", "number": 1},
             {"command": "Goto", "text": "a"})",
@@ -101,6 +104,12 @@ const std::vector<Row>& rows() {
             {"command": "Comment", "text": ">>>>>>> theirs"},
             {"command": "Comment", "text": "<<<<<<<<"})",
          {"1 entry merge-conflict 3 5"}},
+    };
+}
+
+// What only the steps around one show.
+std::vector<Row> wayRows() {
+    return {
         {"what nothing leads to",
          R"({"command": "Return"}, {"command": "Comment", "text": "c"}, {"command": "Beep"},
             {"command": "Beep"})",
@@ -163,6 +172,11 @@ const std::vector<Row>& rows() {
             {"command": "Watch_For", "text": "w", "then": {"command": "Type", "text": ""}})",
          {"5 entry label-unused", "8 entry label-unused"}},
     };
+}
+
+std::vector<Row> rows() {
+    std::vector<Row> all = stepRows();
+    std::ranges::copy(wayRows(), std::back_inserter(all));
     return all;
 }
 

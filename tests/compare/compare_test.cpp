@@ -65,7 +65,7 @@ std::size_t lengthByTable(const std::vector<std::uint32_t>& left,
 
 TEST(CommonPart, IsALongestOneAcrossTheEdgesOfWords) {
     std::mt19937 random(1);
-    for (int round = 0; round < 300; ++round) {
+    for (std::uint32_t round = 0; round < 300; ++round) {
         std::vector<std::uint32_t> lists[2];
         for (auto& list : lists) {
             list.resize(random() % 200);

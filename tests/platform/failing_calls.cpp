@@ -48,6 +48,8 @@ FailingCalls::~FailingCalls() {
 
 using quendra::test::callUnlessItFails;
 
+// The names of the library's own parameters are reserved.
+// NOLINTBEGIN(readability-inconsistent-declaration-parameter-name)
 extern "C" {
 
 int fchmod(int file, mode_t mode) noexcept {
@@ -72,3 +74,4 @@ int stat(const char* path, struct stat* state) noexcept {
     return callUnlessItFails("stat", path, state);
 }
 }
+// NOLINTEND(readability-inconsistent-declaration-parameter-name)
