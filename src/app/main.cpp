@@ -153,9 +153,10 @@ int runEditor(int& argc, char** argv, const CommandLine& line, const PictureOpti
 
     const StartupSettings settings = readStartupSettings(inputs);
     installCrashReporter(inputs.programFile, settings.workingDir);
-    useToolkitLanguage(settings.configDir);
     ApplicationState state;
-    showNotices(loadApplication(state, settings, inputs.environment));
+    const auto notices = loadApplication(state, settings, inputs.environment);
+    useToolkitLanguage(state.language.language());
+    showNotices(notices);
     if (picture.file.isEmpty()) tellCipherFailures(state);
     const int status = runWindow(state, shown, line, picture, fontSettings);
     wipeApplication(state);

@@ -177,8 +177,11 @@ UserCipher::UserCipher(Environment& environment) : cipher(userIdentity()) {
 
 EntryNames::EntryNames(Environment& environment, NamesFor reader) {
     LanguageFolders folders = environment.languages;
-    // The default is the English one.
-    if (reader == NamesFor::JsonForm) folders.configDir.clear();
+    if (reader == NamesFor::JsonForm) {
+        // The names of the form are the English ones.
+        folders.configDir.clear();
+        folders.language.clear();
+    }
     const auto notice = library.load(folders);
     if (notice) report(environment, notice->text, notice->caption);
     isLoaded = !notice;

@@ -15,12 +15,13 @@ using namespace quendra::cli;
 
 int run(const std::vector<std::string>& arguments, std::ostream& out, std::ostream& err) {
     const auto settings = quendra::findStartupSettings(quendra::processStartupInputs());
-    Environment environment = {0,
-                               out,
-                               err,
-                               {settings.programDir, settings.configDir, settings.installDir},
-                               quendra::isTerminal(2),
-                               quendra::isTerminal(1)};
+    Environment environment = {
+        0,
+        out,
+        err,
+        {settings.programDir, settings.configDir, settings.installDir, systemLanguage()},
+        quendra::isTerminal(2),
+        quendra::isTerminal(1)};
     try {
         return runQds(arguments, environment);
     } catch (const std::exception& exception) {

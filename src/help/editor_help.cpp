@@ -50,8 +50,7 @@ void EditorHelp::showHelp() {
 void EditorHelp::openPage(const QString& page) {
     if (!manual_) {
         manual_ = std::make_unique<HelpWindow>(
-            Manual(manualFolder(state_.settings.programDir),
-                   interfaceLanguage(state_.settings.configDir)),
+            Manual(manualFolder(state_.settings.programDir), state_.language.language()),
             state_.language, [this](const QString& address) {
                 static_cast<void>(launchers_.openAddress(address.toStdString()));
             });

@@ -11,8 +11,8 @@ std::vector<StartupNotice> loadApplication(ApplicationState& state, const Startu
                                            const Environment& environment) {
     std::vector<StartupNotice> notices;
     state.settings = settings;
-    if (const auto notice =
-            state.language.load({settings.programDir, settings.configDir, settings.installDir})) {
+    if (const auto notice = state.language.load(
+            {settings.programDir, settings.configDir, settings.installDir, systemLanguage()})) {
         notices.push_back({notice->text, notice->caption});
     }
     state.luCatalogues = buildLuCatalogues(state.language.textSource());

@@ -6,7 +6,9 @@
 #include <QByteArray>
 #include <QCryptographicHash>
 #include <QFile>
+#include <QLocale>
 #include <QString>
+#include <QStringList>
 #include <QTranslator>
 
 #include <algorithm>
@@ -63,8 +65,13 @@ std::string languageBaseName(const fs::path& configDir) {
     const auto profile =
         configDir.empty() ? std::nullopt : readProfileFile(configDir / "language.ini");
     const auto name = profile ? lookup(*profile, "Language", "Language") : std::nullopt;
-    if (!name || name->empty()) return defaultBaseName;
-    return cut(QString::fromStdString(*name), maxBaseName).toStdString();
+    return cut(QString::fromStdString(name.value_or("")), maxBaseName).toStdString();
+}
+
+std::string systemLanguage() {
+    const QStringList languages = QLocale::system().uiLanguages();
+    return languages.isEmpty() ? std::string()
+                               : languages.first().section(u'-', 0, 0).toStdString();
 }
 
 LanguageLibrary::LanguageLibrary(std::function<void(const LanguageNotice&)> report)
@@ -73,13 +80,26 @@ LanguageLibrary::LanguageLibrary(std::function<void(const LanguageNotice&)> repo
 LanguageLibrary::~LanguageLibrary() = default;
 
 std::optional<LanguageNotice> LanguageLibrary::load(const LanguageFolders& folders) {
-    const auto baseName = languageBaseName(folders.configDir);
+    std::string baseName = languageBaseName(folders.configDir);
+    if (baseName.empty()) {
+        // A language that nobody asked for by name may be missing.
+        const std::string fitting = std::string(defaultBaseName) + "_" + folders.language;
+        if (!folders.language.empty() && loadFrom(folders, fitting)) return std::nullopt;
+        baseName = defaultBaseName;
+    }
+    if (loadFrom(folders, baseName)) return std::nullopt;
+    return LanguageNotice{libraryPath(folders.installDir, baseName).string(),
+                          "Unable to load language library"};
+}
+
+bool LanguageLibrary::loadFrom(const LanguageFolders& folders, const std::string& baseName) {
+    const std::size_t at = baseName.find('_');
+    language_ = at == std::string::npos ? std::string() : baseName.substr(at + 1);
     for (const auto& folder : {folders.programDir, folders.programDir / dataFolder}) {
-        if (loadFile(libraryPath(folder, baseName))) return std::nullopt;
+        if (loadFile(libraryPath(folder, baseName))) return true;
     }
     const fs::path last = libraryPath(folders.installDir, baseName);
-    if (isTrusted(last) && loadFile(last)) return std::nullopt;
-    return LanguageNotice{last.string(), "Unable to load language library"};
+    return isTrusted(last) && loadFile(last);
 }
 
 // Read here and not by the toolkit, which goes on with shorter names ("qdstring" for a missing

@@ -34,13 +34,19 @@ struct LanguageNotice {
 // Where the library and its setting are looked for.
 struct LanguageFolders {
     std::filesystem::path programDir;  // the folder of the program file
-    std::filesystem::path configDir;   // holds "language.ini"; empty: the default, English
+    std::filesystem::path configDir;   // holds "language.ini"; may be empty
     std::filesystem::path installDir;
+    // Whose library is taken where none is set: "qdstring_de" for "de", and "qdstring", the English
+    // one, for any language that there is none of, and for none.
+    std::string language = {};
 };
 
-// The base name of the library: "Language" of section "Language" in "language.ini" of `configDir`,
-// cut to 64 characters; "qdstring" when that is missing or empty.
+// The base name that is set for the library: "Language" of section "Language" in "language.ini" of
+// `configDir`, cut to 64 characters; empty when that is missing or empty.
 [[nodiscard]] std::string languageBaseName(const std::filesystem::path& configDir);
+
+// The language that the user's system speaks, "de", as the environment says.
+[[nodiscard]] std::string systemLanguage();
 
 // One loaded library. loadText may be called from any thread; load, unload and the destructor only
 // while no other thread uses it.
@@ -61,6 +67,9 @@ class LanguageLibrary {
     // when anybody but the user and root may have written it, for that may be any current folder.
     [[nodiscard]] std::optional<LanguageNotice> load(const LanguageFolders& folders);
 
+    // The language of the library that was asked for: "de" for "qdstring_de", empty for "qdstring".
+    [[nodiscard]] const std::string& language() const { return language_; }
+
     // Drops the texts; loadText then gives empty ones.
     void unload();
 
@@ -73,10 +82,12 @@ class LanguageLibrary {
     [[nodiscard]] TextSource textSource();
 
   private:
+    bool loadFrom(const LanguageFolders& folders, const std::string& baseName);
     bool loadFile(const std::filesystem::path& path);
     bool servesThisThread();
 
     std::function<void(const LanguageNotice&)> report_;
+    std::string language_;
     // What the texts are read from as long as they are used.
     QByteArray file_;
     std::unique_ptr<QTranslator> texts_;

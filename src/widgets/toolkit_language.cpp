@@ -1,6 +1,5 @@
 #include "widgets/toolkit_language.h"
 
-#include "text/language_library.h"
 #include "widgets/ui_text.h"
 
 #include <QCoreApplication>
@@ -11,14 +10,7 @@
 
 namespace quendra {
 
-std::string interfaceLanguage(const std::filesystem::path& configDir) {
-    const std::string library = languageBaseName(configDir);
-    const std::size_t at = library.find('_');
-    return at == std::string::npos ? std::string() : library.substr(at + 1);
-}
-
-void useToolkitLanguage(const std::filesystem::path& configDir) {
-    const std::string language = interfaceLanguage(configDir);
+void useToolkitLanguage(const std::string& language) {
     if (language.empty()) return;
     auto texts = std::make_unique<QTranslator>(QCoreApplication::instance());
     const QString name = QLatin1String("qtbase_") + qtText(language);

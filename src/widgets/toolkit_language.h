@@ -1,19 +1,12 @@
-// The language of the user interface, and the texts that the toolkit itself shows in it, such as
-// the buttons of message boxes.
+// The texts that the toolkit itself shows, such as the buttons of message boxes.
 #pragma once
 
-#include <filesystem>
 #include <string>
 
 namespace quendra {
 
-/// The language of the library that "language.ini" in `configDir` names: "de" for "qdstring_de",
-/// empty for "qdstring".
-[[nodiscard]] std::string interfaceLanguage(const std::filesystem::path& configDir);
-
-/// Has the running application speak the language of the library that "language.ini" in `configDir`
-/// names: the toolkit's own texts for "de" when the library is called "qdstring_de". They stay
-/// English when the library's name ends in no language or the toolkit lacks that one.
-void useToolkitLanguage(const std::filesystem::path& configDir);
+/// Has the toolkit in the running application speak this language ("de"), that of the language
+/// library. It stays English for an empty one and for one that the toolkit lacks.
+void useToolkitLanguage(const std::string& language);
 
 }  // namespace quendra

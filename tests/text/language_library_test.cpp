@@ -42,7 +42,7 @@ class LanguageLibraryTest : public testing::Test {
     }
 
     const TemporaryFolder root;
-    const LanguageFolders folders = {root / "usr/bin", root / "config", root / "install"};
+    LanguageFolders folders = {root / "usr/bin", root / "config", root / "install"};
     std::vector<LanguageNotice> reported;
     LanguageLibrary library{[this](const LanguageNotice& notice) { reported.push_back(notice); }};
 };
@@ -73,6 +73,14 @@ TEST_F(LanguageLibraryTest, MissingIsReportedWithTheLastPathAndNotReplacedByASho
     EXPECT_TRUE(library.load(folders)) << "an absolute name stays below the folders";
     configure("Language=");
     EXPECT_EQ(cancelAfterLoad(), "Cancel");
+    folders.language = "fr";
+    EXPECT_EQ(cancelAfterLoad(), "Cancel") << "nobody asked for French by name";
+    EXPECT_EQ(library.language(), "");
+    folders.language = "de";
+    EXPECT_EQ(cancelAfterLoad(), "Abbrechen");
+    EXPECT_EQ(library.language(), "de");
+    configure("Language=qdstring");
+    EXPECT_EQ(cancelAfterLoad(), "Cancel") << "what is set goes before what fits";
     configure("LANGUAGE=\"" + std::string(70, 'n') + "\"");
     EXPECT_EQ(languageBaseName(folders.configDir), std::string(64, 'n'));
 }
