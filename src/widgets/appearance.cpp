@@ -15,6 +15,7 @@ struct Colours {
     QRgb alternate;
     QRgb text;
     QRgb disabledText;
+    QRgb placeholderText;
     QRgb button;
     QRgb highlight;
     QRgb highlightedText;
@@ -37,7 +38,8 @@ constexpr Colours lightColours = {
     .base = 0xffffffff,
     .alternate = 0xfff7f8fa,
     .text = 0xff1b1f24,
-    .disabledText = 0xff9298a1,
+    .disabledText = 0xff7a818b,
+    .placeholderText = 0xff69707a,
     .button = 0xfff3f4f6,
     .highlight = 0xff2463c5,
     .highlightedText = 0xffffffff,
@@ -57,7 +59,8 @@ constexpr Colours darkColours = {
     .base = 0xff1c1f23,
     .alternate = 0xff212429,
     .text = 0xffe6e8eb,
-    .disabledText = 0xff787e87,
+    .disabledText = 0xff7d848e,
+    .placeholderText = 0xff8f96a0,
     .button = 0xff32363c,
     .highlight = 0xff2f6bc6,
     .highlightedText = 0xffffffff,
@@ -87,7 +90,7 @@ QPalette paletteOf(const Colours& c) {
     set(QPalette::ButtonText, c.text);
     set(QPalette::ToolTipBase, c.toolTip);
     set(QPalette::ToolTipText, c.text);
-    set(QPalette::PlaceholderText, c.disabledText);
+    set(QPalette::PlaceholderText, c.placeholderText);
     set(QPalette::Link, c.link);
     set(QPalette::LinkVisited, c.link);
     set(QPalette::Highlight, c.highlight);

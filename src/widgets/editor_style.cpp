@@ -1,5 +1,8 @@
 #include "widgets/editor_style.h"
 
+#include "widgets/contrast.h"
+#include "widgets/scroll_bar_look.h"
+
 #include <QAbstractItemView>
 #include <QGuiApplication>
 #include <QIconEngine>
@@ -96,25 +99,25 @@ QIcon extensionIcon() {
     }));
 }
 
-// Fusion derives its edges from the window's colour, and on dark they drown in it. A copy of the
-// option with another window colour makes it draw edges that show; nothing else of these parts has
-// that colour.
+// Fusion derives its edges from the window's colour and from the selection's, too near to the
+// grounds to be seen by everybody. A copy of the option with others makes it draw edges that show;
+// nothing else of these parts has those colours.
 template <class Option>
-Option withVisibleEdge(const Option& option, QPalette::ColorRole edge) {
+Option withVisibleEdge(const Option& option) {
     constexpr int darkening = 140;
+    constexpr int focusDarkening = 125;
     Option visible = option;
-    if (isDark(option.palette)) {
-        visible.palette.setColor(QPalette::Window, option.palette.color(edge).lighter(darkening));
-    }
+    const QPalette& palette = option.palette;
+    visible.palette.setColor(QPalette::Window, edgeColor(palette).lighter(darkening));
+    visible.palette.setColor(QPalette::Highlight, focusColor(palette).lighter(focusDarkening));
     return visible;
 }
 
-void drawListEdge(const QStyleOption& option, QPainter& painter, bool focused) {
+void drawEdge(const QStyleOption& option, QPainter& painter, bool focused) {
     const QPalette& palette = option.palette;
-    const QPalette::ColorRole plain = isDark(palette) ? QPalette::Light : QPalette::Mid;
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing, false);
-    painter.setPen(palette.color(QPalette::Active, focused ? QPalette::Highlight : plain));
+    painter.setPen(focused ? focusColor(palette) : edgeColor(palette));
     painter.setBrush(Qt::NoBrush);
     painter.drawRect(option.rect.adjusted(0, 0, -1, -1));
     painter.restore();
@@ -144,7 +147,7 @@ void EditorStyle::drawControl(ControlElement element, const QStyleOption* option
     QProxyStyle::drawControl(element, option, painter, widget);
     if (element == CE_ShapedFrame && (qobject_cast<const QAbstractItemView*>(widget) ||
                                       qobject_cast<const QPlainTextEdit*>(widget))) {
-        drawListEdge(*option, *painter, widget->hasFocus());
+        drawEdge(*option, *painter, widget->hasFocus());
     }
 }
 
@@ -153,11 +156,13 @@ void EditorStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* op
     const auto* box = qstyleoption_cast<const QStyleOptionButton*>(option);
     const auto* frame = qstyleoption_cast<const QStyleOptionFrame*>(option);
     if (box && (element == PE_IndicatorCheckBox || element == PE_IndicatorRadioButton)) {
-        const auto visible = withVisibleEdge(*box, QPalette::PlaceholderText);
+        const auto visible = withVisibleEdge(*box);
         QProxyStyle::drawPrimitive(element, &visible, painter, widget);
     } else if (frame && element == PE_FrameLineEdit) {
-        const auto visible = withVisibleEdge(*frame, QPalette::Light);
+        const auto visible = withVisibleEdge(*frame);
         QProxyStyle::drawPrimitive(element, &visible, painter, widget);
+    } else if (element == PE_FrameFocusRect) {
+        drawEdge(*option, *painter, true);
     } else {
         QProxyStyle::drawPrimitive(element, option, painter, widget);
     }
@@ -167,11 +172,14 @@ void EditorStyle::drawComplexControl(ComplexControl control, const QStyleOptionC
                                      QPainter* painter, const QWidget* widget) const {
     const auto* spin = qstyleoption_cast<const QStyleOptionSpinBox*>(option);
     const auto* combo = qstyleoption_cast<const QStyleOptionComboBox*>(option);
-    if (spin && control == CC_SpinBox) {
-        const auto visible = withVisibleEdge(*spin, QPalette::Light);
+    const auto* slider = qstyleoption_cast<const QStyleOptionSlider*>(option);
+    if (slider && control == CC_ScrollBar) {
+        drawScrollBar(*proxy(), *slider, *painter, widget);
+    } else if (spin && control == CC_SpinBox) {
+        const auto visible = withVisibleEdge(*spin);
         QProxyStyle::drawComplexControl(control, &visible, painter, widget);
     } else if (combo && control == CC_ComboBox) {
-        const auto visible = withVisibleEdge(*combo, QPalette::Light);
+        const auto visible = withVisibleEdge(*combo);
         QProxyStyle::drawComplexControl(control, &visible, painter, widget);
     } else {
         QProxyStyle::drawComplexControl(control, option, painter, widget);

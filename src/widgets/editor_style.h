@@ -5,11 +5,10 @@
 
 namespace quendra {
 
-/// Lists and fields have an edge that shows on dark too. Lists show that they have the focus, and
-/// show their selection quietly when they have not. Buttons have no pictures, messages have plain
-/// ones, the toolbar no line of its own, since the pane below draws one, and its buttons are
-/// close together, and a hidden text is
-/// asterisks, as in the script list.
+/// Lists, fields and scroll bars have edges and handles that everybody can see. Lists show that
+/// they have the focus, and show their selection quietly when they have not. Buttons have no
+/// pictures, messages have plain ones, the toolbar no line of its own, since the pane below draws
+/// one, and its buttons are close together, and a hidden text is asterisks, as in the script list.
 class EditorStyle : public QProxyStyle {
     Q_OBJECT
 

@@ -1,5 +1,6 @@
 #include "widgets/pane_list.h"
 
+#include "widgets/contrast.h"
 #include "widgets/symbol_icon.h"
 
 #include <QFocusEvent>

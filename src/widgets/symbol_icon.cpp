@@ -1,6 +1,7 @@
 // A QIconEngine that renders single-colour drawings in the colours of the palette.
 #include "widgets/symbol_icon.h"
 
+#include "widgets/contrast.h"
 #include "widgets/drawing.h"
 #include "widgets/icon_catalogue.h"
 
@@ -194,21 +195,6 @@ QIcon keptIcon(QHash<int, QIcon>& icons, int bitmapId, HotForm hotForm) {
     return *icons.insert(bitmapId, symbolIcon(bitmapId, hotForm));
 }
 
-// Relative luminance and contrast ratio as accessibility guidelines define them.
-double luminance(const QColor& colour) {
-    const auto linear = [](double part) {
-        return part <= 0.03928 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
-    };
-    return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) +
-           0.0722 * linear(colour.blueF());
-}
-
-double contrast(const QColor& a, const QColor& b) {
-    const double light = std::max(luminance(a), luminance(b));
-    const double dark = std::min(luminance(a), luminance(b));
-    return (light + 0.05) / (dark + 0.05);
-}
-
 }  // namespace
 
 QIcon bitmapIcon(int bitmapId) {
@@ -225,21 +211,6 @@ QIcon programIcon() {
     QIcon& icon = iconStore().program;
     if (icon.isNull()) icon = QIcon(new ProgramIconEngine);
     return icon;
-}
-
-QColor accentColor(const QPalette& palette) {
-    constexpr double enough = 4.5;
-    constexpr int steps = 32;
-    const QColor base = palette.color(QPalette::Active, QPalette::Base);
-    const QColor highlight = palette.color(QPalette::Active, QPalette::Highlight).toHsl();
-    const float start = highlight.lightnessF();
-    const float end = luminance(base) < 0.18 ? 1.0F : 0.0F;
-    QColor accent = highlight;
-    for (int i = 1; i <= steps && contrast(accent, base) < enough; ++i) {
-        const float lightness = start + (end - start) * static_cast<float>(i) / steps;
-        accent = QColor::fromHslF(highlight.hslHueF(), highlight.hslSaturationF(), lightness);
-    }
-    return accent.toRgb();
 }
 
 }  // namespace quendra

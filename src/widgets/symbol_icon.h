@@ -6,10 +6,8 @@
 // These functions belong to the user-interface thread.
 #pragma once
 
-#include <QColor>
 #include <QIcon>
 
-class QPalette;
 
 namespace quendra {
 
@@ -28,9 +26,5 @@ namespace quendra {
 
 // The program's own full-colour icon, for windows and the About box.
 [[nodiscard]] QIcon programIcon();
-
-// The accent colour in a palette: its highlight colour, lightened or darkened as far as it must be
-// to stand out as a thin line on the palette's base colour.
-[[nodiscard]] QColor accentColor(const QPalette& palette);
 
 }  // namespace quendra

@@ -3,6 +3,7 @@
 #include "scriptfile/entry_codec.h"
 #include "text/text_encoding.h"
 #include "text/text_ids.h"
+#include "widgets/contrast.h"
 #include "widgets/pane_list.h"
 #include "widgets/symbol_icon.h"
 #include "widgets/tool_tip.h"
