@@ -3803,5 +3803,17 @@ Replace it? The old file is kept as a backup beside it.</translation>
         <translation>You have no user identity: hidden texts are only obscured</translation>
         <extra-name>checkHiddenWithoutKey</extra-name>
     </message>
+    <message id="17350">
+        <source>Quendra Script Editor Help</source>
+        <extracomment>Help window: title over the start page</extracomment>
+        <translation>Quendra Script Editor Help</translation>
+        <extra-name>helpStartTitle</extra-name>
+    </message>
+    <message id="17351">
+        <source>Find in this page</source>
+        <extracomment>Help window: field that searches the page</extracomment>
+        <translation>Find in this page</translation>
+        <extra-name>helpFindInPage</extra-name>
+    </message>
 </context>
 </TS>

@@ -3172,5 +3172,15 @@ Ersetzen? Die alte Datei bleibt als Sicherungskopie daneben erhalten.</translati
         <extracomment>Check</extracomment>
         <translation>Sie haben keine Benutzerkennung: Verborgene Texte sind nur verschleiert</translation>
     </message>
+    <message id="17350">
+        <source>Quendra Script Editor Help</source>
+        <extracomment>Help window: title over the start page</extracomment>
+        <translation>Hilfe zum Quendra Script Editor</translation>
+    </message>
+    <message id="17351">
+        <source>Find in this page</source>
+        <extracomment>Help window: field that searches the page</extracomment>
+        <translation>Auf dieser Seite suchen</translation>
+    </message>
 </context>
 </TS>

@@ -1,6 +1,7 @@
 #include "help/help_window.h"
 
 #include "help/page_finder.h"
+#include "help/page_search.h"
 #include "help/page_view.h"
 #include "text/text_ids.h"
 #include "widgets/placement.h"
@@ -8,6 +9,7 @@
 #include "widgets/ui_text.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QKeyEvent>
 #include <QScreen>
 #include <QScrollBar>
@@ -43,7 +45,6 @@ HelpWindow::HelpWindow(Manual manual, LanguageLibrary& language,
     constexpr QSize comfortable{1020, 720};
     resize(comfortable.boundedTo(screen()->availableSize()));
     build();
-    centreOnScreen(*this);
 }
 
 QString HelpWindow::text(StringId id, std::initializer_list<std::string> args) const {
@@ -88,6 +89,8 @@ QWidget* HelpWindow::buildPage() {
     all->setContentsMargins(0, 0, 0, 0);
     all->addWidget(buildBar());
     all->addWidget(view_, 1);
+    search_ = new PageSearch(*view_, language_);
+    all->addWidget(search_);
     return right;
 }
 
@@ -123,7 +126,10 @@ QToolBar* HelpWindow::buildBar() {
 // What has no button.
 void HelpWindow::addKeys() {
     addCommand("helpNormal", 0, 0, {Qt::CTRL | Qt::Key_0}, &HelpWindow::zoomNormal);
-    addCommand("helpFocusSearch", 0, 0, {QKeySequence(QKeySequence::Find)},
+    addCommand("helpFind", 0, 0, {QKeySequence(QKeySequence::Find)}, &HelpWindow::findInPage);
+    addCommand("helpFindNext", 0, 0, {Qt::Key_F3}, &HelpWindow::findNext);
+    addCommand("helpFindPrevious", 0, 0, {Qt::SHIFT | Qt::Key_F3}, &HelpWindow::findPrevious);
+    addCommand("helpFocusSearch", 0, 0, {Qt::CTRL | Qt::SHIFT | Qt::Key_F},
                &HelpWindow::focusSearch);
     addCommand("helpNextPart", 0, 0, {Qt::Key_F6}, &HelpWindow::focusNext);
     addCommand("helpPreviousPart", 0, 0, {Qt::SHIFT | Qt::Key_F6}, &HelpWindow::focusPrevious);
@@ -142,12 +148,21 @@ QAction* HelpWindow::addCommand(const char* name, int icon, StringId toolTip,
 }
 
 void HelpWindow::open(const QString& page, const QString& heading) {
+    placeAtFirst();
     goTo({page, heading, 0});
     show();
     setWindowState(windowState() & ~Qt::WindowMinimized);
     raise();
     activateWindow();
     if (focusWidget() == nullptr) view_->setFocus();
+}
+
+// Beside the window that asks, so that both are seen; later where the user left it.
+void HelpWindow::placeAtFirst() {
+    if (isPlaced_) return;
+    isPlaced_ = true;
+    const QWidget* asking = QApplication::activeWindow();
+    asking ? placeBeside(*this, *asking) : centreOnScreen(*this);
 }
 
 void HelpWindow::goTo(const Place& place) {
@@ -171,7 +186,10 @@ void HelpWindow::showPlace(const Place& place) {
     } else {
         view_->showPage(html, file.section(u'/', 0, -2));
     }
-    setWindowTitle(text(textid::helpWindowTitle, {title.toStdString()}));
+    const bool isStart = place.page == QLatin1String(Manual::startPage);
+    setWindowTitle(isStart ? text(textid::helpStartTitle)
+                           : text(textid::helpWindowTitle, {title.toStdString()}));
+    search_->pageChanged();
     finder_->selectPage(place.page);
     back_->setEnabled(!behind_.empty());
     forward_->setEnabled(!ahead_.empty());
@@ -235,6 +253,18 @@ void HelpWindow::zoomNormal() {
 
 void HelpWindow::focusSearch() {
     finder_->focusSearch();
+}
+
+void HelpWindow::findInPage() {
+    search_->open();
+}
+
+void HelpWindow::findNext() {
+    search_->go(1);
+}
+
+void HelpWindow::findPrevious() {
+    search_->go(-1);
 }
 
 void HelpWindow::focusNext() {

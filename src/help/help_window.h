@@ -16,6 +16,7 @@ class QUrl;
 namespace quendra {
 
 class PageFinder;
+class PageSearch;
 class PageView;
 
 /// A window of its own, which keeps size, place and page while it is closed. It does not keep the
@@ -53,6 +54,7 @@ class HelpWindow : public QWidget {
     QAction* addCommand(const char* name, int icon, StringId toolTip,
                         const QList<QKeySequence>& keys, void (HelpWindow::*act)());
 
+    void placeAtFirst();
     void goTo(const Place& place);
     void showPlace(const Place& place);
     void showMissing(const QString& page);
@@ -65,6 +67,9 @@ class HelpWindow : public QWidget {
     void zoomOut();
     void zoomNormal();
     void focusSearch();
+    void findInPage();
+    void findNext();
+    void findPrevious();
     void focusNext();
     void focusPrevious();
     void moveFocus(int step);
@@ -77,8 +82,11 @@ class HelpWindow : public QWidget {
     std::vector<Place> behind_;
     std::vector<Place> ahead_;
 
+    bool isPlaced_ = false;
+
     PageFinder* finder_ = nullptr;
     PageView* view_ = nullptr;
+    PageSearch* search_ = nullptr;
     QAction* back_ = nullptr;
     QAction* forward_ = nullptr;
 };

@@ -19,6 +19,8 @@ namespace {
 constexpr int smallestZoom = 70;
 constexpr int largestZoom = 300;
 constexpr double largerThanControls = 1.08;
+constexpr QRgb markColour = 0xffffe59a;
+constexpr QRgb currentMarkColour = 0xffffb300;
 // Longer lines are hard to follow.
 constexpr int charactersInALine = 100;
 
@@ -74,7 +76,7 @@ QTextCursor PageView::markAll(const QStringList& words) {
         for (; !found.isNull(); found = document()->find(word, found)) {
             ExtraSelection mark;
             mark.cursor = found;
-            mark.format.setBackground(QColor::fromRgb(0xffffd54f));
+            mark.format.setBackground(QColor::fromRgb(markColour));
             mark.format.setForeground(Qt::black);
             marks.append(mark);
             const bool inTitle = found.block() == document()->begin();
@@ -83,6 +85,22 @@ QTextCursor PageView::markAll(const QStringList& words) {
     }
     setExtraSelections(marks);
     return first;
+}
+
+void PageView::goToMark(int index) {
+    QList<ExtraSelection> marks = extraSelections();
+    for (ExtraSelection& mark : marks) {
+        mark.format.setBackground(QColor::fromRgb(markColour));
+        mark.format.setFontUnderline(false);
+    }
+    ExtraSelection& current = marks[index];
+    current.format.setBackground(QColor::fromRgb(currentMarkColour));
+    current.format.setFontUnderline(true);
+    setExtraSelections(marks);
+    const QRect place = cursorRect(current.cursor);
+    if (viewport()->rect().contains(place)) return;
+    const int above = viewport()->height() / 4;
+    verticalScrollBar()->setValue(verticalScrollBar()->value() + place.top() - above);
 }
 
 void PageView::markWords(const QStringList& words) {

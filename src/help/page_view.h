@@ -17,6 +17,10 @@ class PageView : public QTextBrowser {
     void showPage(const QString& html, const QString& folder);
     /// Marks every occurrence of the words, and scrolls to the first one behind the title.
     void markWords(const QStringList& words);
+    /// How many places are marked.
+    [[nodiscard]] int markCount() const { return static_cast<int>(extraSelections().size()); }
+    /// Makes a mark, counted from 0, stand out from the others and brings it into sight.
+    void goToMark(int index);
     /// Scrolls to a heading; gives false when the page has none of that name.
     bool scrollToHeading(const QString& anchor);
 

@@ -18,6 +18,21 @@ QSize largestWindow(const QWidget& window) {
     return window.screen()->availableSize() - usualFrame;
 }
 
+void placeBeside(QWidget& window, const QWidget& other) {
+    constexpr int narrowest = 600;
+    const QRect usable = other.screen()->availableGeometry();
+    const QRect taken = other.frameGeometry();
+    const int leftRoom = taken.left() - usable.left() - usualFrame.width();
+    const int rightRoom = usable.right() - taken.right() - usualFrame.width();
+    const int room = std::max(leftRoom, rightRoom);
+    if (room < narrowest) return centreOnScreen(window);
+    window.resize(std::min(window.width(), room), window.height());
+    const int x =
+        room == rightRoom ? taken.right() + 1 : taken.left() - window.width() - usualFrame.width();
+    const int last = usable.bottom() - window.height() - usualFrame.height();
+    window.move(x, std::max(usable.top(), std::min(taken.top(), last)));
+}
+
 void centreOnScreen(QWidget& window) {
     constexpr int raisedBy = 10;
     const QRect screen = window.screen()->geometry();

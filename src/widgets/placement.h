@@ -11,6 +11,10 @@ namespace quendra {
 /// the desktop.
 [[nodiscard]] QSize largestWindow(const QWidget& window);
 
+/// Puts a window that is not shown yet beside another one, narrower than it is if need be; in the
+/// middle of the screen where neither side has room for anything that can be read.
+void placeBeside(QWidget& window, const QWidget& other);
+
 /// Moves a window that is not shown yet to the middle of its screen, a little above it.
 void centreOnScreen(QWidget& window);
 

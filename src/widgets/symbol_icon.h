@@ -8,7 +8,6 @@
 
 #include <QIcon>
 
-
 namespace quendra {
 
 // The icon of a bitmap id (see iconCatalogue), for list rows. Text colour with the accent where the

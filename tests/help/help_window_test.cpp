@@ -45,7 +45,7 @@ class HelpWindowTest : public ::testing::Test {
         QTest::keyClick(window.windowHandle(), key, held);
     }
     void search(const std::string& text) {
-        press(Qt::Key_F, Qt::ControlModifier);
+        press(Qt::Key_F, Qt::ControlModifier | Qt::ShiftModifier);
         ASSERT_EQ(focused(), "helpSearch");
         for (const char c : text)
             QTest::keyClick(window.windowHandle(), c);
@@ -78,6 +78,33 @@ TEST_F(HelpWindowTest, ShowsAPageAndWhereItStandsInTheContents) {
     press(Qt::Key_Down);
     press(Qt::Key_Down);
     EXPECT_EQ(page(), "wait-for.html") << "a group opens nothing";
+}
+
+TEST_F(HelpWindowTest, FindsInThePageAndGoesRound) {
+    open("wait-for.html");
+    EXPECT_EQ(window.windowTitle(), u"Wait_For - Quendra Script Editor Help");
+    press(Qt::Key_F, Qt::ControlModifier);
+    ASSERT_EQ(focused(), "helpFindText");
+    QTest::keyClicks(window.focusWidget(), QStringLiteral("WAIT"));
+    const auto& count = widget<QLabel>("helpFindCount");
+    const int places = static_cast<int>(view().extraSelections().size());
+    ASSERT_GT(places, 1);
+    const auto position = [&](int place) {
+        return QStringLiteral("%1 of %2").arg(place).arg(places);
+    };
+    EXPECT_EQ(count.text(), position(1));
+    press(Qt::Key_F3, Qt::ShiftModifier);
+    EXPECT_EQ(count.text(), position(places));
+    const QRect last = view().cursorRect(view().extraSelections().last().cursor);
+    EXPECT_TRUE(view().viewport()->rect().contains(last)) << "in sight";
+    press(Qt::Key_Return);
+    EXPECT_EQ(count.text(), position(1));
+    press(Qt::Key_Escape);
+    EXPECT_TRUE(window.isVisible());
+    EXPECT_EQ(focused(), "helpPage");
+    EXPECT_TRUE(view().extraSelections().isEmpty());
+    open("index.html");
+    EXPECT_EQ(window.windowTitle(), u"Quendra Script Editor Help");
 }
 
 TEST_F(HelpWindowTest, LinksLeadToPagesHeadingsAndOutOfTheManual) {
