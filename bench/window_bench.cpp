@@ -7,6 +7,7 @@
 #include "pair.h"
 #include "sample_scripts.h"
 #include "scriptfile/entry_codec.h"
+#include "session/live_check.h"
 #include "widgets/appearance.h"
 #include "widgets/message_box.h"
 #include "widgets/ui_text.h"
@@ -62,6 +63,12 @@ class Editor {
     /// Returns when what the last change made necessary is painted.
     void waitUntilPainted();
     void repaintList() { list_->viewport()->repaint(); }
+    void showGutter(bool shown) { window_->pane().showGutter(shown); }
+    /// What follows a change when it has been painted.
+    void checkScript() {
+        LiveCheck check(state_);
+        if (check.update() == LiveCheck::Change::None) throw std::runtime_error("not checked");
+    }
     [[nodiscard]] const Script& script() const { return state_.script; }
     [[nodiscard]] std::size_t whole() const { return whole_.entryCount(); }
     /// Keeps the script as it is for prepared(), apart from what is timed.
@@ -270,7 +277,30 @@ void growth(benchmark::State& state, const Action& action, Editors& editors) {
         {.ratio = 5});
 }
 
+// The numbers of the steps and the jumps, beside the list without them.
+void gutter(benchmark::State& state, Editors& editors) {
+    editors.most.reset();
+    editors.untouched.showGutter(false);
+    comparePair(
+        state, [&] { editors.untouched.repaintList(); }, [&] { editors.most.repaintList(); }, [] {},
+        {.ratio = 1.15});
+    editors.untouched.showGutter(true);
+}
+
+void liveCheck(benchmark::State& state, Editors& editors) {
+    editors.most.reset();
+    comparePair(
+        state, [&] { editors.untouched.repaintList(); }, [&] { editors.most.checkScript(); }, [] {},
+        {.microseconds = 2000});
+}
+
 void registerAll(Editors& editors) {
+    benchmark::RegisterBenchmark("gutter/repaint", [&editors](benchmark::State& state) {
+        gutter(state, editors);
+    })->UseManualTime();
+    benchmark::RegisterBenchmark("check/afterChange", [&editors](benchmark::State& state) {
+        liveCheck(state, editors);
+    })->UseManualTime();
     for (const Action& action : actions()) {
         const bool isEdit = std::string_view(action.name) == "edit";
         const Goal goal{.ratio = isEdit ? 1.7 : 0, .microseconds = frame};

@@ -3803,6 +3803,264 @@ Replace it? The old file is kept as a backup beside it.</translation>
         <translation>You have no user identity: hidden texts are only obscured</translation>
         <extra-name>checkHiddenWithoutKey</extra-name>
     </message>
+    <message id="17200">
+        <source>&amp;View</source>
+        <extracomment>Menu bar: View</extracomment>
+        <translation>&amp;View</translation>
+        <extra-name>viewMenu</extra-name>
+    </message>
+    <message id="17201">
+        <source>&amp;Problems</source>
+        <extracomment>Menu: View, Problems</extracomment>
+        <translation>&amp;Problems</translation>
+        <extra-name>problemsMenuText</extra-name>
+    </message>
+    <message id="17202">
+        <source>Problems</source>
+        <extracomment>Tooltip: Problems; also the title of the list of problems</extracomment>
+        <translation>Problems</translation>
+        <extra-name>problemsToolTip</extra-name>
+    </message>
+    <message id="17203">
+        <source>Shows or hides the list of what is wrong with the script, or looks wrong.</source>
+        <extracomment>Status bar: Problems</extracomment>
+        <translation>Shows or hides the list of what is wrong with the script, or looks wrong.</translation>
+        <extra-name>problemsStatusText</extra-name>
+    </message>
+    <message id="17204">
+        <source>&amp;Step Numbers and Jumps</source>
+        <extracomment>Menu: View, Step Numbers and Jumps</extracomment>
+        <translation>&amp;Step Numbers and Jumps</translation>
+        <extra-name>gutterMenuText</extra-name>
+    </message>
+    <message id="17205">
+        <source>Step Numbers and Jumps</source>
+        <extracomment>Tooltip: Step Numbers and Jumps</extracomment>
+        <translation>Step Numbers and Jumps</translation>
+        <extra-name>gutterToolTip</extra-name>
+    </message>
+    <message id="17206">
+        <source>Shows or hides the numbers of the steps and the arrows of jumps in the script list.</source>
+        <extracomment>Status bar: Step Numbers and Jumps</extracomment>
+        <translation>Shows or hides the numbers of the steps and the arrows of jumps in the script list.</translation>
+        <extra-name>gutterStatusText</extra-name>
+    </message>
+    <message id="17207">
+        <source>&amp;Next Problem</source>
+        <extracomment>Menu: View, Next Problem</extracomment>
+        <translation>&amp;Next Problem</translation>
+        <extra-name>nextProblemMenuText</extra-name>
+    </message>
+    <message id="17208">
+        <source>Next Problem</source>
+        <extracomment>Tooltip: Next Problem</extracomment>
+        <translation>Next Problem</translation>
+        <extra-name>nextProblemToolTip</extra-name>
+    </message>
+    <message id="17209">
+        <source>Goes to the next step with a problem and tells it.</source>
+        <extracomment>Status bar: Next Problem</extracomment>
+        <translation>Goes to the next step with a problem and tells it.</translation>
+        <extra-name>nextProblemStatusText</extra-name>
+    </message>
+    <message id="17210">
+        <source>Pre&amp;vious Problem</source>
+        <extracomment>Menu: View, Previous Problem</extracomment>
+        <translation>Pre&amp;vious Problem</translation>
+        <extra-name>previousProblemMenuText</extra-name>
+    </message>
+    <message id="17211">
+        <source>Previous Problem</source>
+        <extracomment>Tooltip: Previous Problem</extracomment>
+        <translation>Previous Problem</translation>
+        <extra-name>previousProblemToolTip</extra-name>
+    </message>
+    <message id="17212">
+        <source>Goes to the step before with a problem and tells it.</source>
+        <extracomment>Status bar: Previous Problem</extracomment>
+        <translation>Goes to the step before with a problem and tells it.</translation>
+        <extra-name>previousProblemStatusText</extra-name>
+    </message>
+    <message id="17213">
+        <source>&amp;Quick Fix</source>
+        <extracomment>Menu: Edit, Quick Fix, when there is none</extracomment>
+        <translation>&amp;Quick Fix</translation>
+        <extra-name>quickFixMenuText</extra-name>
+    </message>
+    <message id="17214">
+        <source>Quick Fix</source>
+        <extracomment>Tooltip: Quick Fix; also its button</extracomment>
+        <translation>Quick Fix</translation>
+        <extra-name>quickFixToolTip</extra-name>
+    </message>
+    <message id="17215">
+        <source>Mends the problem of the current step where there is one sensible way.</source>
+        <extracomment>Status bar: Quick Fix</extracomment>
+        <translation>Mends the problem of the current step where there is one sensible way.</translation>
+        <extra-name>quickFixStatusText</extra-name>
+    </message>
+    <message id="17216">
+        <source>&amp;Quick Fix: %s</source>
+        <extracomment>Menu: Edit, Quick Fix, %s is what it would do</extracomment>
+        <translation>&amp;Quick Fix: %s</translation>
+        <extra-name>quickFixStepMenuText</extra-name>
+    </message>
+    <message id="17217">
+        <source>Quick Fix: %s</source>
+        <extracomment>Tooltip: Quick Fix, %s is what it would do</extracomment>
+        <translation>Quick Fix: %s</translation>
+        <extra-name>quickFixStepToolTip</extra-name>
+    </message>
+    <message id="17218">
+        <source>&amp;Go to Step...</source>
+        <extracomment>Menu: Edit, Go to Step</extracomment>
+        <translation>&amp;Go to Step...</translation>
+        <extra-name>goToStepMenuText</extra-name>
+    </message>
+    <message id="17219">
+        <source>Go to Step</source>
+        <extracomment>Tooltip: Go to Step; also its bar</extracomment>
+        <translation>Go to Step</translation>
+        <extra-name>goToStepToolTip</extra-name>
+    </message>
+    <message id="17220">
+        <source>Goes to the step of a number.</source>
+        <extracomment>Status bar: Go to Step</extracomment>
+        <translation>Goes to the step of a number.</translation>
+        <extra-name>goToStepStatusText</extra-name>
+    </message>
+    <message id="17221">
+        <source>Go to step (1 to %s):</source>
+        <extracomment>Before the field of Go to Step, %s is the number of steps</extracomment>
+        <translation>Go to step (1 to %s):</translation>
+        <extra-name>goToStepPrompt</extra-name>
+    </message>
+    <message id="17222">
+        <source>There is no step “%s”; enter a number from 1 to %s</source>
+        <extracomment>Go to Step: what was entered, and the number of steps</extracomment>
+        <translation>There is no step “%s”; enter a number from 1 to %s</translation>
+        <extra-name>goToStepRefused</extra-name>
+    </message>
+    <message id="17223">
+        <source>Step %s of %s</source>
+        <extracomment>Status bar: number of the current step, number of steps</extracomment>
+        <translation>Step %s of %s</translation>
+        <extra-name>stepPosition</extra-name>
+    </message>
+    <message id="17224">
+        <source>Step %s: %s [%s]</source>
+        <extracomment>A line of the list of problems: number of the step, message, rule</extracomment>
+        <translation>Step %s: %s [%s]</translation>
+        <extra-name>problemLine</extra-name>
+    </message>
+    <message id="17225">
+        <source>Error: %s [%s]</source>
+        <extracomment>A problem as it is told where its sign is not seen: message, rule</extracomment>
+        <translation>Error: %s [%s]</translation>
+        <extra-name>errorMessage</extra-name>
+    </message>
+    <message id="17226">
+        <source>Warning: %s [%s]</source>
+        <extracomment>A problem as it is told where its sign is not seen: message, rule</extracomment>
+        <translation>Warning: %s [%s]</translation>
+        <extra-name>warningMessage</extra-name>
+    </message>
+    <message id="17227">
+        <source>Note: %s [%s]</source>
+        <extracomment>A problem as it is told where its sign is not seen: message, rule</extracomment>
+        <translation>Note: %s [%s]</translation>
+        <extra-name>noteMessage</extra-name>
+    </message>
+    <message id="17228">
+        <source>1 error</source>
+        <extracomment>Status bar: number of problems</extracomment>
+        <translation>1 error</translation>
+        <extra-name>oneError</extra-name>
+    </message>
+    <message id="17229">
+        <source>%s errors</source>
+        <extracomment>Status bar: number of problems</extracomment>
+        <translation>%s errors</translation>
+        <extra-name>errorCount</extra-name>
+    </message>
+    <message id="17230">
+        <source>1 warning</source>
+        <extracomment>Status bar: number of problems</extracomment>
+        <translation>1 warning</translation>
+        <extra-name>oneWarning</extra-name>
+    </message>
+    <message id="17231">
+        <source>%s warnings</source>
+        <extracomment>Status bar: number of problems</extracomment>
+        <translation>%s warnings</translation>
+        <extra-name>warningCount</extra-name>
+    </message>
+    <message id="17232">
+        <source>Show the list of problems</source>
+        <extracomment>Tooltip of the number of problems in the status bar</extracomment>
+        <translation>Show the list of problems</translation>
+        <extra-name>showProblems</extra-name>
+    </message>
+    <message id="17233">
+        <source>No problems found</source>
+        <extracomment>Status bar after Next Problem, and in the empty list of problems</extracomment>
+        <translation>No problems found</translation>
+        <extra-name>noProblems</extra-name>
+    </message>
+    <message id="17234">
+        <source>Change to Label %s</source>
+        <extracomment>Quick fix, and its name as a step that Undo and Redo name; %s is the label that a Goto goes to then</extracomment>
+        <translation>Change to Label %s</translation>
+        <extra-name>fixChangeLabel</extra-name>
+    </message>
+    <message id="17235">
+        <source>Add Label %s at the End</source>
+        <extracomment>Quick fix, and its name as a step that Undo and Redo name</extracomment>
+        <translation>Add Label %s at the End</translation>
+        <extra-name>fixAddLabel</extra-name>
+    </message>
+    <message id="17236">
+        <source>Remove Label %s</source>
+        <extracomment>Quick fix, and its name as a step that Undo and Redo name</extracomment>
+        <translation>Remove Label %s</translation>
+        <extra-name>fixRemoveLabel</extra-name>
+    </message>
+    <message id="17237">
+        <source>Hide Password</source>
+        <extracomment>Quick fix, and its name as a step that Undo and Redo name</extracomment>
+        <translation>Hide Password</translation>
+        <extra-name>fixHidePassword</extra-name>
+    </message>
+    <message id="17238">
+        <source>The current step has no problem</source>
+        <extracomment>Why there is no quick fix</extracomment>
+        <translation>The current step has no problem</translation>
+        <extra-name>fixNothingHere</extra-name>
+    </message>
+    <message id="17239">
+        <source>This problem has no quick fix: how to mend it is yours to decide</source>
+        <extracomment>Why there is no quick fix</extracomment>
+        <translation>This problem has no quick fix: how to mend it is yours to decide</translation>
+        <extra-name>fixNeedsDecision</extra-name>
+    </message>
+    <message id="17240">
+        <source>There is no room for the missing label: the script is full</source>
+        <extracomment>Why there is no quick fix</extracomment>
+        <translation>There is no room for the missing label: the script is full</translation>
+        <extra-name>fixNeedsRoom</extra-name>
+    </message>
+    <message id="17241">
+        <source>&amp;Go to Step</source>
+        <extracomment>Menu of a problem: go to its step</extracomment>
+        <translation>&amp;Go to Step</translation>
+        <extra-name>goToProblem</extra-name>
+    </message>
+    <message id="17242">
+        <source>&amp;Help on Checks</source>
+        <extracomment>Menu of a problem: the page about checks</extracomment>
+        <translation>&amp;Help on Checks</translation>
+        <extra-name>helpOnProblem</extra-name>
+    </message>
     <message id="17350">
         <source>Quendra Script Editor Help</source>
         <extracomment>Help window: title over the start page</extracomment>

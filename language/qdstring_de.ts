@@ -3172,6 +3172,221 @@ Ersetzen? Die alte Datei bleibt als Sicherungskopie daneben erhalten.</translati
         <extracomment>Check</extracomment>
         <translation>Sie haben keine Benutzerkennung: Verborgene Texte sind nur verschleiert</translation>
     </message>
+    <message id="17200">
+        <source>&amp;View</source>
+        <extracomment>Menu bar: View</extracomment>
+        <translation>&amp;Ansicht</translation>
+    </message>
+    <message id="17201">
+        <source>&amp;Problems</source>
+        <extracomment>Menu: View, Problems</extracomment>
+        <translation>&amp;Probleme</translation>
+    </message>
+    <message id="17202">
+        <source>Problems</source>
+        <extracomment>Tooltip: Problems; also the title of the list of problems</extracomment>
+        <translation>Probleme</translation>
+    </message>
+    <message id="17203">
+        <source>Shows or hides the list of what is wrong with the script, or looks wrong.</source>
+        <extracomment>Status bar: Problems</extracomment>
+        <translation>Zeigt oder verbirgt die Liste dessen, was an dem Skript falsch ist oder falsch aussieht.</translation>
+    </message>
+    <message id="17204">
+        <source>&amp;Step Numbers and Jumps</source>
+        <extracomment>Menu: View, Step Numbers and Jumps</extracomment>
+        <translation>&amp;Schrittnummern und Sprünge</translation>
+    </message>
+    <message id="17205">
+        <source>Step Numbers and Jumps</source>
+        <extracomment>Tooltip: Step Numbers and Jumps</extracomment>
+        <translation>Schrittnummern und Sprünge</translation>
+    </message>
+    <message id="17206">
+        <source>Shows or hides the numbers of the steps and the arrows of jumps in the script list.</source>
+        <extracomment>Status bar: Step Numbers and Jumps</extracomment>
+        <translation>Zeigt oder verbirgt die Nummern der Schritte und die Pfeile der Sprünge in der Skriptliste.</translation>
+    </message>
+    <message id="17207">
+        <source>&amp;Next Problem</source>
+        <extracomment>Menu: View, Next Problem</extracomment>
+        <translation>&amp;Nächstes Problem</translation>
+    </message>
+    <message id="17208">
+        <source>Next Problem</source>
+        <extracomment>Tooltip: Next Problem</extracomment>
+        <translation>Nächstes Problem</translation>
+    </message>
+    <message id="17209">
+        <source>Goes to the next step with a problem and tells it.</source>
+        <extracomment>Status bar: Next Problem</extracomment>
+        <translation>Geht zum nächsten Schritt mit einem Problem und nennt es.</translation>
+    </message>
+    <message id="17210">
+        <source>Pre&amp;vious Problem</source>
+        <extracomment>Menu: View, Previous Problem</extracomment>
+        <translation>&amp;Voriges Problem</translation>
+    </message>
+    <message id="17211">
+        <source>Previous Problem</source>
+        <extracomment>Tooltip: Previous Problem</extracomment>
+        <translation>Voriges Problem</translation>
+    </message>
+    <message id="17212">
+        <source>Goes to the step before with a problem and tells it.</source>
+        <extracomment>Status bar: Previous Problem</extracomment>
+        <translation>Geht zum vorigen Schritt mit einem Problem und nennt es.</translation>
+    </message>
+    <message id="17213">
+        <source>&amp;Quick Fix</source>
+        <extracomment>Menu: Edit, Quick Fix, when there is none</extracomment>
+        <translation>Schne&amp;llkorrektur</translation>
+    </message>
+    <message id="17214">
+        <source>Quick Fix</source>
+        <extracomment>Tooltip: Quick Fix; also its button</extracomment>
+        <translation>Schnellkorrektur</translation>
+    </message>
+    <message id="17215">
+        <source>Mends the problem of the current step where there is one sensible way.</source>
+        <extracomment>Status bar: Quick Fix</extracomment>
+        <translation>Behebt das Problem des aktuellen Schritts, wo es einen sinnvollen Weg gibt.</translation>
+    </message>
+    <message id="17216">
+        <source>&amp;Quick Fix: %s</source>
+        <extracomment>Menu: Edit, Quick Fix, %s is what it would do</extracomment>
+        <translation>Schne&amp;llkorrektur: %s</translation>
+    </message>
+    <message id="17217">
+        <source>Quick Fix: %s</source>
+        <extracomment>Tooltip: Quick Fix, %s is what it would do</extracomment>
+        <translation>Schnellkorrektur: %s</translation>
+    </message>
+    <message id="17218">
+        <source>&amp;Go to Step...</source>
+        <extracomment>Menu: Edit, Go to Step</extracomment>
+        <translation>&amp;Gehe zu Schritt...</translation>
+    </message>
+    <message id="17219">
+        <source>Go to Step</source>
+        <extracomment>Tooltip: Go to Step; also its bar</extracomment>
+        <translation>Gehe zu Schritt</translation>
+    </message>
+    <message id="17220">
+        <source>Goes to the step of a number.</source>
+        <extracomment>Status bar: Go to Step</extracomment>
+        <translation>Geht zum Schritt mit einer Nummer.</translation>
+    </message>
+    <message id="17221">
+        <source>Go to step (1 to %s):</source>
+        <extracomment>Before the field of Go to Step, %s is the number of steps</extracomment>
+        <translation>Gehe zu Schritt (1 bis %s):</translation>
+    </message>
+    <message id="17222">
+        <source>There is no step “%s”; enter a number from 1 to %s</source>
+        <extracomment>Go to Step: what was entered, and the number of steps</extracomment>
+        <translation>Einen Schritt „%s“ gibt es nicht; geben Sie eine Zahl von 1 bis %s ein</translation>
+    </message>
+    <message id="17223">
+        <source>Step %s of %s</source>
+        <extracomment>Status bar: number of the current step, number of steps</extracomment>
+        <translation>Schritt %s von %s</translation>
+    </message>
+    <message id="17224">
+        <source>Step %s: %s [%s]</source>
+        <extracomment>A line of the list of problems: number of the step, message, rule</extracomment>
+        <translation>Schritt %s: %s [%s]</translation>
+    </message>
+    <message id="17225">
+        <source>Error: %s [%s]</source>
+        <extracomment>A problem as it is told where its sign is not seen: message, rule</extracomment>
+        <translation>Fehler: %s [%s]</translation>
+    </message>
+    <message id="17226">
+        <source>Warning: %s [%s]</source>
+        <extracomment>A problem as it is told where its sign is not seen: message, rule</extracomment>
+        <translation>Warnung: %s [%s]</translation>
+    </message>
+    <message id="17227">
+        <source>Note: %s [%s]</source>
+        <extracomment>A problem as it is told where its sign is not seen: message, rule</extracomment>
+        <translation>Hinweis: %s [%s]</translation>
+    </message>
+    <message id="17228">
+        <source>1 error</source>
+        <extracomment>Status bar: number of problems</extracomment>
+        <translation>1 Fehler</translation>
+    </message>
+    <message id="17229">
+        <source>%s errors</source>
+        <extracomment>Status bar: number of problems</extracomment>
+        <translation>%s Fehler</translation>
+    </message>
+    <message id="17230">
+        <source>1 warning</source>
+        <extracomment>Status bar: number of problems</extracomment>
+        <translation>1 Warnung</translation>
+    </message>
+    <message id="17231">
+        <source>%s warnings</source>
+        <extracomment>Status bar: number of problems</extracomment>
+        <translation>%s Warnungen</translation>
+    </message>
+    <message id="17232">
+        <source>Show the list of problems</source>
+        <extracomment>Tooltip of the number of problems in the status bar</extracomment>
+        <translation>Liste der Probleme zeigen</translation>
+    </message>
+    <message id="17233">
+        <source>No problems found</source>
+        <extracomment>Status bar after Next Problem, and in the empty list of problems</extracomment>
+        <translation>Keine Probleme gefunden</translation>
+    </message>
+    <message id="17234">
+        <source>Change to Label %s</source>
+        <extracomment>Quick fix, and its name as a step that Undo and Redo name; %s is the label that a Goto goes to then</extracomment>
+        <translation>Sprungmarke in %s ändern</translation>
+    </message>
+    <message id="17235">
+        <source>Add Label %s at the End</source>
+        <extracomment>Quick fix, and its name as a step that Undo and Redo name</extracomment>
+        <translation>Sprungmarke %s am Ende anfügen</translation>
+    </message>
+    <message id="17236">
+        <source>Remove Label %s</source>
+        <extracomment>Quick fix, and its name as a step that Undo and Redo name</extracomment>
+        <translation>Sprungmarke %s entfernen</translation>
+    </message>
+    <message id="17237">
+        <source>Hide Password</source>
+        <extracomment>Quick fix, and its name as a step that Undo and Redo name</extracomment>
+        <translation>Kennwort verbergen</translation>
+    </message>
+    <message id="17238">
+        <source>The current step has no problem</source>
+        <extracomment>Why there is no quick fix</extracomment>
+        <translation>Der aktuelle Schritt hat kein Problem</translation>
+    </message>
+    <message id="17239">
+        <source>This problem has no quick fix: how to mend it is yours to decide</source>
+        <extracomment>Why there is no quick fix</extracomment>
+        <translation>Für dieses Problem gibt es keine Schnellkorrektur: Wie es zu beheben ist, entscheiden Sie</translation>
+    </message>
+    <message id="17240">
+        <source>There is no room for the missing label: the script is full</source>
+        <extracomment>Why there is no quick fix</extracomment>
+        <translation>Für die fehlende Sprungmarke ist kein Platz: Das Skript ist voll</translation>
+    </message>
+    <message id="17241">
+        <source>&amp;Go to Step</source>
+        <extracomment>Menu of a problem: go to its step</extracomment>
+        <translation>&amp;Gehe zum Schritt</translation>
+    </message>
+    <message id="17242">
+        <source>&amp;Help on Checks</source>
+        <extracomment>Menu of a problem: the page about checks</extracomment>
+        <translation>&amp;Hilfe zu Prüfungen</translation>
+    </message>
     <message id="17350">
         <source>Quendra Script Editor Help</source>
         <extracomment>Help window: title over the start page</extracomment>

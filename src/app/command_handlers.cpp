@@ -4,6 +4,7 @@
 #include "app/command_facts.h"
 #include "app/main_window.h"
 #include "app/script_editor.h"
+#include "app/script_problems.h"
 #include "help/editor_help.h"
 
 namespace quendra {
@@ -35,6 +36,14 @@ void CommandHandlers::run(EditorCommand command) {
         case EditorCommand::CopyAsText: return editor_.copyAsText();
         case EditorCommand::Paste: return editor_.paste();
         case EditorCommand::Find: return window_.openFindBar();
+        case EditorCommand::GoToStep: return window_.openStepBar();
+        case EditorCommand::ApplyQuickFix:
+            if (const auto fix = window_.problems().quickFix().fix) editor_.applyFix(*fix);
+            return;
+        case EditorCommand::ShowProblems: return window_.problems().toggleList();
+        case EditorCommand::ShowGutter: return window_.toggleGutter();
+        case EditorCommand::NextProblem: return window_.goToNextProblem();
+        case EditorCommand::PreviousProblem: return window_.goToPreviousProblem();
         case EditorCommand::InsertScriptEvent:
         case EditorCommand::InsertLuFunction:
         case EditorCommand::InsertMenuCommand: return editor_.insertFrom(info.inserts.value());

@@ -14,6 +14,7 @@
 #include "session/command_line.h"
 #include "session/document.h"
 #include "settings/startup.h"
+#include "settings/user_state.h"
 #include "text/text_ids.h"
 #include "widgets/appearance.h"
 #include "widgets/message_box.h"
@@ -90,6 +91,14 @@ void tellCipherFailures(ApplicationState& state) {
     });
 }
 
+// A picture shows the editor as its user has it, and leaves that as it is.
+UserState readUserState(const Environment& environment, const PictureOptions& picture) {
+    const auto file = userStateFile(environment);
+    if (!file) return {};
+    return UserState(*file, picture.file.isEmpty() ? UserState::Access::ReadAndWrite
+                                                   : UserState::Access::ReadOnly);
+}
+
 // Before there is a window, so that it is built for the script that it is going to show.
 std::optional<OpenOutcome> applyCommandLine(ApplicationState& state, const CommandLine& line) {
     if (line.hostType) state.currentHostType = *line.hostType;
@@ -154,6 +163,7 @@ int runEditor(int& argc, char** argv, const CommandLine& line, const PictureOpti
     const StartupSettings settings = readStartupSettings(inputs);
     installCrashReporter(inputs.programFile, settings.workingDir);
     ApplicationState state;
+    state.userState = readUserState(inputs.environment, picture);
     const auto notices = loadApplication(state, settings, inputs.environment);
     useToolkitLanguage(state.language.language());
     showNotices(notices);

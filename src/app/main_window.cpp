@@ -3,6 +3,8 @@
 #include "app/command_facts.h"
 #include "app/command_menu.h"
 #include "app/find_bar.h"
+#include "app/script_problems.h"
+#include "app/step_bar.h"
 #include "app/window_activation.h"
 #include "session/command_rules.h"
 #include "session/commands.h"
@@ -31,6 +33,8 @@
 namespace quendra {
 
 namespace {
+
+constexpr StateKey gutterKey = {"View", "StepNumbersAndJumps"};
 
 // Qt replaces "[*]" in a title by its own mark.
 QString asWindowTitle(const std::string& title) {
@@ -70,6 +74,15 @@ MainWindow::MainWindow(ApplicationState& state, const std::function<void()>& bef
     findBar_ = new FindBar(state_, *pane_, this);
     addToolBar(Qt::BottomToolBarArea, findBar_);
     findBar_->hide();
+    addToolBarBreak(Qt::BottomToolBarArea);
+    stepBar_ = new StepBar(state_, *pane_, *this);
+    addToolBar(Qt::BottomToolBarArea, stepBar_);
+    stepBar_->hide();
+    problems_ =
+        new ScriptProblems(state_, *pane_, *actions_.at(EditorCommand::ApplyQuickFix), *this);
+    connect(problems_, &ScriptProblems::changed, this, &MainWindow::updateCommandStates);
+    showsGutter_ = state_.userState.flag(gutterKey, true);
+    pane_->showGutter(showsGutter_);
     nameExtensionButtons(*this, qtText(libraryText(state_.language, textid::moreCommands)));
     connect(pane_, &EditorPane::commandRequested, this, &MainWindow::runCommand);
     connect(pane_, &EditorPane::selectionChanged, this, &MainWindow::updateCommandStates);
@@ -113,10 +126,8 @@ void MainWindow::buildActions() {
         action->setStatusTip(qtText(libraryText(state_.language, info.texts.status)));
         action->setMenuRole(QAction::NoRole);
         action->setIconVisibleInMenu(false);
-        if (info.hostType) {
-            action->setCheckable(true);
-            modes->addAction(action);
-        }
+        action->setCheckable(isCheckable(info));
+        if (info.hostType) modes->addAction(action);
         connect(action, &QAction::triggered, this, [this, id = info.id] { runCommand(id); });
         actions_[info.id] = action;
     }
@@ -204,6 +215,25 @@ void MainWindow::openFindBar() {
     findBar_->open();
 }
 
+void MainWindow::openStepBar() {
+    stepBar_->open();
+}
+
+void MainWindow::goToNextProblem() {
+    showNoteOnEntry(problems_->goToNext());
+}
+
+void MainWindow::goToPreviousProblem() {
+    showNoteOnEntry(problems_->goToPrevious());
+}
+
+void MainWindow::toggleGutter() {
+    showsGutter_ = !showsGutter_;
+    state_.userState.setFlag(gutterKey, showsGutter_);
+    pane_->showGutter(showsGutter_);
+    updateCommandStates();
+}
+
 void MainWindow::closeSoon() {
     QMetaObject::invokeMethod(this, "close", Qt::QueuedConnection);
 }
@@ -255,7 +285,10 @@ bool MainWindow::saveTo(const std::filesystem::path& path) {
     const SaveOutcome outcome = saveDocument(state_, path, selection);
     if (outcome.refusal) showMessage(this, *outcome.refusal);
     if (!outcome.saved) return false;
-    if (outcome.scriptChanged) pane_->showScript(selection);
+    if (outcome.scriptChanged) {
+        pane_->showScript(selection);
+        problems_->checkSoon();
+    }
     setNote(outcome.note);
     updateTitle();
     updateStatus();
@@ -285,6 +318,7 @@ void MainWindow::setHostType(HostType hostType) {
     state_.currentHostType = hostType;
     pane_->refillLuPalette();
     pane_->rebuildScriptList();
+    problems_->checkNow();
     setNote({});
     updateStatus();
     updateCommandStates();
@@ -293,6 +327,7 @@ void MainWindow::setHostType(HostType hostType) {
 
 void MainWindow::showDocument() {
     pane_->rebuildScriptList();
+    problems_->checkNow();
     updateTitle();
     updateStatus();
     updateCommandStates();
@@ -301,6 +336,7 @@ void MainWindow::showDocument() {
 void MainWindow::scriptChanged() {
     sessionEnds_ = false;
     state_.document.modified = state_.script != state_.document.saved;
+    problems_->checkSoon();
     setNote({});
     updateTitle();
     updateStatus();
@@ -319,11 +355,17 @@ void MainWindow::updateStatus() {
 void MainWindow::setNote(const std::string& note) {
     note_ = note;
     rowRequest_.reset();
+    noteEntry_.reset();
 }
 
 void MainWindow::showNote(const std::string& note) {
     setNote(note);
     updateStatus();
+}
+
+void MainWindow::showNoteOnEntry(const std::string& note) {
+    showNote(note);
+    noteEntry_ = pane_->focusedEntry();
 }
 
 void MainWindow::askForRow(Palette palette) {
@@ -333,6 +375,7 @@ void MainWindow::askForRow(Palette palette) {
 }
 
 void MainWindow::dropAnsweredRequest() {
+    if (noteEntry_ && noteEntry_ != pane_->focusedEntry()) showNote({});
     if (!rowRequest_) return;
     const bool isOpen =
         pane_->selectedRow(rowRequest_->palette) < 0 && pane_->focusedEntry() == rowRequest_->entry;
@@ -341,7 +384,9 @@ void MainWindow::dropAnsweredRequest() {
 
 void MainWindow::updateCommandStates() {
     dropAnsweredRequest();
-    const CommandFacts facts = commandFacts(state_, *pane_);
+    CommandFacts facts = commandFacts(state_, *pane_);
+    problems_->addFacts(facts);
+    facts.gutterIsShown = showsGutter_;
     for (const CommandInfo& info : commands()) {
         QAction* action = actions_.at(info.id);
         action->setEnabled(isCommandEnabled(info, facts));

@@ -21,7 +21,9 @@ class QToolBar;
 namespace quendra {
 
 class FindBar;
+class ScriptProblems;
 class StatusLine;
+class StepBar;
 
 class MainWindow : public QMainWindow {
     Q_OBJECT
@@ -50,6 +52,10 @@ class MainWindow : public QMainWindow {
     bool save();
     bool saveAs();
     void openFindBar();
+    void openStepBar();
+    void goToNextProblem();
+    void goToPreviousProblem();
+    void toggleGutter();
     /// Closes the window when the present event has been handled.
     void closeSoon();
 
@@ -87,6 +93,7 @@ class MainWindow : public QMainWindow {
     void endSession();
 
     [[nodiscard]] EditorPane& pane() { return *pane_; }
+    [[nodiscard]] ScriptProblems& problems() { return *problems_; }
 
   protected:
     void paintEvent(QPaintEvent* event) override;
@@ -109,6 +116,8 @@ class MainWindow : public QMainWindow {
 
     void showDocument();
     void setNote(const std::string& note);
+    /// A note that stands until another entry is focused.
+    void showNoteOnEntry(const std::string& note);
     void dropAnsweredRequest();
     void updateTitle();
     void updateStatus();
@@ -119,6 +128,9 @@ class MainWindow : public QMainWindow {
     QToolBar* toolBar_ = nullptr;
     EditorPane* pane_ = nullptr;
     FindBar* findBar_ = nullptr;
+    StepBar* stepBar_ = nullptr;
+    ScriptProblems* problems_ = nullptr;
+    bool showsGutter_ = true;
     StatusLine* statusLine_ = nullptr;
     std::string note_;
     /// What askForRow said, as long as it stands there.
@@ -127,6 +139,8 @@ class MainWindow : public QMainWindow {
         int entry;
     };
     std::optional<RowRequest> rowRequest_;
+    /// The entry that the note is about.
+    std::optional<int> noteEntry_;
     bool sessionEnds_ = false;
 };
 

@@ -61,6 +61,15 @@ void ScriptEditor::editEntry() {
            [this] { return libraryText(state_.language, textid::editStep); });
 }
 
+void ScriptEditor::applyFix(const QuickFix& fix) {
+    bool isDone = false;
+    change([&] { return isDone = applyQuickFix(state_, *this, fix); },
+           [&] { return quickFixName(fix, state_.language); });
+    // The secret is out of sight, and no more than that.
+    if (isDone && fix.kind == QuickFix::Kind::HidePassword && state_.cipher.onlyObscures())
+        window_.showNote(libraryText(state_.language, textid::checkHiddenWithoutKey));
+}
+
 void ScriptEditor::change(const std::function<bool()>& operation,
                           const std::function<std::string()>& name) {
     const ScriptView before = currentView();

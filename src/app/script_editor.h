@@ -4,6 +4,7 @@
 
 #include "dialogs/parameter_dialogs.h"
 #include "session/editing.h"
+#include "session/quick_fix.h"
 
 #include <QObject>
 
@@ -42,6 +43,7 @@ class ScriptEditor : public QObject, private EditingView {
     void insertOtherScript();
     void editEntry();
     void deleteSelected();
+    void applyFix(const QuickFix& fix);
 
   private:
     [[nodiscard]] std::vector<std::size_t> selectedEntries() const override;

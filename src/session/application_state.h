@@ -7,6 +7,7 @@
 #include "session/editing.h"
 #include "session/undo_history.h"
 #include "settings/startup_settings.h"
+#include "settings/user_state.h"
 #include "text/language_library.h"
 
 #include <filesystem>
@@ -33,6 +34,8 @@ struct ScriptDocument {
 
 struct ApplicationState : EditingState {
     StartupSettings settings;
+    /// Of the window, from run to run.
+    UserState userState;
     LanguageLibrary language;
     MenuCommandCatalogue menuCommands;
     ScriptDocument document;

@@ -53,6 +53,18 @@ bool canRedo(const CommandFacts& facts) {
     return facts.redoStep.has_value();
 }
 
+bool hasQuickFix(const CommandFacts& facts) {
+    return facts.quickFix.has_value();
+}
+
+bool showsProblems(const CommandFacts& facts) {
+    return facts.problemsAreShown;
+}
+
+bool showsGutter(const CommandFacts& facts) {
+    return facts.gutterIsShown;
+}
+
 CommandText insertTip(Palette palette, const CommandFacts& facts, LanguageLibrary& language) {
     return itemText(paletteInfo(palette).insertTextId, facts.selectedRow(palette), language);
 }
@@ -76,6 +88,15 @@ CommandText undoTip(const CommandFacts& facts, LanguageLibrary& language) {
 
 CommandText redoTip(const CommandFacts& facts, LanguageLibrary& language) {
     return itemText(textid::redoStepToolTip, facts.redoStep, language);
+}
+
+CommandText quickFixTip(const CommandFacts& facts, LanguageLibrary& language) {
+    if (facts.quickFix) return itemText(textid::quickFixStepToolTip, facts.quickFix, language);
+    return facts.whyNoQuickFix.empty() ? CommandText() : facts.whyNoQuickFix;
+}
+
+CommandText quickFixItem(const CommandFacts& facts, LanguageLibrary& language) {
+    return itemText(textid::quickFixStepMenuText, forMenu(facts.quickFix), language);
 }
 
 CommandText undoItem(const CommandFacts& facts, LanguageLibrary& language) {

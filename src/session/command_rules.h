@@ -24,6 +24,11 @@ struct CommandFacts {
     /// The steps that Undo and Redo would take.
     std::optional<std::string> undoStep = {};
     std::optional<std::string> redoStep = {};
+    /// What Quick Fix would do; where it can do nothing, why.
+    std::optional<std::string> quickFix = {};
+    std::string whyNoQuickFix = {};
+    bool problemsAreShown = false;
+    bool gutterIsShown = false;
 
     [[nodiscard]] const std::optional<std::string>& selectedRow(Palette palette) const {
         return selectedRows[static_cast<std::size_t>(palette)];
@@ -37,6 +42,9 @@ struct CommandFacts {
 [[nodiscard]] bool canEdit(const CommandFacts& facts);
 [[nodiscard]] bool canUndo(const CommandFacts& facts);
 [[nodiscard]] bool canRedo(const CommandFacts& facts);
+[[nodiscard]] bool hasQuickFix(const CommandFacts& facts);
+[[nodiscard]] bool showsProblems(const CommandFacts& facts);
+[[nodiscard]] bool showsGutter(const CommandFacts& facts);
 
 /// Texts that name what a command would act on; none while there is nothing.
 using CommandText = std::optional<std::string>;
@@ -46,9 +54,12 @@ using CommandText = std::optional<std::string>;
 [[nodiscard]] CommandText deleteTip(const CommandFacts& facts, LanguageLibrary& language);
 [[nodiscard]] CommandText undoTip(const CommandFacts& facts, LanguageLibrary& language);
 [[nodiscard]] CommandText redoTip(const CommandFacts& facts, LanguageLibrary& language);
+/// Also why there is nothing that it would do.
+[[nodiscard]] CommandText quickFixTip(const CommandFacts& facts, LanguageLibrary& language);
 /// For the menu, with its mnemonic.
 [[nodiscard]] CommandText undoItem(const CommandFacts& facts, LanguageLibrary& language);
 [[nodiscard]] CommandText redoItem(const CommandFacts& facts, LanguageLibrary& language);
+[[nodiscard]] CommandText quickFixItem(const CommandFacts& facts, LanguageLibrary& language);
 
 /// "Delete 3 entries": tool tip, and with a question mark the confirmation.
 [[nodiscard]] std::string deleteText(LanguageLibrary& language, std::size_t count);

@@ -92,6 +92,45 @@ constexpr CommandInfo rows[] = {
      .menuGroup = 3,
      .isEnabled = hasEntries,
      .movesFocus = true},
+    {.id = GoToStep,
+     .texts = {textid::goToStepMenuText, textid::goToStepToolTip, textid::goToStepStatusText},
+     .shortcut = "Ctrl+G",
+     .menu = EditorMenu::Edit,
+     .menuGroup = 3,
+     .isEnabled = hasEntries,
+     .movesFocus = true},
+    {.id = ApplyQuickFix,
+     .texts = {textid::quickFixMenuText, textid::quickFixToolTip, textid::quickFixStatusText},
+     .shortcut = "Ctrl+.",
+     .menu = EditorMenu::Edit,
+     .menuGroup = 4,
+     .isEnabled = hasQuickFix,
+     .toolTip = quickFixTip,
+     .menuText = quickFixItem},
+    {.id = ShowProblems,
+     .texts = {textid::problemsMenuText, textid::problemsToolTip, textid::problemsStatusText},
+     .shortcut = "Ctrl+Shift+M",
+     .menu = EditorMenu::View,
+     .isChecked = showsProblems,
+     .movesFocus = true},
+    {.id = ShowGutter,
+     .texts = {textid::gutterMenuText, textid::gutterToolTip, textid::gutterStatusText},
+     .menu = EditorMenu::View,
+     .isChecked = showsGutter},
+    {.id = NextProblem,
+     .texts = {textid::nextProblemMenuText, textid::nextProblemToolTip,
+               textid::nextProblemStatusText},
+     .shortcut = "F8",
+     .menu = EditorMenu::View,
+     .menuGroup = 2,
+     .isEnabled = hasEntries},
+    {.id = PreviousProblem,
+     .texts = {textid::previousProblemMenuText, textid::previousProblemToolTip,
+               textid::previousProblemStatusText},
+     .shortcut = "Shift+F8",
+     .menu = EditorMenu::View,
+     .menuGroup = 2,
+     .isEnabled = hasEntries},
     {.id = InsertScriptEvent,
      .texts = {textid::insertScriptEventMenuText, textid::insertScriptEventToolTip,
                textid::insertScriptEventStatusText},
@@ -169,6 +208,7 @@ std::vector<CommandInfo> allRows() {
 constexpr MenuInfo menuTable[] = {
     {EditorMenu::File, textid::fileMenu, "fileMenu"},
     {EditorMenu::Edit, textid::editMenu, "editMenu"},
+    {EditorMenu::View, textid::viewMenu, "viewMenu"},
     {EditorMenu::Entry, textid::entryMenu, "entryMenu"},
     {EditorMenu::Mode, textid::modeMenu, "modeMenu"},
     {EditorMenu::Help, textid::helpMenu, "helpMenu"},
@@ -208,7 +248,12 @@ bool isCommandEnabled(const CommandInfo& info, const CommandFacts& facts) {
     return info.isEnabled == nullptr || info.isEnabled(facts);
 }
 
+bool isCheckable(const CommandInfo& info) {
+    return info.hostType || info.isChecked != nullptr;
+}
+
 bool isCommandChecked(const CommandInfo& info, const CommandFacts& facts) {
+    if (info.isChecked != nullptr) return info.isChecked(facts);
     return info.hostType == facts.hostType;
 }
 

@@ -41,10 +41,16 @@ enum class EditorCommand : int {
     CopyAsText = 324,
     InsertScript = 325,
     HelpOnSelection = 326,
+    ShowProblems = 330,
+    NextProblem = 331,
+    PreviousProblem = 332,
+    ApplyQuickFix = 333,
+    ShowGutter = 334,
+    GoToStep = 335,
 };
 
 /// In the order of the menu bar.
-enum class EditorMenu : std::uint8_t { File, Edit, Entry, Mode, Help };
+enum class EditorMenu : std::uint8_t { File, Edit, View, Entry, Mode, Help };
 
 struct CommandTexts {
     /// 0 where the menu text is the literal.
@@ -66,6 +72,8 @@ struct CommandInfo {
     int toolbarGroup = 0;
     /// None for a command that can always be chosen.
     bool (*isEnabled)(const CommandFacts&) = nullptr;
+    /// Of a command that switches something on and off.
+    bool (*isChecked)(const CommandFacts&) = nullptr;
     /// Tool tip and menu text where they say what the command would do; none, or no text, for those
     /// of `texts`.
     std::optional<std::string> (*toolTip)(const CommandFacts&, LanguageLibrary&) = nullptr;
@@ -98,6 +106,8 @@ struct CommandInfo {
 }
 
 [[nodiscard]] bool isCommandEnabled(const CommandInfo& info, const CommandFacts& facts);
+/// Whether a command can be checked at all, and whether it is.
+[[nodiscard]] bool isCheckable(const CommandInfo& info);
 [[nodiscard]] bool isCommandChecked(const CommandInfo& info, const CommandFacts& facts);
 [[nodiscard]] std::string commandToolTip(const CommandInfo& info, const CommandFacts& facts,
                                          LanguageLibrary& language);

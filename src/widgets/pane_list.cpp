@@ -1,6 +1,7 @@
 #include "widgets/pane_list.h"
 
 #include "widgets/contrast.h"
+#include "widgets/problem_sign.h"
 #include "widgets/symbol_icon.h"
 
 #include <QFocusEvent>
@@ -39,9 +40,18 @@ void cutToWidth(QStyleOptionViewItem& row) {
     row.text += QChar(0x2026);
 }
 
+/// At the lower right corner of the row's icon, so that the text stands where it does without.
+void paintProblem(QPainter& painter, const QStyleOptionViewItem& row, const QVariant& problem) {
+    const QRect icon =
+        row.widget->style()->subElementRect(QStyle::SE_ItemViewItemDecoration, &row, row.widget);
+    const qreal extent = icon.height() * 0.6;
+    const QRectF box(icon.right() + 2 - extent, icon.bottom() + 2 - extent, extent, extent);
+    drawProblemSign(painter, box, static_cast<Severity>(problem.toInt()), row.palette);
+}
+
 class RowDelegate : public QStyledItemDelegate {
   public:
-    using QStyledItemDelegate::QStyledItemDelegate;
+    explicit RowDelegate(PaneList& list) : QStyledItemDelegate(&list), list_(list) {}
 
     /// No width, so that the list gives every row its own and elides what is longer; the height is
     /// the same for every row and needs no text to be made.
@@ -55,9 +65,23 @@ class RowDelegate : public QStyledItemDelegate {
     void paint(QPainter* painter, const QStyleOptionViewItem& option,
                const QModelIndex& index) const override {
         QStyleOptionViewItem row = option;
+        if (const RowGutter* gutter = list_.gutter()) {
+            const int width = gutter->width();
+            gutter->paint(*painter, QRect(row.rect.topLeft(), QSize(width, row.rect.height())),
+                          index.row());
+            row.rect.setLeft(row.rect.left() + width);
+        }
+        paintText(*painter, row, index);
+    }
+
+    void paintText(QPainter& painter, const QStyleOptionViewItem& option,
+                   const QModelIndex& index) const {
+        QStyleOptionViewItem row = option;
         initStyleOption(&row, index);
         cutToWidth(row);
-        row.widget->style()->drawControl(QStyle::CE_ItemViewItem, &row, painter, row.widget);
+        row.widget->style()->drawControl(QStyle::CE_ItemViewItem, &row, &painter, row.widget);
+        const QVariant problem = index.data(PaneList::ProblemRole);
+        if (problem.isValid()) paintProblem(painter, row, problem);
     }
 
     [[nodiscard]] int neededWidth(const QStyleOptionViewItem& option,
@@ -70,7 +94,7 @@ class RowDelegate : public QStyledItemDelegate {
                    const QModelIndex& index) override {
         if (index.isValid() && event->type() == QEvent::ToolTip &&
             !index.data(PaneList::MoreInToolTip).toBool() &&
-            neededWidth(option, index) <= option.rect.width()) {
+            neededWidth(option, index) <= option.rect.width() - list_.gutterWidth()) {
             QToolTip::hideText();
             return true;
         }
@@ -85,6 +109,9 @@ class RowDelegate : public QStyledItemDelegate {
         row->features |= QStyleOptionViewItem::HasDecoration;
         row->decorationSize = icon;
     }
+
+  private:
+    PaneList& list_;
 };
 
 /// Icons keep up with large text.
@@ -96,7 +123,7 @@ void fitIcons(PaneList& list) {
 }  // namespace
 
 PaneList::PaneList(QWidget* parent) : QListView(parent) {
-    setItemDelegate(new RowDelegate(this));
+    setItemDelegate(new RowDelegate(*this));
     setUniformItemSizes(true);
     fitIcons(*this);
     setTextElideMode(Qt::ElideRight);
@@ -130,11 +157,17 @@ void PaneList::paintSelectedRow(QPainter& painter, int row) const {
     const auto& delegate = static_cast<const RowDelegate&>(*itemDelegate());
     const QModelIndex index = model()->index(row, 0);
     const QSize whole = rowRect(row).size();
-    const int width = std::min(whole.width(), delegate.neededWidth(option, index) + textMargin);
-    option.rect = QRect(0, 0, width, whole.height());
+    const int width =
+        std::min(whole.width() - gutterWidth(), delegate.neededWidth(option, index) + textMargin);
+    option.rect = QRect(gutterWidth(), 0, width, whole.height());
     option.state |= QStyle::State_Selected | QStyle::State_Active;
     option.state &= ~QStyle::State_HasFocus;
-    delegate.paint(&painter, option, index);
+    delegate.paintText(painter, option, index);
+}
+
+void PaneList::setGutter(const RowGutter* gutter) {
+    gutter_ = gutter;
+    viewport()->update();
 }
 
 void PaneList::setLandingLines(std::vector<int> rows) {

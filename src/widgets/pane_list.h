@@ -8,6 +8,19 @@
 
 namespace quendra {
 
+/// What a list draws at the left of each row, apart from its text and never selected with it.
+class RowGutter {
+  public:
+    RowGutter() = default;
+    RowGutter(const RowGutter&) = delete;
+    RowGutter& operator=(const RowGutter&) = delete;
+    virtual ~RowGutter() = default;
+
+    [[nodiscard]] virtual int width() const = 0;
+    /// `area` is as wide as that, and as high as the row.
+    virtual void paint(QPainter& painter, const QRect& area, int row) const = 0;
+};
+
 class PaneList : public QListView {
     Q_OBJECT
 
@@ -15,6 +28,9 @@ class PaneList : public QListView {
     /// Whether the tool tip of a row tells more than its line, and shows though that is not cut
     /// off.
     static constexpr int MoreInToolTip = Qt::UserRole;
+    /// How bad the row's worst problem is, a number of Severity, whose sign is drawn over the row's
+    /// icon.
+    static constexpr int ProblemRole = Qt::UserRole + 1;
 
     explicit PaneList(QWidget* parent = nullptr);
 
@@ -27,8 +43,14 @@ class PaneList : public QListView {
     /// Where a row stands in the viewport's coordinates, also a row out of sight.
     [[nodiscard]] QRect rowRect(int row) const;
     /// Paints a row as it looks when it is selected, at the painter's origin and no wider than its
-    /// text.
+    /// text; without its gutter, whose place stays free.
     void paintSelectedRow(QPainter& painter, int row) const;
+
+    /// `gutter` outlives the list or is taken away again with null.
+    void setGutter(const RowGutter* gutter);
+    /// None: 0.
+    [[nodiscard]] int gutterWidth() const { return gutter_ ? gutter_->width() : 0; }
+    [[nodiscard]] const RowGutter* gutter() const { return gutter_; }
 
     /// Lines across the list above these rows (the row count stands for the end of the list); a
     /// line out of sight shows at the edge nearest to it.
@@ -43,6 +65,7 @@ class PaneList : public QListView {
 
   private:
     std::vector<int> landingLines_;
+    const RowGutter* gutter_ = nullptr;
 };
 
 }  // namespace quendra

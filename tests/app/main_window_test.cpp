@@ -220,22 +220,28 @@ TEST(CommandStates, ConditionalCommandsFollowScriptAndSelections) {
     const EditSource events = rowOf(Palette::ScriptEvents);
     const EditSource luFunctions = rowOf(Palette::LuFunctions);
     const EditSource menuCommands = rowOf(Palette::MenuCommands);
+    const auto filled = [](std::set<EditorCommand> more) {
+        more.insert({Save, SaveAs, Find, GoToStep, NextProblem, PreviousProblem});
+        return more;
+    };
     const std::pair<CommandFacts, std::set<EditorCommand>> rows[] = {
         {{}, {}},
         {{.selectedCount = 2}, {Cut, Copy, DeleteEntries, CopyAsText}},
         {{.clipboardCount = 1}, {Paste}},
-        {focusedOn(dialog), {Save, SaveAs, Find, EditEntry}},
-        {focusedOn(events), {Save, SaveAs, Find}},
-        {focusedOn(events, event), {Save, SaveAs, Find, InsertScriptEvent, EditEntry}},
-        {focusedOn(events, luFunction), {Save, SaveAs, Find, InsertLuFunction}},
-        {focusedOn(luFunctions, luFunction), {Save, SaveAs, Find, InsertLuFunction, EditEntry}},
-        {focusedOn(menuCommands, event), {Save, SaveAs, Find, InsertScriptEvent}},
-        {focusedOn(menuCommands, menuCommand), {Save, SaveAs, Find, InsertMenuCommand, EditEntry}},
+        {focusedOn(dialog), filled({EditEntry})},
+        {focusedOn(events), filled({})},
+        {focusedOn(events, event), filled({InsertScriptEvent, EditEntry})},
+        {focusedOn(events, luFunction), filled({InsertLuFunction})},
+        {focusedOn(luFunctions, luFunction), filled({InsertLuFunction, EditEntry})},
+        {focusedOn(menuCommands, event), filled({InsertScriptEvent})},
+        {focusedOn(menuCommands, menuCommand), filled({InsertMenuCommand, EditEntry})},
         {{.undoStep = "Cut 1 Entry"}, {Undo}},
         {{.redoStep = "Cut 1 Entry"}, {Redo}},
+        {{.quickFix = "Remove Label a"}, {ApplyQuickFix}},
     };
-    const std::set<EditorCommand> always = {NewScript, Open,         Exit,           Help,
-                                            About,     InsertScript, HelpOnSelection};
+    const std::set<EditorCommand> always = {NewScript,    Open,       Exit,
+                                            Help,         About,      InsertScript,
+                                            ShowProblems, ShowGutter, HelpOnSelection};
     for (const auto& [facts, enabled] : rows)
         for (const CommandInfo& info : commands())
             EXPECT_EQ(isCommandEnabled(info, facts),
@@ -254,7 +260,8 @@ std::string shown(const CommandItems& items) {
 TEST(CommandTable, ANewCommandLeavesTheOthersOfItsMenuAndTheToolbarWhereTheyAre) {
     const std::pair<EditorMenu, std::string> rows[] = {
         {EditorMenu::File, "300 301 302 303 | 304"},
-        {EditorMenu::Edit, "321 322 | 305 306 324 307 | 323"},
+        {EditorMenu::Edit, "321 322 | 305 306 324 307 | 323 335 | 333"},
+        {EditorMenu::View, "330 334 | 331 332"},
         {EditorMenu::Entry, "308 309 310 325 | 311 | 312"},
         {EditorMenu::Mode, "313 314 315 316 317 318"},
         {EditorMenu::Help, "319 326 | 320"},

@@ -101,8 +101,8 @@ class Gestures {
     }
 
     void useMenu() {
-        static constexpr const char* menus[] = {"fileMenu", "editMenu", "entryMenu", "modeMenu",
-                                                "helpMenu"};
+        static constexpr const char* menus[] = {"fileMenu",  "editMenu", "viewMenu",
+                                                "entryMenu", "modeMenu", "helpMenu"};
         auto* menu = window_.findChild<QMenu*>(QLatin1String(chance_.of(menus)));
         menu->popup(window_.mapToGlobal(QPoint(20, 20)));
         for (std::size_t steps = 1 + chance_.below(8); steps > 0; --steps)

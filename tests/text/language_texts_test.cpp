@@ -68,13 +68,25 @@ TEST_P(LanguageTexts, AreThoseThatTheProgramUsesFinishedAndWithARoleForTranslato
 
 TEST_P(LanguageTexts, HaveTheFormatPlacesThatTheProgramFills) {
     std::map<StringId, std::string> filled = {
-        {textid::scriptInsertedUntilFull, "%d%d"}, {textid::findPosition, "%d%d"},
-        {textid::deleteVerbAndObject, "%s%s"},     {textid::numberRange, "%d%d"},
-        {textid::numberOutOfRange, "%s%d%d"},      {textid::checkNearestLabel, "%s%d"},
-        {textid::checkLabelDuplicate, "%s%d"},     {textid::checkParameterMissing, "%s%s"},
-        {textid::checkValueRange, "%s%s%s%s"},     {textid::checkKeyUnknown, "%s%s"},
-        {textid::checkTransferCut, "%d%d"},        {textid::folderTakesNoFile, "%s%s"},
+        {textid::scriptInsertedUntilFull, "%d%d"},
+        {textid::findPosition, "%d%d"},
+        {textid::deleteVerbAndObject, "%s%s"},
+        {textid::numberRange, "%d%d"},
+        {textid::numberOutOfRange, "%s%d%d"},
+        {textid::checkNearestLabel, "%s%d"},
+        {textid::checkLabelDuplicate, "%s%d"},
+        {textid::checkParameterMissing, "%s%s"},
+        {textid::checkValueRange, "%s%s%s%s"},
+        {textid::checkKeyUnknown, "%s%s"},
+        {textid::checkTransferCut, "%d%d"},
+        {textid::folderTakesNoFile, "%s%s"},
         {textid::checkBusyLoop, "%d%d"},
+        {textid::goToStepRefused, "%s%s"},
+        {textid::stepPosition, "%s%s"},
+        {textid::problemLine, "%s%s%s"},
+        {textid::errorMessage, "%s%s"},
+        {textid::warningMessage, "%s%s"},
+        {textid::noteMessage, "%s%s"},
     };
     for (const StringId id : {textid::scriptCannotBeOpened,
                               textid::insertNamedScriptEvent,
@@ -121,6 +133,14 @@ TEST_P(LanguageTexts, HaveTheFormatPlacesThatTheProgramFills) {
                               textid::cipherFails,
                               textid::savedUnsynced,
                               textid::convertedUnsynced,
+                              textid::quickFixStepMenuText,
+                              textid::quickFixStepToolTip,
+                              textid::goToStepPrompt,
+                              textid::errorCount,
+                              textid::warningCount,
+                              textid::fixChangeLabel,
+                              textid::fixAddLabel,
+                              textid::fixRemoveLabel,
                               textid::characterCannotBeStored})
         filled[id] = "%s";
     for (const StringId id :
@@ -144,14 +164,18 @@ TEST_P(LanguageTexts, CarryAMnemonicWhereTheOtherLanguagesDo) {
 
 TEST_P(LanguageTexts, GiveItemsOfAMenuAMnemonicOfTheirOwnEach) {
     const std::vector<StringId> menus[] = {
-        {textid::fileMenu, textid::editMenu, textid::entryMenu, textid::modeMenu, textid::helpMenu},
+        {textid::fileMenu, textid::editMenu, textid::viewMenu, textid::entryMenu, textid::modeMenu,
+         textid::helpMenu},
         {textid::newMenuText, textid::openMenuText, textid::saveMenuText, textid::saveAsMenuText,
          textid::exitMenuText},
         {textid::undoMenuText, textid::redoMenuText, textid::cutMenuText, textid::copyMenuText,
-         textid::pasteMenuText, textid::copyAsTextMenuText, textid::findMenuText},
+         textid::pasteMenuText, textid::copyAsTextMenuText, textid::findMenuText,
+         textid::goToStepMenuText, textid::quickFixMenuText},
+        {textid::problemsMenuText, textid::gutterMenuText, textid::nextProblemMenuText,
+         textid::previousProblemMenuText},
         {textid::undoStepMenuText, textid::redoStepMenuText, textid::cutMenuText,
          textid::copyMenuText, textid::pasteMenuText, textid::copyAsTextMenuText,
-         textid::findMenuText},
+         textid::findMenuText, textid::goToStepMenuText, textid::quickFixStepMenuText},
         {textid::insertScriptEventMenuText, textid::insertLuFunctionMenuText,
          textid::insertMenuCommandMenuText, textid::insertScriptMenuText, textid::editEntryMenuText,
          textid::deleteEntriesMenuText},

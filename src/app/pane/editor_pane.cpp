@@ -4,6 +4,7 @@
 #include "app/pane/pane_gestures.h"
 #include "app/pane/pane_lists.h"
 #include "app/pane/pane_selection.h"
+#include "app/pane/script_gutter.h"
 #include "app/pane/script_list_model.h"
 #include "session/drop_rules.h"
 #include "text/text_ids.h"
@@ -11,7 +12,10 @@
 #include "widgets/pane_list.h"
 
 #include <QEvent>
+#include <QItemSelectionModel>
 #include <QPainter>
+
+#include <utility>
 
 namespace quendra {
 
@@ -24,6 +28,8 @@ class EditorPane::Private {
     PaneSelection selection_;
     PaneGestures gestures_;
     DragController drag_;
+    std::optional<ScriptGutter> gutter_;
+    const LiveCheck* check_ = nullptr;
 };
 
 EditorPane::Private::Private(EditorPane& pane, ApplicationState& state)
@@ -35,6 +41,13 @@ EditorPane::Private::Private(EditorPane& pane, ApplicationState& state)
     connect(&drag_, &DragController::dropped, &gestures_, &PaneGestures::drop);
     connect(&selection_, &PaneSelection::changed, &pane, &EditorPane::selectionChanged);
     connect(&selection_, &PaneSelection::rebuilt, &pane, &EditorPane::listRebuilt);
+    connect(&lists_.scriptModel(), &QAbstractItemModel::modelReset, &pane, [this] {
+        if (gutter_) gutter_->refit();
+    });
+    connect(lists_.script().selectionModel(), &QItemSelectionModel::currentChanged, &pane, [this] {
+        // The jumps of the focused step stand out, wherever they lead.
+        if (gutter_) lists_.script().viewport()->update();
+    });
     connect(&gestures_, &PaneGestures::commandRequested, &pane, &EditorPane::commandRequested);
     connect(&gestures_, &PaneGestures::entriesAboutToMove, &pane, &EditorPane::entriesAboutToMove);
     connect(&gestures_, &PaneGestures::entriesMoved, &pane, &EditorPane::entriesMoved);
@@ -75,6 +88,25 @@ void EditorPane::selectEntries(std::span<const std::size_t> entries, int focused
 
 void EditorPane::markEntries(std::vector<std::size_t> entries) {
     d_->lists_.scriptModel().markRows(std::move(entries));
+}
+
+void EditorPane::showFindings(const LiveCheck& check) {
+    const bool isNew = std::exchange(d_->check_, &check) != &check;
+    d_->lists_.scriptModel().showFindings(&check);
+    if (!d_->gutter_) return;
+    if (isNew) return showGutter(true);
+    d_->gutter_->refit();
+    d_->lists_.script().viewport()->update();
+}
+
+void EditorPane::showGutter(bool shown) {
+    PaneList& list = d_->lists_.script();
+    list.setGutter(nullptr);
+    d_->gutter_.reset();
+    if (!shown) return;
+    d_->gutter_.emplace(list, d_->check_);
+    d_->gutter_->refit();
+    list.setGutter(&*d_->gutter_);
 }
 
 int EditorPane::selectedRow(Palette palette) const {
@@ -127,6 +159,7 @@ void EditorPane::changeEvent(QEvent* event) {
     QWidget::changeEvent(event);
     if (event->type() != QEvent::FontChange && event->type() != QEvent::StyleChange) return;
     d_->lists_.place();
+    if (d_->gutter_) d_->gutter_->refit();
     updateGeometry();
 }
 

@@ -14,6 +14,8 @@
 
 namespace quendra {
 
+class LiveCheck;
+
 class EditorPane : public QWidget {
     Q_OBJECT
 
@@ -41,6 +43,11 @@ class EditorPane : public QWidget {
     void selectEntries(std::span<const std::size_t> entries, int focused);
     /// Marks these entries (ascending), and no others, as found by a search.
     void markEntries(std::vector<std::size_t> entries);
+    /// Marks what a check of the script has found, and its jumps. To be told anew whenever it has
+    /// changed; `check` outlives the pane.
+    void showFindings(const LiveCheck& check);
+    /// Shows numbers and jumps of the steps at the left of the script list, or takes them away.
+    void showGutter(bool shown);
     /// The selected row of a palette, -1 for none.
     [[nodiscard]] int selectedRow(Palette palette) const;
     /// The palette that has the focus or had it last; none while that is the script list.

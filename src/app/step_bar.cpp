@@ -1,0 +1,148 @@
+#include "app/step_bar.h"
+
+#include "text/text_ids.h"
+#include "widgets/toolkit_language.h"
+#include "widgets/ui_text.h"
+
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMainWindow>
+#include <QStatusBar>
+
+#include <algorithm>
+#include <optional>
+
+namespace quendra {
+
+namespace {
+
+constexpr int longestNumber = 12;
+
+// "1,234" and "1 234" are numbers too, whoever writes them so.
+std::optional<std::size_t> numberIn(const QString& text) {
+    QString digits;
+    for (const QChar c : text) {
+        if (!c.isSpace() && c != u',' && c != u'.' && c != u'\'' && c != u'\u2019') digits += c;
+    }
+    bool isNumber = false;
+    const qulonglong number = digits.toULongLong(&isNumber);
+    if (!isNumber) return std::nullopt;
+    return static_cast<std::size_t>(number);
+}
+
+// The user's own way where it is one of the window's language; a machine that has none would write
+// numbers without groups.
+QLocale localeOf(const ApplicationState& state) {
+    const std::string language = interfaceLanguage(state.settings.configDir);
+    const QLocale wanted(language.empty() ? QStringLiteral("en") : qtText(language));
+    const QLocale own;
+    return own.language() == wanted.language() ? own : wanted;
+}
+
+}  // namespace
+
+StepBar::StepBar(ApplicationState& state, EditorPane& pane, QMainWindow& window)
+    : QToolBar(&window),
+      state_(state),
+      pane_(pane),
+      prompt_(new QLabel(this)),
+      edit_(new QLineEdit(this)),
+      refusal_(new QLabel(this)),
+      position_(new QLabel(&window)),
+      locale_(localeOf(state)) {
+    const QString name = qtText(libraryText(state.language, textid::goToStepToolTip));
+    setObjectName(QStringLiteral("stepBar"));
+    setAccessibleName(name);
+    setMovable(false);
+    prompt_->setObjectName(QStringLiteral("stepPrompt"));
+    prompt_->setContentsMargins(4, 0, 8, 0);
+    edit_->setObjectName(QStringLiteral("stepNumber"));
+    edit_->setAccessibleName(name);
+    edit_->setMaxLength(longestNumber);
+    edit_->setMaximumWidth(longestNumber * fontMetrics().averageCharWidth());
+    edit_->installEventFilter(this);
+    refusal_->setObjectName(QStringLiteral("stepRefusal"));
+    refusal_->setTextFormat(Qt::PlainText);
+    refusal_->setContentsMargins(8, 0, 8, 0);
+    refusal_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    addWidget(prompt_);
+    addWidget(edit_);
+    addWidget(refusal_);
+    connect(edit_, &QLineEdit::textEdited, refusal_, &QLabel::clear);
+    hide();
+    position_->setObjectName(QStringLiteral("stepPosition"));
+    position_->setContentsMargins(4, 0, 4, 0);
+    window.statusBar()->addPermanentWidget(position_);
+    connect(&pane, &EditorPane::selectionChanged, this, &StepBar::showPosition);
+    showPosition();
+}
+
+std::string StepBar::grouped(std::size_t number) const {
+    return locale_.toString(qulonglong{number}).toStdString();
+}
+
+void StepBar::showPosition() {
+    const int focused = pane_.focusedEntry();
+    position_->setVisible(focused >= 0);
+    if (focused < 0) return;
+    position_->setText(qtText(libraryText(
+        state_.language, textid::stepPosition,
+        {grouped(static_cast<std::size_t>(focused) + 1), grouped(state_.script.entryCount())})));
+}
+
+void StepBar::open() {
+    const std::size_t count = state_.script.entryCount();
+    if (count == 0) return;
+    prompt_->setText(
+        qtText(libraryText(state_.language, textid::goToStepPrompt, {grouped(count)})));
+    refusal_->clear();
+    edit_->setText(QString::number(std::max(pane_.focusedEntry(), 0) + 1));
+    show();
+    edit_->setFocus();
+    edit_->selectAll();
+}
+
+void StepBar::close() {
+    hide();
+    pane_.takeFocus();
+}
+
+void StepBar::go() {
+    const std::size_t count = state_.script.entryCount();
+    const auto number = numberIn(edit_->text());
+    if (!number || *number < 1 || *number > count) {
+        refusal_->setText(qtText(libraryText(state_.language, textid::goToStepRefused,
+                                             {edit_->text().toStdString(), grouped(count)})));
+        edit_->selectAll();
+        return;
+    }
+    const std::size_t entries[] = {*number - 1};
+    pane_.selectEntries(entries, static_cast<int>(*number - 1));
+    close();
+}
+
+bool StepBar::eventFilter(QObject*, QEvent* event) {
+    if (event->type() == QEvent::FocusOut) {
+        // Not when a menu or another window takes it for a while.
+        const Qt::FocusReason reason = static_cast<const QFocusEvent&>(*event).reason();
+        if (reason != Qt::PopupFocusReason && reason != Qt::ActiveWindowFocusReason) hide();
+        return false;
+    }
+    if (event->type() != QEvent::KeyPress && event->type() != QEvent::ShortcutOverride)
+        return false;
+    const auto& key = static_cast<const QKeyEvent&>(*event);
+    const bool isReturn = key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter;
+    if (!isReturn && key.key() != Qt::Key_Escape) return false;
+    if (event->type() == QEvent::ShortcutOverride) {
+        // Another bar closes by this key too.
+        event->accept();
+    } else if (isReturn) {
+        go();
+    } else {
+        close();
+    }
+    return true;
+}
+
+}  // namespace quendra

@@ -1,0 +1,133 @@
+#include "session/live_check.h"
+
+#include "text/text_ids.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace quendra {
+
+namespace {
+
+std::size_t stepOf(const Finding& finding) {
+    return finding.place.step;
+}
+
+bool haveSameMarks(const std::vector<Finding>& left, const std::vector<Finding>& right) {
+    return std::ranges::equal(left, right, [](const Finding& one, const Finding& other) {
+        return one.place.step == other.place.step &&
+               ruleInfo(one.rule).severity == ruleInfo(other.rule).severity;
+    });
+}
+
+bool isAt(std::span<const Finding> findings, std::optional<std::size_t> current, int step) {
+    return current && *current < findings.size() && step >= 0 &&
+           findings[*current].place.step == static_cast<std::size_t>(step);
+}
+
+StringId toldText(Severity severity) {
+    switch (severity) {
+        case Severity::Error: return textid::errorMessage;
+        case Severity::Warning: return textid::warningMessage;
+        case Severity::Note: break;
+    }
+    return textid::noteMessage;
+}
+
+}  // namespace
+
+LiveCheck::Change LiveCheck::update() {
+    if (hostType_ == state_.currentHostType && script_ == state_.script) return Change::None;
+    script_ = state_.script;
+    hostType_ = state_.currentHostType;
+    CheckOptions options;
+    options.hostType = hostType_;
+    options.hasKey = !state_.cipher.onlyObscures();
+    CheckResult result = checkScript(script_, state_.cipher, options);
+    JumpLanes lanes(result.outline);
+    const bool isSame = haveSameMarks(result.findings, result_.findings) && lanes == lanes_;
+    result_ = std::move(result);
+    lanes_ = std::move(lanes);
+    return isSame ? Change::Texts : Change::Marks;
+}
+
+std::span<const Finding> LiveCheck::findingsOf(std::size_t step) const {
+    return std::ranges::equal_range(result_.findings, step, {}, stepOf);
+}
+
+std::optional<Severity> LiveCheck::worstOf(std::size_t step) const {
+    std::optional<Severity> worst;
+    for (const Finding& finding : findingsOf(step)) {
+        const Severity severity = ruleInfo(finding.rule).severity;
+        worst = std::min(worst.value_or(severity), severity);
+    }
+    return worst;
+}
+
+std::size_t LiveCheck::count(Severity severity) const {
+    return static_cast<std::size_t>(
+        std::ranges::count(result_.findings, severity,
+                           [](const Finding& finding) { return ruleInfo(finding.rule).severity; }));
+}
+
+std::string LiveCheck::message(const Finding& finding) const {
+    return findingMessage(finding, result_.outline, state_.language.textSource());
+}
+
+std::string LiveCheck::line(const Finding& finding) const {
+    return libraryText(state_.language, textid::problemLine,
+                       {std::to_string(finding.place.step + 1), message(finding),
+                        std::string(ruleInfo(finding.rule).id)});
+}
+
+std::string LiveCheck::told(const Finding& finding) const {
+    const RuleInfo& rule = ruleInfo(finding.rule);
+    return libraryText(state_.language, toldText(rule.severity),
+                       {message(finding), std::string(rule.id)});
+}
+
+std::string LiveCheck::toldOf(std::size_t step) const {
+    std::string all;
+    for (const Finding& finding : findingsOf(step))
+        all += (all.empty() ? "" : "\n") + told(finding);
+    return all;
+}
+
+std::string LiveCheck::counts() const {
+    std::string all;
+    const auto add = [&](Severity severity, StringId one, StringId many) {
+        const std::size_t found = count(severity);
+        if (found == 0) return;
+        if (!all.empty()) all += ", ";
+        all += found == 1 ? state_.language.loadText(one)
+                          : libraryText(state_.language, many, {std::to_string(found)});
+    };
+    add(Severity::Error, textid::oneError, textid::errorCount);
+    add(Severity::Warning, textid::oneWarning, textid::warningCount);
+    return all;
+}
+
+std::optional<std::size_t> nextFinding(std::span<const Finding> findings, int step,
+                                       std::optional<std::size_t> current) {
+    if (findings.empty()) return std::nullopt;
+    if (isAt(findings, current, step)) return (*current + 1) % findings.size();
+    const auto behind = static_cast<std::size_t>(step + 1);
+    const auto next = std::ranges::lower_bound(findings, behind, {}, stepOf);
+    return next == findings.end() ? 0 : static_cast<std::size_t>(next - findings.begin());
+}
+
+std::optional<std::size_t> previousFinding(std::span<const Finding> findings, int step,
+                                           std::optional<std::size_t> current) {
+    if (findings.empty()) return std::nullopt;
+    std::size_t behind = findings.size();
+    if (isAt(findings, current, step)) {
+        behind = *current;
+    } else if (step >= 0) {
+        const auto here =
+            std::ranges::lower_bound(findings, static_cast<std::size_t>(step), {}, stepOf);
+        behind = static_cast<std::size_t>(here - findings.begin());
+    }
+    return (behind + findings.size() - 1) % findings.size();
+}
+
+}  // namespace quendra
