@@ -32,10 +32,23 @@ std::optional<std::size_t> keptBehind(const Fates& fates, std::size_t step) {
     return std::nullopt;
 }
 
+// Another action with all its fields is one change.
+std::size_t countChanges(const std::vector<FieldDifference>& differences) {
+    std::string_view action;
+    return static_cast<std::size_t>(
+        std::ranges::count_if(differences, [&](const FieldDifference& difference) {
+            const std::string_view name = difference.name;
+            if (!action.empty() && name.starts_with(action)) return false;
+            constexpr std::string_view command = "command";
+            if (name.ends_with(command)) action = name.substr(0, name.size() - command.size());
+            return true;
+        }));
+}
+
 // One field was changed, and if that is what tells the step, not altogether: a new step of the same
 // command would differ in more.
 bool looksEdited(const ScriptEntry& before, const ScriptEntry& after) {
-    if (fieldDifferences(before, after).size() != 1) return false;
+    if (countChanges(fieldDifferences(before, after)) != 1) return false;
     const std::string_view old = tellingText(before);
     const std::string_view now = tellingText(after);
     if (old == now) return !old.empty();
