@@ -33,7 +33,14 @@ QString cut(const QString& text, qsizetype length) {
     return text.left(text.at(length - 1).isHighSurrogate() ? length - 1 : length);
 }
 
-// A base name from "language.ini" stays below the folder even when it begins with a separator.
+// "language.ini" may lie in a folder that anybody may write: its name must not lead to a library of
+// theirs, whose sum would be theirs too.
+bool staysBelowFolders(const std::string& baseName) {
+    const fs::path name = fs::path(baseName).relative_path().lexically_normal();
+    return !name.empty() && *name.begin() != "..";
+}
+
+// A base name that begins with a separator stays below the folder too.
 fs::path libraryPath(const fs::path& folder, const std::string& baseName) {
     return folder / fs::path(baseName + extension).relative_path();
 }
@@ -93,8 +100,10 @@ std::optional<LanguageNotice> LanguageLibrary::load(const LanguageFolders& folde
 }
 
 bool LanguageLibrary::loadFrom(const LanguageFolders& folders, const std::string& baseName) {
+    unload();
     const std::size_t at = baseName.find('_');
     language_ = at == std::string::npos ? std::string() : baseName.substr(at + 1);
+    if (!staysBelowFolders(baseName)) return false;
     for (const auto& folder : {folders.programDir, folders.programDir / dataFolder}) {
         if (loadFile(libraryPath(folder, baseName))) return true;
     }
