@@ -45,9 +45,9 @@ FindBar::FindBar(ApplicationState& state, EditorPane& pane, QWidget* parent)
     connect(&pane_, &EditorPane::selectionChanged, this, &FindBar::selectionMoved);
     connect(escape_, &QShortcut::activated, this, &FindBar::close);
     escape_->setEnabled(false);
-    connect(new QShortcut(QKeySequence::FindNext, parent), &QShortcut::activated, this,
-            &FindBar::goToNext);
-    connect(new QShortcut(QKeySequence::FindPrevious, parent), &QShortcut::activated, this,
+    // Not the standard keys for it: Ctrl+G, which is one of them on some desktops, goes to a step.
+    connect(new QShortcut(Qt::Key_F3, parent), &QShortcut::activated, this, &FindBar::goToNext);
+    connect(new QShortcut(Qt::SHIFT | Qt::Key_F3, parent), &QShortcut::activated, this,
             &FindBar::goToPrevious);
     hide();
 }

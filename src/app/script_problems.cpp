@@ -36,6 +36,8 @@ ScriptProblems::ScriptProblems(ApplicationState& state, EditorPane& pane, QActio
     count_->setObjectName(QStringLiteral("problemCount"));
     count_->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     count_->setAutoRaise(true);
+    // A button would make the status bar higher, at the cost of the pane.
+    count_->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Ignored);
     count_->setToolTip(qtText(libraryText(state.language, textid::showProblems)));
     window.statusBar()->addPermanentWidget(count_);
     connect(count_, &QToolButton::clicked, this, [this] { setListShown(true); });

@@ -1,9 +1,11 @@
 #include "app/step_bar.h"
 
 #include "text/text_ids.h"
+#include "widgets/status_line.h"
 #include "widgets/toolkit_language.h"
 #include "widgets/ui_text.h"
 
+#include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
@@ -48,34 +50,40 @@ StepBar::StepBar(ApplicationState& state, EditorPane& pane, QMainWindow& window)
       pane_(pane),
       prompt_(new QLabel(this)),
       edit_(new QLineEdit(this)),
-      refusal_(new QLabel(this)),
+      refusal_(new StatusLine(this)),
       position_(new QLabel(&window)),
       locale_(localeOf(state)) {
-    const QString name = qtText(libraryText(state.language, textid::goToStepToolTip));
-    setObjectName(QStringLiteral("stepBar"));
-    setAccessibleName(name);
-    setMovable(false);
-    prompt_->setObjectName(QStringLiteral("stepPrompt"));
-    prompt_->setContentsMargins(4, 0, 8, 0);
-    edit_->setObjectName(QStringLiteral("stepNumber"));
-    edit_->setAccessibleName(name);
-    edit_->setMaxLength(longestNumber);
-    edit_->setMaximumWidth(longestNumber * fontMetrics().averageCharWidth());
-    edit_->installEventFilter(this);
-    refusal_->setObjectName(QStringLiteral("stepRefusal"));
-    refusal_->setTextFormat(Qt::PlainText);
-    refusal_->setContentsMargins(8, 0, 8, 0);
-    refusal_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-    addWidget(prompt_);
-    addWidget(edit_);
-    addWidget(refusal_);
-    connect(edit_, &QLineEdit::textEdited, refusal_, &QLabel::clear);
+    build();
     hide();
     position_->setObjectName(QStringLiteral("stepPosition"));
     position_->setContentsMargins(4, 0, 4, 0);
     window.statusBar()->addPermanentWidget(position_);
     connect(&pane, &EditorPane::selectionChanged, this, &StepBar::showPosition);
     showPosition();
+}
+
+void StepBar::build() {
+    const QString name = qtText(libraryText(state_.language, textid::goToStepToolTip));
+    setObjectName(QStringLiteral("stepBar"));
+    setAccessibleName(name);
+    setMovable(false);
+    prompt_->setObjectName(QStringLiteral("stepPrompt"));
+    edit_->setObjectName(QStringLiteral("stepNumber"));
+    edit_->setAccessibleName(name);
+    edit_->setMaxLength(longestNumber);
+    edit_->setFixedWidth(longestNumber * fontMetrics().averageCharWidth());
+    edit_->installEventFilter(this);
+    refusal_->setObjectName(QStringLiteral("stepRefusal"));
+    // As one widget: of a bar that is too narrow, a tool bar would hide the parts at the end.
+    auto* whole = new QWidget(this);
+    whole->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
+    auto* row = new QHBoxLayout(whole);
+    row->setContentsMargins(4, 0, 4, 0);
+    row->addWidget(prompt_);
+    row->addWidget(edit_);
+    row->addWidget(refusal_, 1);
+    addWidget(whole);
+    connect(edit_, &QLineEdit::textEdited, refusal_, [this] { refusal_->setLine({}); });
 }
 
 std::string StepBar::grouped(std::size_t number) const {
@@ -96,7 +104,7 @@ void StepBar::open() {
     if (count == 0) return;
     prompt_->setText(
         qtText(libraryText(state_.language, textid::goToStepPrompt, {grouped(count)})));
-    refusal_->clear();
+    refusal_->setLine({});
     edit_->setText(QString::number(std::max(pane_.focusedEntry(), 0) + 1));
     show();
     edit_->setFocus();
@@ -112,7 +120,7 @@ void StepBar::go() {
     const std::size_t count = state_.script.entryCount();
     const auto number = numberIn(edit_->text());
     if (!number || *number < 1 || *number > count) {
-        refusal_->setText(qtText(libraryText(state_.language, textid::goToStepRefused,
+        refusal_->setLine(qtText(libraryText(state_.language, textid::goToStepRefused,
                                              {edit_->text().toStdString(), grouped(count)})));
         edit_->selectAll();
         return;

@@ -14,6 +14,8 @@ class QMainWindow;
 
 namespace quendra {
 
+class StatusLine;
+
 /// Hidden until it is opened; Return goes to the step, and what is no step is told and stays to be
 /// corrected.
 class StepBar : public QToolBar {
@@ -30,6 +32,7 @@ class StepBar : public QToolBar {
     bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
+    void build();
     void close();
     void go();
     void showPosition();
@@ -40,7 +43,7 @@ class StepBar : public QToolBar {
     EditorPane& pane_;
     QLabel* prompt_;
     QLineEdit* edit_;
-    QLabel* refusal_;
+    StatusLine* refusal_;
     QLabel* position_;
     QLocale locale_;
 };
