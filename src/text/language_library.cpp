@@ -102,7 +102,9 @@ std::optional<LanguageNotice> LanguageLibrary::load(const LanguageFolders& folde
 bool LanguageLibrary::loadFrom(const LanguageFolders& folders, const std::string& baseName) {
     unload();
     const std::size_t at = baseName.find('_');
-    language_ = at == std::string::npos ? std::string() : baseName.substr(at + 1);
+    // It becomes a part of names of files, and must not lead to other folders.
+    const bool isName = at != std::string::npos && baseName.find('/', at) == std::string::npos;
+    language_ = isName ? baseName.substr(at + 1) : std::string();
     if (!staysBelowFolders(baseName)) return false;
     for (const auto& folder : {folders.programDir, folders.programDir / dataFolder}) {
         if (loadFile(libraryPath(folder, baseName))) return true;
