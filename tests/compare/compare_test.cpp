@@ -119,6 +119,17 @@ TEST(Diff, TellsChangedMovedGoneAndNewSteps) {
     }
 }
 
+TEST(Diff, KnowsATransferByItsHostFile) {
+    const auto transfer = [](std::string_view hostFile, std::uint32_t data) {
+        FileTransferSettings settings = defaultTransferSettings();
+        setTransferText(settings, transfer::hostFileName, hostFile);
+        return storeRecord(transferRecord(settings, 236, data, 0));
+    };
+    const ScriptDiff diff =
+        diffScripts({{transfer("a", 0)}}, {{transfer("b", 0), transfer("a", 1)}});
+    EXPECT_EQ(diff.left[0].other, 1U) << "each has one field that differs";
+}
+
 TEST(Diff, NamesEachFieldThatAloneWasChangedAndNoOther) {
     for (std::uint32_t code = 1; code <= 23; ++code) {
         if (!isCommandCode(code)) continue;
