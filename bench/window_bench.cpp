@@ -2,6 +2,7 @@
 // script list, within a frame of the screen, and growing with the script rather than with its
 // square. Without QT_QPA_PLATFORM it needs no screen.
 #include "app/command_handlers.h"
+#include "app/find_bar.h"
 #include "app/main_window.h"
 #include "app/script_editor.h"
 #include "pair.h"
@@ -13,6 +14,9 @@
 
 #include <QApplication>
 #include <QItemSelectionModel>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
 #include <QListView>
 #include <QMouseEvent>
 
@@ -61,6 +65,11 @@ class Editor {
     void putOnClipboard(std::size_t entries);
     /// Returns when what the last change made necessary is painted.
     void waitUntilPainted();
+    /// Opens the find bar without a text, on the whole script.
+    void beginFinding();
+    /// Types into the find bar.
+    void find(const char* letters);
+    [[nodiscard]] bool hasFound() const { return found_->text().contains(QLatin1Char('-')); }
     void repaintList() { list_->viewport()->repaint(); }
     [[nodiscard]] const Script& script() const { return state_.script; }
     [[nodiscard]] std::size_t whole() const { return whole_.entryCount(); }
@@ -79,6 +88,8 @@ class Editor {
     std::unique_ptr<ScriptEditor> commands_;
     std::unique_ptr<CommandHandlers> handlers_;
     QListView* list_ = nullptr;
+    QLineEdit* find_ = nullptr;
+    QLabel* found_ = nullptr;
     std::unique_ptr<PaintWatch> watch_;
 };
 
@@ -100,6 +111,8 @@ Editor::Editor(std::size_t entries) : whole_(typicalScript(state_.cipher)) {
         });
     handlers_ = std::make_unique<CommandHandlers>(state_, *window_, *commands_);
     list_ = window_->findChild<QListView*>(QStringLiteral("scriptList"));
+    find_ = window_->findChild<QLineEdit*>(QStringLiteral("findText"));
+    found_ = window_->findChild<QLabel*>(QStringLiteral("findCount"));
     watch_ = std::make_unique<PaintWatch>(*list_->viewport());
     window_->show();
     window_->pane().takeFocus();
@@ -137,6 +150,19 @@ void Editor::waitUntilPainted() {
     watch_->painted = false;
     while (!watch_->painted) {
         QCoreApplication::processEvents();
+    }
+}
+
+void Editor::beginFinding() {
+    run(EditorCommand::Find);
+    find_->clear();
+    window_->findBar().open();
+}
+
+void Editor::find(const char* letters) {
+    for (const char* letter = letters; *letter != 0; ++letter) {
+        QKeyEvent press(QEvent::KeyPress, 0, Qt::NoModifier, QString(QLatin1Char(*letter)));
+        QCoreApplication::sendEvent(find_, &press);
     }
 }
 
@@ -270,7 +296,27 @@ void growth(benchmark::State& state, const Action& action, Editors& editors) {
         {.ratio = 5});
 }
 
+// A letter that most entries have, to the finished painting.
+void findAsTyped(benchmark::State& state, Editors& editors) {
+    comparePair(
+        state, [&] { editors.untouched.repaintList(); },
+        [&] {
+            editors.most.find("e");
+            editors.most.waitUntilPainted();
+            if (!editors.most.hasFound()) throw std::runtime_error("nothing was found");
+        },
+        [&] {
+            editors.most.reset();
+            editors.most.beginFinding();
+            editors.most.waitUntilPainted();
+        },
+        {.microseconds = 5000});
+}
+
 void registerAll(Editors& editors) {
+    benchmark::RegisterBenchmark("find/painted", [&editors](benchmark::State& state) {
+        findAsTyped(state, editors);
+    })->UseManualTime();
     for (const Action& action : actions()) {
         const bool isEdit = std::string_view(action.name) == "edit";
         const Goal goal{.ratio = isEdit ? 1.7 : 0, .microseconds = frame};

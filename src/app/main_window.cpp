@@ -70,6 +70,7 @@ MainWindow::MainWindow(ApplicationState& state, const std::function<void()>& bef
     findBar_ = new FindBar(state_, *pane_, this);
     addToolBar(Qt::BottomToolBarArea, findBar_);
     findBar_->hide();
+    connect(findBar_, &FindBar::noted, this, &MainWindow::showNote);
     nameExtensionButtons(*this, qtText(libraryText(state_.language, textid::moreCommands)));
     connect(pane_, &EditorPane::commandRequested, this, &MainWindow::runCommand);
     connect(pane_, &EditorPane::selectionChanged, this, &MainWindow::updateCommandStates);
@@ -198,10 +199,6 @@ bool MainWindow::refusedAtLimit(const CommandInfo& command) {
         this, {formatText("Max limit of %d script entries reached.", {std::to_string(maxEntries)}),
                "Quendra Script Editor", MessageIcon::Information, MessageButtons::Ok, false});
     return true;
-}
-
-void MainWindow::openFindBar() {
-    findBar_->open();
 }
 
 void MainWindow::closeSoon() {

@@ -49,7 +49,6 @@ class MainWindow : public QMainWindow {
     /// Gives false when something was not saved that the user wanted saved.
     bool save();
     bool saveAs();
-    void openFindBar();
     /// Closes the window when the present event has been handled.
     void closeSoon();
 
@@ -87,6 +86,7 @@ class MainWindow : public QMainWindow {
     void endSession();
 
     [[nodiscard]] EditorPane& pane() { return *pane_; }
+    [[nodiscard]] FindBar& findBar() { return *findBar_; }
 
   protected:
     void paintEvent(QPaintEvent* event) override;

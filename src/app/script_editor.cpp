@@ -1,5 +1,6 @@
 #include "app/script_editor.h"
 
+#include "analysis/script_changes.h"
 #include "app/main_window.h"
 #include "scriptfile/entry_codec.h"
 #include "session/command_rules.h"
@@ -59,6 +60,18 @@ void ScriptEditor::deleteSelected() {
 void ScriptEditor::editEntry() {
     change([this] { return quendra::editCurrentEntry(state_, *this); },
            [this] { return libraryText(state_.language, textid::editStep); });
+}
+
+void ScriptEditor::apply(const ScriptChanges& changes, const std::string& stepName) {
+    change(
+        [&] {
+            const EntrySelection selection = currentView().selection;
+            applyChanges(state_.script, changes);
+            state_.currentIndex = selection.focused;
+            showScript(selection);
+            return !changes.steps.empty();
+        },
+        [&] { return stepName; });
 }
 
 void ScriptEditor::change(const std::function<bool()>& operation,

@@ -41,6 +41,13 @@ enum class EditorCommand : int {
     CopyAsText = 324,
     InsertScript = 325,
     HelpOnSelection = 326,
+    FindNext = 340,
+    FindPrevious = 341,
+    Replace = 342,
+    RenameLabel = 343,
+    GoToLabel = 344,
+    GoBack = 345,
+    FindUses = 346,
 };
 
 /// In the order of the menu bar.
