@@ -2,6 +2,7 @@
 // script list, within a frame of the screen, and growing with the script rather than with its
 // square. Without QT_QPA_PLATFORM it needs no screen.
 #include "app/command_handlers.h"
+#include "app/find_bar.h"
 #include "app/main_window.h"
 #include "app/script_editor.h"
 #include "pair.h"
@@ -14,6 +15,9 @@
 
 #include <QApplication>
 #include <QItemSelectionModel>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
 #include <QListView>
 #include <QMouseEvent>
 
@@ -62,6 +66,11 @@ class Editor {
     void putOnClipboard(std::size_t entries);
     /// Returns when what the last change made necessary is painted.
     void waitUntilPainted();
+    /// Opens the find bar without a text, on the whole script.
+    void beginFinding();
+    /// Types into the find bar.
+    void find(const char* letters);
+    [[nodiscard]] bool hasFound() const { return found_->text().contains(QLatin1Char('-')); }
     void repaintList() { list_->viewport()->repaint(); }
     void showGutter(bool shown) { window_->pane().showGutter(shown); }
     /// What follows a change when it has been painted.
@@ -86,6 +95,8 @@ class Editor {
     std::unique_ptr<ScriptEditor> commands_;
     std::unique_ptr<CommandHandlers> handlers_;
     QListView* list_ = nullptr;
+    QLineEdit* find_ = nullptr;
+    QLabel* found_ = nullptr;
     std::unique_ptr<PaintWatch> watch_;
 };
 
@@ -107,6 +118,8 @@ Editor::Editor(std::size_t entries) : whole_(typicalScript(state_.cipher)) {
         });
     handlers_ = std::make_unique<CommandHandlers>(state_, *window_, *commands_);
     list_ = window_->findChild<QListView*>(QStringLiteral("scriptList"));
+    find_ = window_->findChild<QLineEdit*>(QStringLiteral("findText"));
+    found_ = window_->findChild<QLabel*>(QStringLiteral("findCount"));
     watch_ = std::make_unique<PaintWatch>(*list_->viewport());
     window_->show();
     window_->pane().takeFocus();
@@ -144,6 +157,19 @@ void Editor::waitUntilPainted() {
     watch_->painted = false;
     while (!watch_->painted) {
         QCoreApplication::processEvents();
+    }
+}
+
+void Editor::beginFinding() {
+    run(EditorCommand::Find);
+    find_->clear();
+    window_->findBar().open();
+}
+
+void Editor::find(const char* letters) {
+    for (const char* letter = letters; *letter != 0; ++letter) {
+        QKeyEvent press(QEvent::KeyPress, 0, Qt::NoModifier, QString(QLatin1Char(*letter)));
+        QCoreApplication::sendEvent(find_, &press);
     }
 }
 
@@ -294,12 +320,32 @@ void liveCheck(benchmark::State& state, Editors& editors) {
         {.microseconds = 2000});
 }
 
+// A letter that most entries have, to the finished painting.
+void findAsTyped(benchmark::State& state, Editors& editors) {
+    comparePair(
+        state, [&] { editors.untouched.repaintList(); },
+        [&] {
+            editors.most.find("e");
+            editors.most.waitUntilPainted();
+            if (!editors.most.hasFound()) throw std::runtime_error("nothing was found");
+        },
+        [&] {
+            editors.most.reset();
+            editors.most.beginFinding();
+            editors.most.waitUntilPainted();
+        },
+        {.microseconds = 5000});
+}
+
 void registerAll(Editors& editors) {
     benchmark::RegisterBenchmark("gutter/repaint", [&editors](benchmark::State& state) {
         gutter(state, editors);
     })->UseManualTime();
     benchmark::RegisterBenchmark("check/afterChange", [&editors](benchmark::State& state) {
         liveCheck(state, editors);
+    })->UseManualTime();
+    benchmark::RegisterBenchmark("find/painted", [&editors](benchmark::State& state) {
+        findAsTyped(state, editors);
     })->UseManualTime();
     for (const Action& action : actions()) {
         const bool isEdit = std::string_view(action.name) == "edit";

@@ -3207,6 +3207,318 @@
         <translation>Close</translation>
         <extra-name>findClose</extra-name>
     </message>
+    <message id="17250">
+        <source>Find &amp;Next</source>
+        <extracomment>Menu Edit</extracomment>
+        <translation>Find &amp;Next</translation>
+        <extra-name>findNextMenuText</extra-name>
+    </message>
+    <message id="17251">
+        <source>Goes to the next match.</source>
+        <extracomment>Status bar: Find Next</extracomment>
+        <translation>Goes to the next match.</translation>
+        <extra-name>findNextStatusText</extra-name>
+    </message>
+    <message id="17252">
+        <source>Find Pre&amp;vious</source>
+        <extracomment>Menu Edit</extracomment>
+        <translation>Find Pre&amp;vious</translation>
+        <extra-name>findPreviousMenuText</extra-name>
+    </message>
+    <message id="17253">
+        <source>Goes to the previous match.</source>
+        <extracomment>Status bar: Find Previous</extracomment>
+        <translation>Goes to the previous match.</translation>
+        <extra-name>findPreviousStatusText</extra-name>
+    </message>
+    <message id="17254">
+        <source>R&amp;eplace...</source>
+        <extracomment>Menu Edit</extracomment>
+        <translation>R&amp;eplace...</translation>
+        <extra-name>replaceMenuText</extra-name>
+    </message>
+    <message id="17255">
+        <source>Replace</source>
+        <extracomment>Tooltip: Replace; also the name of the step in Undo and the title of its messages</extracomment>
+        <translation>Replace</translation>
+        <extra-name>replaceToolTip</extra-name>
+    </message>
+    <message id="17256">
+        <source>Replaces texts and numbers in the entries.</source>
+        <extracomment>Status bar: Replace</extracomment>
+        <translation>Replaces texts and numbers in the entries.</translation>
+        <extra-name>replaceStatusText</extra-name>
+    </message>
+    <message id="17257">
+        <source>Rename La&amp;bel...</source>
+        <extracomment>Menu Entry</extracomment>
+        <translation>Rename La&amp;bel...</translation>
+        <extra-name>renameLabelMenuText</extra-name>
+    </message>
+    <message id="17258">
+        <source>Rename Label</source>
+        <extracomment>Tooltip: Rename Label; also the dialog's title and the name of the step in Undo</extracomment>
+        <translation>Rename Label</translation>
+        <extra-name>renameLabelToolTip</extra-name>
+    </message>
+    <message id="17259">
+        <source>Renames the label of the current entry in the whole script.</source>
+        <extracomment>Status bar: Rename Label</extracomment>
+        <translation>Renames the label of the current entry in the whole script.</translation>
+        <extra-name>renameLabelStatusText</extra-name>
+    </message>
+    <message id="17260">
+        <source>&amp;Go to Label</source>
+        <extracomment>Menu Entry</extracomment>
+        <translation>&amp;Go to Label</translation>
+        <extra-name>goToLabelMenuText</extra-name>
+    </message>
+    <message id="17261">
+        <source>Go to Label</source>
+        <extracomment>Tooltip: Go to Label; also the title of the dialog that asks for one of several</extracomment>
+        <translation>Go to Label</translation>
+        <extra-name>goToLabelToolTip</extra-name>
+    </message>
+    <message id="17262">
+        <source>Goes to the label that the current entry jumps to.</source>
+        <extracomment>Status bar: Go to Label</extracomment>
+        <translation>Goes to the label that the current entry jumps to.</translation>
+        <extra-name>goToLabelStatusText</extra-name>
+    </message>
+    <message id="17263">
+        <source>Go Bac&amp;k</source>
+        <extracomment>Menu Entry</extracomment>
+        <translation>Go Bac&amp;k</translation>
+        <extra-name>goBackMenuText</extra-name>
+    </message>
+    <message id="17264">
+        <source>Go Back</source>
+        <extracomment>Tooltip: Go Back</extracomment>
+        <translation>Go Back</translation>
+        <extra-name>goBackToolTip</extra-name>
+    </message>
+    <message id="17265">
+        <source>Goes back to the entry from which you went to a label.</source>
+        <extracomment>Status bar: Go Back</extracomment>
+        <translation>Goes back to the entry from which you went to a label.</translation>
+        <extra-name>goBackStatusText</extra-name>
+    </message>
+    <message id="17266">
+        <source>Find &amp;Uses...</source>
+        <extracomment>Menu Entry</extracomment>
+        <translation>Find &amp;Uses...</translation>
+        <extra-name>findUsesMenuText</extra-name>
+    </message>
+    <message id="17267">
+        <source>Find Uses</source>
+        <extracomment>Tooltip: Find Uses</extracomment>
+        <translation>Find Uses</translation>
+        <extra-name>findUsesToolTip</extra-name>
+    </message>
+    <message id="17268">
+        <source>Lists the entries that go to the label of the current entry.</source>
+        <extracomment>Status bar: Find Uses</extracomment>
+        <translation>Lists the entries that go to the label of the current entry.</translation>
+        <extra-name>findUsesStatusText</extra-name>
+    </message>
+    <message id="17269">
+        <source>Match case</source>
+        <extracomment>Find bar: button</extracomment>
+        <translation>Match case</translation>
+        <extra-name>findMatchCase</extra-name>
+    </message>
+    <message id="17270">
+        <source>Whole words</source>
+        <extracomment>Find bar: button</extracomment>
+        <translation>Whole words</translation>
+        <extra-name>findWholeWords</extra-name>
+    </message>
+    <message id="17271">
+        <source>Regular expression</source>
+        <extracomment>Find bar: button</extracomment>
+        <translation>Regular expression</translation>
+        <extra-name>findExpression</extra-name>
+    </message>
+    <message id="17272">
+        <source>Replace with</source>
+        <extracomment>Find bar: the empty field of the new text</extracomment>
+        <translation>Replace with</translation>
+        <extra-name>findReplacement</extra-name>
+    </message>
+    <message id="17273">
+        <source>Re&amp;place</source>
+        <extracomment>Find bar: button</extracomment>
+        <translation>Re&amp;place</translation>
+        <extra-name>replaceButton</extra-name>
+    </message>
+    <message id="17274">
+        <source>Replace A&amp;ll</source>
+        <extracomment>Find bar: button</extracomment>
+        <translation>Replace A&amp;ll</translation>
+        <extra-name>replaceAllButton</extra-name>
+    </message>
+    <message id="17275">
+        <source>Not valid at character %d: %s</source>
+        <extracomment>Find bar: place in a regular expression, what is wrong</extracomment>
+        <translation>Not valid at character %d: %s</translation>
+        <extra-name>findBadExpression</extra-name>
+    </message>
+    <message id="17276">
+        <source>too many ways to match: not all is searched</source>
+        <extracomment>Find bar, behind the number of matches: a regular expression was given up</extracomment>
+        <translation>too many ways to match: not all is searched</translation>
+        <extra-name>findGaveUp</extra-name>
+    </message>
+    <message id="17277">
+        <source>Replace All</source>
+        <extracomment>Step in Undo</extracomment>
+        <translation>Replace All</translation>
+        <extra-name>replaceAllStep</extra-name>
+    </message>
+    <message id="17278">
+        <source>Fields replaced: %d</source>
+        <extracomment>Status bar after Replace All</extracomment>
+        <translation>Fields replaced: %d</translation>
+        <extra-name>replacedCount</extra-name>
+    </message>
+    <message id="17279">
+        <source>These fields cannot be replaced:
+
+%s
+
+Replace in all other fields?</source>
+        <extracomment>Replace All; %s is a list</extracomment>
+        <translation>These fields cannot be replaced:
+
+%s
+
+Replace in all other fields?</translation>
+        <extra-name>replaceOthersQuestion</extra-name>
+    </message>
+    <message id="17280">
+        <source>These fields cannot be replaced, and nothing was changed:
+
+%s</source>
+        <extracomment>Replace; %s is a list</extracomment>
+        <translation>These fields cannot be replaced, and nothing was changed:
+
+%s</translation>
+        <extra-name>replaceRefused</extra-name>
+    </message>
+    <message id="17281">
+        <source>Entry %d, %s: %s</source>
+        <extracomment>Number of an entry, field, why it cannot be changed</extracomment>
+        <translation>Entry %d, %s: %s</translation>
+        <extra-name>changeRefused</extra-name>
+    </message>
+    <message id="17282">
+        <source>nothing would be left</source>
+        <extracomment>Why a field cannot be changed</extracomment>
+        <translation>nothing would be left</translation>
+        <extra-name>changeEmpty</extra-name>
+    </message>
+    <message id="17283">
+        <source>longer than the field holds</source>
+        <extracomment>Why a field cannot be changed</extracomment>
+        <translation>longer than the field holds</translation>
+        <extra-name>changeTooLong</extra-name>
+    </message>
+    <message id="17284">
+        <source>a character that a script cannot store</source>
+        <extracomment>Why a field cannot be changed</extracomment>
+        <translation>a character that a script cannot store</translation>
+        <extra-name>changeCannotBeStored</extra-name>
+    </message>
+    <message id="17285">
+        <source>no number that the field can hold</source>
+        <extracomment>Why a field cannot be changed</extracomment>
+        <translation>no number that the field can hold</translation>
+        <extra-name>changeOutOfRange</extra-name>
+    </message>
+    <message id="17286">
+        <source>Variables</source>
+        <extracomment>Dialog of Type: button that offers the names of variables</extracomment>
+        <translation>Variables</translation>
+        <extra-name>offeredVariables</extra-name>
+    </message>
+    <message id="17287">
+        <source>Only texts and numbers of entries can be replaced</source>
+        <extracomment>Status bar: what was found is the name of a command or a key</extracomment>
+        <translation>Only texts and numbers of entries can be replaced</translation>
+        <extra-name>replaceNotHere</extra-name>
+    </message>
+    <message id="17288">
+        <source>Text</source>
+        <extracomment>Field of an entry</extracomment>
+        <translation>Text</translation>
+        <extra-name>fieldText</extra-name>
+    </message>
+    <message id="17289">
+        <source>&amp;Label:</source>
+        <extracomment>Rename Label: which one of several</extracomment>
+        <translation>&amp;Label:</translation>
+        <extra-name>renameLabelChoice</extra-name>
+    </message>
+    <message id="17290">
+        <source>Second value</source>
+        <extracomment>Field of If_Input_Is</extracomment>
+        <translation>Second value</translation>
+        <extra-name>fieldSecondValue</extra-name>
+    </message>
+    <message id="17291">
+        <source>Number</source>
+        <extracomment>Field of Wait and Wait_Ready</extracomment>
+        <translation>Number</translation>
+        <extra-name>fieldNumber</extra-name>
+    </message>
+    <message id="17292">
+        <source>Labels of this script</source>
+        <extracomment>Dialog of Goto: button that offers them</extracomment>
+        <translation>Labels of this script</translation>
+        <extra-name>offeredLabels</extra-name>
+    </message>
+    <message id="17293">
+        <source>Date and time</source>
+        <extracomment>Field of Wait_Until</extracomment>
+        <translation>Date and time</translation>
+        <extra-name>fieldDateAndTime</extra-name>
+    </message>
+    <message id="17294">
+        <source>Further number</source>
+        <extracomment>Field of a menu command</extracomment>
+        <translation>Further number</translation>
+        <extra-name>fieldCommandData</extra-name>
+    </message>
+    <message id="17295">
+        <source>&amp;New name:</source>
+        <extracomment>Rename Label</extracomment>
+        <translation>&amp;New name:</translation>
+        <extra-name>renameLabelField</extra-name>
+    </message>
+    <message id="17296">
+        <source>Entries that change: %d</source>
+        <extracomment>Rename Label</extracomment>
+        <translation>Entries that change: %d</translation>
+        <extra-name>renameLabelChanges</extra-name>
+    </message>
+    <message id="17297">
+        <source>There is a label of that name already, in entry %d.</source>
+        <extracomment>Rename Label</extracomment>
+        <translation>There is a label of that name already, in entry %d.</translation>
+        <extra-name>renameLabelExists</extra-name>
+    </message>
+    <message id="17298">
+        <source>Uses of %s</source>
+        <extracomment>Title of the list; %s is the name of a label</extracomment>
+        <translation>Uses of %s</translation>
+        <extra-name>usesTitle</extra-name>
+    </message>
+    <message id="17299">
+        <source>Nothing goes to %s</source>
+        <extracomment>Status bar; %s is the name of a label</extracomment>
+        <translation>Nothing goes to %s</translation>
+        <extra-name>nothingUses</extra-name>
+    </message>
     <message id="15335">
         <source>The inserted script was written for %s: check its LU functions</source>
         <extracomment>Status bar after Insert Script; %s is the mode of the inserted script, as “VT”</extracomment>

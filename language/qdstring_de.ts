@@ -2673,6 +2673,268 @@
         <extracomment>Find bar: button</extracomment>
         <translation>Schließen</translation>
     </message>
+    <message id="17250">
+        <source>Find &amp;Next</source>
+        <extracomment>Menu Edit</extracomment>
+        <translation>&amp;Nächstes suchen</translation>
+    </message>
+    <message id="17251">
+        <source>Goes to the next match.</source>
+        <extracomment>Status bar: Find Next</extracomment>
+        <translation>Geht zum nächsten Treffer.</translation>
+    </message>
+    <message id="17252">
+        <source>Find Pre&amp;vious</source>
+        <extracomment>Menu Edit</extracomment>
+        <translation>&amp;Vorheriges suchen</translation>
+    </message>
+    <message id="17253">
+        <source>Goes to the previous match.</source>
+        <extracomment>Status bar: Find Previous</extracomment>
+        <translation>Geht zum vorherigen Treffer.</translation>
+    </message>
+    <message id="17254">
+        <source>R&amp;eplace...</source>
+        <extracomment>Menu Edit</extracomment>
+        <translation>Erset&amp;zen...</translation>
+    </message>
+    <message id="17255">
+        <source>Replace</source>
+        <extracomment>Tooltip: Replace; also the name of the step in Undo and the title of its messages</extracomment>
+        <translation>Ersetzen</translation>
+    </message>
+    <message id="17256">
+        <source>Replaces texts and numbers in the entries.</source>
+        <extracomment>Status bar: Replace</extracomment>
+        <translation>Ersetzt Texte und Zahlen in den Einträgen.</translation>
+    </message>
+    <message id="17257">
+        <source>Rename La&amp;bel...</source>
+        <extracomment>Menu Entry</extracomment>
+        <translation>Sprungmarke &amp;umbenennen...</translation>
+    </message>
+    <message id="17258">
+        <source>Rename Label</source>
+        <extracomment>Tooltip: Rename Label; also the dialog's title and the name of the step in Undo</extracomment>
+        <translation>Sprungmarke umbenennen</translation>
+    </message>
+    <message id="17259">
+        <source>Renames the label of the current entry in the whole script.</source>
+        <extracomment>Status bar: Rename Label</extracomment>
+        <translation>Benennt die Sprungmarke des aktuellen Eintrags im ganzen Skript um.</translation>
+    </message>
+    <message id="17260">
+        <source>&amp;Go to Label</source>
+        <extracomment>Menu Entry</extracomment>
+        <translation>Zur Sprungmarke &amp;gehen</translation>
+    </message>
+    <message id="17261">
+        <source>Go to Label</source>
+        <extracomment>Tooltip: Go to Label; also the title of the dialog that asks for one of several</extracomment>
+        <translation>Zur Sprungmarke gehen</translation>
+    </message>
+    <message id="17262">
+        <source>Goes to the label that the current entry jumps to.</source>
+        <extracomment>Status bar: Go to Label</extracomment>
+        <translation>Geht zu der Sprungmarke, zu der der aktuelle Eintrag springt.</translation>
+    </message>
+    <message id="17263">
+        <source>Go Bac&amp;k</source>
+        <extracomment>Menu Entry</extracomment>
+        <translation>&amp;Zurückgehen</translation>
+    </message>
+    <message id="17264">
+        <source>Go Back</source>
+        <extracomment>Tooltip: Go Back</extracomment>
+        <translation>Zurückgehen</translation>
+    </message>
+    <message id="17265">
+        <source>Goes back to the entry from which you went to a label.</source>
+        <extracomment>Status bar: Go Back</extracomment>
+        <translation>Geht zu dem Eintrag zurück, von dem aus Sie zu einer Sprungmarke gegangen sind.</translation>
+    </message>
+    <message id="17266">
+        <source>Find &amp;Uses...</source>
+        <extracomment>Menu Entry</extracomment>
+        <translation>&amp;Verwendungen suchen...</translation>
+    </message>
+    <message id="17267">
+        <source>Find Uses</source>
+        <extracomment>Tooltip: Find Uses</extracomment>
+        <translation>Verwendungen suchen</translation>
+    </message>
+    <message id="17268">
+        <source>Lists the entries that go to the label of the current entry.</source>
+        <extracomment>Status bar: Find Uses</extracomment>
+        <translation>Zeigt die Einträge, die zur Sprungmarke des aktuellen Eintrags springen.</translation>
+    </message>
+    <message id="17269">
+        <source>Match case</source>
+        <extracomment>Find bar: button</extracomment>
+        <translation>Groß-/Kleinschreibung beachten</translation>
+    </message>
+    <message id="17270">
+        <source>Whole words</source>
+        <extracomment>Find bar: button</extracomment>
+        <translation>Nur ganze Wörter</translation>
+    </message>
+    <message id="17271">
+        <source>Regular expression</source>
+        <extracomment>Find bar: button</extracomment>
+        <translation>Regulärer Ausdruck</translation>
+    </message>
+    <message id="17272">
+        <source>Replace with</source>
+        <extracomment>Find bar: the empty field of the new text</extracomment>
+        <translation>Ersetzen durch</translation>
+    </message>
+    <message id="17273">
+        <source>Re&amp;place</source>
+        <extracomment>Find bar: button</extracomment>
+        <translation>Er&amp;setzen</translation>
+    </message>
+    <message id="17274">
+        <source>Replace A&amp;ll</source>
+        <extracomment>Find bar: button</extracomment>
+        <translation>A&amp;lle ersetzen</translation>
+    </message>
+    <message id="17275">
+        <source>Not valid at character %d: %s</source>
+        <extracomment>Find bar: place in a regular expression, what is wrong</extracomment>
+        <translation>Ungültig bei Zeichen %d: %s</translation>
+    </message>
+    <message id="17276">
+        <source>too many ways to match: not all is searched</source>
+        <extracomment>Find bar, behind the number of matches: a regular expression was given up</extracomment>
+        <translation>zu viele Möglichkeiten: nicht alles ist durchsucht</translation>
+    </message>
+    <message id="17277">
+        <source>Replace All</source>
+        <extracomment>Step in Undo</extracomment>
+        <translation>Alle ersetzen</translation>
+    </message>
+    <message id="17278">
+        <source>Fields replaced: %d</source>
+        <extracomment>Status bar after Replace All</extracomment>
+        <translation>Ersetzte Felder: %d</translation>
+    </message>
+    <message id="17279">
+        <source>These fields cannot be replaced:
+
+%s
+
+Replace in all other fields?</source>
+        <extracomment>Replace All; %s is a list</extracomment>
+        <translation>Diese Felder lassen sich nicht ersetzen:
+
+%s
+
+In allen anderen Feldern ersetzen?</translation>
+    </message>
+    <message id="17280">
+        <source>These fields cannot be replaced, and nothing was changed:
+
+%s</source>
+        <extracomment>Replace; %s is a list</extracomment>
+        <translation>Diese Felder lassen sich nicht ersetzen, und nichts wurde geändert:
+
+%s</translation>
+    </message>
+    <message id="17281">
+        <source>Entry %d, %s: %s</source>
+        <extracomment>Number of an entry, field, why it cannot be changed</extracomment>
+        <translation>Eintrag %d, %s: %s</translation>
+    </message>
+    <message id="17282">
+        <source>nothing would be left</source>
+        <extracomment>Why a field cannot be changed</extracomment>
+        <translation>es bliebe nichts übrig</translation>
+    </message>
+    <message id="17283">
+        <source>longer than the field holds</source>
+        <extracomment>Why a field cannot be changed</extracomment>
+        <translation>länger, als das Feld fasst</translation>
+    </message>
+    <message id="17284">
+        <source>a character that a script cannot store</source>
+        <extracomment>Why a field cannot be changed</extracomment>
+        <translation>ein Zeichen, das ein Skript nicht speichern kann</translation>
+    </message>
+    <message id="17285">
+        <source>no number that the field can hold</source>
+        <extracomment>Why a field cannot be changed</extracomment>
+        <translation>keine Zahl, die das Feld fasst</translation>
+    </message>
+    <message id="17286">
+        <source>Variables</source>
+        <extracomment>Dialog of Type: button that offers the names of variables</extracomment>
+        <translation>Variablen</translation>
+    </message>
+    <message id="17287">
+        <source>Only texts and numbers of entries can be replaced</source>
+        <extracomment>Status bar: what was found is the name of a command or a key</extracomment>
+        <translation>Nur Texte und Zahlen von Einträgen lassen sich ersetzen</translation>
+    </message>
+    <message id="17288">
+        <source>Text</source>
+        <extracomment>Field of an entry</extracomment>
+        <translation>Text</translation>
+    </message>
+    <message id="17289">
+        <source>&amp;Label:</source>
+        <extracomment>Rename Label: which one of several</extracomment>
+        <translation>&amp;Sprungmarke:</translation>
+    </message>
+    <message id="17290">
+        <source>Second value</source>
+        <extracomment>Field of If_Input_Is</extracomment>
+        <translation>Zweiter Wert</translation>
+    </message>
+    <message id="17291">
+        <source>Number</source>
+        <extracomment>Field of Wait and Wait_Ready</extracomment>
+        <translation>Zahl</translation>
+    </message>
+    <message id="17292">
+        <source>Labels of this script</source>
+        <extracomment>Dialog of Goto: button that offers them</extracomment>
+        <translation>Sprungmarken dieses Skripts</translation>
+    </message>
+    <message id="17293">
+        <source>Date and time</source>
+        <extracomment>Field of Wait_Until</extracomment>
+        <translation>Datum und Uhrzeit</translation>
+    </message>
+    <message id="17294">
+        <source>Further number</source>
+        <extracomment>Field of a menu command</extracomment>
+        <translation>Weitere Zahl</translation>
+    </message>
+    <message id="17295">
+        <source>&amp;New name:</source>
+        <extracomment>Rename Label</extracomment>
+        <translation>&amp;Neuer Name:</translation>
+    </message>
+    <message id="17296">
+        <source>Entries that change: %d</source>
+        <extracomment>Rename Label</extracomment>
+        <translation>Einträge, die sich ändern: %d</translation>
+    </message>
+    <message id="17297">
+        <source>There is a label of that name already, in entry %d.</source>
+        <extracomment>Rename Label</extracomment>
+        <translation>Es gibt schon eine Sprungmarke dieses Namens, in Eintrag %d.</translation>
+    </message>
+    <message id="17298">
+        <source>Uses of %s</source>
+        <extracomment>Title of the list; %s is the name of a label</extracomment>
+        <translation>Verwendungen von %s</translation>
+    </message>
+    <message id="17299">
+        <source>Nothing goes to %s</source>
+        <extracomment>Status bar; %s is the name of a label</extracomment>
+        <translation>Nichts springt zu %s</translation>
+    </message>
     <message id="15335">
         <source>The inserted script was written for %s: check its LU functions</source>
         <extracomment>Status bar after Insert Script; %s is the mode of the inserted script, as “VT”</extracomment>

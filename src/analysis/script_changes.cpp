@@ -47,12 +47,16 @@ class ChangeMaker {
     /// `changeStep(entry)` calls change() for the fields of the entry.
     template <class ChangeStep>
     ScriptChanges make(const ChangeStep& changeStep) {
-        for (step_ = 0; step_ < script_.entryCount(); ++step_) {
-            changed_.reset();
-            entry_ = &unpacker_.unpack(script_.entries[step_]);
-            changeStep(*entry_);
-            if (changed_) changes_.steps.push_back({step_, packSealedEntry(*changed_).entry});
+        for (std::size_t step = 0; step < script_.entryCount(); ++step) {
+            makeIn(step, changeStep);
         }
+        return std::move(changes_);
+    }
+
+    /// The same for one step.
+    template <class ChangeStep>
+    ScriptChanges makeOne(std::size_t step, const ChangeStep& changeStep) {
+        makeIn(step, changeStep);
         return std::move(changes_);
     }
 
@@ -74,6 +78,15 @@ class ChangeMaker {
     }
 
   private:
+    template <class ChangeStep>
+    void makeIn(std::size_t step, const ChangeStep& changeStep) {
+        step_ = step;
+        changed_.reset();
+        entry_ = &unpacker_.unpack(script_.entries[step]);
+        changeStep(*entry_);
+        if (changed_) changes_.steps.push_back({step_, packSealedEntry(*changed_).entry});
+    }
+
     const Script& script_;
     SealedEntryUnpacker unpacker_;
     std::size_t step_ = 0;
@@ -81,6 +94,25 @@ class ChangeMaker {
     const ScriptEntry* entry_ = nullptr;
     std::optional<ScriptEntry> changed_;
     ScriptChanges changes_;
+};
+
+// Puts a text in the place of every match in a field.
+class Replacing {
+  public:
+    Replacing(ChangeMaker& maker, const TextPattern& pattern, std::string_view replacement)
+        : maker_(maker), pattern_(pattern), stored_(windows1252FromUtf8(replacement)) {}
+
+    void operator()(Slot slot, const EntryField& field, std::string_view value) const {
+        const auto matches = pattern_.matches(value);
+        if (matches.empty()) return;
+        maker_.change(slot, field, value, replaced(value, matches, stored_.value_or("")),
+                      stored_ ? ChangeFault::None : ChangeFault::CannotBeStored);
+    }
+
+  private:
+    ChangeMaker& maker_;
+    const TextPattern& pattern_;
+    std::optional<std::string> stored_;
 };
 
 bool namesLabel(const Step& step) {
@@ -102,17 +134,22 @@ void applyChanges(Script& script, const ScriptChanges& changes) {
 
 ScriptChanges replaceInFields(const Script& script, const TextPattern& pattern,
                               std::string_view replacement, const FieldFilter& filter) {
-    const auto stored = windows1252FromUtf8(replacement);
-    const ChangeFault fault = stored ? ChangeFault::None : ChangeFault::CannotBeStored;
     ChangeMaker maker(script);
-    return maker.make([&](const ScriptEntry& entry) {
-        forEachSearchableField(
-            entry, filter, [&](Slot slot, const EntryField& field, std::string_view value) {
-                const auto matches = pattern.matches(value);
-                if (matches.empty()) return;
-                maker.change(slot, field, value, replaced(value, matches, stored.value_or("")),
-                             fault);
-            });
+    const Replacing replacing(maker, pattern, replacement);
+    return maker.make(
+        [&](const ScriptEntry& entry) { forEachSearchableField(entry, filter, replacing); });
+}
+
+ScriptChanges replaceInField(const Script& script, std::size_t step, std::string_view path,
+                             const TextPattern& pattern, std::string_view replacement) {
+    ChangeMaker maker(script);
+    const Replacing replacing(maker, pattern, replacement);
+    return maker.makeOne(step, [&](const ScriptEntry& entry) {
+        forEachSearchableField(entry, {},
+                               [&](Slot slot, const EntryField& field, std::string_view value) {
+                                   if (fieldPath(slot, field) == path)
+                                       replacing(slot, field, value);
+                               });
     });
 }
 

@@ -59,6 +59,11 @@ void applyChanges(Script& script, const ScriptChanges& changes);
                                             std::string_view replacement,
                                             const FieldFilter& filter);
 
+/// The same for one field, whose whole name is `path`, and nothing else.
+[[nodiscard]] ScriptChanges replaceInField(const Script& script, std::size_t step,
+                                           std::string_view path, const TextPattern& pattern,
+                                           std::string_view replacement);
+
 /// What becomes of all Labels and Gotos with this name, as steps and as actions, when they get the
 /// new one; both in UTF-8. Each has the fault that the name has.
 [[nodiscard]] ScriptChanges renameLabel(const Script& script, std::string_view before,

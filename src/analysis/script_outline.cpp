@@ -146,6 +146,16 @@ LabelIndex OutlineMaker::labelOf(std::string_view name) {
     return index;
 }
 
+std::vector<LabelName> labelNamesOf(const ScriptEntry& entry) {
+    std::vector<LabelName> names;
+    for (const Slot slot : slotsOf(entry)) {
+        const Step& step = slotFields(entry, slot);
+        const bool isNamed = step.code == CommandCode::Label || step.code == CommandCode::Goto;
+        if (isNamed && !textOf(step).empty()) names.push_back({slot, step.code, textOf(step)});
+    }
+    return names;
+}
+
 ScriptOutline outlineOf(const Script& script) {
     OutlineMaker maker(script.entryCount());
     forEachSealedEntry(script, [&](const ScriptEntry& entry) { maker.add(entry); });

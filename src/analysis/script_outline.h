@@ -96,6 +96,16 @@ class OutlineMaker {
     std::unordered_map<std::string, LabelIndex, NameHash, std::equal_to<>> labelsByName_;
 };
 
+/// A slot that names a label, and the name.
+struct LabelName {
+    Slot slot = Slot::Entry;
+    CommandCode code = CommandCode::None;
+    /// windows-1252, never empty, valid as long as the entry.
+    std::string_view name;
+};
+/// Those of an entry, in the order of its slots.
+[[nodiscard]] std::vector<LabelName> labelNamesOf(const ScriptEntry& entry);
+
 /// Needs no key: hidden texts have no part in it.
 [[nodiscard]] ScriptOutline outlineOf(const Script& script);
 

@@ -1,5 +1,8 @@
 #include "app/command_facts.h"
 
+#include "analysis/script_outline.h"
+#include "scriptfile/entry_codec.h"
+
 #include <algorithm>
 
 namespace quendra {
@@ -25,7 +28,13 @@ CommandFacts commandFacts(const ApplicationState& state, const EditorPane& pane)
         const auto index = static_cast<std::size_t>(focused);
         facts.editSource = editSource(state.script.entries[index], state.cipher);
         facts.focusedLine = pane.entryText(focused).toStdString();
+        const ScriptEntry entry = unpackSealedEntry(state.script.entries[index]);
+        const auto names = labelNamesOf(entry);
+        facts.namesLabel = !names.empty();
+        facts.hasGoto =
+            std::ranges::find(names, CommandCode::Goto, &LabelName::code) != names.end();
     }
+    facts.canGoBack = state.jumps.canGoBack();
     if (state.history.canUndo()) facts.undoStep = state.history.undoName();
     if (state.history.canRedo()) facts.redoStep = state.history.redoName();
     std::ranges::transform(allPalettes, facts.selectedRows.begin(),

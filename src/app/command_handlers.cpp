@@ -2,6 +2,7 @@
 
 #include "app/about_box.h"
 #include "app/command_facts.h"
+#include "app/find_bar.h"
 #include "app/main_window.h"
 #include "app/script_editor.h"
 #include "app/script_problems.h"
@@ -11,12 +12,15 @@ namespace quendra {
 
 CommandHandlers::CommandHandlers(ApplicationState& state, MainWindow& window, ScriptEditor& editor,
                                  EditorHelp* help)
-    : state_(state), window_(window), editor_(editor), help_(help) {
+    : state_(state), window_(window), editor_(editor), labels_(state, window, editor), help_(help) {
+    QObject::connect(&window_.findBar(), &FindBar::changesAgreed, &editor_, &ScriptEditor::apply);
     window_.setCommandRunner([this](EditorCommand command) { run(command); });
 }
 
 CommandHandlers::~CommandHandlers() {
     window_.setCommandRunner({});
+    QObject::disconnect(&window_.findBar(), &FindBar::changesAgreed, &editor_,
+                        &ScriptEditor::apply);
 }
 
 void CommandHandlers::run(EditorCommand command) {
@@ -35,7 +39,10 @@ void CommandHandlers::run(EditorCommand command) {
         case EditorCommand::Copy: return editor_.copy();
         case EditorCommand::CopyAsText: return editor_.copyAsText();
         case EditorCommand::Paste: return editor_.paste();
-        case EditorCommand::Find: return window_.openFindBar();
+        case EditorCommand::Find: return window_.findBar().open();
+        case EditorCommand::FindNext: return window_.findBar().goToNext();
+        case EditorCommand::FindPrevious: return window_.findBar().goToPrevious();
+        case EditorCommand::Replace: return window_.findBar().openReplace();
         case EditorCommand::GoToStep: return window_.openStepBar();
         case EditorCommand::ApplyQuickFix:
             if (const auto fix = window_.problems().quickFix().fix) editor_.applyFix(*fix);
@@ -50,6 +57,10 @@ void CommandHandlers::run(EditorCommand command) {
         case EditorCommand::InsertScript: return editor_.insertOtherScript();
         case EditorCommand::EditEntry: return editor_.editEntry();
         case EditorCommand::DeleteEntries: return editor_.deleteSelected();
+        case EditorCommand::RenameLabel: return labels_.rename();
+        case EditorCommand::GoToLabel: return labels_.goToLabel();
+        case EditorCommand::GoBack: return labels_.goBack();
+        case EditorCommand::FindUses: return labels_.findUses();
         case EditorCommand::Help:
             if (help_ != nullptr) help_->showHelp();
             return;

@@ -1,6 +1,7 @@
 // What every command of the window runs.
 #pragma once
 
+#include "app/label_commands.h"
 #include "session/application_state.h"
 #include "session/commands.h"
 
@@ -27,6 +28,7 @@ class CommandHandlers {
     ApplicationState& state_;
     MainWindow& window_;
     ScriptEditor& editor_;
+    LabelCommands labels_;
     EditorHelp* help_;
 };
 

@@ -83,6 +83,7 @@ MainWindow::MainWindow(ApplicationState& state, const std::function<void()>& bef
     connect(problems_, &ScriptProblems::changed, this, &MainWindow::updateCommandStates);
     showsGutter_ = state_.userState.flag(gutterKey, true);
     pane_->showGutter(showsGutter_);
+    connect(findBar_, &FindBar::noted, this, &MainWindow::showNote);
     nameExtensionButtons(*this, qtText(libraryText(state_.language, textid::moreCommands)));
     connect(pane_, &EditorPane::commandRequested, this, &MainWindow::runCommand);
     connect(pane_, &EditorPane::selectionChanged, this, &MainWindow::updateCommandStates);
@@ -209,10 +210,6 @@ bool MainWindow::refusedAtLimit(const CommandInfo& command) {
         this, {formatText("Max limit of %d script entries reached.", {std::to_string(maxEntries)}),
                "Quendra Script Editor", MessageIcon::Information, MessageButtons::Ok, false});
     return true;
-}
-
-void MainWindow::openFindBar() {
-    findBar_->open();
 }
 
 void MainWindow::openStepBar() {

@@ -51,7 +51,6 @@ class MainWindow : public QMainWindow {
     /// Gives false when something was not saved that the user wanted saved.
     bool save();
     bool saveAs();
-    void openFindBar();
     void openStepBar();
     void goToNextProblem();
     void goToPreviousProblem();
@@ -94,6 +93,7 @@ class MainWindow : public QMainWindow {
 
     [[nodiscard]] EditorPane& pane() { return *pane_; }
     [[nodiscard]] ScriptProblems& problems() { return *problems_; }
+    [[nodiscard]] FindBar& findBar() { return *findBar_; }
 
   protected:
     void paintEvent(QPaintEvent* event) override;

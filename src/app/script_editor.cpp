@@ -1,5 +1,6 @@
 #include "app/script_editor.h"
 
+#include "analysis/script_changes.h"
 #include "app/main_window.h"
 #include "scriptfile/entry_codec.h"
 #include "session/command_rules.h"
@@ -68,6 +69,18 @@ void ScriptEditor::applyFix(const QuickFix& fix) {
     // The secret is out of sight, and no more than that.
     if (isDone && fix.kind == QuickFix::Kind::HidePassword && state_.cipher.onlyObscures())
         window_.showNote(libraryText(state_.language, textid::checkHiddenWithoutKey));
+}
+
+void ScriptEditor::apply(const ScriptChanges& changes, const std::string& stepName) {
+    change(
+        [&] {
+            const EntrySelection selection = currentView().selection;
+            applyChanges(state_.script, changes);
+            state_.currentIndex = selection.focused;
+            showScript(selection);
+            return !changes.steps.empty();
+        },
+        [&] { return stepName; });
 }
 
 void ScriptEditor::change(const std::function<bool()>& operation,

@@ -16,6 +16,7 @@ namespace quendra {
 
 class MainWindow;
 struct OtherScript;
+struct ScriptChanges;
 
 /// Opens the dialog of a command, as editParameters does. An empty one answers Cancel.
 using EditParameters = std::function<bool(const DialogContext&, const EditTarget&)>;
@@ -44,6 +45,9 @@ class ScriptEditor : public QObject, private EditingView {
     void editEntry();
     void deleteSelected();
     void applyFix(const QuickFix& fix);
+
+    /// Makes changes of the script's entries, which keep their places, as one step of this name.
+    void apply(const ScriptChanges& changes, const std::string& stepName);
 
   private:
     [[nodiscard]] std::vector<std::size_t> selectedEntries() const override;

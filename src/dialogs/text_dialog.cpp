@@ -1,5 +1,6 @@
 // Comment, Goto, Label, Message, Express_Logon and Type: one text.
 #include "dialogs/command_dialogs.h"
+#include "dialogs/text_offers.h"
 #include "text/text_ids.h"
 #include "widgets/ui_text.h"
 
@@ -47,7 +48,8 @@ class TextDialog : public ParameterDialog {
                           commandKeyword(slotFields(target.entry, target.slot).code)) {
         setWindowTitle(caption());
         text_ = named(new TextEdit, "text");
-        addLabelled("textLabel", text(labelOf(fields().code)), text_);
+        body().addWidget(makeLabel("textLabel", text(labelOf(fields().code)), text_));
+        body().addWidget(fieldWithOffers());
         if (fields().code == CommandCode::Type) addHidingParts();
         addButtons();
     }
@@ -80,6 +82,16 @@ class TextDialog : public ParameterDialog {
 
   private:
     [[nodiscard]] QString caption() const { return qtText(commandKeyword(fields().code)); }
+
+    [[nodiscard]] QWidget* fieldWithOffers() const {
+        const Script& script = context().state.script;
+        if (fields().code == CommandCode::Type) {
+            return withOffers(text_, variablesOf(script), text(textid::offeredVariables));
+        }
+        if (fields().code != CommandCode::Goto) return text_;
+        const QStringList labels = labelsOf(script);
+        return labels.isEmpty() ? text_ : withOffers(text_, labels, text(textid::offeredLabels));
+    }
 
     void addHidingParts() {
         const bool obscures = context().state.cipher.onlyObscures();

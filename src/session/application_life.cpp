@@ -29,6 +29,7 @@ void wipeApplication(ApplicationState& state) {
     state.script.entries.clear();
     state.document.saved = {};
     state.history.clear();
+    state.jumps.clear();
     state.entryClipboard.clear();
     // It may hold the password of a host file.
     auto& transfer = state.workingTransfer.settings.bytes;

@@ -5,6 +5,7 @@
 #include "model/menu_commands.h"
 #include "platform/files.h"
 #include "session/editing.h"
+#include "session/jump_history.h"
 #include "session/undo_history.h"
 #include "settings/startup_settings.h"
 #include "settings/user_state.h"
@@ -41,6 +42,8 @@ struct ApplicationState : EditingState {
     ScriptDocument document;
     /// Every change of the script since it was opened or begun.
     UndoHistory history;
+    /// The places in it from which the user went to labels.
+    JumpHistory jumps;
 
     [[nodiscard]] DisplayNames displayNames() const {
         return {luCatalogues.of(currentHostType), menuCommands};

@@ -45,6 +45,18 @@ bool canEdit(const CommandFacts& facts) {
     return false;
 }
 
+bool namesLabel(const CommandFacts& facts) {
+    return facts.namesLabel;
+}
+
+bool hasGoto(const CommandFacts& facts) {
+    return facts.hasGoto;
+}
+
+bool canGoBack(const CommandFacts& facts) {
+    return facts.canGoBack;
+}
+
 bool canUndo(const CommandFacts& facts) {
     return facts.undoStep.has_value();
 }

@@ -19,6 +19,11 @@ struct CommandFacts {
     std::size_t clipboardCount = 0;
     EditSource editSource = {};
     std::string focusedLine = {};
+    /// The focused entry, or an action of it, is a Label or a Goto with a name; or a Goto.
+    bool namesLabel = false;
+    bool hasGoto = false;
+    /// There is a way back from a label.
+    bool canGoBack = false;
     /// The text of each palette's selected row.
     std::array<std::optional<std::string>, allPalettes.size()> selectedRows = {};
     /// The steps that Undo and Redo would take.
@@ -40,6 +45,9 @@ struct CommandFacts {
 [[nodiscard]] bool hasClipboard(const CommandFacts& facts);
 /// The focused entry has a dialog, or its palette offers what would replace it.
 [[nodiscard]] bool canEdit(const CommandFacts& facts);
+[[nodiscard]] bool namesLabel(const CommandFacts& facts);
+[[nodiscard]] bool hasGoto(const CommandFacts& facts);
+[[nodiscard]] bool canGoBack(const CommandFacts& facts);
 [[nodiscard]] bool canUndo(const CommandFacts& facts);
 [[nodiscard]] bool canRedo(const CommandFacts& facts);
 [[nodiscard]] bool hasQuickFix(const CommandFacts& facts);

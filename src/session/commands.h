@@ -47,6 +47,13 @@ enum class EditorCommand : int {
     ApplyQuickFix = 333,
     ShowGutter = 334,
     GoToStep = 335,
+    FindNext = 340,
+    FindPrevious = 341,
+    Replace = 342,
+    RenameLabel = 343,
+    GoToLabel = 344,
+    GoBack = 345,
+    FindUses = 346,
 };
 
 /// In the order of the menu bar.

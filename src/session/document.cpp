@@ -132,6 +132,7 @@ void takeOver(ApplicationState& state, const fs::path& path, LoadedScript loaded
     document.saved = loaded.read.script;
     state.document = std::move(document);
     state.history.clear();
+    state.jumps.clear();
     state.currentHostType = loaded.read.signature.hostType;
     state.script = std::move(loaded.read.script);
     state.currentIndex = state.script.entryCount() == 0 ? -1 : 0;
@@ -228,6 +229,7 @@ void newDocument(ApplicationState& state) {
     state.script = {};
     state.document = {};
     state.history.clear();
+    state.jumps.clear();
     state.currentIndex = -1;
     state.dropPending = false;
 }

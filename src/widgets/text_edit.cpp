@@ -197,6 +197,7 @@ void TextEdit::setMasked(bool masked) {
         setCursorPosition(static_cast<int>(cursor));
     }
     setAcceptDrops(!masked);
+    Q_EMIT maskingChanged(masked);
 }
 
 void TextEdit::insertMasked(const QString& line) {

@@ -45,6 +45,7 @@ class TextEdit : public QLineEdit {
 
   Q_SIGNALS:
     void refused(const quendra::InputFault& fault);
+    void maskingChanged(bool masked);
 
   protected:
     void keyPressEvent(QKeyEvent* event) override;

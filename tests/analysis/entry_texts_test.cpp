@@ -1,7 +1,7 @@
 // Display lines that the frozen files do not reach, what a search finds in them, and what it must
 // never find.
 #include "analysis/entry_display.h"
-#include "analysis/entry_search.h"
+#include "analysis/script_search.h"
 #include "scriptfile/entry_codec.h"
 #include "support/fixtures.h"
 
@@ -53,18 +53,50 @@ TEST(LastTransferShown, isTheLastOneThatALineShows) {
 }
 
 bool finds(const Bytes& record, std::string_view text) {
-    const Script script = {{storeRecord(record)}};
-    return findEntries(script, cipher, NumberedNames().of(HostType::UTS), text).size() == 1;
+    const NumberedNames names;
+    ScriptSearch search;
+    search.update({{storeRecord(record)}}, cipher, names.of(HostType::UTS));
+    const auto pattern = TextPattern::of(text, {.ignoreCase = true});
+    return !search.find(std::get<TextPattern>(pattern), text).empty();
 }
 
 TEST(EntrySearch, LooksIntoLinesAndFieldsWithoutRegardToCase) {
     const Bytes home = joined({{7}, counted("H\xc4me")});
     EXPECT_TRUE(finds(home, "goto h\xc3\xa4"));
     EXPECT_FALSE(finds(home, "house"));
-    EXPECT_FALSE(finds(home, ""));
     EXPECT_TRUE(finds(joined({{20, 1, 'w', 11}, counted("Lost it")}), "lost it"));
     EXPECT_TRUE(finds(joined({{8, 0}, word(4), bytesOf("Name"), {255, 0, 0}}), "name"));
     EXPECT_TRUE(finds({9, 0, 0, 1, 'Y', 0, 0, 0}, "y"));
+    EXPECT_TRUE(finds(joined({{7},
+                              counted("Stra\xdf"
+                                      "e")}),
+                      "STRASSE"));
+    EXPECT_TRUE(finds(joined({{7}, counted("STRASSE")}),
+                      "stra\xc3\x9f"
+                      "e"));
+}
+
+TEST(EntrySearch, KeepsWhatItKnowsAndFollowsTheScript) {
+    const NumberedNames names;
+    const DisplayNames uts = names.of(HostType::UTS);
+    Script script = {{storeRecord({1, 4, 3}), storeRecord(commentRecord("abc")),
+                      storeRecord(commentRecord("ab"))}};
+    script.entries.push_back(script.entries[1]);
+    ScriptSearch search;
+    const auto places = [&](std::string_view text) {
+        const auto pattern = TextPattern::of(text, {});
+        std::vector<std::size_t> steps;
+        for (const SearchHit& hit : search.find(std::get<TextPattern>(pattern)))
+            steps.push_back(hit.place.step);
+        return steps;
+    };
+    search.update(script, cipher, uts);
+    EXPECT_EQ(places("b"), (std::vector<std::size_t>{1, 2, 3}));
+    removeEntries(script, std::vector<std::size_t>{0, 2});
+    replaceEntry(script, 1, storeRecord(commentRecord("b")));
+    search.update(script, cipher, uts);
+    EXPECT_EQ(places("b"), (std::vector<std::size_t>{0, 1}));
+    EXPECT_EQ(places("c"), std::vector<std::size_t>{0});
 }
 
 TEST(EntrySearch, NeverLooksIntoHiddenTextsAndThePasswordsOfTransfers) {

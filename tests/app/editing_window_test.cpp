@@ -1,4 +1,4 @@
-// Editing and finding as a user does it: palettes, keys and the mouse on the real window, with
+// Editing as a user does it: palettes, keys and the mouse on the real window, with
 // prepared answers for the dialogs.
 #include "support/editor_fixture.h"
 
@@ -7,7 +7,6 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QTest>
-#include <QToolButton>
 #include <QWindow>
 
 namespace quendra::test {
@@ -210,86 +209,6 @@ TEST_F(EditingWindowTest, InsertScriptTakesAnotherFileInOneStepAndLeavesItAlone)
     deleteFirstEntry();
     run(Paste);
     EXPECT_EQ(status(), "1 of 3 entries inserted: the script is full");
-}
-
-class FindBarTest : public EditingWindowTest {
-  protected:
-    FindBarTest() {
-        open("a.qds", commentFile(30));
-        select({3}, 3);
-        QTest::keyClick(&window, Qt::Key_F, Qt::ControlModifier);
-    }
-    void type(const char* text) { QTest::keyClicks(&edit, QLatin1String(text)); }
-    [[nodiscard]] std::vector<std::size_t> found() {
-        std::vector<std::size_t> rows;
-        for (int row = 0; row < script().model()->rowCount(); ++row)
-            if (script().model()->index(row, 0).data(Qt::BackgroundRole).isValid())
-                rows.push_back(static_cast<std::size_t>(row));
-        return rows;
-    }
-    [[nodiscard]] std::string count() { return widget<QLabel>("findCount").text().toStdString(); }
-    void expectAt(std::size_t entry, const char* position) {
-        EXPECT_EQ(window.pane().selectedEntries(), std::vector{entry});
-        EXPECT_EQ(count(), position);
-    }
-
-    QLineEdit& edit = widget<QLineEdit>("findText");
-};
-
-TEST_F(FindBarTest, GoesToTheNextMatchWithEveryLetterAndBackWhenOneIsTaken) {
-    type("1");
-    expectAt(9, "2 of 12");
-    EXPECT_EQ(found(), (std::vector<std::size_t>{0, 9, 10, 11, 12, 13, 14, 15, 16, 17, 18, 20}));
-    type("5");
-    expectAt(14, "1 of 1");
-    press(edit, Qt::Key_Backspace);
-    expectAt(9, "2 of 12");
-    type("x");
-    expectAt(9, "Not found");
-    select({18}, 18);
-    press(edit, Qt::Key_Backspace);
-    expectAt(18, "11 of 12");
-    type("5");
-    expectAt(14, "1 of 1");
-    press(edit, Qt::Key_Backspace);
-    expectAt(18, "11 of 12");
-}
-
-TEST_F(FindBarTest, NextAndPreviousGoRoundInBothDirections) {
-    type("9");
-    expectAt(8, "1 of 3");
-    press(edit, Qt::Key_Return);
-    press(edit, Qt::Key_F3);
-    expectAt(28, "3 of 3");
-    QTest::mouseClick(&widget<QToolButton>("findNext"), Qt::LeftButton);
-    expectAt(8, "1 of 3");
-    press(edit, Qt::Key_Return, Qt::ShiftModifier);
-    QTest::mouseClick(&widget<QToolButton>("findPrevious"), Qt::LeftButton);
-    expectAt(18, "2 of 3");
-}
-
-TEST_F(FindBarTest, MarksFollowTheScriptAndGoWithTheBar) {
-    type("9");
-    run(Cut);
-    EXPECT_EQ(found(), (std::vector<std::size_t>{17, 27}));
-    EXPECT_EQ(count(), "2 found");
-    run(Undo);
-    press(edit, Qt::Key_Escape);
-    EXPECT_FALSE(edit.isVisible());
-    EXPECT_TRUE(found().empty());
-    EXPECT_TRUE(script().hasFocus());
-    press(script(), Qt::Key_F3);
-    EXPECT_TRUE(edit.hasFocus());
-    expectAt(18, "2 of 3");
-    press(script(), Qt::Key_Escape);
-    EXPECT_FALSE(edit.isVisible()) << "from the list too";
-    QTest::keyClick(&window, Qt::Key_F, Qt::ControlModifier);
-    EXPECT_EQ(edit.selectedText(), QStringLiteral("9"));
-    EXPECT_EQ(found(), (std::vector<std::size_t>{8, 18, 28}));
-    press(edit, Qt::Key_X, Qt::ControlModifier);
-    press(edit, Qt::Key_Delete);
-    EXPECT_EQ(edit.text(), QString());
-    EXPECT_EQ(state.script.entryCount(), 30U) << "keys of the field do not reach the script";
 }
 
 }  // namespace

@@ -221,7 +221,7 @@ TEST(CommandStates, ConditionalCommandsFollowScriptAndSelections) {
     const EditSource luFunctions = rowOf(Palette::LuFunctions);
     const EditSource menuCommands = rowOf(Palette::MenuCommands);
     const auto filled = [](std::set<EditorCommand> more) {
-        more.insert({Save, SaveAs, Find, GoToStep, NextProblem, PreviousProblem});
+        more.insert({Save, SaveAs, Find, FindNext, FindPrevious, Replace, GoToStep, NextProblem, PreviousProblem});
         return more;
     };
     const std::pair<CommandFacts, std::set<EditorCommand>> rows[] = {
@@ -235,6 +235,9 @@ TEST(CommandStates, ConditionalCommandsFollowScriptAndSelections) {
         {focusedOn(luFunctions, luFunction), filled({InsertLuFunction, EditEntry})},
         {focusedOn(menuCommands, event), filled({InsertScriptEvent})},
         {focusedOn(menuCommands, menuCommand), filled({InsertMenuCommand, EditEntry})},
+        {{.namesLabel = true}, {RenameLabel, FindUses}},
+        {{.hasGoto = true}, {GoToLabel}},
+        {{.canGoBack = true}, {GoBack}},
         {{.undoStep = "Cut 1 Entry"}, {Undo}},
         {{.redoStep = "Cut 1 Entry"}, {Redo}},
         {{.quickFix = "Remove Label a"}, {ApplyQuickFix}},
@@ -260,9 +263,9 @@ std::string shown(const CommandItems& items) {
 TEST(CommandTable, ANewCommandLeavesTheOthersOfItsMenuAndTheToolbarWhereTheyAre) {
     const std::pair<EditorMenu, std::string> rows[] = {
         {EditorMenu::File, "300 301 302 303 | 304"},
-        {EditorMenu::Edit, "321 322 | 305 306 324 307 | 323 335 | 333"},
+        {EditorMenu::Edit, "321 322 | 305 306 324 307 | 323 340 341 342 335 | 333"},
         {EditorMenu::View, "330 334 | 331 332"},
-        {EditorMenu::Entry, "308 309 310 325 | 311 | 312"},
+        {EditorMenu::Entry, "308 309 310 325 | 311 | 312 | 343 344 345 346"},
         {EditorMenu::Mode, "313 314 315 316 317 318"},
         {EditorMenu::Help, "319 326 | 320"},
     };

@@ -1,13 +1,20 @@
 // What each dialog refuses, enables and takes.
 #include "support/dialog_fixture.h"
 
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QDateTime>
+#include <QTest>
 
 namespace quendra::test {
 namespace {
 
 using Code = CommandCode;
+
+std::string selectedIn(const QWidget& list) {
+    const auto& view = dynamic_cast<const QAbstractItemView&>(list);
+    return view.currentIndex().data().toString().toStdString();
+}
 
 TEST_F(DialogTest, ANumberBeyondItsRangeIsRefusedByNameAndBecomesNoOther) {
     const struct {
@@ -271,6 +278,50 @@ TEST_F(DialogTest, ReturnIsOkAndTheFirstFieldIsSelectedAtTheStart) {
         EXPECT_TRUE(endedWithOk());
         EXPECT_EQ(textOf(own()), "new");
     }
+}
+
+TEST_F(DialogTest, AGotoOffersTheLabelsInTheirOrderAndTakesAnyOtherText) {
+    for (const auto& [code, text] : {std::pair{10, "Start"}, {7, "Nowhere"}, {10, "End"}})
+        state.script.entries.push_back(
+            storeRecord(joined({{static_cast<std::uint8_t>(code)}, counted(text)})));
+    openNew(Code::Goto);
+    EXPECT_EQ(focused(), "text");
+    press(Qt::Key_Down);
+    auto& offered = *QApplication::activePopupWidget();
+    EXPECT_EQ(selectedIn(offered), "Start");
+    QTest::keyClick(&offered, Qt::Key_Down);
+    EXPECT_EQ(selectedIn(offered), "End");
+    QTest::keyClick(&offered, Qt::Key_Return);
+    EXPECT_EQ(shown("text"), "End");
+    EXPECT_TRUE(dialog->isVisible()) << "Return took the label only";
+    click("offers");
+    EXPECT_EQ(selectedIn(*QApplication::activePopupWidget()), "End");
+    QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Escape);
+    EXPECT_TRUE(dialog->isVisible());
+    retype("text", "Later");
+    click("ok");
+    EXPECT_EQ(textOf(own()), "Later");
+    state.script = {};
+    openNew(Code::Goto);
+    EXPECT_FALSE(has("offers"));
+}
+
+TEST_F(DialogTest, ATypeOffersTheVariablesButNotWhileItIsHidden) {
+    state.script.entries.push_back(storeRecord(joined({{8}, counted("t"), word(0), {255, 0, 2}})));
+    openNew(Code::Type);
+    press(Qt::Key_Down);
+    EXPECT_EQ(selectedIn(*QApplication::activePopupWidget()), "VarUserId") << "what is stored";
+    QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Return);
+    EXPECT_EQ(shown("text"), "VarUserId");
+    click("hide");
+    EXPECT_FALSE(widget("offers").isVisible());
+    widget("text").setFocus();
+    press(Qt::Key_Down);
+    EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
+    EXPECT_EQ(shown("text"), "*********");
+    click("ok");
+    EXPECT_EQ(textOf(own()), "VarUserId");
+    EXPECT_EQ(own().hidden, 1);
 }
 
 }  // namespace

@@ -63,7 +63,12 @@ bool DragController::filterMouse(QObject* watched, QMouseEvent& event) {
     switch (event.type()) {
         case QEvent::MouseButtonPress:
             if (isDragging()) return true;
-            return list && event.button() == Qt::LeftButton && press(*list, event);
+            if (!list || event.button() != Qt::LeftButton) return false;
+            if (otherUse_ && otherUse_(*list, event)) {
+                phase_ = Phase::Spent;
+                return true;
+            }
+            return press(*list, event);
         case QEvent::MouseButtonDblClick:
             // The second press of a double-click starts no drag.
             if (phase_ == Phase::Idle && event.button() == Qt::LeftButton) phase_ = Phase::Spent;

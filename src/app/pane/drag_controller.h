@@ -8,6 +8,7 @@
 #include <QPoint>
 
 #include <array>
+#include <functional>
 #include <memory>
 #include <utility>
 
@@ -29,6 +30,12 @@ class DragController : public QObject {
     /// the controller.
     DragController(QWidget& pane, std::array<PaneList*, 4> lists);
     ~DragController() override;
+
+    /// `takes` is asked at each press of the left button on a list: where it gives true, the press
+    /// is used up, and no drag starts with it.
+    void setOtherUse(std::function<bool(PaneList&, const QMouseEvent&)> takes) {
+        otherUse_ = std::move(takes);
+    }
 
     [[nodiscard]] bool isDragging() const { return phase_ == Phase::Dragging; }
     /// Ends a drag without a drop; nothing happens when none runs.
@@ -72,6 +79,7 @@ class DragController : public QObject {
 
     QWidget& pane_;
     std::array<PaneList*, 4> lists_;
+    std::function<bool(PaneList&, const QMouseEvent&)> otherUse_;
     Phase phase_ = Phase::Idle;
     std::size_t source_ = 0;
     int pressedRow_ = -1;

@@ -39,6 +39,9 @@ EditorPane::Private::Private(EditorPane& pane, ApplicationState& state)
       drag_(pane, lists_.all()) {
     connect(&selection_, &PaneSelection::aboutToChange, &drag_, &DragController::cancel);
     connect(&drag_, &DragController::dropped, &gestures_, &PaneGestures::drop);
+    drag_.setOtherUse([this](PaneList& list, const QMouseEvent& event) {
+        return gestures_.goesToLabel(list, event);
+    });
     connect(&selection_, &PaneSelection::changed, &pane, &EditorPane::selectionChanged);
     connect(&selection_, &PaneSelection::rebuilt, &pane, &EditorPane::listRebuilt);
     connect(&lists_.scriptModel(), &QAbstractItemModel::modelReset, &pane, [this] {

@@ -4,6 +4,7 @@
 #include "app/pane/pane_selection.h"
 #include "widgets/pane_list.h"
 
+#include <QItemSelectionModel>
 #include <QKeyEvent>
 #include <QMouseEvent>
 
@@ -85,6 +86,20 @@ bool PaneGestures::pressMouse(PaneList& list, const QMouseEvent& event) {
     const bool adds = event.modifiers() & (Qt::ControlModifier | Qt::ShiftModifier);
     if (!adds && !list.indexAt(event.position().toPoint()).isValid()) list.clearSelection();
     return false;
+}
+
+// With several entries selected, the click adds one more to them, as anywhere else.
+bool PaneGestures::goesToLabel(PaneList& list, const QMouseEvent& event) {
+    if (&list != &lists_.script() || event.modifiers() != Qt::ControlModifier) return false;
+    const QModelIndex index = list.indexAt(event.position().toPoint());
+    if (!index.isValid() || list.selectedRows().size() > 1) return false;
+    const auto row = static_cast<std::size_t>(index.row());
+    if (state_.script.entries[row].code() != CommandCode::Goto) return false;
+    list.setCurrentIndex(index);
+    list.selectionModel()->select(index, QItemSelectionModel::ClearAndSelect);
+    QMetaObject::invokeMethod(
+        this, [this] { Q_EMIT commandRequested(EditorCommand::GoToLabel); }, Qt::QueuedConnection);
+    return true;
 }
 
 bool PaneGestures::doubleClick(PaneList& list, const QMouseEvent& event) {

@@ -30,6 +30,9 @@ class PaneGestures : public QObject {
     /// below where the drag began. From a palette it asks for an insert there.
     void drop(int source, int target, bool up);
 
+    /// True when a press is Ctrl+click on a Goto, which goes to its label, and nothing else.
+    bool goesToLabel(PaneList& list, const QMouseEvent& event);
+
   Q_SIGNALS:
     /// Emitted after the gesture's own event has been handled, never from inside it.
     void commandRequested(quendra::EditorCommand command);
