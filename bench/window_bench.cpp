@@ -5,6 +5,7 @@
 #include "app/main_window.h"
 #include "app/script_editor.h"
 #include "pair.h"
+#include "review/review_window.h"
 #include "sample_scripts.h"
 #include "scriptfile/entry_codec.h"
 #include "widgets/appearance.h"
@@ -63,6 +64,7 @@ class Editor {
     void waitUntilPainted();
     void repaintList() { list_->viewport()->repaint(); }
     [[nodiscard]] const Script& script() const { return state_.script; }
+    [[nodiscard]] ApplicationState& state() { return state_; }
     [[nodiscard]] std::size_t whole() const { return whole_.entryCount(); }
     /// Keeps the script as it is for prepared(), apart from what is timed.
     void markPrepared() { prepared_ = state_.script; }
@@ -270,7 +272,33 @@ void growth(benchmark::State& state, const Action& action, Editors& editors) {
         {.ratio = 5});
 }
 
+/// From nothing to a comparison that is painted.
+void openComparison(ApplicationState& state, const Script& left, const Script& right) {
+    ReviewWindow window(state);
+    window.compare({left, HostType::Mainframe, "left", {}, {}},
+                   {right, HostType::Mainframe, "right", {}, {}});
+    PaintWatch watch(*window.findChild<QListView*>()->viewport());
+    window.show();
+    while (!watch.painted) {
+        QCoreApplication::processEvents();
+    }
+}
+
+// Beside the same window without a script: what it takes itself.
+void registerComparison(Editors& editors) {
+    benchmark::RegisterBenchmark("compare/painted", [&editors](benchmark::State& state) {
+        ApplicationState& shared = editors.untouched.state();
+        const Script left = typicalScript(shared.cipher);
+        const Script right = changedScript(left, 0, 10, "changed ");
+        comparePair(
+            state, [&] { openComparison(shared, {}, {}); },
+            [&] { openComparison(shared, left, right); }, [] {}, {.microseconds = 2 * frame});
+    })->UseManualTime();
+}
+
 void registerAll(Editors& editors) {
+    registerComparison(editors);
+
     for (const Action& action : actions()) {
         const bool isEdit = std::string_view(action.name) == "edit";
         const Goal goal{.ratio = isEdit ? 1.7 : 0, .microseconds = frame};

@@ -3803,5 +3803,305 @@ Replace it? The old file is kept as a backup beside it.</translation>
         <translation>You have no user identity: hidden texts are only obscured</translation>
         <extra-name>checkHiddenWithoutKey</extra-name>
     </message>
+    <message id="17300">
+        <source>Compare With &amp;File...</source>
+        <extracomment>Menu: File, Compare With File</extracomment>
+        <translation>Compare With &amp;File...</translation>
+        <extra-name>compareFileMenuText</extra-name>
+    </message>
+    <message id="17301">
+        <source>Compare With File</source>
+        <extracomment>Toolbar</extracomment>
+        <translation>Compare With File</translation>
+        <extra-name>compareFileToolTip</extra-name>
+    </message>
+    <message id="17302">
+        <source>Compares the script with another script file, entry by entry.</source>
+        <extracomment>Status bar</extracomment>
+        <translation>Compares the script with another script file, entry by entry.</translation>
+        <extra-name>compareFileStatusText</extra-name>
+    </message>
+    <message id="17303">
+        <source>Compare With Sa&amp;ved</source>
+        <extracomment>Menu: File, Compare With Saved</extracomment>
+        <translation>Compare With Sa&amp;ved</translation>
+        <extra-name>compareSavedMenuText</extra-name>
+    </message>
+    <message id="17304">
+        <source>Compare With Saved</source>
+        <extracomment>Toolbar</extracomment>
+        <translation>Compare With Saved</translation>
+        <extra-name>compareSavedToolTip</extra-name>
+    </message>
+    <message id="17305">
+        <source>Shows what has changed since the script was opened or last saved.</source>
+        <extracomment>Status bar</extracomment>
+        <translation>Shows what has changed since the script was opened or last saved.</translation>
+        <extra-name>compareSavedStatusText</extra-name>
+    </message>
+    <message id="17306">
+        <source>&amp;Resolve Conflicts...</source>
+        <extracomment>Menu: File, Resolve Conflicts</extracomment>
+        <translation>&amp;Resolve Conflicts...</translation>
+        <extra-name>resolveConflictsMenuText</extra-name>
+    </message>
+    <message id="17307">
+        <source>Resolve Conflicts</source>
+        <extracomment>Toolbar</extracomment>
+        <translation>Resolve Conflicts</translation>
+        <extra-name>resolveConflictsToolTip</extra-name>
+    </message>
+    <message id="17308">
+        <source>Chooses between the two sides where a merge found conflicts.</source>
+        <extracomment>Status bar</extracomment>
+        <translation>Chooses between the two sides where a merge found conflicts.</translation>
+        <extra-name>resolveConflictsStatusText</extra-name>
+    </message>
+    <message id="17309">
+        <source>%s and %s  -  Compare</source>
+        <extracomment>Title of the window that compares; %s are the names of the sides</extracomment>
+        <translation>%s and %s  -  Compare</translation>
+        <extra-name>reviewCompareTitle</extra-name>
+    </message>
+    <message id="17310">
+        <source>%s  -  Resolve Conflicts</source>
+        <extracomment>Title of the same window for the conflicts of a merge; %s is the script</extracomment>
+        <translation>%s  -  Resolve Conflicts</translation>
+        <extra-name>reviewResolveTitle</extra-name>
+    </message>
+    <message id="17311">
+        <source>%s, as saved</source>
+        <extracomment>Name of a side; %s is the script</extracomment>
+        <translation>%s, as saved</translation>
+        <extra-name>reviewSideSaved</extra-name>
+    </message>
+    <message id="17312">
+        <source>%s, in the editor</source>
+        <extracomment>Name of a side; %s is the script</extracomment>
+        <translation>%s, in the editor</translation>
+        <extra-name>reviewSideEditor</extra-name>
+    </message>
+    <message id="17313">
+        <source>The scripts are the same</source>
+        <extracomment>Summary</extracomment>
+        <translation>The scripts are the same</translation>
+        <extra-name>reviewSame</extra-name>
+    </message>
+    <message id="17314">
+        <source>1 change</source>
+        <extracomment>Summary</extracomment>
+        <translation>1 change</translation>
+        <extra-name>reviewOneChange</extra-name>
+    </message>
+    <message id="17315">
+        <source>%d changes</source>
+        <extracomment>Summary</extracomment>
+        <translation>%d changes</translation>
+        <extra-name>reviewChanges</extra-name>
+    </message>
+    <message id="17316">
+        <source>Change %d of %d</source>
+        <extracomment>Summary: which change is the current one</extracomment>
+        <translation>Change %d of %d</translation>
+        <extra-name>reviewChangePosition</extra-name>
+    </message>
+    <message id="17317">
+        <source>No conflicts</source>
+        <extracomment>Summary</extracomment>
+        <translation>No conflicts</translation>
+        <extra-name>reviewNoConflicts</extra-name>
+    </message>
+    <message id="17318">
+        <source>1 conflict</source>
+        <extracomment>Summary</extracomment>
+        <translation>1 conflict</translation>
+        <extra-name>reviewOneConflict</extra-name>
+    </message>
+    <message id="17319">
+        <source>%d conflicts</source>
+        <extracomment>Summary</extracomment>
+        <translation>%d conflicts</translation>
+        <extra-name>reviewConflicts</extra-name>
+    </message>
+    <message id="17320">
+        <source>Conflict %d of %d</source>
+        <extracomment>Summary: which conflict is the current one</extracomment>
+        <translation>Conflict %d of %d</translation>
+        <extra-name>reviewConflictPosition</extra-name>
+    </message>
+    <message id="17321">
+        <source>; the host types differ: %s and %s</source>
+        <extracomment>Summary: goes on after the number of changes; %s are host types</extracomment>
+        <translation>; the host types differ: %s and %s</translation>
+        <extra-name>reviewHostTypes</extra-name>
+    </message>
+    <message id="17322">
+        <source>; on from the start</source>
+        <extracomment>Summary: goes on after the position</extracomment>
+        <translation>; on from the start</translation>
+        <extra-name>reviewFromStart</extra-name>
+    </message>
+    <message id="17323">
+        <source>; on from the end</source>
+        <extracomment>Summary: goes on after the position</extracomment>
+        <translation>; on from the end</translation>
+        <extra-name>reviewFromEnd</extra-name>
+    </message>
+    <message id="17324">
+        <source>Next change</source>
+        <extracomment>Tool tip of a button</extracomment>
+        <translation>Next change</translation>
+        <extra-name>reviewNext</extra-name>
+    </message>
+    <message id="17325">
+        <source>Previous change</source>
+        <extracomment>Tool tip of a button</extracomment>
+        <translation>Previous change</translation>
+        <extra-name>reviewPrevious</extra-name>
+    </message>
+    <message id="17326">
+        <source>&amp;Take Over</source>
+        <extracomment>Button; also the name of the step for Undo</extracomment>
+        <translation>&amp;Take Over</translation>
+        <extra-name>reviewTakeOver</extra-name>
+    </message>
+    <message id="17327">
+        <source>Keep &amp;Ours</source>
+        <extracomment>Button: the left side of a conflict</extracomment>
+        <translation>Keep &amp;Ours</translation>
+        <extra-name>reviewKeepOurs</extra-name>
+    </message>
+    <message id="17328">
+        <source>Keep &amp;Theirs</source>
+        <extracomment>Button: the right side of a conflict</extracomment>
+        <translation>Keep &amp;Theirs</translation>
+        <extra-name>reviewKeepTheirs</extra-name>
+    </message>
+    <message id="17329">
+        <source>Keep &amp;Both</source>
+        <extracomment>Button: both sides of a conflict</extracomment>
+        <translation>Keep &amp;Both</translation>
+        <extra-name>reviewKeepBoth</extra-name>
+    </message>
+    <message id="17330">
+        <source>changed</source>
+        <extracomment>What became of an entry; also of a hidden text</extracomment>
+        <translation>changed</translation>
+        <extra-name>reviewChanged</extra-name>
+    </message>
+    <message id="17331">
+        <source>only on the left</source>
+        <extracomment>What became of an entry</extracomment>
+        <translation>only on the left</translation>
+        <extra-name>reviewGone</extra-name>
+    </message>
+    <message id="17332">
+        <source>only on the right</source>
+        <extracomment>What became of an entry</extracomment>
+        <translation>only on the right</translation>
+        <extra-name>reviewNew</extra-name>
+    </message>
+    <message id="17333">
+        <source>moved, entry %d on the right</source>
+        <extracomment>What became of an entry; %d is its number on the other side</extracomment>
+        <translation>moved, entry %d on the right</translation>
+        <extra-name>reviewMovedAway</extra-name>
+    </message>
+    <message id="17334">
+        <source>moved, entry %d on the left</source>
+        <extracomment>What became of an entry; %d is its number on the other side</extracomment>
+        <translation>moved, entry %d on the left</translation>
+        <extra-name>reviewMovedHere</extra-name>
+    </message>
+    <message id="17335">
+        <source>conflict</source>
+        <extracomment>What an entry is part of</extracomment>
+        <translation>conflict</translation>
+        <extra-name>reviewConflict</extra-name>
+    </message>
+    <message id="17336">
+        <source>no entry on this side</source>
+        <extracomment>Where one side of a conflict has no entry</extracomment>
+        <translation>no entry on this side</translation>
+        <extra-name>reviewNothing</extra-name>
+    </message>
+    <message id="17337">
+        <source>left, entry %d: %s</source>
+        <extracomment>One side of a row, as it is read aloud; number and line of the entry</extracomment>
+        <translation>left, entry %d: %s</translation>
+        <extra-name>reviewLeftEntry</extra-name>
+    </message>
+    <message id="17338">
+        <source>right, entry %d: %s</source>
+        <extracomment>One side of a row, as it is read aloud; number and line of the entry</extracomment>
+        <translation>right, entry %d: %s</translation>
+        <extra-name>reviewRightEntry</extra-name>
+    </message>
+    <message id="17339">
+        <source>the same</source>
+        <extracomment>What became of an entry</extracomment>
+        <translation>the same</translation>
+        <extra-name>reviewSameEntry</extra-name>
+    </message>
+    <message id="17340">
+        <source>Take Over: entry %d of the left side replaces entry %d of the script</source>
+        <extracomment>What the button would do; the numbers of entries</extracomment>
+        <translation>Take Over: entry %d of the left side replaces entry %d of the script</translation>
+        <extra-name>reviewTakesChanged</extra-name>
+    </message>
+    <message id="17341">
+        <source>Take Over: entry %d of the left side is inserted into the script</source>
+        <extracomment>What the button would do</extracomment>
+        <translation>Take Over: entry %d of the left side is inserted into the script</translation>
+        <extra-name>reviewTakesGone</extra-name>
+    </message>
+    <message id="17342">
+        <source>Take Over: entry %d is removed from the script</source>
+        <extracomment>What the button would do</extracomment>
+        <translation>Take Over: entry %d is removed from the script</translation>
+        <extra-name>reviewTakesNew</extra-name>
+    </message>
+    <message id="17343">
+        <source>Take Over: entry %d of the script moves to where it is on the left</source>
+        <extracomment>What the button would do</extracomment>
+        <translation>Take Over: entry %d of the script moves to where it is on the left</translation>
+        <extra-name>reviewTakesMoved</extra-name>
+    </message>
+    <message id="17344">
+        <source>Take Over: the %d selected changes become as on the left</source>
+        <extracomment>What the button would do</extracomment>
+        <translation>Take Over: the %d selected changes become as on the left</translation>
+        <extra-name>reviewTakesSelected</extra-name>
+    </message>
+    <message id="17345">
+        <source>What you keep replaces the entries %d to %d of the script</source>
+        <extracomment>What the buttons would do; %d are numbers of entries</extracomment>
+        <translation>What you keep replaces the entries %d to %d of the script</translation>
+        <extra-name>reviewKeepsSide</extra-name>
+    </message>
+    <message id="17346">
+        <source>Take Over</source>
+        <extracomment>Name of a step for Undo</extracomment>
+        <translation>Take Over</translation>
+        <extra-name>reviewTakeOverStep</extra-name>
+    </message>
+    <message id="17347">
+        <source>Left alone, because they lie within each other or lack their counterparts: the conflict marks in the entries %s</source>
+        <extracomment>Message in the window; %s are numbers of entries</extracomment>
+        <translation>Left alone, because they lie within each other or lack their counterparts: the conflict marks in the entries %s</translation>
+        <extra-name>reviewStrayMarks</extra-name>
+    </message>
+    <message id="17348">
+        <source>hidden</source>
+        <extracomment>In place of the value of a field</extracomment>
+        <translation>hidden</translation>
+        <extra-name>reviewHidden</extra-name>
+    </message>
+    <message id="17349">
+        <source>(none)</source>
+        <extracomment>In place of the value of a field</extracomment>
+        <translation>(none)</translation>
+        <extra-name>reviewNoValue</extra-name>
+    </message>
 </context>
 </TS>

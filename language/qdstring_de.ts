@@ -3172,5 +3172,255 @@ Ersetzen? Die alte Datei bleibt als Sicherungskopie daneben erhalten.</translati
         <extracomment>Check</extracomment>
         <translation>Sie haben keine Benutzerkennung: Verborgene Texte sind nur verschleiert</translation>
     </message>
+    <message id="17300">
+        <source>Compare With &amp;File...</source>
+        <extracomment>Menu: File, Compare With File</extracomment>
+        <translation>Mit &amp;Datei vergleichen...</translation>
+    </message>
+    <message id="17301">
+        <source>Compare With File</source>
+        <extracomment>Toolbar</extracomment>
+        <translation>Mit Datei vergleichen</translation>
+    </message>
+    <message id="17302">
+        <source>Compares the script with another script file, entry by entry.</source>
+        <extracomment>Status bar</extracomment>
+        <translation>Vergleicht das Skript Eintrag für Eintrag mit einer anderen Skriptdatei.</translation>
+    </message>
+    <message id="17303">
+        <source>Compare With Sa&amp;ved</source>
+        <extracomment>Menu: File, Compare With Saved</extracomment>
+        <translation>Mit &amp;gespeichertem Stand vergleichen</translation>
+    </message>
+    <message id="17304">
+        <source>Compare With Saved</source>
+        <extracomment>Toolbar</extracomment>
+        <translation>Mit gespeichertem Stand vergleichen</translation>
+    </message>
+    <message id="17305">
+        <source>Shows what has changed since the script was opened or last saved.</source>
+        <extracomment>Status bar</extracomment>
+        <translation>Zeigt, was sich seit dem Öffnen oder letzten Speichern des Skripts geändert hat.</translation>
+    </message>
+    <message id="17306">
+        <source>&amp;Resolve Conflicts...</source>
+        <extracomment>Menu: File, Resolve Conflicts</extracomment>
+        <translation>&amp;Konflikte lösen...</translation>
+    </message>
+    <message id="17307">
+        <source>Resolve Conflicts</source>
+        <extracomment>Toolbar</extracomment>
+        <translation>Konflikte lösen</translation>
+    </message>
+    <message id="17308">
+        <source>Chooses between the two sides where a merge found conflicts.</source>
+        <extracomment>Status bar</extracomment>
+        <translation>Wählt zwischen den beiden Seiten, wo beim Zusammenführen Konflikte blieben.</translation>
+    </message>
+    <message id="17309">
+        <source>%s and %s  -  Compare</source>
+        <extracomment>Title of the window that compares; %s are the names of the sides</extracomment>
+        <translation>%s und %s  -  Vergleich</translation>
+    </message>
+    <message id="17310">
+        <source>%s  -  Resolve Conflicts</source>
+        <extracomment>Title of the same window for the conflicts of a merge; %s is the script</extracomment>
+        <translation>%s  -  Konflikte lösen</translation>
+    </message>
+    <message id="17311">
+        <source>%s, as saved</source>
+        <extracomment>Name of a side; %s is the script</extracomment>
+        <translation>%s, wie gespeichert</translation>
+    </message>
+    <message id="17312">
+        <source>%s, in the editor</source>
+        <extracomment>Name of a side; %s is the script</extracomment>
+        <translation>%s, im Editor</translation>
+    </message>
+    <message id="17313">
+        <source>The scripts are the same</source>
+        <extracomment>Summary</extracomment>
+        <translation>Die Skripte sind gleich</translation>
+    </message>
+    <message id="17314">
+        <source>1 change</source>
+        <extracomment>Summary</extracomment>
+        <translation>1 Änderung</translation>
+    </message>
+    <message id="17315">
+        <source>%d changes</source>
+        <extracomment>Summary</extracomment>
+        <translation>%d Änderungen</translation>
+    </message>
+    <message id="17316">
+        <source>Change %d of %d</source>
+        <extracomment>Summary: which change is the current one</extracomment>
+        <translation>Änderung %d von %d</translation>
+    </message>
+    <message id="17317">
+        <source>No conflicts</source>
+        <extracomment>Summary</extracomment>
+        <translation>Keine Konflikte</translation>
+    </message>
+    <message id="17318">
+        <source>1 conflict</source>
+        <extracomment>Summary</extracomment>
+        <translation>1 Konflikt</translation>
+    </message>
+    <message id="17319">
+        <source>%d conflicts</source>
+        <extracomment>Summary</extracomment>
+        <translation>%d Konflikte</translation>
+    </message>
+    <message id="17320">
+        <source>Conflict %d of %d</source>
+        <extracomment>Summary: which conflict is the current one</extracomment>
+        <translation>Konflikt %d von %d</translation>
+    </message>
+    <message id="17321">
+        <source>; the host types differ: %s and %s</source>
+        <extracomment>Summary: goes on after the number of changes; %s are host types</extracomment>
+        <translation>; die Hosttypen sind verschieden: %s und %s</translation>
+    </message>
+    <message id="17322">
+        <source>; on from the start</source>
+        <extracomment>Summary: goes on after the position</extracomment>
+        <translation>; weiter von vorn</translation>
+    </message>
+    <message id="17323">
+        <source>; on from the end</source>
+        <extracomment>Summary: goes on after the position</extracomment>
+        <translation>; weiter von hinten</translation>
+    </message>
+    <message id="17324">
+        <source>Next change</source>
+        <extracomment>Tool tip of a button</extracomment>
+        <translation>Nächste Änderung</translation>
+    </message>
+    <message id="17325">
+        <source>Previous change</source>
+        <extracomment>Tool tip of a button</extracomment>
+        <translation>Vorherige Änderung</translation>
+    </message>
+    <message id="17326">
+        <source>&amp;Take Over</source>
+        <extracomment>Button; also the name of the step for Undo</extracomment>
+        <translation>&amp;Übernehmen</translation>
+    </message>
+    <message id="17327">
+        <source>Keep &amp;Ours</source>
+        <extracomment>Button: the left side of a conflict</extracomment>
+        <translation>&amp;Eigene behalten</translation>
+    </message>
+    <message id="17328">
+        <source>Keep &amp;Theirs</source>
+        <extracomment>Button: the right side of a conflict</extracomment>
+        <translation>&amp;Andere behalten</translation>
+    </message>
+    <message id="17329">
+        <source>Keep &amp;Both</source>
+        <extracomment>Button: both sides of a conflict</extracomment>
+        <translation>&amp;Beide behalten</translation>
+    </message>
+    <message id="17330">
+        <source>changed</source>
+        <extracomment>What became of an entry; also of a hidden text</extracomment>
+        <translation>geändert</translation>
+    </message>
+    <message id="17331">
+        <source>only on the left</source>
+        <extracomment>What became of an entry</extracomment>
+        <translation>nur links</translation>
+    </message>
+    <message id="17332">
+        <source>only on the right</source>
+        <extracomment>What became of an entry</extracomment>
+        <translation>nur rechts</translation>
+    </message>
+    <message id="17333">
+        <source>moved, entry %d on the right</source>
+        <extracomment>What became of an entry; %d is its number on the other side</extracomment>
+        <translation>verschoben, rechts Eintrag %d</translation>
+    </message>
+    <message id="17334">
+        <source>moved, entry %d on the left</source>
+        <extracomment>What became of an entry; %d is its number on the other side</extracomment>
+        <translation>verschoben, links Eintrag %d</translation>
+    </message>
+    <message id="17335">
+        <source>conflict</source>
+        <extracomment>What an entry is part of</extracomment>
+        <translation>Konflikt</translation>
+    </message>
+    <message id="17336">
+        <source>no entry on this side</source>
+        <extracomment>Where one side of a conflict has no entry</extracomment>
+        <translation>auf dieser Seite kein Eintrag</translation>
+    </message>
+    <message id="17337">
+        <source>left, entry %d: %s</source>
+        <extracomment>One side of a row, as it is read aloud; number and line of the entry</extracomment>
+        <translation>links, Eintrag %d: %s</translation>
+    </message>
+    <message id="17338">
+        <source>right, entry %d: %s</source>
+        <extracomment>One side of a row, as it is read aloud; number and line of the entry</extracomment>
+        <translation>rechts, Eintrag %d: %s</translation>
+    </message>
+    <message id="17339">
+        <source>the same</source>
+        <extracomment>What became of an entry</extracomment>
+        <translation>gleich</translation>
+    </message>
+    <message id="17340">
+        <source>Take Over: entry %d of the left side replaces entry %d of the script</source>
+        <extracomment>What the button would do; the numbers of entries</extracomment>
+        <translation>Übernehmen: Eintrag %d der linken Seite ersetzt Eintrag %d des Skripts</translation>
+    </message>
+    <message id="17341">
+        <source>Take Over: entry %d of the left side is inserted into the script</source>
+        <extracomment>What the button would do</extracomment>
+        <translation>Übernehmen: Eintrag %d der linken Seite wird in das Skript eingefügt</translation>
+    </message>
+    <message id="17342">
+        <source>Take Over: entry %d is removed from the script</source>
+        <extracomment>What the button would do</extracomment>
+        <translation>Übernehmen: Eintrag %d wird aus dem Skript entfernt</translation>
+    </message>
+    <message id="17343">
+        <source>Take Over: entry %d of the script moves to where it is on the left</source>
+        <extracomment>What the button would do</extracomment>
+        <translation>Übernehmen: Eintrag %d des Skripts kommt dahin, wo er links steht</translation>
+    </message>
+    <message id="17344">
+        <source>Take Over: the %d selected changes become as on the left</source>
+        <extracomment>What the button would do</extracomment>
+        <translation>Übernehmen: die %d ausgewählten Änderungen werden wie links</translation>
+    </message>
+    <message id="17345">
+        <source>What you keep replaces the entries %d to %d of the script</source>
+        <extracomment>What the buttons would do; %d are numbers of entries</extracomment>
+        <translation>Was Sie behalten, ersetzt die Einträge %d bis %d des Skripts</translation>
+    </message>
+    <message id="17346">
+        <source>Take Over</source>
+        <extracomment>Name of a step for Undo</extracomment>
+        <translation>Übernehmen</translation>
+    </message>
+    <message id="17347">
+        <source>Left alone, because they lie within each other or lack their counterparts: the conflict marks in the entries %s</source>
+        <extracomment>Message in the window; %s are numbers of entries</extracomment>
+        <translation>Bleiben stehen, weil sie ineinander liegen oder ihr Gegenstück fehlt: die Konfliktmarken in den Einträgen %s</translation>
+    </message>
+    <message id="17348">
+        <source>hidden</source>
+        <extracomment>In place of the value of a field</extracomment>
+        <translation>verborgen</translation>
+    </message>
+    <message id="17349">
+        <source>(none)</source>
+        <extracomment>In place of the value of a field</extracomment>
+        <translation>(keiner)</translation>
+    </message>
 </context>
 </TS>

@@ -10,7 +10,7 @@ namespace quendra {
 
 CommandHandlers::CommandHandlers(ApplicationState& state, MainWindow& window, ScriptEditor& editor,
                                  EditorHelp* help)
-    : state_(state), window_(window), editor_(editor), help_(help) {
+    : state_(state), window_(window), editor_(editor), help_(help), review_(state, window, editor) {
     window_.setCommandRunner([this](EditorCommand command) { run(command); });
 }
 
@@ -27,6 +27,9 @@ void CommandHandlers::run(EditorCommand command) {
         case EditorCommand::Open: return window_.openScript();
         case EditorCommand::Save: window_.save(); return;
         case EditorCommand::SaveAs: window_.saveAs(); return;
+        case EditorCommand::CompareWithFile: return review_.compareWithFile();
+        case EditorCommand::CompareWithSaved: return review_.compareWithSaved();
+        case EditorCommand::ResolveConflicts: return review_.resolveConflicts();
         case EditorCommand::Exit: return window_.closeSoon();
         case EditorCommand::Undo: return editor_.undo();
         case EditorCommand::Redo: return editor_.redo();

@@ -1,6 +1,7 @@
 // What every command of the window runs.
 #pragma once
 
+#include "app/script_review.h"
 #include "session/application_state.h"
 #include "session/commands.h"
 
@@ -28,6 +29,7 @@ class CommandHandlers {
     MainWindow& window_;
     ScriptEditor& editor_;
     EditorHelp* help_;
+    ScriptReview review_;
 };
 
 }  // namespace quendra

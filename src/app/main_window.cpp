@@ -259,6 +259,8 @@ bool MainWindow::saveTo(const std::filesystem::path& path) {
     setNote(outcome.note);
     updateTitle();
     updateStatus();
+    updateCommandStates();
+    Q_EMIT documentChanged();
     return true;
 }
 
@@ -289,6 +291,7 @@ void MainWindow::setHostType(HostType hostType) {
     updateStatus();
     updateCommandStates();
     pane_->takeFocus();
+    Q_EMIT documentChanged();
 }
 
 void MainWindow::showDocument() {
@@ -296,6 +299,7 @@ void MainWindow::showDocument() {
     updateTitle();
     updateStatus();
     updateCommandStates();
+    Q_EMIT documentChanged();
 }
 
 void MainWindow::scriptChanged() {
@@ -305,6 +309,7 @@ void MainWindow::scriptChanged() {
     updateTitle();
     updateStatus();
     updateCommandStates();
+    Q_EMIT documentChanged();
 }
 
 void MainWindow::updateTitle() {

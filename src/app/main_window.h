@@ -88,6 +88,10 @@ class MainWindow : public QMainWindow {
 
     [[nodiscard]] EditorPane& pane() { return *pane_; }
 
+  Q_SIGNALS:
+    /// Script, host type or document may be others than before, and are shown.
+    void documentChanged();
+
   protected:
     void paintEvent(QPaintEvent* event) override;
     void closeEvent(QCloseEvent* event) override;

@@ -43,6 +43,10 @@ class ScriptEditor : public QObject, private EditingView {
     void editEntry();
     void deleteSelected();
 
+    /// Puts another script in the place of the present one, as one step of this name, and goes to
+    /// an entry of it.
+    void replaceScript(Script script, std::size_t entry, StringId stepName);
+
   private:
     [[nodiscard]] std::vector<std::size_t> selectedEntries() const override;
     [[nodiscard]] int focusedEntry() const override;

@@ -53,6 +53,14 @@ bool canRedo(const CommandFacts& facts) {
     return facts.redoStep.has_value();
 }
 
+bool hasSavedForm(const CommandFacts& facts) {
+    return facts.hasSavedForm;
+}
+
+bool hasConflicts(const CommandFacts& facts) {
+    return facts.hasConflicts;
+}
+
 CommandText insertTip(Palette palette, const CommandFacts& facts, LanguageLibrary& language) {
     return itemText(paletteInfo(palette).insertTextId, facts.selectedRow(palette), language);
 }

@@ -24,6 +24,10 @@ struct CommandFacts {
     /// The steps that Undo and Redo would take.
     std::optional<std::string> undoStep = {};
     std::optional<std::string> redoStep = {};
+    /// The script has a file, or has changed since it was begun.
+    bool hasSavedForm = false;
+    /// Among the entries are marks of merge conflicts.
+    bool hasConflicts = false;
 
     [[nodiscard]] const std::optional<std::string>& selectedRow(Palette palette) const {
         return selectedRows[static_cast<std::size_t>(palette)];
@@ -37,6 +41,9 @@ struct CommandFacts {
 [[nodiscard]] bool canEdit(const CommandFacts& facts);
 [[nodiscard]] bool canUndo(const CommandFacts& facts);
 [[nodiscard]] bool canRedo(const CommandFacts& facts);
+/// There is something that the script may differ from.
+[[nodiscard]] bool hasSavedForm(const CommandFacts& facts);
+[[nodiscard]] bool hasConflicts(const CommandFacts& facts);
 
 /// Texts that name what a command would act on; none while there is nothing.
 using CommandText = std::optional<std::string>;

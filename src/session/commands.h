@@ -41,6 +41,9 @@ enum class EditorCommand : int {
     CopyAsText = 324,
     InsertScript = 325,
     HelpOnSelection = 326,
+    CompareWithFile = 350,
+    CompareWithSaved = 351,
+    ResolveConflicts = 352,
 };
 
 /// In the order of the menu bar.

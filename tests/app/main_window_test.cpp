@@ -233,9 +233,11 @@ TEST(CommandStates, ConditionalCommandsFollowScriptAndSelections) {
         {focusedOn(menuCommands, menuCommand), {Save, SaveAs, Find, InsertMenuCommand, EditEntry}},
         {{.undoStep = "Cut 1 Entry"}, {Undo}},
         {{.redoStep = "Cut 1 Entry"}, {Redo}},
+        {{.hasSavedForm = true}, {CompareWithSaved}},
+        {{.hasConflicts = true}, {ResolveConflicts}},
     };
-    const std::set<EditorCommand> always = {NewScript, Open,         Exit,           Help,
-                                            About,     InsertScript, HelpOnSelection};
+    const std::set<EditorCommand> always = {
+        NewScript, Open, Exit, Help, About, InsertScript, HelpOnSelection, CompareWithFile};
     for (const auto& [facts, enabled] : rows)
         for (const CommandInfo& info : commands())
             EXPECT_EQ(isCommandEnabled(info, facts),
@@ -253,7 +255,7 @@ std::string shown(const CommandItems& items) {
 
 TEST(CommandTable, ANewCommandLeavesTheOthersOfItsMenuAndTheToolbarWhereTheyAre) {
     const std::pair<EditorMenu, std::string> rows[] = {
-        {EditorMenu::File, "300 301 302 303 | 304"},
+        {EditorMenu::File, "300 301 302 303 | 350 351 352 | 304"},
         {EditorMenu::Edit, "321 322 | 305 306 324 307 | 323"},
         {EditorMenu::Entry, "308 309 310 325 | 311 | 312"},
         {EditorMenu::Mode, "313 314 315 316 317 318"},
