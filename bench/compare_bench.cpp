@@ -20,21 +20,6 @@ const HiddenTextCipher& cipher() {
     return made;
 }
 
-// The script with every `each`th step changed from the `first` on: a text becomes another one.
-Script changed(const Script& script, std::size_t first, std::size_t each, std::string_view mark) {
-    Script result = script;
-    for (std::size_t step = first; step < script.entryCount(); step += each) {
-        ScriptEntry entry = unpackSealedEntry(script.entries[step]);
-        setText(entry, std::string(mark) + std::to_string(step));
-        if (isHiddenText(entry)) entry.hidden = 0;
-        if (entry.textLength == 0 || entry.code == CommandCode::LuFunction) {
-            entry.code = CommandCode::Comment;
-        }
-        replaceEntry(result, step, packSealedEntry(entry).entry);
-    }
-    return result;
-}
-
 void formatBoth(const Script& left, const Script& right, const DisplayNames& names) {
     for (const Script* script : {&left, &right}) {
         forEachEntry(*script, cipher(), [&](const ScriptEntry& entry) {
@@ -45,7 +30,7 @@ void formatBoth(const Script& left, const Script& right, const DisplayNames& nam
 
 void diff(benchmark::State& state, std::size_t each, Goal goal) {
     const Script left = typicalScript(cipher());
-    const Script right = changed(left, 0, each, "changed ");
+    const Script right = changedScript(left, 0, each, "changed ");
     const TextSource texts = [](StringId id) { return "Command " + std::to_string(id); };
     const LuCatalogues luFunctions = buildLuCatalogues(texts);
     const MenuCommandCatalogue menuCommands = buildMenuCommandCatalogue(texts);
@@ -57,8 +42,8 @@ void diff(benchmark::State& state, std::size_t each, Goal goal) {
 
 void merge(benchmark::State& state, Goal goal) {
     const Script base = typicalScript(cipher());
-    const Script ours = changed(base, 0, 20, "ours ");
-    const Script theirs = changed(base, 10, 20, "theirs ");
+    const Script ours = changedScript(base, 0, 20, "ours ");
+    const Script theirs = changedScript(base, 10, 20, "theirs ");
     comparePair(
         state, [&] { benchmark::DoNotOptimize(diffScripts(base, ours).left.data()); },
         [&] {

@@ -74,4 +74,19 @@ Script hiddenScript(const HiddenTextCipher& cipher, std::size_t textLength) {
     return repeated({entry}, cipher);
 }
 
+Script changedScript(const Script& script, std::size_t first, std::size_t each,
+                     std::string_view mark) {
+    Script result = script;
+    for (std::size_t step = first; step < script.entryCount(); step += each) {
+        ScriptEntry entry = unpackSealedEntry(script.entries[step]);
+        setText(entry, std::string(mark) + std::to_string(step));
+        if (isHiddenText(entry)) entry.hidden = 0;
+        if (entry.textLength == 0 || entry.code == CommandCode::LuFunction) {
+            entry.code = CommandCode::Comment;
+        }
+        replaceEntry(result, step, packSealedEntry(entry).entry);
+    }
+    return result;
+}
+
 }  // namespace quendra::bench

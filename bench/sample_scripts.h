@@ -5,6 +5,7 @@
 #include "scriptfile/hidden_text.h"
 
 #include <string>
+#include <string_view>
 
 namespace quendra::bench {
 
@@ -15,5 +16,10 @@ namespace quendra::bench {
 [[nodiscard]] Script largestScript(const HiddenTextCipher& cipher);
 /// Hidden Type entries of one text length.
 [[nodiscard]] Script hiddenScript(const HiddenTextCipher& cipher, std::size_t textLength);
+
+/// The script with every `each`th step changed from the `first` on: a text becomes another one,
+/// that begins with the mark.
+[[nodiscard]] Script changedScript(const Script& script, std::size_t first, std::size_t each,
+                                   std::string_view mark);
 
 }  // namespace quendra::bench

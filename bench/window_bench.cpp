@@ -6,6 +6,7 @@
 #include "app/main_window.h"
 #include "app/script_editor.h"
 #include "pair.h"
+#include "review/review_window.h"
 #include "sample_scripts.h"
 #include "scriptfile/entry_codec.h"
 #include "session/live_check.h"
@@ -79,6 +80,7 @@ class Editor {
         if (check.update() == LiveCheck::Change::None) throw std::runtime_error("not checked");
     }
     [[nodiscard]] const Script& script() const { return state_.script; }
+    [[nodiscard]] ApplicationState& state() { return state_; }
     [[nodiscard]] std::size_t whole() const { return whole_.entryCount(); }
     /// Keeps the script as it is for prepared(), apart from what is timed.
     void markPrepared() { prepared_ = state_.script; }
@@ -337,7 +339,32 @@ void findAsTyped(benchmark::State& state, Editors& editors) {
         {.microseconds = 5000});
 }
 
+/// From nothing to a comparison that is painted.
+void openComparison(ApplicationState& state, const Script& left, const Script& right) {
+    ReviewWindow window(state);
+    window.compare({left, HostType::Mainframe, "left", {}, {}},
+                   {right, HostType::Mainframe, "right", {}, {}});
+    PaintWatch watch(*window.findChild<QListView*>()->viewport());
+    window.show();
+    while (!watch.painted) {
+        QCoreApplication::processEvents();
+    }
+}
+
+// Beside the same window without a script: what it takes itself.
+void registerComparison(Editors& editors) {
+    benchmark::RegisterBenchmark("compare/painted", [&editors](benchmark::State& state) {
+        ApplicationState& shared = editors.untouched.state();
+        const Script left = typicalScript(shared.cipher);
+        const Script right = changedScript(left, 0, 10, "changed ");
+        comparePair(
+            state, [&] { openComparison(shared, {}, {}); },
+            [&] { openComparison(shared, left, right); }, [] {}, {.microseconds = 2 * frame});
+    })->UseManualTime();
+}
+
 void registerAll(Editors& editors) {
+    registerComparison(editors);
     benchmark::RegisterBenchmark("gutter/repaint", [&editors](benchmark::State& state) {
         gutter(state, editors);
     })->UseManualTime();

@@ -3207,318 +3207,6 @@
         <translation>Close</translation>
         <extra-name>findClose</extra-name>
     </message>
-    <message id="17250">
-        <source>Find &amp;Next</source>
-        <extracomment>Menu Edit</extracomment>
-        <translation>Find &amp;Next</translation>
-        <extra-name>findNextMenuText</extra-name>
-    </message>
-    <message id="17251">
-        <source>Goes to the next match.</source>
-        <extracomment>Status bar: Find Next</extracomment>
-        <translation>Goes to the next match.</translation>
-        <extra-name>findNextStatusText</extra-name>
-    </message>
-    <message id="17252">
-        <source>Find Pre&amp;vious</source>
-        <extracomment>Menu Edit</extracomment>
-        <translation>Find Pre&amp;vious</translation>
-        <extra-name>findPreviousMenuText</extra-name>
-    </message>
-    <message id="17253">
-        <source>Goes to the previous match.</source>
-        <extracomment>Status bar: Find Previous</extracomment>
-        <translation>Goes to the previous match.</translation>
-        <extra-name>findPreviousStatusText</extra-name>
-    </message>
-    <message id="17254">
-        <source>R&amp;eplace...</source>
-        <extracomment>Menu Edit</extracomment>
-        <translation>R&amp;eplace...</translation>
-        <extra-name>replaceMenuText</extra-name>
-    </message>
-    <message id="17255">
-        <source>Replace</source>
-        <extracomment>Tooltip: Replace; also the name of the step in Undo and the title of its messages</extracomment>
-        <translation>Replace</translation>
-        <extra-name>replaceToolTip</extra-name>
-    </message>
-    <message id="17256">
-        <source>Replaces texts and numbers in the entries.</source>
-        <extracomment>Status bar: Replace</extracomment>
-        <translation>Replaces texts and numbers in the entries.</translation>
-        <extra-name>replaceStatusText</extra-name>
-    </message>
-    <message id="17257">
-        <source>Rename La&amp;bel...</source>
-        <extracomment>Menu Entry</extracomment>
-        <translation>Rename La&amp;bel...</translation>
-        <extra-name>renameLabelMenuText</extra-name>
-    </message>
-    <message id="17258">
-        <source>Rename Label</source>
-        <extracomment>Tooltip: Rename Label; also the dialog's title and the name of the step in Undo</extracomment>
-        <translation>Rename Label</translation>
-        <extra-name>renameLabelToolTip</extra-name>
-    </message>
-    <message id="17259">
-        <source>Renames the label of the current entry in the whole script.</source>
-        <extracomment>Status bar: Rename Label</extracomment>
-        <translation>Renames the label of the current entry in the whole script.</translation>
-        <extra-name>renameLabelStatusText</extra-name>
-    </message>
-    <message id="17260">
-        <source>&amp;Go to Label</source>
-        <extracomment>Menu Entry</extracomment>
-        <translation>&amp;Go to Label</translation>
-        <extra-name>goToLabelMenuText</extra-name>
-    </message>
-    <message id="17261">
-        <source>Go to Label</source>
-        <extracomment>Tooltip: Go to Label; also the title of the dialog that asks for one of several</extracomment>
-        <translation>Go to Label</translation>
-        <extra-name>goToLabelToolTip</extra-name>
-    </message>
-    <message id="17262">
-        <source>Goes to the label that the current entry jumps to.</source>
-        <extracomment>Status bar: Go to Label</extracomment>
-        <translation>Goes to the label that the current entry jumps to.</translation>
-        <extra-name>goToLabelStatusText</extra-name>
-    </message>
-    <message id="17263">
-        <source>Go Bac&amp;k</source>
-        <extracomment>Menu Entry</extracomment>
-        <translation>Go Bac&amp;k</translation>
-        <extra-name>goBackMenuText</extra-name>
-    </message>
-    <message id="17264">
-        <source>Go Back</source>
-        <extracomment>Tooltip: Go Back</extracomment>
-        <translation>Go Back</translation>
-        <extra-name>goBackToolTip</extra-name>
-    </message>
-    <message id="17265">
-        <source>Goes back to the entry from which you went to a label.</source>
-        <extracomment>Status bar: Go Back</extracomment>
-        <translation>Goes back to the entry from which you went to a label.</translation>
-        <extra-name>goBackStatusText</extra-name>
-    </message>
-    <message id="17266">
-        <source>Find &amp;Uses...</source>
-        <extracomment>Menu Entry</extracomment>
-        <translation>Find &amp;Uses...</translation>
-        <extra-name>findUsesMenuText</extra-name>
-    </message>
-    <message id="17267">
-        <source>Find Uses</source>
-        <extracomment>Tooltip: Find Uses</extracomment>
-        <translation>Find Uses</translation>
-        <extra-name>findUsesToolTip</extra-name>
-    </message>
-    <message id="17268">
-        <source>Lists the entries that go to the label of the current entry.</source>
-        <extracomment>Status bar: Find Uses</extracomment>
-        <translation>Lists the entries that go to the label of the current entry.</translation>
-        <extra-name>findUsesStatusText</extra-name>
-    </message>
-    <message id="17269">
-        <source>Match case</source>
-        <extracomment>Find bar: button</extracomment>
-        <translation>Match case</translation>
-        <extra-name>findMatchCase</extra-name>
-    </message>
-    <message id="17270">
-        <source>Whole words</source>
-        <extracomment>Find bar: button</extracomment>
-        <translation>Whole words</translation>
-        <extra-name>findWholeWords</extra-name>
-    </message>
-    <message id="17271">
-        <source>Regular expression</source>
-        <extracomment>Find bar: button</extracomment>
-        <translation>Regular expression</translation>
-        <extra-name>findExpression</extra-name>
-    </message>
-    <message id="17272">
-        <source>Replace with</source>
-        <extracomment>Find bar: the empty field of the new text</extracomment>
-        <translation>Replace with</translation>
-        <extra-name>findReplacement</extra-name>
-    </message>
-    <message id="17273">
-        <source>Re&amp;place</source>
-        <extracomment>Find bar: button</extracomment>
-        <translation>Re&amp;place</translation>
-        <extra-name>replaceButton</extra-name>
-    </message>
-    <message id="17274">
-        <source>Replace A&amp;ll</source>
-        <extracomment>Find bar: button</extracomment>
-        <translation>Replace A&amp;ll</translation>
-        <extra-name>replaceAllButton</extra-name>
-    </message>
-    <message id="17275">
-        <source>Not valid at character %d: %s</source>
-        <extracomment>Find bar: place in a regular expression, what is wrong</extracomment>
-        <translation>Not valid at character %d: %s</translation>
-        <extra-name>findBadExpression</extra-name>
-    </message>
-    <message id="17276">
-        <source>too many ways to match: not all is searched</source>
-        <extracomment>Find bar, behind the number of matches: a regular expression was given up</extracomment>
-        <translation>too many ways to match: not all is searched</translation>
-        <extra-name>findGaveUp</extra-name>
-    </message>
-    <message id="17277">
-        <source>Replace All</source>
-        <extracomment>Step in Undo</extracomment>
-        <translation>Replace All</translation>
-        <extra-name>replaceAllStep</extra-name>
-    </message>
-    <message id="17278">
-        <source>Fields replaced: %d</source>
-        <extracomment>Status bar after Replace All</extracomment>
-        <translation>Fields replaced: %d</translation>
-        <extra-name>replacedCount</extra-name>
-    </message>
-    <message id="17279">
-        <source>These fields cannot be replaced:
-
-%s
-
-Replace in all other fields?</source>
-        <extracomment>Replace All; %s is a list</extracomment>
-        <translation>These fields cannot be replaced:
-
-%s
-
-Replace in all other fields?</translation>
-        <extra-name>replaceOthersQuestion</extra-name>
-    </message>
-    <message id="17280">
-        <source>These fields cannot be replaced, and nothing was changed:
-
-%s</source>
-        <extracomment>Replace; %s is a list</extracomment>
-        <translation>These fields cannot be replaced, and nothing was changed:
-
-%s</translation>
-        <extra-name>replaceRefused</extra-name>
-    </message>
-    <message id="17281">
-        <source>Entry %d, %s: %s</source>
-        <extracomment>Number of an entry, field, why it cannot be changed</extracomment>
-        <translation>Entry %d, %s: %s</translation>
-        <extra-name>changeRefused</extra-name>
-    </message>
-    <message id="17282">
-        <source>nothing would be left</source>
-        <extracomment>Why a field cannot be changed</extracomment>
-        <translation>nothing would be left</translation>
-        <extra-name>changeEmpty</extra-name>
-    </message>
-    <message id="17283">
-        <source>longer than the field holds</source>
-        <extracomment>Why a field cannot be changed</extracomment>
-        <translation>longer than the field holds</translation>
-        <extra-name>changeTooLong</extra-name>
-    </message>
-    <message id="17284">
-        <source>a character that a script cannot store</source>
-        <extracomment>Why a field cannot be changed</extracomment>
-        <translation>a character that a script cannot store</translation>
-        <extra-name>changeCannotBeStored</extra-name>
-    </message>
-    <message id="17285">
-        <source>no number that the field can hold</source>
-        <extracomment>Why a field cannot be changed</extracomment>
-        <translation>no number that the field can hold</translation>
-        <extra-name>changeOutOfRange</extra-name>
-    </message>
-    <message id="17286">
-        <source>Variables</source>
-        <extracomment>Dialog of Type: button that offers the names of variables</extracomment>
-        <translation>Variables</translation>
-        <extra-name>offeredVariables</extra-name>
-    </message>
-    <message id="17287">
-        <source>Only texts and numbers of entries can be replaced</source>
-        <extracomment>Status bar: what was found is the name of a command or a key</extracomment>
-        <translation>Only texts and numbers of entries can be replaced</translation>
-        <extra-name>replaceNotHere</extra-name>
-    </message>
-    <message id="17288">
-        <source>Text</source>
-        <extracomment>Field of an entry</extracomment>
-        <translation>Text</translation>
-        <extra-name>fieldText</extra-name>
-    </message>
-    <message id="17289">
-        <source>&amp;Label:</source>
-        <extracomment>Rename Label: which one of several</extracomment>
-        <translation>&amp;Label:</translation>
-        <extra-name>renameLabelChoice</extra-name>
-    </message>
-    <message id="17290">
-        <source>Second value</source>
-        <extracomment>Field of If_Input_Is</extracomment>
-        <translation>Second value</translation>
-        <extra-name>fieldSecondValue</extra-name>
-    </message>
-    <message id="17291">
-        <source>Number</source>
-        <extracomment>Field of Wait and Wait_Ready</extracomment>
-        <translation>Number</translation>
-        <extra-name>fieldNumber</extra-name>
-    </message>
-    <message id="17292">
-        <source>Labels of this script</source>
-        <extracomment>Dialog of Goto: button that offers them</extracomment>
-        <translation>Labels of this script</translation>
-        <extra-name>offeredLabels</extra-name>
-    </message>
-    <message id="17293">
-        <source>Date and time</source>
-        <extracomment>Field of Wait_Until</extracomment>
-        <translation>Date and time</translation>
-        <extra-name>fieldDateAndTime</extra-name>
-    </message>
-    <message id="17294">
-        <source>Further number</source>
-        <extracomment>Field of a menu command</extracomment>
-        <translation>Further number</translation>
-        <extra-name>fieldCommandData</extra-name>
-    </message>
-    <message id="17295">
-        <source>&amp;New name:</source>
-        <extracomment>Rename Label</extracomment>
-        <translation>&amp;New name:</translation>
-        <extra-name>renameLabelField</extra-name>
-    </message>
-    <message id="17296">
-        <source>Entries that change: %d</source>
-        <extracomment>Rename Label</extracomment>
-        <translation>Entries that change: %d</translation>
-        <extra-name>renameLabelChanges</extra-name>
-    </message>
-    <message id="17297">
-        <source>There is a label of that name already, in entry %d.</source>
-        <extracomment>Rename Label</extracomment>
-        <translation>There is a label of that name already, in entry %d.</translation>
-        <extra-name>renameLabelExists</extra-name>
-    </message>
-    <message id="17298">
-        <source>Uses of %s</source>
-        <extracomment>Title of the list; %s is the name of a label</extracomment>
-        <translation>Uses of %s</translation>
-        <extra-name>usesTitle</extra-name>
-    </message>
-    <message id="17299">
-        <source>Nothing goes to %s</source>
-        <extracomment>Status bar; %s is the name of a label</extracomment>
-        <translation>Nothing goes to %s</translation>
-        <extra-name>nothingUses</extra-name>
-    </message>
     <message id="15335">
         <source>The inserted script was written for %s: check its LU functions</source>
         <extracomment>Status bar after Insert Script; %s is the mode of the inserted script, as “VT”</extracomment>
@@ -4372,6 +4060,618 @@ Replace it? The old file is kept as a backup beside it.</translation>
         <extracomment>Menu of a problem: the page about checks</extracomment>
         <translation>&amp;Help on Checks</translation>
         <extra-name>helpOnProblem</extra-name>
+    </message>
+    <message id="17250">
+        <source>Find &amp;Next</source>
+        <extracomment>Menu Edit</extracomment>
+        <translation>Find &amp;Next</translation>
+        <extra-name>findNextMenuText</extra-name>
+    </message>
+    <message id="17251">
+        <source>Goes to the next match.</source>
+        <extracomment>Status bar: Find Next</extracomment>
+        <translation>Goes to the next match.</translation>
+        <extra-name>findNextStatusText</extra-name>
+    </message>
+    <message id="17252">
+        <source>Find Pre&amp;vious</source>
+        <extracomment>Menu Edit</extracomment>
+        <translation>Find Pre&amp;vious</translation>
+        <extra-name>findPreviousMenuText</extra-name>
+    </message>
+    <message id="17253">
+        <source>Goes to the previous match.</source>
+        <extracomment>Status bar: Find Previous</extracomment>
+        <translation>Goes to the previous match.</translation>
+        <extra-name>findPreviousStatusText</extra-name>
+    </message>
+    <message id="17254">
+        <source>R&amp;eplace...</source>
+        <extracomment>Menu Edit</extracomment>
+        <translation>R&amp;eplace...</translation>
+        <extra-name>replaceMenuText</extra-name>
+    </message>
+    <message id="17255">
+        <source>Replace</source>
+        <extracomment>Tooltip: Replace; also the name of the step in Undo and the title of its messages</extracomment>
+        <translation>Replace</translation>
+        <extra-name>replaceToolTip</extra-name>
+    </message>
+    <message id="17256">
+        <source>Replaces texts and numbers in the entries.</source>
+        <extracomment>Status bar: Replace</extracomment>
+        <translation>Replaces texts and numbers in the entries.</translation>
+        <extra-name>replaceStatusText</extra-name>
+    </message>
+    <message id="17257">
+        <source>Rename La&amp;bel...</source>
+        <extracomment>Menu Entry</extracomment>
+        <translation>Rename La&amp;bel...</translation>
+        <extra-name>renameLabelMenuText</extra-name>
+    </message>
+    <message id="17258">
+        <source>Rename Label</source>
+        <extracomment>Tooltip: Rename Label; also the dialog's title and the name of the step in Undo</extracomment>
+        <translation>Rename Label</translation>
+        <extra-name>renameLabelToolTip</extra-name>
+    </message>
+    <message id="17259">
+        <source>Renames the label of the current entry in the whole script.</source>
+        <extracomment>Status bar: Rename Label</extracomment>
+        <translation>Renames the label of the current entry in the whole script.</translation>
+        <extra-name>renameLabelStatusText</extra-name>
+    </message>
+    <message id="17260">
+        <source>&amp;Go to Label</source>
+        <extracomment>Menu Entry</extracomment>
+        <translation>&amp;Go to Label</translation>
+        <extra-name>goToLabelMenuText</extra-name>
+    </message>
+    <message id="17261">
+        <source>Go to Label</source>
+        <extracomment>Tooltip: Go to Label; also the title of the dialog that asks for one of several</extracomment>
+        <translation>Go to Label</translation>
+        <extra-name>goToLabelToolTip</extra-name>
+    </message>
+    <message id="17262">
+        <source>Goes to the label that the current entry jumps to.</source>
+        <extracomment>Status bar: Go to Label</extracomment>
+        <translation>Goes to the label that the current entry jumps to.</translation>
+        <extra-name>goToLabelStatusText</extra-name>
+    </message>
+    <message id="17263">
+        <source>Go Bac&amp;k</source>
+        <extracomment>Menu Entry</extracomment>
+        <translation>Go Bac&amp;k</translation>
+        <extra-name>goBackMenuText</extra-name>
+    </message>
+    <message id="17264">
+        <source>Go Back</source>
+        <extracomment>Tooltip: Go Back</extracomment>
+        <translation>Go Back</translation>
+        <extra-name>goBackToolTip</extra-name>
+    </message>
+    <message id="17265">
+        <source>Goes back to the entry from which you went to a label.</source>
+        <extracomment>Status bar: Go Back</extracomment>
+        <translation>Goes back to the entry from which you went to a label.</translation>
+        <extra-name>goBackStatusText</extra-name>
+    </message>
+    <message id="17266">
+        <source>Find &amp;Uses...</source>
+        <extracomment>Menu Entry</extracomment>
+        <translation>Find &amp;Uses...</translation>
+        <extra-name>findUsesMenuText</extra-name>
+    </message>
+    <message id="17267">
+        <source>Find Uses</source>
+        <extracomment>Tooltip: Find Uses</extracomment>
+        <translation>Find Uses</translation>
+        <extra-name>findUsesToolTip</extra-name>
+    </message>
+    <message id="17268">
+        <source>Lists the entries that go to the label of the current entry.</source>
+        <extracomment>Status bar: Find Uses</extracomment>
+        <translation>Lists the entries that go to the label of the current entry.</translation>
+        <extra-name>findUsesStatusText</extra-name>
+    </message>
+    <message id="17269">
+        <source>Match case</source>
+        <extracomment>Find bar: button</extracomment>
+        <translation>Match case</translation>
+        <extra-name>findMatchCase</extra-name>
+    </message>
+    <message id="17270">
+        <source>Whole words</source>
+        <extracomment>Find bar: button</extracomment>
+        <translation>Whole words</translation>
+        <extra-name>findWholeWords</extra-name>
+    </message>
+    <message id="17271">
+        <source>Regular expression</source>
+        <extracomment>Find bar: button</extracomment>
+        <translation>Regular expression</translation>
+        <extra-name>findExpression</extra-name>
+    </message>
+    <message id="17272">
+        <source>Replace with</source>
+        <extracomment>Find bar: the empty field of the new text</extracomment>
+        <translation>Replace with</translation>
+        <extra-name>findReplacement</extra-name>
+    </message>
+    <message id="17273">
+        <source>Re&amp;place</source>
+        <extracomment>Find bar: button</extracomment>
+        <translation>Re&amp;place</translation>
+        <extra-name>replaceButton</extra-name>
+    </message>
+    <message id="17274">
+        <source>Replace A&amp;ll</source>
+        <extracomment>Find bar: button</extracomment>
+        <translation>Replace A&amp;ll</translation>
+        <extra-name>replaceAllButton</extra-name>
+    </message>
+    <message id="17275">
+        <source>Not valid at character %d: %s</source>
+        <extracomment>Find bar: place in a regular expression, what is wrong</extracomment>
+        <translation>Not valid at character %d: %s</translation>
+        <extra-name>findBadExpression</extra-name>
+    </message>
+    <message id="17276">
+        <source>too many ways to match: not all is searched</source>
+        <extracomment>Find bar, behind the number of matches: a regular expression was given up</extracomment>
+        <translation>too many ways to match: not all is searched</translation>
+        <extra-name>findGaveUp</extra-name>
+    </message>
+    <message id="17277">
+        <source>Replace All</source>
+        <extracomment>Step in Undo</extracomment>
+        <translation>Replace All</translation>
+        <extra-name>replaceAllStep</extra-name>
+    </message>
+    <message id="17278">
+        <source>Fields replaced: %d</source>
+        <extracomment>Status bar after Replace All</extracomment>
+        <translation>Fields replaced: %d</translation>
+        <extra-name>replacedCount</extra-name>
+    </message>
+    <message id="17279">
+        <source>These fields cannot be replaced:
+
+%s
+
+Replace in all other fields?</source>
+        <extracomment>Replace All; %s is a list</extracomment>
+        <translation>These fields cannot be replaced:
+
+%s
+
+Replace in all other fields?</translation>
+        <extra-name>replaceOthersQuestion</extra-name>
+    </message>
+    <message id="17280">
+        <source>These fields cannot be replaced, and nothing was changed:
+
+%s</source>
+        <extracomment>Replace; %s is a list</extracomment>
+        <translation>These fields cannot be replaced, and nothing was changed:
+
+%s</translation>
+        <extra-name>replaceRefused</extra-name>
+    </message>
+    <message id="17281">
+        <source>Entry %d, %s: %s</source>
+        <extracomment>Number of an entry, field, why it cannot be changed</extracomment>
+        <translation>Entry %d, %s: %s</translation>
+        <extra-name>changeRefused</extra-name>
+    </message>
+    <message id="17282">
+        <source>nothing would be left</source>
+        <extracomment>Why a field cannot be changed</extracomment>
+        <translation>nothing would be left</translation>
+        <extra-name>changeEmpty</extra-name>
+    </message>
+    <message id="17283">
+        <source>longer than the field holds</source>
+        <extracomment>Why a field cannot be changed</extracomment>
+        <translation>longer than the field holds</translation>
+        <extra-name>changeTooLong</extra-name>
+    </message>
+    <message id="17284">
+        <source>a character that a script cannot store</source>
+        <extracomment>Why a field cannot be changed</extracomment>
+        <translation>a character that a script cannot store</translation>
+        <extra-name>changeCannotBeStored</extra-name>
+    </message>
+    <message id="17285">
+        <source>no number that the field can hold</source>
+        <extracomment>Why a field cannot be changed</extracomment>
+        <translation>no number that the field can hold</translation>
+        <extra-name>changeOutOfRange</extra-name>
+    </message>
+    <message id="17286">
+        <source>Variables</source>
+        <extracomment>Dialog of Type: button that offers the names of variables</extracomment>
+        <translation>Variables</translation>
+        <extra-name>offeredVariables</extra-name>
+    </message>
+    <message id="17287">
+        <source>Only texts and numbers of entries can be replaced</source>
+        <extracomment>Status bar: what was found is the name of a command or a key</extracomment>
+        <translation>Only texts and numbers of entries can be replaced</translation>
+        <extra-name>replaceNotHere</extra-name>
+    </message>
+    <message id="17288">
+        <source>Text</source>
+        <extracomment>Field of an entry</extracomment>
+        <translation>Text</translation>
+        <extra-name>fieldText</extra-name>
+    </message>
+    <message id="17289">
+        <source>&amp;Label:</source>
+        <extracomment>Rename Label: which one of several</extracomment>
+        <translation>&amp;Label:</translation>
+        <extra-name>renameLabelChoice</extra-name>
+    </message>
+    <message id="17290">
+        <source>Second value</source>
+        <extracomment>Field of If_Input_Is</extracomment>
+        <translation>Second value</translation>
+        <extra-name>fieldSecondValue</extra-name>
+    </message>
+    <message id="17291">
+        <source>Number</source>
+        <extracomment>Field of Wait and Wait_Ready</extracomment>
+        <translation>Number</translation>
+        <extra-name>fieldNumber</extra-name>
+    </message>
+    <message id="17292">
+        <source>Labels of this script</source>
+        <extracomment>Dialog of Goto: button that offers them</extracomment>
+        <translation>Labels of this script</translation>
+        <extra-name>offeredLabels</extra-name>
+    </message>
+    <message id="17293">
+        <source>Date and time</source>
+        <extracomment>Field of Wait_Until</extracomment>
+        <translation>Date and time</translation>
+        <extra-name>fieldDateAndTime</extra-name>
+    </message>
+    <message id="17294">
+        <source>Further number</source>
+        <extracomment>Field of a menu command</extracomment>
+        <translation>Further number</translation>
+        <extra-name>fieldCommandData</extra-name>
+    </message>
+    <message id="17295">
+        <source>&amp;New name:</source>
+        <extracomment>Rename Label</extracomment>
+        <translation>&amp;New name:</translation>
+        <extra-name>renameLabelField</extra-name>
+    </message>
+    <message id="17296">
+        <source>Entries that change: %d</source>
+        <extracomment>Rename Label</extracomment>
+        <translation>Entries that change: %d</translation>
+        <extra-name>renameLabelChanges</extra-name>
+    </message>
+    <message id="17297">
+        <source>There is a label of that name already, in entry %d.</source>
+        <extracomment>Rename Label</extracomment>
+        <translation>There is a label of that name already, in entry %d.</translation>
+        <extra-name>renameLabelExists</extra-name>
+    </message>
+    <message id="17298">
+        <source>Uses of %s</source>
+        <extracomment>Title of the list; %s is the name of a label</extracomment>
+        <translation>Uses of %s</translation>
+        <extra-name>usesTitle</extra-name>
+    </message>
+    <message id="17299">
+        <source>Nothing goes to %s</source>
+        <extracomment>Status bar; %s is the name of a label</extracomment>
+        <translation>Nothing goes to %s</translation>
+        <extra-name>nothingUses</extra-name>
+    </message>
+    <message id="17300">
+        <source>Compare With &amp;File...</source>
+        <extracomment>Menu: File, Compare With File</extracomment>
+        <translation>Compare With &amp;File...</translation>
+        <extra-name>compareFileMenuText</extra-name>
+    </message>
+    <message id="17301">
+        <source>Compare With File</source>
+        <extracomment>Toolbar</extracomment>
+        <translation>Compare With File</translation>
+        <extra-name>compareFileToolTip</extra-name>
+    </message>
+    <message id="17302">
+        <source>Compares the script with another script file, entry by entry.</source>
+        <extracomment>Status bar</extracomment>
+        <translation>Compares the script with another script file, entry by entry.</translation>
+        <extra-name>compareFileStatusText</extra-name>
+    </message>
+    <message id="17303">
+        <source>Compare With Sa&amp;ved</source>
+        <extracomment>Menu: File, Compare With Saved</extracomment>
+        <translation>Compare With Sa&amp;ved</translation>
+        <extra-name>compareSavedMenuText</extra-name>
+    </message>
+    <message id="17304">
+        <source>Compare With Saved</source>
+        <extracomment>Toolbar</extracomment>
+        <translation>Compare With Saved</translation>
+        <extra-name>compareSavedToolTip</extra-name>
+    </message>
+    <message id="17305">
+        <source>Shows what has changed since the script was opened or last saved.</source>
+        <extracomment>Status bar</extracomment>
+        <translation>Shows what has changed since the script was opened or last saved.</translation>
+        <extra-name>compareSavedStatusText</extra-name>
+    </message>
+    <message id="17306">
+        <source>&amp;Resolve Conflicts...</source>
+        <extracomment>Menu: File, Resolve Conflicts</extracomment>
+        <translation>&amp;Resolve Conflicts...</translation>
+        <extra-name>resolveConflictsMenuText</extra-name>
+    </message>
+    <message id="17307">
+        <source>Resolve Conflicts</source>
+        <extracomment>Toolbar</extracomment>
+        <translation>Resolve Conflicts</translation>
+        <extra-name>resolveConflictsToolTip</extra-name>
+    </message>
+    <message id="17308">
+        <source>Chooses between the two sides where a merge found conflicts.</source>
+        <extracomment>Status bar</extracomment>
+        <translation>Chooses between the two sides where a merge found conflicts.</translation>
+        <extra-name>resolveConflictsStatusText</extra-name>
+    </message>
+    <message id="17309">
+        <source>%s and %s  -  Compare</source>
+        <extracomment>Title of the window that compares; %s are the names of the sides</extracomment>
+        <translation>%s and %s  -  Compare</translation>
+        <extra-name>reviewCompareTitle</extra-name>
+    </message>
+    <message id="17310">
+        <source>%s  -  Resolve Conflicts</source>
+        <extracomment>Title of the same window for the conflicts of a merge; %s is the script</extracomment>
+        <translation>%s  -  Resolve Conflicts</translation>
+        <extra-name>reviewResolveTitle</extra-name>
+    </message>
+    <message id="17311">
+        <source>%s, as saved</source>
+        <extracomment>Name of a side; %s is the script</extracomment>
+        <translation>%s, as saved</translation>
+        <extra-name>reviewSideSaved</extra-name>
+    </message>
+    <message id="17312">
+        <source>%s, in the editor</source>
+        <extracomment>Name of a side; %s is the script</extracomment>
+        <translation>%s, in the editor</translation>
+        <extra-name>reviewSideEditor</extra-name>
+    </message>
+    <message id="17313">
+        <source>The scripts are the same</source>
+        <extracomment>Summary</extracomment>
+        <translation>The scripts are the same</translation>
+        <extra-name>reviewSame</extra-name>
+    </message>
+    <message id="17314">
+        <source>1 change</source>
+        <extracomment>Summary</extracomment>
+        <translation>1 change</translation>
+        <extra-name>reviewOneChange</extra-name>
+    </message>
+    <message id="17315">
+        <source>%d changes</source>
+        <extracomment>Summary</extracomment>
+        <translation>%d changes</translation>
+        <extra-name>reviewChanges</extra-name>
+    </message>
+    <message id="17316">
+        <source>Change %d of %d</source>
+        <extracomment>Summary: which change is the current one</extracomment>
+        <translation>Change %d of %d</translation>
+        <extra-name>reviewChangePosition</extra-name>
+    </message>
+    <message id="17317">
+        <source>No conflicts</source>
+        <extracomment>Summary</extracomment>
+        <translation>No conflicts</translation>
+        <extra-name>reviewNoConflicts</extra-name>
+    </message>
+    <message id="17318">
+        <source>1 conflict</source>
+        <extracomment>Summary</extracomment>
+        <translation>1 conflict</translation>
+        <extra-name>reviewOneConflict</extra-name>
+    </message>
+    <message id="17319">
+        <source>%d conflicts</source>
+        <extracomment>Summary</extracomment>
+        <translation>%d conflicts</translation>
+        <extra-name>reviewConflicts</extra-name>
+    </message>
+    <message id="17320">
+        <source>Conflict %d of %d</source>
+        <extracomment>Summary: which conflict is the current one</extracomment>
+        <translation>Conflict %d of %d</translation>
+        <extra-name>reviewConflictPosition</extra-name>
+    </message>
+    <message id="17321">
+        <source>; the host types differ: %s and %s</source>
+        <extracomment>Summary: goes on after the number of changes; %s are host types</extracomment>
+        <translation>; the host types differ: %s and %s</translation>
+        <extra-name>reviewHostTypes</extra-name>
+    </message>
+    <message id="17322">
+        <source>; on from the start</source>
+        <extracomment>Summary: goes on after the position</extracomment>
+        <translation>; on from the start</translation>
+        <extra-name>reviewFromStart</extra-name>
+    </message>
+    <message id="17323">
+        <source>; on from the end</source>
+        <extracomment>Summary: goes on after the position</extracomment>
+        <translation>; on from the end</translation>
+        <extra-name>reviewFromEnd</extra-name>
+    </message>
+    <message id="17324">
+        <source>Next change</source>
+        <extracomment>Tool tip of a button</extracomment>
+        <translation>Next change</translation>
+        <extra-name>reviewNext</extra-name>
+    </message>
+    <message id="17325">
+        <source>Previous change</source>
+        <extracomment>Tool tip of a button</extracomment>
+        <translation>Previous change</translation>
+        <extra-name>reviewPrevious</extra-name>
+    </message>
+    <message id="17326">
+        <source>&amp;Take Over</source>
+        <extracomment>Button; also the name of the step for Undo</extracomment>
+        <translation>&amp;Take Over</translation>
+        <extra-name>reviewTakeOver</extra-name>
+    </message>
+    <message id="17327">
+        <source>Keep &amp;Ours</source>
+        <extracomment>Button: the left side of a conflict</extracomment>
+        <translation>Keep &amp;Ours</translation>
+        <extra-name>reviewKeepOurs</extra-name>
+    </message>
+    <message id="17328">
+        <source>Keep &amp;Theirs</source>
+        <extracomment>Button: the right side of a conflict</extracomment>
+        <translation>Keep &amp;Theirs</translation>
+        <extra-name>reviewKeepTheirs</extra-name>
+    </message>
+    <message id="17329">
+        <source>Keep &amp;Both</source>
+        <extracomment>Button: both sides of a conflict</extracomment>
+        <translation>Keep &amp;Both</translation>
+        <extra-name>reviewKeepBoth</extra-name>
+    </message>
+    <message id="17330">
+        <source>changed</source>
+        <extracomment>What became of an entry; also of a hidden text</extracomment>
+        <translation>changed</translation>
+        <extra-name>reviewChanged</extra-name>
+    </message>
+    <message id="17331">
+        <source>only on the left</source>
+        <extracomment>What became of an entry</extracomment>
+        <translation>only on the left</translation>
+        <extra-name>reviewGone</extra-name>
+    </message>
+    <message id="17332">
+        <source>only on the right</source>
+        <extracomment>What became of an entry</extracomment>
+        <translation>only on the right</translation>
+        <extra-name>reviewNew</extra-name>
+    </message>
+    <message id="17333">
+        <source>moved, entry %d on the right</source>
+        <extracomment>What became of an entry; %d is its number on the other side</extracomment>
+        <translation>moved, entry %d on the right</translation>
+        <extra-name>reviewMovedAway</extra-name>
+    </message>
+    <message id="17334">
+        <source>moved, entry %d on the left</source>
+        <extracomment>What became of an entry; %d is its number on the other side</extracomment>
+        <translation>moved, entry %d on the left</translation>
+        <extra-name>reviewMovedHere</extra-name>
+    </message>
+    <message id="17335">
+        <source>conflict</source>
+        <extracomment>What an entry is part of</extracomment>
+        <translation>conflict</translation>
+        <extra-name>reviewConflict</extra-name>
+    </message>
+    <message id="17336">
+        <source>no entry on this side</source>
+        <extracomment>Where one side of a conflict has no entry</extracomment>
+        <translation>no entry on this side</translation>
+        <extra-name>reviewNothing</extra-name>
+    </message>
+    <message id="17337">
+        <source>left, entry %d: %s</source>
+        <extracomment>One side of a row, as it is read aloud; number and line of the entry</extracomment>
+        <translation>left, entry %d: %s</translation>
+        <extra-name>reviewLeftEntry</extra-name>
+    </message>
+    <message id="17338">
+        <source>right, entry %d: %s</source>
+        <extracomment>One side of a row, as it is read aloud; number and line of the entry</extracomment>
+        <translation>right, entry %d: %s</translation>
+        <extra-name>reviewRightEntry</extra-name>
+    </message>
+    <message id="17339">
+        <source>the same</source>
+        <extracomment>What became of an entry</extracomment>
+        <translation>the same</translation>
+        <extra-name>reviewSameEntry</extra-name>
+    </message>
+    <message id="17340">
+        <source>Take Over: entry %d of the left side replaces entry %d of the script</source>
+        <extracomment>What the button would do; the numbers of entries</extracomment>
+        <translation>Take Over: entry %d of the left side replaces entry %d of the script</translation>
+        <extra-name>reviewTakesChanged</extra-name>
+    </message>
+    <message id="17341">
+        <source>Take Over: entry %d of the left side is inserted into the script</source>
+        <extracomment>What the button would do</extracomment>
+        <translation>Take Over: entry %d of the left side is inserted into the script</translation>
+        <extra-name>reviewTakesGone</extra-name>
+    </message>
+    <message id="17342">
+        <source>Take Over: entry %d is removed from the script</source>
+        <extracomment>What the button would do</extracomment>
+        <translation>Take Over: entry %d is removed from the script</translation>
+        <extra-name>reviewTakesNew</extra-name>
+    </message>
+    <message id="17343">
+        <source>Take Over: entry %d of the script moves to where it is on the left</source>
+        <extracomment>What the button would do</extracomment>
+        <translation>Take Over: entry %d of the script moves to where it is on the left</translation>
+        <extra-name>reviewTakesMoved</extra-name>
+    </message>
+    <message id="17344">
+        <source>Take Over: the %d selected changes become as on the left</source>
+        <extracomment>What the button would do</extracomment>
+        <translation>Take Over: the %d selected changes become as on the left</translation>
+        <extra-name>reviewTakesSelected</extra-name>
+    </message>
+    <message id="17345">
+        <source>What you keep replaces the entries %d to %d of the script</source>
+        <extracomment>What the buttons would do; %d are numbers of entries</extracomment>
+        <translation>What you keep replaces the entries %d to %d of the script</translation>
+        <extra-name>reviewKeepsSide</extra-name>
+    </message>
+    <message id="17346">
+        <source>Take Over</source>
+        <extracomment>Name of a step for Undo</extracomment>
+        <translation>Take Over</translation>
+        <extra-name>reviewTakeOverStep</extra-name>
+    </message>
+    <message id="17347">
+        <source>Left alone, because they lie within each other or lack their counterparts: the conflict marks in the entries %s</source>
+        <extracomment>Message in the window; %s are numbers of entries</extracomment>
+        <translation>Left alone, because they lie within each other or lack their counterparts: the conflict marks in the entries %s</translation>
+        <extra-name>reviewStrayMarks</extra-name>
+    </message>
+    <message id="17348">
+        <source>hidden</source>
+        <extracomment>In place of the value of a field</extracomment>
+        <translation>hidden</translation>
+        <extra-name>reviewHidden</extra-name>
+    </message>
+    <message id="17349">
+        <source>(none)</source>
+        <extracomment>In place of the value of a field</extracomment>
+        <translation>(none)</translation>
+        <extra-name>reviewNoValue</extra-name>
     </message>
     <message id="17350">
         <source>Quendra Script Editor Help</source>

@@ -2673,268 +2673,6 @@
         <extracomment>Find bar: button</extracomment>
         <translation>Schließen</translation>
     </message>
-    <message id="17250">
-        <source>Find &amp;Next</source>
-        <extracomment>Menu Edit</extracomment>
-        <translation>&amp;Nächstes suchen</translation>
-    </message>
-    <message id="17251">
-        <source>Goes to the next match.</source>
-        <extracomment>Status bar: Find Next</extracomment>
-        <translation>Geht zum nächsten Treffer.</translation>
-    </message>
-    <message id="17252">
-        <source>Find Pre&amp;vious</source>
-        <extracomment>Menu Edit</extracomment>
-        <translation>&amp;Vorheriges suchen</translation>
-    </message>
-    <message id="17253">
-        <source>Goes to the previous match.</source>
-        <extracomment>Status bar: Find Previous</extracomment>
-        <translation>Geht zum vorherigen Treffer.</translation>
-    </message>
-    <message id="17254">
-        <source>R&amp;eplace...</source>
-        <extracomment>Menu Edit</extracomment>
-        <translation>Erset&amp;zen...</translation>
-    </message>
-    <message id="17255">
-        <source>Replace</source>
-        <extracomment>Tooltip: Replace; also the name of the step in Undo and the title of its messages</extracomment>
-        <translation>Ersetzen</translation>
-    </message>
-    <message id="17256">
-        <source>Replaces texts and numbers in the entries.</source>
-        <extracomment>Status bar: Replace</extracomment>
-        <translation>Ersetzt Texte und Zahlen in den Einträgen.</translation>
-    </message>
-    <message id="17257">
-        <source>Rename La&amp;bel...</source>
-        <extracomment>Menu Entry</extracomment>
-        <translation>Sprungmarke &amp;umbenennen...</translation>
-    </message>
-    <message id="17258">
-        <source>Rename Label</source>
-        <extracomment>Tooltip: Rename Label; also the dialog's title and the name of the step in Undo</extracomment>
-        <translation>Sprungmarke umbenennen</translation>
-    </message>
-    <message id="17259">
-        <source>Renames the label of the current entry in the whole script.</source>
-        <extracomment>Status bar: Rename Label</extracomment>
-        <translation>Benennt die Sprungmarke des aktuellen Eintrags im ganzen Skript um.</translation>
-    </message>
-    <message id="17260">
-        <source>&amp;Go to Label</source>
-        <extracomment>Menu Entry</extracomment>
-        <translation>Zur Sprungmarke &amp;gehen</translation>
-    </message>
-    <message id="17261">
-        <source>Go to Label</source>
-        <extracomment>Tooltip: Go to Label; also the title of the dialog that asks for one of several</extracomment>
-        <translation>Zur Sprungmarke gehen</translation>
-    </message>
-    <message id="17262">
-        <source>Goes to the label that the current entry jumps to.</source>
-        <extracomment>Status bar: Go to Label</extracomment>
-        <translation>Geht zu der Sprungmarke, zu der der aktuelle Eintrag springt.</translation>
-    </message>
-    <message id="17263">
-        <source>Go Bac&amp;k</source>
-        <extracomment>Menu Entry</extracomment>
-        <translation>&amp;Zurückgehen</translation>
-    </message>
-    <message id="17264">
-        <source>Go Back</source>
-        <extracomment>Tooltip: Go Back</extracomment>
-        <translation>Zurückgehen</translation>
-    </message>
-    <message id="17265">
-        <source>Goes back to the entry from which you went to a label.</source>
-        <extracomment>Status bar: Go Back</extracomment>
-        <translation>Geht zu dem Eintrag zurück, von dem aus Sie zu einer Sprungmarke gegangen sind.</translation>
-    </message>
-    <message id="17266">
-        <source>Find &amp;Uses...</source>
-        <extracomment>Menu Entry</extracomment>
-        <translation>&amp;Verwendungen suchen...</translation>
-    </message>
-    <message id="17267">
-        <source>Find Uses</source>
-        <extracomment>Tooltip: Find Uses</extracomment>
-        <translation>Verwendungen suchen</translation>
-    </message>
-    <message id="17268">
-        <source>Lists the entries that go to the label of the current entry.</source>
-        <extracomment>Status bar: Find Uses</extracomment>
-        <translation>Zeigt die Einträge, die zur Sprungmarke des aktuellen Eintrags springen.</translation>
-    </message>
-    <message id="17269">
-        <source>Match case</source>
-        <extracomment>Find bar: button</extracomment>
-        <translation>Groß-/Kleinschreibung beachten</translation>
-    </message>
-    <message id="17270">
-        <source>Whole words</source>
-        <extracomment>Find bar: button</extracomment>
-        <translation>Nur ganze Wörter</translation>
-    </message>
-    <message id="17271">
-        <source>Regular expression</source>
-        <extracomment>Find bar: button</extracomment>
-        <translation>Regulärer Ausdruck</translation>
-    </message>
-    <message id="17272">
-        <source>Replace with</source>
-        <extracomment>Find bar: the empty field of the new text</extracomment>
-        <translation>Ersetzen durch</translation>
-    </message>
-    <message id="17273">
-        <source>Re&amp;place</source>
-        <extracomment>Find bar: button</extracomment>
-        <translation>Er&amp;setzen</translation>
-    </message>
-    <message id="17274">
-        <source>Replace A&amp;ll</source>
-        <extracomment>Find bar: button</extracomment>
-        <translation>A&amp;lle ersetzen</translation>
-    </message>
-    <message id="17275">
-        <source>Not valid at character %d: %s</source>
-        <extracomment>Find bar: place in a regular expression, what is wrong</extracomment>
-        <translation>Ungültig bei Zeichen %d: %s</translation>
-    </message>
-    <message id="17276">
-        <source>too many ways to match: not all is searched</source>
-        <extracomment>Find bar, behind the number of matches: a regular expression was given up</extracomment>
-        <translation>zu viele Möglichkeiten: nicht alles ist durchsucht</translation>
-    </message>
-    <message id="17277">
-        <source>Replace All</source>
-        <extracomment>Step in Undo</extracomment>
-        <translation>Alle ersetzen</translation>
-    </message>
-    <message id="17278">
-        <source>Fields replaced: %d</source>
-        <extracomment>Status bar after Replace All</extracomment>
-        <translation>Ersetzte Felder: %d</translation>
-    </message>
-    <message id="17279">
-        <source>These fields cannot be replaced:
-
-%s
-
-Replace in all other fields?</source>
-        <extracomment>Replace All; %s is a list</extracomment>
-        <translation>Diese Felder lassen sich nicht ersetzen:
-
-%s
-
-In allen anderen Feldern ersetzen?</translation>
-    </message>
-    <message id="17280">
-        <source>These fields cannot be replaced, and nothing was changed:
-
-%s</source>
-        <extracomment>Replace; %s is a list</extracomment>
-        <translation>Diese Felder lassen sich nicht ersetzen, und nichts wurde geändert:
-
-%s</translation>
-    </message>
-    <message id="17281">
-        <source>Entry %d, %s: %s</source>
-        <extracomment>Number of an entry, field, why it cannot be changed</extracomment>
-        <translation>Eintrag %d, %s: %s</translation>
-    </message>
-    <message id="17282">
-        <source>nothing would be left</source>
-        <extracomment>Why a field cannot be changed</extracomment>
-        <translation>es bliebe nichts übrig</translation>
-    </message>
-    <message id="17283">
-        <source>longer than the field holds</source>
-        <extracomment>Why a field cannot be changed</extracomment>
-        <translation>länger, als das Feld fasst</translation>
-    </message>
-    <message id="17284">
-        <source>a character that a script cannot store</source>
-        <extracomment>Why a field cannot be changed</extracomment>
-        <translation>ein Zeichen, das ein Skript nicht speichern kann</translation>
-    </message>
-    <message id="17285">
-        <source>no number that the field can hold</source>
-        <extracomment>Why a field cannot be changed</extracomment>
-        <translation>keine Zahl, die das Feld fasst</translation>
-    </message>
-    <message id="17286">
-        <source>Variables</source>
-        <extracomment>Dialog of Type: button that offers the names of variables</extracomment>
-        <translation>Variablen</translation>
-    </message>
-    <message id="17287">
-        <source>Only texts and numbers of entries can be replaced</source>
-        <extracomment>Status bar: what was found is the name of a command or a key</extracomment>
-        <translation>Nur Texte und Zahlen von Einträgen lassen sich ersetzen</translation>
-    </message>
-    <message id="17288">
-        <source>Text</source>
-        <extracomment>Field of an entry</extracomment>
-        <translation>Text</translation>
-    </message>
-    <message id="17289">
-        <source>&amp;Label:</source>
-        <extracomment>Rename Label: which one of several</extracomment>
-        <translation>&amp;Sprungmarke:</translation>
-    </message>
-    <message id="17290">
-        <source>Second value</source>
-        <extracomment>Field of If_Input_Is</extracomment>
-        <translation>Zweiter Wert</translation>
-    </message>
-    <message id="17291">
-        <source>Number</source>
-        <extracomment>Field of Wait and Wait_Ready</extracomment>
-        <translation>Zahl</translation>
-    </message>
-    <message id="17292">
-        <source>Labels of this script</source>
-        <extracomment>Dialog of Goto: button that offers them</extracomment>
-        <translation>Sprungmarken dieses Skripts</translation>
-    </message>
-    <message id="17293">
-        <source>Date and time</source>
-        <extracomment>Field of Wait_Until</extracomment>
-        <translation>Datum und Uhrzeit</translation>
-    </message>
-    <message id="17294">
-        <source>Further number</source>
-        <extracomment>Field of a menu command</extracomment>
-        <translation>Weitere Zahl</translation>
-    </message>
-    <message id="17295">
-        <source>&amp;New name:</source>
-        <extracomment>Rename Label</extracomment>
-        <translation>&amp;Neuer Name:</translation>
-    </message>
-    <message id="17296">
-        <source>Entries that change: %d</source>
-        <extracomment>Rename Label</extracomment>
-        <translation>Einträge, die sich ändern: %d</translation>
-    </message>
-    <message id="17297">
-        <source>There is a label of that name already, in entry %d.</source>
-        <extracomment>Rename Label</extracomment>
-        <translation>Es gibt schon eine Sprungmarke dieses Namens, in Eintrag %d.</translation>
-    </message>
-    <message id="17298">
-        <source>Uses of %s</source>
-        <extracomment>Title of the list; %s is the name of a label</extracomment>
-        <translation>Verwendungen von %s</translation>
-    </message>
-    <message id="17299">
-        <source>Nothing goes to %s</source>
-        <extracomment>Status bar; %s is the name of a label</extracomment>
-        <translation>Nichts springt zu %s</translation>
-    </message>
     <message id="15335">
         <source>The inserted script was written for %s: check its LU functions</source>
         <extracomment>Status bar after Insert Script; %s is the mode of the inserted script, as “VT”</extracomment>
@@ -3648,6 +3386,518 @@ Ersetzen? Die alte Datei bleibt als Sicherungskopie daneben erhalten.</translati
         <source>&amp;Help on Checks</source>
         <extracomment>Menu of a problem: the page about checks</extracomment>
         <translation>&amp;Hilfe zu Prüfungen</translation>
+    </message>
+    <message id="17250">
+        <source>Find &amp;Next</source>
+        <extracomment>Menu Edit</extracomment>
+        <translation>&amp;Nächstes suchen</translation>
+    </message>
+    <message id="17251">
+        <source>Goes to the next match.</source>
+        <extracomment>Status bar: Find Next</extracomment>
+        <translation>Geht zum nächsten Treffer.</translation>
+    </message>
+    <message id="17252">
+        <source>Find Pre&amp;vious</source>
+        <extracomment>Menu Edit</extracomment>
+        <translation>&amp;Vorheriges suchen</translation>
+    </message>
+    <message id="17253">
+        <source>Goes to the previous match.</source>
+        <extracomment>Status bar: Find Previous</extracomment>
+        <translation>Geht zum vorherigen Treffer.</translation>
+    </message>
+    <message id="17254">
+        <source>R&amp;eplace...</source>
+        <extracomment>Menu Edit</extracomment>
+        <translation>Erset&amp;zen...</translation>
+    </message>
+    <message id="17255">
+        <source>Replace</source>
+        <extracomment>Tooltip: Replace; also the name of the step in Undo and the title of its messages</extracomment>
+        <translation>Ersetzen</translation>
+    </message>
+    <message id="17256">
+        <source>Replaces texts and numbers in the entries.</source>
+        <extracomment>Status bar: Replace</extracomment>
+        <translation>Ersetzt Texte und Zahlen in den Einträgen.</translation>
+    </message>
+    <message id="17257">
+        <source>Rename La&amp;bel...</source>
+        <extracomment>Menu Entry</extracomment>
+        <translation>Sprungmarke &amp;umbenennen...</translation>
+    </message>
+    <message id="17258">
+        <source>Rename Label</source>
+        <extracomment>Tooltip: Rename Label; also the dialog's title and the name of the step in Undo</extracomment>
+        <translation>Sprungmarke umbenennen</translation>
+    </message>
+    <message id="17259">
+        <source>Renames the label of the current entry in the whole script.</source>
+        <extracomment>Status bar: Rename Label</extracomment>
+        <translation>Benennt die Sprungmarke des aktuellen Eintrags im ganzen Skript um.</translation>
+    </message>
+    <message id="17260">
+        <source>&amp;Go to Label</source>
+        <extracomment>Menu Entry</extracomment>
+        <translation>Zur Sprungmarke &amp;gehen</translation>
+    </message>
+    <message id="17261">
+        <source>Go to Label</source>
+        <extracomment>Tooltip: Go to Label; also the title of the dialog that asks for one of several</extracomment>
+        <translation>Zur Sprungmarke gehen</translation>
+    </message>
+    <message id="17262">
+        <source>Goes to the label that the current entry jumps to.</source>
+        <extracomment>Status bar: Go to Label</extracomment>
+        <translation>Geht zu der Sprungmarke, zu der der aktuelle Eintrag springt.</translation>
+    </message>
+    <message id="17263">
+        <source>Go Bac&amp;k</source>
+        <extracomment>Menu Entry</extracomment>
+        <translation>&amp;Zurückgehen</translation>
+    </message>
+    <message id="17264">
+        <source>Go Back</source>
+        <extracomment>Tooltip: Go Back</extracomment>
+        <translation>Zurückgehen</translation>
+    </message>
+    <message id="17265">
+        <source>Goes back to the entry from which you went to a label.</source>
+        <extracomment>Status bar: Go Back</extracomment>
+        <translation>Geht zu dem Eintrag zurück, von dem aus Sie zu einer Sprungmarke gegangen sind.</translation>
+    </message>
+    <message id="17266">
+        <source>Find &amp;Uses...</source>
+        <extracomment>Menu Entry</extracomment>
+        <translation>&amp;Verwendungen suchen...</translation>
+    </message>
+    <message id="17267">
+        <source>Find Uses</source>
+        <extracomment>Tooltip: Find Uses</extracomment>
+        <translation>Verwendungen suchen</translation>
+    </message>
+    <message id="17268">
+        <source>Lists the entries that go to the label of the current entry.</source>
+        <extracomment>Status bar: Find Uses</extracomment>
+        <translation>Zeigt die Einträge, die zur Sprungmarke des aktuellen Eintrags springen.</translation>
+    </message>
+    <message id="17269">
+        <source>Match case</source>
+        <extracomment>Find bar: button</extracomment>
+        <translation>Groß-/Kleinschreibung beachten</translation>
+    </message>
+    <message id="17270">
+        <source>Whole words</source>
+        <extracomment>Find bar: button</extracomment>
+        <translation>Nur ganze Wörter</translation>
+    </message>
+    <message id="17271">
+        <source>Regular expression</source>
+        <extracomment>Find bar: button</extracomment>
+        <translation>Regulärer Ausdruck</translation>
+    </message>
+    <message id="17272">
+        <source>Replace with</source>
+        <extracomment>Find bar: the empty field of the new text</extracomment>
+        <translation>Ersetzen durch</translation>
+    </message>
+    <message id="17273">
+        <source>Re&amp;place</source>
+        <extracomment>Find bar: button</extracomment>
+        <translation>Er&amp;setzen</translation>
+    </message>
+    <message id="17274">
+        <source>Replace A&amp;ll</source>
+        <extracomment>Find bar: button</extracomment>
+        <translation>A&amp;lle ersetzen</translation>
+    </message>
+    <message id="17275">
+        <source>Not valid at character %d: %s</source>
+        <extracomment>Find bar: place in a regular expression, what is wrong</extracomment>
+        <translation>Ungültig bei Zeichen %d: %s</translation>
+    </message>
+    <message id="17276">
+        <source>too many ways to match: not all is searched</source>
+        <extracomment>Find bar, behind the number of matches: a regular expression was given up</extracomment>
+        <translation>zu viele Möglichkeiten: nicht alles ist durchsucht</translation>
+    </message>
+    <message id="17277">
+        <source>Replace All</source>
+        <extracomment>Step in Undo</extracomment>
+        <translation>Alle ersetzen</translation>
+    </message>
+    <message id="17278">
+        <source>Fields replaced: %d</source>
+        <extracomment>Status bar after Replace All</extracomment>
+        <translation>Ersetzte Felder: %d</translation>
+    </message>
+    <message id="17279">
+        <source>These fields cannot be replaced:
+
+%s
+
+Replace in all other fields?</source>
+        <extracomment>Replace All; %s is a list</extracomment>
+        <translation>Diese Felder lassen sich nicht ersetzen:
+
+%s
+
+In allen anderen Feldern ersetzen?</translation>
+    </message>
+    <message id="17280">
+        <source>These fields cannot be replaced, and nothing was changed:
+
+%s</source>
+        <extracomment>Replace; %s is a list</extracomment>
+        <translation>Diese Felder lassen sich nicht ersetzen, und nichts wurde geändert:
+
+%s</translation>
+    </message>
+    <message id="17281">
+        <source>Entry %d, %s: %s</source>
+        <extracomment>Number of an entry, field, why it cannot be changed</extracomment>
+        <translation>Eintrag %d, %s: %s</translation>
+    </message>
+    <message id="17282">
+        <source>nothing would be left</source>
+        <extracomment>Why a field cannot be changed</extracomment>
+        <translation>es bliebe nichts übrig</translation>
+    </message>
+    <message id="17283">
+        <source>longer than the field holds</source>
+        <extracomment>Why a field cannot be changed</extracomment>
+        <translation>länger, als das Feld fasst</translation>
+    </message>
+    <message id="17284">
+        <source>a character that a script cannot store</source>
+        <extracomment>Why a field cannot be changed</extracomment>
+        <translation>ein Zeichen, das ein Skript nicht speichern kann</translation>
+    </message>
+    <message id="17285">
+        <source>no number that the field can hold</source>
+        <extracomment>Why a field cannot be changed</extracomment>
+        <translation>keine Zahl, die das Feld fasst</translation>
+    </message>
+    <message id="17286">
+        <source>Variables</source>
+        <extracomment>Dialog of Type: button that offers the names of variables</extracomment>
+        <translation>Variablen</translation>
+    </message>
+    <message id="17287">
+        <source>Only texts and numbers of entries can be replaced</source>
+        <extracomment>Status bar: what was found is the name of a command or a key</extracomment>
+        <translation>Nur Texte und Zahlen von Einträgen lassen sich ersetzen</translation>
+    </message>
+    <message id="17288">
+        <source>Text</source>
+        <extracomment>Field of an entry</extracomment>
+        <translation>Text</translation>
+    </message>
+    <message id="17289">
+        <source>&amp;Label:</source>
+        <extracomment>Rename Label: which one of several</extracomment>
+        <translation>&amp;Sprungmarke:</translation>
+    </message>
+    <message id="17290">
+        <source>Second value</source>
+        <extracomment>Field of If_Input_Is</extracomment>
+        <translation>Zweiter Wert</translation>
+    </message>
+    <message id="17291">
+        <source>Number</source>
+        <extracomment>Field of Wait and Wait_Ready</extracomment>
+        <translation>Zahl</translation>
+    </message>
+    <message id="17292">
+        <source>Labels of this script</source>
+        <extracomment>Dialog of Goto: button that offers them</extracomment>
+        <translation>Sprungmarken dieses Skripts</translation>
+    </message>
+    <message id="17293">
+        <source>Date and time</source>
+        <extracomment>Field of Wait_Until</extracomment>
+        <translation>Datum und Uhrzeit</translation>
+    </message>
+    <message id="17294">
+        <source>Further number</source>
+        <extracomment>Field of a menu command</extracomment>
+        <translation>Weitere Zahl</translation>
+    </message>
+    <message id="17295">
+        <source>&amp;New name:</source>
+        <extracomment>Rename Label</extracomment>
+        <translation>&amp;Neuer Name:</translation>
+    </message>
+    <message id="17296">
+        <source>Entries that change: %d</source>
+        <extracomment>Rename Label</extracomment>
+        <translation>Einträge, die sich ändern: %d</translation>
+    </message>
+    <message id="17297">
+        <source>There is a label of that name already, in entry %d.</source>
+        <extracomment>Rename Label</extracomment>
+        <translation>Es gibt schon eine Sprungmarke dieses Namens, in Eintrag %d.</translation>
+    </message>
+    <message id="17298">
+        <source>Uses of %s</source>
+        <extracomment>Title of the list; %s is the name of a label</extracomment>
+        <translation>Verwendungen von %s</translation>
+    </message>
+    <message id="17299">
+        <source>Nothing goes to %s</source>
+        <extracomment>Status bar; %s is the name of a label</extracomment>
+        <translation>Nichts springt zu %s</translation>
+    </message>
+    <message id="17300">
+        <source>Compare With &amp;File...</source>
+        <extracomment>Menu: File, Compare With File</extracomment>
+        <translation>Mit &amp;Datei vergleichen...</translation>
+    </message>
+    <message id="17301">
+        <source>Compare With File</source>
+        <extracomment>Toolbar</extracomment>
+        <translation>Mit Datei vergleichen</translation>
+    </message>
+    <message id="17302">
+        <source>Compares the script with another script file, entry by entry.</source>
+        <extracomment>Status bar</extracomment>
+        <translation>Vergleicht das Skript Eintrag für Eintrag mit einer anderen Skriptdatei.</translation>
+    </message>
+    <message id="17303">
+        <source>Compare With Sa&amp;ved</source>
+        <extracomment>Menu: File, Compare With Saved</extracomment>
+        <translation>Mit &amp;gespeichertem Stand vergleichen</translation>
+    </message>
+    <message id="17304">
+        <source>Compare With Saved</source>
+        <extracomment>Toolbar</extracomment>
+        <translation>Mit gespeichertem Stand vergleichen</translation>
+    </message>
+    <message id="17305">
+        <source>Shows what has changed since the script was opened or last saved.</source>
+        <extracomment>Status bar</extracomment>
+        <translation>Zeigt, was sich seit dem Öffnen oder letzten Speichern des Skripts geändert hat.</translation>
+    </message>
+    <message id="17306">
+        <source>&amp;Resolve Conflicts...</source>
+        <extracomment>Menu: File, Resolve Conflicts</extracomment>
+        <translation>&amp;Konflikte lösen...</translation>
+    </message>
+    <message id="17307">
+        <source>Resolve Conflicts</source>
+        <extracomment>Toolbar</extracomment>
+        <translation>Konflikte lösen</translation>
+    </message>
+    <message id="17308">
+        <source>Chooses between the two sides where a merge found conflicts.</source>
+        <extracomment>Status bar</extracomment>
+        <translation>Wählt zwischen den beiden Seiten, wo beim Zusammenführen Konflikte blieben.</translation>
+    </message>
+    <message id="17309">
+        <source>%s and %s  -  Compare</source>
+        <extracomment>Title of the window that compares; %s are the names of the sides</extracomment>
+        <translation>%s und %s  -  Vergleich</translation>
+    </message>
+    <message id="17310">
+        <source>%s  -  Resolve Conflicts</source>
+        <extracomment>Title of the same window for the conflicts of a merge; %s is the script</extracomment>
+        <translation>%s  -  Konflikte lösen</translation>
+    </message>
+    <message id="17311">
+        <source>%s, as saved</source>
+        <extracomment>Name of a side; %s is the script</extracomment>
+        <translation>%s, wie gespeichert</translation>
+    </message>
+    <message id="17312">
+        <source>%s, in the editor</source>
+        <extracomment>Name of a side; %s is the script</extracomment>
+        <translation>%s, im Editor</translation>
+    </message>
+    <message id="17313">
+        <source>The scripts are the same</source>
+        <extracomment>Summary</extracomment>
+        <translation>Die Skripte sind gleich</translation>
+    </message>
+    <message id="17314">
+        <source>1 change</source>
+        <extracomment>Summary</extracomment>
+        <translation>1 Änderung</translation>
+    </message>
+    <message id="17315">
+        <source>%d changes</source>
+        <extracomment>Summary</extracomment>
+        <translation>%d Änderungen</translation>
+    </message>
+    <message id="17316">
+        <source>Change %d of %d</source>
+        <extracomment>Summary: which change is the current one</extracomment>
+        <translation>Änderung %d von %d</translation>
+    </message>
+    <message id="17317">
+        <source>No conflicts</source>
+        <extracomment>Summary</extracomment>
+        <translation>Keine Konflikte</translation>
+    </message>
+    <message id="17318">
+        <source>1 conflict</source>
+        <extracomment>Summary</extracomment>
+        <translation>1 Konflikt</translation>
+    </message>
+    <message id="17319">
+        <source>%d conflicts</source>
+        <extracomment>Summary</extracomment>
+        <translation>%d Konflikte</translation>
+    </message>
+    <message id="17320">
+        <source>Conflict %d of %d</source>
+        <extracomment>Summary: which conflict is the current one</extracomment>
+        <translation>Konflikt %d von %d</translation>
+    </message>
+    <message id="17321">
+        <source>; the host types differ: %s and %s</source>
+        <extracomment>Summary: goes on after the number of changes; %s are host types</extracomment>
+        <translation>; die Hosttypen sind verschieden: %s und %s</translation>
+    </message>
+    <message id="17322">
+        <source>; on from the start</source>
+        <extracomment>Summary: goes on after the position</extracomment>
+        <translation>; weiter von vorn</translation>
+    </message>
+    <message id="17323">
+        <source>; on from the end</source>
+        <extracomment>Summary: goes on after the position</extracomment>
+        <translation>; weiter von hinten</translation>
+    </message>
+    <message id="17324">
+        <source>Next change</source>
+        <extracomment>Tool tip of a button</extracomment>
+        <translation>Nächste Änderung</translation>
+    </message>
+    <message id="17325">
+        <source>Previous change</source>
+        <extracomment>Tool tip of a button</extracomment>
+        <translation>Vorherige Änderung</translation>
+    </message>
+    <message id="17326">
+        <source>&amp;Take Over</source>
+        <extracomment>Button; also the name of the step for Undo</extracomment>
+        <translation>&amp;Übernehmen</translation>
+    </message>
+    <message id="17327">
+        <source>Keep &amp;Ours</source>
+        <extracomment>Button: the left side of a conflict</extracomment>
+        <translation>&amp;Eigene behalten</translation>
+    </message>
+    <message id="17328">
+        <source>Keep &amp;Theirs</source>
+        <extracomment>Button: the right side of a conflict</extracomment>
+        <translation>&amp;Andere behalten</translation>
+    </message>
+    <message id="17329">
+        <source>Keep &amp;Both</source>
+        <extracomment>Button: both sides of a conflict</extracomment>
+        <translation>&amp;Beide behalten</translation>
+    </message>
+    <message id="17330">
+        <source>changed</source>
+        <extracomment>What became of an entry; also of a hidden text</extracomment>
+        <translation>geändert</translation>
+    </message>
+    <message id="17331">
+        <source>only on the left</source>
+        <extracomment>What became of an entry</extracomment>
+        <translation>nur links</translation>
+    </message>
+    <message id="17332">
+        <source>only on the right</source>
+        <extracomment>What became of an entry</extracomment>
+        <translation>nur rechts</translation>
+    </message>
+    <message id="17333">
+        <source>moved, entry %d on the right</source>
+        <extracomment>What became of an entry; %d is its number on the other side</extracomment>
+        <translation>verschoben, rechts Eintrag %d</translation>
+    </message>
+    <message id="17334">
+        <source>moved, entry %d on the left</source>
+        <extracomment>What became of an entry; %d is its number on the other side</extracomment>
+        <translation>verschoben, links Eintrag %d</translation>
+    </message>
+    <message id="17335">
+        <source>conflict</source>
+        <extracomment>What an entry is part of</extracomment>
+        <translation>Konflikt</translation>
+    </message>
+    <message id="17336">
+        <source>no entry on this side</source>
+        <extracomment>Where one side of a conflict has no entry</extracomment>
+        <translation>auf dieser Seite kein Eintrag</translation>
+    </message>
+    <message id="17337">
+        <source>left, entry %d: %s</source>
+        <extracomment>One side of a row, as it is read aloud; number and line of the entry</extracomment>
+        <translation>links, Eintrag %d: %s</translation>
+    </message>
+    <message id="17338">
+        <source>right, entry %d: %s</source>
+        <extracomment>One side of a row, as it is read aloud; number and line of the entry</extracomment>
+        <translation>rechts, Eintrag %d: %s</translation>
+    </message>
+    <message id="17339">
+        <source>the same</source>
+        <extracomment>What became of an entry</extracomment>
+        <translation>gleich</translation>
+    </message>
+    <message id="17340">
+        <source>Take Over: entry %d of the left side replaces entry %d of the script</source>
+        <extracomment>What the button would do; the numbers of entries</extracomment>
+        <translation>Übernehmen: Eintrag %d der linken Seite ersetzt Eintrag %d des Skripts</translation>
+    </message>
+    <message id="17341">
+        <source>Take Over: entry %d of the left side is inserted into the script</source>
+        <extracomment>What the button would do</extracomment>
+        <translation>Übernehmen: Eintrag %d der linken Seite wird in das Skript eingefügt</translation>
+    </message>
+    <message id="17342">
+        <source>Take Over: entry %d is removed from the script</source>
+        <extracomment>What the button would do</extracomment>
+        <translation>Übernehmen: Eintrag %d wird aus dem Skript entfernt</translation>
+    </message>
+    <message id="17343">
+        <source>Take Over: entry %d of the script moves to where it is on the left</source>
+        <extracomment>What the button would do</extracomment>
+        <translation>Übernehmen: Eintrag %d des Skripts kommt dahin, wo er links steht</translation>
+    </message>
+    <message id="17344">
+        <source>Take Over: the %d selected changes become as on the left</source>
+        <extracomment>What the button would do</extracomment>
+        <translation>Übernehmen: die %d ausgewählten Änderungen werden wie links</translation>
+    </message>
+    <message id="17345">
+        <source>What you keep replaces the entries %d to %d of the script</source>
+        <extracomment>What the buttons would do; %d are numbers of entries</extracomment>
+        <translation>Was Sie behalten, ersetzt die Einträge %d bis %d des Skripts</translation>
+    </message>
+    <message id="17346">
+        <source>Take Over</source>
+        <extracomment>Name of a step for Undo</extracomment>
+        <translation>Übernehmen</translation>
+    </message>
+    <message id="17347">
+        <source>Left alone, because they lie within each other or lack their counterparts: the conflict marks in the entries %s</source>
+        <extracomment>Message in the window; %s are numbers of entries</extracomment>
+        <translation>Bleiben stehen, weil sie ineinander liegen oder ihr Gegenstück fehlt: die Konfliktmarken in den Einträgen %s</translation>
+    </message>
+    <message id="17348">
+        <source>hidden</source>
+        <extracomment>In place of the value of a field</extracomment>
+        <translation>verborgen</translation>
+    </message>
+    <message id="17349">
+        <source>(none)</source>
+        <extracomment>In place of the value of a field</extracomment>
+        <translation>(keiner)</translation>
     </message>
     <message id="17350">
         <source>Quendra Script Editor Help</source>

@@ -1,5 +1,6 @@
 #include "analysis/script_check.h"
 
+#include "analysis/conflict_marks.h"
 #include "analysis/script_flow.h"
 #include "analysis/step_rules.h"
 #include "model/menu_commands.h"
@@ -16,9 +17,6 @@ namespace quendra {
 namespace {
 
 constexpr std::string_view allowPrefix = "check: allow ";
-constexpr std::string_view conflictStart = "<<<<<<<";
-constexpr std::string_view conflictMiddle = "=======";
-constexpr std::string_view conflictEnd = ">>>>>>>";
 constexpr std::size_t longestShown = 60;
 
 // The rule that a step is to be silent about, when this one is the Comment that says so.
@@ -29,10 +27,6 @@ std::optional<Rule> allowedRule(const ScriptEntry& entry) {
     text.remove_prefix(allowPrefix.size());
     text.remove_suffix(text.size() - (text.find_last_not_of(' ') + 1));
     return ruleOfId(text);
-}
-
-bool isMarker(std::string_view text, std::string_view marker) {
-    return text.starts_with(marker) && (text.size() == marker.size() || text[marker.size()] == ' ');
 }
 
 std::string utf8Name(const LabelOutline& label) {
@@ -84,17 +78,16 @@ class ScriptChecker {
 
     void checkConflict(const ScriptEntry& comment, std::size_t step) {
         const std::string_view text = textOf(comment);
-        if (isMarker(text, conflictStart)) {
+        if (isConflictMark(text, conflictStart)) {
             conflict_.reset();
-            const std::string_view side =
-                text.substr(std::min(text.size(), conflictStart.size() + 1));
             if (report(Rule::MergeConflict, {step}, textid::checkMergeConflict,
-                       {utf8FromWindows1252(side)})) {
+                       {utf8FromWindows1252(conflictSide(text))})) {
                 conflict_ = result_.findings.size() - 1;
             }
-        } else if (conflict_ && (isMarker(text, conflictMiddle) || isMarker(text, conflictEnd))) {
+        } else if (conflict_ &&
+                   (isConflictMark(text, conflictMiddle) || isConflictMark(text, conflictEnd))) {
             result_.findings[*conflict_].related.push_back(step);
-            if (isMarker(text, conflictEnd)) conflict_.reset();
+            if (isConflictMark(text, conflictEnd)) conflict_.reset();
         }
     }
 

@@ -12,7 +12,12 @@ namespace quendra {
 
 CommandHandlers::CommandHandlers(ApplicationState& state, MainWindow& window, ScriptEditor& editor,
                                  EditorHelp* help)
-    : state_(state), window_(window), editor_(editor), labels_(state, window, editor), help_(help) {
+    : state_(state),
+      window_(window),
+      editor_(editor),
+      labels_(state, window, editor),
+      help_(help),
+      review_(state, window, editor) {
     QObject::connect(&window_.findBar(), &FindBar::changesAgreed, &editor_, &ScriptEditor::apply);
     window_.setCommandRunner([this](EditorCommand command) { run(command); });
 }
@@ -32,6 +37,9 @@ void CommandHandlers::run(EditorCommand command) {
         case EditorCommand::Open: return window_.openScript();
         case EditorCommand::Save: window_.save(); return;
         case EditorCommand::SaveAs: window_.saveAs(); return;
+        case EditorCommand::CompareWithFile: return review_.compareWithFile();
+        case EditorCommand::CompareWithSaved: return review_.compareWithSaved();
+        case EditorCommand::ResolveConflicts: return review_.resolveConflicts();
         case EditorCommand::Exit: return window_.closeSoon();
         case EditorCommand::Undo: return editor_.undo();
         case EditorCommand::Redo: return editor_.redo();

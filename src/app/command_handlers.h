@@ -2,6 +2,7 @@
 #pragma once
 
 #include "app/label_commands.h"
+#include "app/script_review.h"
 #include "session/application_state.h"
 #include "session/commands.h"
 
@@ -30,6 +31,7 @@ class CommandHandlers {
     ScriptEditor& editor_;
     LabelCommands labels_;
     EditorHelp* help_;
+    ScriptReview review_;
 };
 
 }  // namespace quendra

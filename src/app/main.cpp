@@ -5,6 +5,7 @@
 #include "app/main_window.h"
 #include "app/screenshot.h"
 #include "app/script_editor.h"
+#include "app/script_review.h"
 #include "app/window_activation.h"
 #include "help/editor_help.h"
 #include "platform/editor_windows.h"
@@ -28,6 +29,7 @@
 #include <clocale>
 #include <cstdio>
 #include <optional>
+#include <utility>
 
 namespace quendra {
 
@@ -137,12 +139,37 @@ int runWindow(ApplicationState& state, ShownWindow& shown, const CommandLine& li
     return status;
 }
 
+// Shows the two scripts of a comparison; neither can be changed there.
+int runComparison(ApplicationState& state, const CommandLine::Compared& compared,
+                  const PictureOptions& picture) {
+    ComparedScripts read = readComparedScripts(state, compared.left, compared.right);
+    bool isRefused = false;
+    for (const OtherScript* side : {&read.left, &read.right}) {
+        if (!side->refusal) continue;
+        QApplication::setWindowIcon(programIcon());
+        showMessage(nullptr, *side->refusal);
+        isRefused = true;
+    }
+    if (isRefused) return 1;
+    EditorHelp help(state);
+    ReviewWindow window(state);
+    window.compare(sideOfFile(compared.left, std::move(read.left)),
+                   sideOfFile(compared.right, std::move(read.right)));
+    if (!picture.file.isEmpty()) {
+        showForPicture(window, picture, window.size());
+        return savePicture(window, picture) ? 0 : 1;
+    }
+    const EndSignals endSignals([] { QApplication::exit(); });
+    window.present();
+    return QApplication::exec();
+}
+
 int runEditor(int& argc, char** argv, const CommandLine& line, const PictureOptions& picture) {
     const StartupInputs inputs = processStartupInputs();
     ShownWindow shown;
     EditorAdmission admission;
     // Whoever only wants a picture neither disturbs an open editor nor answers for one.
-    if (picture.file.isEmpty()) {
+    if (picture.file.isEmpty() && !line.compared) {
         const std::string className = readProgramSettings(inputs).windowClassName;
         admission = admitEditor(editorSocketFolder(inputs.environment), line.script,
                                 describeWindow(shown, className, line.script),
@@ -168,7 +195,13 @@ int runEditor(int& argc, char** argv, const CommandLine& line, const PictureOpti
     useToolkitLanguage(state.language.language());
     showNotices(notices);
     if (picture.file.isEmpty()) tellCipherFailures(state);
-    const int status = runWindow(state, shown, line, picture, fontSettings);
+    int status = 0;
+    if (line.compared) {
+        fontSettings.wait();
+        status = runComparison(state, *line.compared, picture);
+    } else {
+        status = runWindow(state, shown, line, picture, fontSettings);
+    }
     wipeApplication(state);
     return status;
 }

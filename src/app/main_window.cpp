@@ -289,6 +289,8 @@ bool MainWindow::saveTo(const std::filesystem::path& path) {
     setNote(outcome.note);
     updateTitle();
     updateStatus();
+    updateCommandStates();
+    Q_EMIT documentChanged();
     return true;
 }
 
@@ -320,6 +322,7 @@ void MainWindow::setHostType(HostType hostType) {
     updateStatus();
     updateCommandStates();
     pane_->takeFocus();
+    Q_EMIT documentChanged();
 }
 
 void MainWindow::showDocument() {
@@ -328,6 +331,7 @@ void MainWindow::showDocument() {
     updateTitle();
     updateStatus();
     updateCommandStates();
+    Q_EMIT documentChanged();
 }
 
 void MainWindow::scriptChanged() {
@@ -338,6 +342,7 @@ void MainWindow::scriptChanged() {
     updateTitle();
     updateStatus();
     updateCommandStates();
+    Q_EMIT documentChanged();
 }
 
 void MainWindow::updateTitle() {

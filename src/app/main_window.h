@@ -95,6 +95,10 @@ class MainWindow : public QMainWindow {
     [[nodiscard]] ScriptProblems& problems() { return *problems_; }
     [[nodiscard]] FindBar& findBar() { return *findBar_; }
 
+  Q_SIGNALS:
+    /// Script, host type or document may be others than before, and are shown.
+    void documentChanged();
+
   protected:
     void paintEvent(QPaintEvent* event) override;
     void closeEvent(QCloseEvent* event) override;

@@ -14,6 +14,7 @@
 #include <QClipboard>
 #include <QGuiApplication>
 
+#include <algorithm>
 #include <utility>
 
 namespace quendra {
@@ -185,6 +186,20 @@ void ScriptEditor::recordMove(bool goesOn) {
                                     countedName(textid::moveStep, after.selection.entries.size()));
     beforeMove_ = {};
     window_.scriptChanged();
+}
+
+void ScriptEditor::replaceScript(Script script, std::size_t entry, StringId stepName) {
+    change(
+        [&] {
+            const std::size_t count = script.entryCount();
+            state_.script = std::move(script);
+            state_.currentIndex = static_cast<int>(std::min(entry + 1, count)) - 1;
+            EntrySelection selection{{}, state_.currentIndex};
+            if (count > 0) selection.entries.push_back(std::min(entry, count - 1));
+            showScript(selection);
+            return true;
+        },
+        [&] { return libraryText(state_.language, stepName); });
 }
 
 ScriptView ScriptEditor::currentView() const {

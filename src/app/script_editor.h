@@ -49,6 +49,10 @@ class ScriptEditor : public QObject, private EditingView {
     /// Makes changes of the script's entries, which keep their places, as one step of this name.
     void apply(const ScriptChanges& changes, const std::string& stepName);
 
+    /// Puts another script in the place of the present one, as one step of this name, and goes to
+    /// an entry of it.
+    void replaceScript(Script script, std::size_t entry, StringId stepName);
+
   private:
     [[nodiscard]] std::vector<std::size_t> selectedEntries() const override;
     [[nodiscard]] int focusedEntry() const override;

@@ -2,7 +2,6 @@
 
 #include "text/text_ids.h"
 #include "widgets/status_line.h"
-#include "widgets/toolkit_language.h"
 #include "widgets/ui_text.h"
 
 #include <QHBoxLayout>
@@ -36,7 +35,7 @@ std::optional<std::size_t> numberIn(const QString& text) {
 // The user's own way where it is one of the window's language; a machine that has none would write
 // numbers without groups.
 QLocale localeOf(const ApplicationState& state) {
-    const std::string language = interfaceLanguage(state.settings.configDir);
+    const std::string language = state.language.language();
     const QLocale wanted(language.empty() ? QStringLiteral("en") : qtText(language));
     const QLocale own;
     return own.language() == wanted.language() ? own : wanted;

@@ -1,5 +1,6 @@
 #include "compare/script_merge.h"
 
+#include "analysis/conflict_marks.h"
 #include "compare/common_parts.h"
 #include "compare/edited_neighbours.h"
 #include "compare/entry_merge.h"
@@ -77,8 +78,8 @@ class Merger {
         : base_(base),
           ours_(base, ours.script),
           theirs_(base, theirs.script),
-          marks_{commentOf("<<<<<<<", ours.name), commentOf("=======", {}),
-                 commentOf(">>>>>>>", theirs.name)} {}
+          marks_{commentOf(conflictStart, ours.name), commentOf(conflictMiddle, {}),
+                 commentOf(conflictEnd, theirs.name)} {}
 
     MergeResult merge() {
         readNeighboursForMerge(base_, ours_, theirs_);

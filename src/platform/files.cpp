@@ -7,6 +7,7 @@
 #include <csignal>
 #include <cstring>
 #include <fcntl.h>
+#include <sys/stat.h>
 #include <utility>
 
 namespace quendra {
@@ -66,6 +67,16 @@ FileContent readFile(const fs::path& path, std::size_t maxBytes) {
 
 FileContent readRegularFile(const fs::path& path, std::size_t maxBytes) {
     return readOpened(Descriptor(openRegular(path, O_RDONLY)), maxBytes);
+}
+
+bool holdsNothing(const fs::path& path) {
+    struct stat status = {};
+    if (::stat(path.c_str(), &status) != 0) return false;
+    if (S_ISREG(status.st_mode)) return status.st_size == 0;
+    struct stat null = {};
+    // std::filesystem does not compare devices.
+    return S_ISCHR(status.st_mode) && ::stat("/dev/null", &null) == 0 &&
+           status.st_rdev == null.st_rdev;
 }
 
 std::optional<FileStamp> fileStamp(const fs::path& path) {

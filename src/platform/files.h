@@ -49,6 +49,9 @@ struct FileContent {
 /// The stamp of the file that is at `path` now; none when there is none or it cannot be asked.
 [[nodiscard]] std::optional<FileStamp> fileStamp(const std::filesystem::path& path);
 
+/// Whether there is a file at `path` that holds no bytes, or the system's null device.
+[[nodiscard]] bool holdsNothing(const std::filesystem::path& path);
+
 /// What to do with the bytes of a file that is about to be replaced.
 enum class OldFile : std::uint8_t { Drop, KeepAsBackup };
 

@@ -19,6 +19,9 @@ class Parser {
     CommandLine parse() {
         while (!rest_.empty() && result_.error.empty())
             parseArgument(take());
+        if (result_.error.empty() && result_.compared && !result_.script.empty()) {
+            fail("--compare opens no further script: " + result_.script.string());
+        }
         return result_;
     }
 
@@ -47,6 +50,8 @@ class Parser {
     void parseOption(const std::string& option) {
         if (option == "--") {
             onlyPaths_ = true;
+        } else if (option == "--compare") {
+            compare();
         } else if (option == "--help") {
             result_.help = true;
         } else if (option == "--version") {
@@ -54,6 +59,14 @@ class Parser {
         } else {
             fail("unknown option " + option);
         }
+    }
+
+    void compare() {
+        if (rest_.size() < 2) return fail("--compare needs the names of two scripts");
+        const std::string& left = take();
+        const std::string& right = take();
+        if (left.empty() || right.empty()) return fail("the name of the script is empty");
+        result_.compared = {left, right};
     }
 
     [[nodiscard]] bool isPath(const std::string& argument) const {
@@ -131,6 +144,7 @@ std::string commandLineHelp() {
            "\n"
            "  SCRIPT, /e SCRIPT    open this script; one that is not there yet is made by saving\n"
            "  /t1, /t2             begin with an iSeries or a VT script (otherwise mainframe)\n"
+           "  --compare A B        show the difference of two scripts, and change neither\n"
            "  --                   what follows is the name of the script\n"
            "  --help               show this and end\n"
            "  --version            show the version and end\n"

@@ -14,6 +14,12 @@ namespace quendra {
 struct CommandLine {
     /// The script to open, as it was given; empty for none.
     std::filesystem::path script;
+    /// The two scripts to compare in place of editing one, as they were given.
+    struct Compared {
+        std::filesystem::path left;
+        std::filesystem::path right;
+    };
+    std::optional<Compared> compared;
     /// The host type to begin with; none leaves it as it is.
     std::optional<HostType> hostType;
     bool help = false;
@@ -34,6 +40,7 @@ using PathProbe = std::function<std::filesystem::file_type(const std::filesystem
 ///   /t1, /t2                 iSeries, VT; "/t" and any other character is passed over, and only
 ///                            the first "/t" counts
 ///   /t1/ePATH, /t1/e PATH    both in one argument
+///   --compare A B            shows the difference of two scripts in place of the editor
 ///   --                       what follows is a path
 ///   --help, --version
 ///

@@ -77,6 +77,14 @@ bool showsGutter(const CommandFacts& facts) {
     return facts.gutterIsShown;
 }
 
+bool hasSavedForm(const CommandFacts& facts) {
+    return facts.hasSavedForm;
+}
+
+bool hasConflicts(const CommandFacts& facts) {
+    return facts.hasConflicts;
+}
+
 CommandText insertTip(Palette palette, const CommandFacts& facts, LanguageLibrary& language) {
     return itemText(paletteInfo(palette).insertTextId, facts.selectedRow(palette), language);
 }

@@ -34,6 +34,10 @@ struct CommandFacts {
     std::string whyNoQuickFix = {};
     bool problemsAreShown = false;
     bool gutterIsShown = false;
+    /// The script has a file, or has changed since it was begun.
+    bool hasSavedForm = false;
+    /// Among the entries are marks of merge conflicts.
+    bool hasConflicts = false;
 
     [[nodiscard]] const std::optional<std::string>& selectedRow(Palette palette) const {
         return selectedRows[static_cast<std::size_t>(palette)];
@@ -53,6 +57,9 @@ struct CommandFacts {
 [[nodiscard]] bool hasQuickFix(const CommandFacts& facts);
 [[nodiscard]] bool showsProblems(const CommandFacts& facts);
 [[nodiscard]] bool showsGutter(const CommandFacts& facts);
+/// There is something that the script may differ from.
+[[nodiscard]] bool hasSavedForm(const CommandFacts& facts);
+[[nodiscard]] bool hasConflicts(const CommandFacts& facts);
 
 /// Texts that name what a command would act on; none while there is nothing.
 using CommandText = std::optional<std::string>;

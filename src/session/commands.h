@@ -54,6 +54,9 @@ enum class EditorCommand : int {
     GoToLabel = 344,
     GoBack = 345,
     FindUses = 346,
+    CompareWithFile = 350,
+    CompareWithSaved = 351,
+    ResolveConflicts = 352,
 };
 
 /// In the order of the menu bar.

@@ -270,6 +270,18 @@ OtherScript readOtherScript(ApplicationState& state, const fs::path& path) {
             std::move(note)};
 }
 
+ComparedScripts readComparedScripts(ApplicationState& state, const fs::path& left,
+                                    const fs::path& right) {
+    const bool isLeftNothing = holdsNothing(left);
+    const bool isRightNothing = holdsNothing(right);
+    ComparedScripts read;
+    if (!isLeftNothing) read.left = readOtherScript(state, left);
+    if (!isRightNothing) read.right = readOtherScript(state, right);
+    if (isLeftNothing) read.left.hostType = read.right.hostType;
+    if (isRightNothing) read.right.hostType = read.left.hostType;
+    return read;
+}
+
 std::vector<Message> questionsBeforeSave(ApplicationState& state, const fs::path& path) {
     std::vector<Message> questions;
     if (state.document.refused && isOwnFile(state.document, path)) {

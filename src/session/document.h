@@ -61,6 +61,17 @@ struct OtherScript {
 [[nodiscard]] OtherScript readOtherScript(ApplicationState& state,
                                           const std::filesystem::path& path);
 
+/// The two files of a comparison, either of which may be refused. The null device and a file
+/// without bytes stand for a script that there is not on that side: empty, of the other's host
+/// type.
+struct ComparedScripts {
+    OtherScript left;
+    OtherScript right;
+};
+[[nodiscard]] ComparedScripts readComparedScripts(ApplicationState& state,
+                                                  const std::filesystem::path& left,
+                                                  const std::filesystem::path& right);
+
 /// What has to be answered with Yes, in this order, before the script may be saved at `path`: the
 /// file was refused when the editor started, or has changed on disk since it was loaded; the host
 /// type cannot store some entries.

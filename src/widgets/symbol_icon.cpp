@@ -20,7 +20,7 @@ namespace {
 
 constexpr int programIconId = 102;
 constexpr int firstCommandId = 300;
-constexpr int lastCommandId = 326;
+constexpr int lastCommandId = 359;
 
 struct Colours {
     QRgb ink;

@@ -16,7 +16,7 @@ namespace quendra {
 // same icon.
 [[nodiscard]] QIcon bitmapIcon(int bitmapId);
 
-// The icon of one of the editor's commands (300..335), for toolbar buttons: as bitmapIcon, and
+// The icon of one of the editor's commands (300..359), for toolbar buttons: as bitmapIcon, and
 // wholly in the accent colour (hot) for QIcon::Active, which is how a flat tool button paints under
 // the mouse. A menu paints its current item with QIcon::Active too, but on the highlight colour, so
 // actions that use these icons should keep them out of menus (QAction::setIconVisibleInMenu). A

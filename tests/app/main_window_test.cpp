@@ -221,7 +221,8 @@ TEST(CommandStates, ConditionalCommandsFollowScriptAndSelections) {
     const EditSource luFunctions = rowOf(Palette::LuFunctions);
     const EditSource menuCommands = rowOf(Palette::MenuCommands);
     const auto filled = [](std::set<EditorCommand> more) {
-        more.insert({Save, SaveAs, Find, FindNext, FindPrevious, Replace, GoToStep, NextProblem, PreviousProblem});
+        more.insert({Save, SaveAs, Find, FindNext, FindPrevious, Replace, GoToStep, NextProblem,
+                     PreviousProblem});
         return more;
     };
     const std::pair<CommandFacts, std::set<EditorCommand>> rows[] = {
@@ -241,10 +242,12 @@ TEST(CommandStates, ConditionalCommandsFollowScriptAndSelections) {
         {{.undoStep = "Cut 1 Entry"}, {Undo}},
         {{.redoStep = "Cut 1 Entry"}, {Redo}},
         {{.quickFix = "Remove Label a"}, {ApplyQuickFix}},
+        {{.hasSavedForm = true}, {CompareWithSaved}},
+        {{.hasConflicts = true}, {ResolveConflicts}},
     };
-    const std::set<EditorCommand> always = {NewScript,    Open,       Exit,
-                                            Help,         About,      InsertScript,
-                                            ShowProblems, ShowGutter, HelpOnSelection};
+    const std::set<EditorCommand> always = {
+        NewScript,       Open,           Exit, Help, About, InsertScript, ShowProblems, ShowGutter,
+        HelpOnSelection, CompareWithFile};
     for (const auto& [facts, enabled] : rows)
         for (const CommandInfo& info : commands())
             EXPECT_EQ(isCommandEnabled(info, facts),
@@ -262,7 +265,7 @@ std::string shown(const CommandItems& items) {
 
 TEST(CommandTable, ANewCommandLeavesTheOthersOfItsMenuAndTheToolbarWhereTheyAre) {
     const std::pair<EditorMenu, std::string> rows[] = {
-        {EditorMenu::File, "300 301 302 303 | 304"},
+        {EditorMenu::File, "300 301 302 303 | 350 351 352 | 304"},
         {EditorMenu::Edit, "321 322 | 305 306 324 307 | 323 340 341 342 335 | 333"},
         {EditorMenu::View, "330 334 | 331 332"},
         {EditorMenu::Entry, "308 309 310 325 | 311 | 312 | 343 344 345 346"},

@@ -100,5 +100,19 @@ TEST_F(ProgramTest, DrawsItsWindowAsAskedAndRefusesWhatItCannotDo) {
         EXPECT_EQ(run(wrong), 2) << wrong;
 }
 
+TEST_F(ProgramTest, ComparesTwoScriptsOfWhichOneMayBeNothing) {
+    writeBytes(folder / "b.qds", commentFile(2));
+    writeBytes(folder / "empty.qds", {});
+    writeBytes(folder / "letter.qds", bytesOf("dear all"));
+    const std::pair<const char*, int> rows[] = {
+        {"a.qds b.qds", 0},       {"/dev/null b.qds", 0},  {"b.qds empty.qds", 0},
+        {"missing.qds b.qds", 1}, {"b.qds letter.qds", 1}, {"b.qds", 2},
+    };
+    for (const auto& [files, status] : rows)
+        EXPECT_EQ(run((std::string("--screenshot picture.png --compare ") + files).c_str()), status)
+            << files;
+    EXPECT_EQ(readBytes(folder / "a.qds"), bytesOf("QDVTSCR=")) << "not brought up to date";
+}
+
 }  // namespace
 }  // namespace quendra::test

@@ -1,6 +1,8 @@
 // Differences and merges of small scripts, written as words: "a12" is an Input with the title "a",
 // the prompt "1" and at most 2 characters.
+#include "compare/aligned_rows.h"
 #include "compare/common_parts.h"
+#include "compare/merge_conflicts.h"
 #include "compare/script_diff.h"
 #include "compare/script_merge.h"
 #include "model/entry_fields.h"
@@ -8,6 +10,7 @@
 #include "support/fixtures.h"
 
 #include <gtest/gtest.h>
+#include <numeric>
 #include <random>
 #include <sstream>
 
@@ -128,6 +131,123 @@ TEST(Diff, KnowsATransferByItsHostFile) {
     const ScriptDiff diff =
         diffScripts({{transfer("a", 0)}}, {{transfer("b", 0), transfer("a", 1)}});
     EXPECT_EQ(diff.left[0].other, 1U) << "each has one field that differs";
+}
+
+// Each row as "LEFT SIGN RIGHT" with the number of its change behind it, "." for no step.
+std::string rowsOf(const AlignedScripts& aligned) {
+    std::string text;
+    const auto number = [](const std::optional<std::size_t>& step) {
+        return step ? std::to_string(*step) : std::string(".");
+    };
+    for (const AlignedRow& row : aligned.rows) {
+        if (!text.empty()) text += ' ';
+        text +=
+            number(row.left) + "=!-+<>*"[static_cast<std::size_t>(row.kind)] + number(row.right);
+        if (row.change) text += ":" + std::to_string(*row.change);
+    }
+    return text;
+}
+
+TEST(Alignment, PutsEachStepBesideItsOtherAndAMoveAtBothItsPlaces) {
+    const std::tuple<const char*, const char*, const char*> rows[] = {
+        {"a b", "a b", "0=0 1=1"},
+        {"a12 x b12", "a13 b12 c", "0!0:0 1-.:1 2=1 .+2:2"},
+        {"a b c d", "b c d a", "0<.:0 1=0 2=1 3=2 .>3:0"},
+        {"b c d a", "a b c d", ".>0:0 0=1 1=2 2=3 3<.:0"},
+        {"", "a", ".+0:0"},
+        {"a b", "x12 b", "0-.:0 .+0:1 1=1"},
+    };
+    for (const auto& [left, right, expected] : rows)
+        EXPECT_EQ(rowsOf(alignScripts(scriptOf(left), scriptOf(right))), expected);
+}
+
+TEST(Alignment, GivesEitherScriptBackByWhatIsTakenOver) {
+    const std::tuple<const char*, const char*, std::vector<std::size_t>, const char*, std::size_t>
+        rows[] = {
+            {"a12 x b12", "a13 b12 c", {0}, "a12 b12 c", 0},
+            {"a12 x b12", "a13 b12 c", {1}, "a13 x b12 c", 1},
+            {"a12 x b12", "a13 b12 c", {2}, "a13 b12", 2},
+            {"a12 x b12", "a13 b12 c", {0, 2}, "a12 b12", 0},
+            {"a b c d", "b c d a", {0}, "a b c d", 0},
+            {"b c d a", "a b c d", {0}, "b c d a", 3},
+        };
+    for (const auto& [left, right, changes, expected, at] : rows) {
+        const Script from = scriptOf(left);
+        const Script into = scriptOf(right);
+        const TakenOver taken = takeOverChanges(alignScripts(from, into), from, into, changes);
+        EXPECT_EQ(textOfScript(taken.script), expected);
+        EXPECT_EQ(taken.at, at) << expected;
+    }
+    std::mt19937 random(3);
+    for (int round = 0; round < 300; ++round) {
+        Script sides[2];
+        for (Script& side : sides)
+            for (std::size_t i = random() % 12; i > 0; --i)
+                side.entries.push_back(
+                    entryOf(std::string(1, "abcdef"[random() % 6]) + (random() % 2 ? "12" : "")));
+        const AlignedScripts aligned = alignScripts(sides[0], sides[1]);
+        std::vector<std::size_t> all(aligned.changes.size());
+        std::iota(all.begin(), all.end(), 0U);
+        EXPECT_EQ(takeOverChanges(aligned, sides[0], sides[1], all).script, sides[0]);
+        EXPECT_EQ(takeOverChanges(aligned, sides[0], sides[1], {}).script, sides[1]);
+    }
+}
+
+// "<", "=" and ">" are the marks.
+Script marked(const std::string& words) {
+    Script script;
+    for (const std::string& word : wordsOf(words)) {
+        const bool isMark = std::string("<=>").find(word) != std::string::npos;
+        script.entries.push_back(entryOf(isMark ? std::string(7, word[0]) : word));
+    }
+    return script;
+}
+
+TEST(Conflicts, AreFoundResolvedAndLeftAloneWhereTheirMarksDoNotMatch) {
+    struct Row {
+        const char* script;
+        const char* rows;
+        std::vector<std::size_t> stray;
+        /// What becomes of the script when the first conflict is resolved.
+        const char* ours;
+        const char* theirs;
+        const char* both;
+    };
+    const Row rows[] = {
+        {"a < b = c > d", "0=0 2*4:0 6=6", {}, "a b d", "a c d", "a b c d"},
+        {"< = c e >", ".*2:0 .*3:0", {}, "", "c e", "c e"},
+        {"< = >", ".*.:0", {}, "", "", ""},
+        {"< b = >", "1*.:0", {}, "b", "", "b"},
+        {"< a = b > = < c = d >", "1*3:0 5=5 7*9:1", {}, nullptr, nullptr, nullptr},
+        {"< a < b = c > = d >", nullptr, {0, 2, 4, 6, 7, 9}, nullptr, nullptr, nullptr},
+        {"< a < b = c >", "0=0 1=1 3*5:0", {0}, nullptr, nullptr, nullptr},
+        {"< a = b = c >", nullptr, {0, 2, 4, 6}, nullptr, nullptr, nullptr},
+        {"< a > = b", nullptr, {0, 2}, nullptr, nullptr, nullptr},
+        {"a = b", nullptr, {}, nullptr, nullptr, nullptr},
+        {"> a", nullptr, {0}, nullptr, nullptr, nullptr},
+    };
+    for (const Row& row : rows) {
+        const Script script = marked(row.script);
+        const ConflictSearch found = findConflicts(script);
+        EXPECT_EQ(found.strayMarks, row.stray) << row.script;
+        EXPECT_EQ(hasConflictMarks(script), !found.conflicts.empty() || !row.stray.empty());
+        ASSERT_EQ(found.conflicts.empty(), row.rows == nullptr) << row.script;
+        if (row.rows != nullptr) {
+            EXPECT_EQ(rowsOf(alignConflicts(script, found.conflicts)), row.rows);
+        }
+        if (row.ours == nullptr) continue;
+        const auto resolved = [&](ConflictChoice choice) {
+            Script left = script;
+            resolveConflict(left, found.conflicts[0], choice);
+            return textOfScript(left);
+        };
+        EXPECT_EQ(resolved(ConflictChoice::Ours), row.ours);
+        EXPECT_EQ(resolved(ConflictChoice::Theirs), row.theirs);
+        EXPECT_EQ(resolved(ConflictChoice::Both), row.both);
+    }
+    const Script named = {{entryOf("<<<<<<< w\xe4hler"), entryOf("<<<<<<<x")}};
+    EXPECT_EQ(conflictSideName(named, 0), "wähler");
+    EXPECT_EQ(findConflicts(named).strayMarks, std::vector<std::size_t>{0});
 }
 
 TEST(Diff, NamesEachFieldThatAloneWasChangedAndNoOther) {

@@ -73,7 +73,15 @@ TEST(CommandLine, TidiesPathsWithoutLeadingThemElsewhere) {
 }
 
 TEST(CommandLine, RefusesWhatItCannotMeanAndTellsHelpAndVersion) {
-    const Arguments rows[] = {{"--nope"}, {"-e", "a.qds"}, {""}, {"/e"}, {"/t1/e"}, {"a", "b"}};
+    const Arguments rows[] = {{"--nope"},
+                              {"-e", "a.qds"},
+                              {""},
+                              {"/e"},
+                              {"/t1/e"},
+                              {"a", "b"},
+                              {"--compare", "a"},
+                              {"--compare", "a", "b", "c"},
+                              {"--compare", "", "b"}};
     for (const Arguments& arguments : rows)
         EXPECT_NE(parse(arguments).error, "") << testing::PrintToString(arguments);
     EXPECT_TRUE(parse({"--help"}).help);

@@ -87,6 +87,10 @@ TEST_P(LanguageTexts, HaveTheFormatPlacesThatTheProgramFills) {
         {textid::errorMessage, "%s%s"},
         {textid::warningMessage, "%s%s"},
         {textid::noteMessage, "%s%s"},
+        {textid::reviewCompareTitle, "%s%s"},
+        {textid::reviewHostTypes, "%s%s"},
+        {textid::reviewLeftEntry, "%d%s"},
+        {textid::reviewRightEntry, "%d%s"},
     };
     for (const StringId id : {textid::scriptCannotBeOpened,
                               textid::insertNamedScriptEvent,
@@ -141,15 +145,25 @@ TEST_P(LanguageTexts, HaveTheFormatPlacesThatTheProgramFills) {
                               textid::fixChangeLabel,
                               textid::fixAddLabel,
                               textid::fixRemoveLabel,
-                              textid::characterCannotBeStored})
+                              textid::characterCannotBeStored,
+                              textid::reviewResolveTitle,
+                              textid::reviewSideSaved,
+                              textid::reviewSideEditor,
+                              textid::reviewStrayMarks})
         filled[id] = "%s";
+    for (const StringId id : {textid::reviewChangePosition, textid::reviewConflictPosition,
+                              textid::reviewTakesChanged, textid::reviewKeepsSide})
+        filled[id] = "%d%d";
     for (const StringId id :
          {textid::fileEndsInsideEntry, textid::fileHasUnknownCommand, textid::fileHasTooLongPrompt,
           textid::fileHasTooDeepActions, textid::fileHasTooManyEntries, textid::fileIsTooLong})
         filled[id] = "%s%d";
     for (const StringId id :
          {textid::entriesCount, textid::findCount, textid::helpFoundPages, textid::entriesInStep,
-          textid::atMostCharacters, textid::hiddenTextTooLong})
+          textid::atMostCharacters, textid::hiddenTextTooLong, textid::reviewChanges,
+          textid::reviewConflicts, textid::reviewMovedAway, textid::reviewMovedHere,
+          textid::reviewTakesGone, textid::reviewTakesNew, textid::reviewTakesMoved,
+          textid::reviewTakesSelected})
         filled[id] = "%d";
     for (const auto& [id, text] : texts)
         EXPECT_EQ(places(text), filled[id]) << id << ": " << text;
@@ -167,7 +181,9 @@ TEST_P(LanguageTexts, GiveItemsOfAMenuAMnemonicOfTheirOwnEach) {
         {textid::fileMenu, textid::editMenu, textid::viewMenu, textid::entryMenu, textid::modeMenu,
          textid::helpMenu},
         {textid::newMenuText, textid::openMenuText, textid::saveMenuText, textid::saveAsMenuText,
-         textid::exitMenuText},
+         textid::compareFileMenuText, textid::compareSavedMenuText,
+         textid::resolveConflictsMenuText, textid::exitMenuText},
+        {textid::reviewKeepOurs, textid::reviewKeepTheirs, textid::reviewKeepBoth},
         {textid::undoMenuText, textid::redoMenuText, textid::cutMenuText, textid::copyMenuText,
          textid::pasteMenuText, textid::copyAsTextMenuText, textid::findMenuText,
          textid::goToStepMenuText, textid::quickFixMenuText},
