@@ -44,7 +44,8 @@ void ScriptGutter::refit() {
     const int rows = list_.model()->rowCount();
     // At least two digits, so that a script that grows does not move its lines too often.
     const auto digits = std::max<qsizetype>(QString::number(rows).size(), 2);
-    numberWidth_ = list_.fontMetrics().horizontalAdvance(QString(digits, QLatin1Char('0')));
+    digitWidth_ = list_.fontMetrics().horizontalAdvance(QLatin1Char('0'));
+    numberWidth_ = static_cast<int>(digits) * digitWidth_;
     const int lanes = check_ ? check_->lanes().laneCount() : 0;
     width_ = gutterMargin + numberWidth_ + gutterMargin + lanes * laneWidth + headWidth;
 }
@@ -64,7 +65,7 @@ void ScriptGutter::paint(QPainter& painter, const QRect& area, int row) const {
     if (focused >= 0) {
         const StepJumps strong =
             check_->lanes().ofStep(check_->outline(), static_cast<std::size_t>(focused), step);
-        paintJumps(painter, area, strong, accentColor(list_.palette()));
+        if (strong != StepJumps()) paintJumps(painter, area, strong, accentColor(list_.palette()));
     }
     paintFaults(painter, area, jumps);
 }
@@ -73,10 +74,13 @@ void ScriptGutter::paintNumber(QPainter& painter, const QRect& area, int row) co
     const QPalette& palette = list_.palette();
     const bool isCurrent = row == list_.focusedRow();
     painter.setPen(isCurrent ? palette.color(QPalette::Text) : quietText(palette));
-    painter.setFont(list_.font());
-    painter.drawText(QRect(area.left() + gutterMargin, area.top(), numberWidth_, area.height()),
-                     Qt::AlignRight | Qt::AlignVCenter | Qt::TextSingleLine,
-                     QString::number(row + 1));
+    // By its base line: a box to be laid out in would cost twice as much.
+    const QFontMetrics metrics = list_.fontMetrics();
+    const QString number = QString::number(row + 1);
+    const int width = static_cast<int>(number.size()) * digitWidth_;
+    const int x = area.left() + gutterMargin + numberWidth_ - width;
+    const int y = area.top() + (area.height() - metrics.height()) / 2 + metrics.ascent();
+    painter.drawText(x, y, number);
 }
 
 void ScriptGutter::paintJumps(QPainter& painter, const QRect& area, const StepJumps& jumps,
@@ -84,12 +88,9 @@ void ScriptGutter::paintJumps(QPainter& painter, const QRect& area, const StepJu
     const int middle = area.center().y();
     for (int lane = 0; lane < mostJumpLanes; ++lane) {
         const auto bit = static_cast<std::uint8_t>(1U << static_cast<unsigned>(lane));
-        const int x = laneX(area, lane);
-        if ((jumps.above & bit) != 0)
-            painter.fillRect(x, area.top(), 1, middle - area.top() + 1, colour);
-        if ((jumps.below & bit) != 0) {
-            painter.fillRect(x, middle, 1, area.bottom() - middle + 1, colour);
-        }
+        const int top = (jumps.above & bit) != 0 ? area.top() : middle;
+        const int bottom = (jumps.below & bit) != 0 ? area.bottom() : middle;
+        if (top < bottom) painter.fillRect(laneX(area, lane), top, 1, bottom - top + 1, colour);
     }
     const std::uint8_t level = jumps.leaves | jumps.arrives;
     if (level == 0) return;

@@ -28,6 +28,7 @@ class ScriptGutter : public RowGutter {
     const LiveCheck* check_;
     int width_ = 0;
     int numberWidth_ = 0;
+    int digitWidth_ = 0;
 };
 
 /// Text that keeps in the background: still easy to read on the palette's base, and on the mark of
