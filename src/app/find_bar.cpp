@@ -135,9 +135,11 @@ void FindBar::buildReplaceRow(QGridLayout& grid) {
     QToolButton* one = makeButton("replace", textid::replaceToolTip, &FindBar::replaceHit);
     one->setText(text(textid::replaceButton));
     one->setToolTip({});
+    one->setAutoRaise(false);
     QToolButton* all = makeButton("replaceAll", textid::replaceAllStep, &FindBar::replaceAll);
     all->setText(text(textid::replaceAllButton));
     all->setToolTip({});
+    all->setAutoRaise(false);
     row->addWidget(one);
     row->addWidget(all);
     row->addStretch(1);

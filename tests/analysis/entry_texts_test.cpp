@@ -79,7 +79,7 @@ TEST(EntrySearch, LooksIntoLinesAndFieldsWithoutRegardToCase) {
 TEST(EntrySearch, KeepsWhatItKnowsAndFollowsTheScript) {
     const NumberedNames names;
     const DisplayNames uts = names.of(HostType::UTS);
-    Script script = {{storeRecord({1, 4, 3}), storeRecord(commentRecord("abc")),
+    Script script = {{storeRecord(Bytes{1, 4, 3}), storeRecord(commentRecord("abc")),
                       storeRecord(commentRecord("ab"))}};
     script.entries.push_back(script.entries[1]);
     ScriptSearch search;
