@@ -1,7 +1,6 @@
 #include "help/editor_help.h"
 
 #include "help/help_window.h"
-#include "widgets/toolkit_language.h"
 #include "widgets/ui_text.h"
 
 #include <QApplication>
