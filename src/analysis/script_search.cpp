@@ -1,8 +1,6 @@
 #include "analysis/script_search.h"
 
 #include "scriptfile/entry_codec.h"
-#include "text/text_encoding.h"
-#include "text/text_folding.h"
 
 #include <algorithm>
 #include <chrono>
@@ -17,9 +15,6 @@ namespace {
 // How long a search may go on whose pattern has given up: each text that it gives up in takes
 // milliseconds, and a script can have thousands of them.
 constexpr std::chrono::milliseconds patience{200};
-
-constexpr char sharpSOfField = '\xDF';
-constexpr std::string_view sharpS = "\xC3\x9F";
 
 const std::uint8_t* identityOf(const EntryHandle& entry) {
     return entry.record().data();
@@ -75,48 +70,30 @@ ScriptSearch::Step ScriptSearch::stepOf(const EntryHandle& handle, const ScriptE
                            [&](Slot slot, const EntryField& field, std::string_view text) {
                                step.fields.push_back({slot, &field, std::string(text)});
                            });
-    step.hasSharpS = step.line.find(sharpS) != std::string::npos ||
-                     std::ranges::any_of(step.fields, [](const FieldText& field) {
-                         return field.text.find(sharpSOfField) != std::string::npos;
-                     });
     return step;
 }
 
-template <class InField, class InLine>
-bool ScriptSearch::addHits(const Step& step, std::size_t index, std::vector<SearchHit>& hits,
-                           const InField& inField, const InLine& inLine) {
+void ScriptSearch::addHits(const TextPattern& pattern, const Step& step, std::size_t index,
+                           std::vector<SearchHit>& hits) {
     const std::size_t before = hits.size();
     std::uint32_t order = 0;
     for (const FieldText& field : step.fields) {
-        if (inField(field.text)) hits.push_back({{index, field.slot}, field.field, order});
+        if (pattern.isInWindows1252(field.text)) {
+            hits.push_back({{index, field.slot}, field.field, order});
+        }
         ++order;
     }
-    if (hits.size() == before && inLine(step.line)) hits.push_back({{index, Slot::Entry}});
-    return hits.size() > before;
+    if (hits.size() == before && pattern.isInUtf8(step.line)) {
+        hits.push_back({{index, Slot::Entry}});
+    }
 }
 
-std::vector<SearchHit> ScriptSearch::find(const TextPattern& pattern,
-                                          std::string_view anyCase) const {
+std::vector<SearchHit> ScriptSearch::find(const TextPattern& pattern) const {
     using Clock = std::chrono::steady_clock;
     const auto end = Clock::now() + patience;
-    const auto holds = [&](std::string_view text) { return pattern.isInWindows1252(text); };
-    const auto lineHolds = [&](std::string_view line) { return pattern.isInUtf8(line); };
-    const std::u16string folded = foldedText(anyCase);
-    const auto foldedLineHolds = [&](std::string_view line) {
-        return foldedText(line).find(folded) != std::u16string::npos;
-    };
-    const auto foldedHolds = [&](std::string_view text) {
-        return foldedLineHolds(utf8FromWindows1252(text));
-    };
-    const bool mayFold = folded.find(u's') != folded.npos;
-    const bool foldsAll = anyCase.find(sharpS) != anyCase.npos;
     std::vector<SearchHit> hits;
     for (std::size_t index = 0; index < steps_.size(); ++index) {
-        const Step& step = steps_[index];
-        if (!addHits(step, index, hits, holds, lineHolds) && mayFold &&
-            (foldsAll || step.hasSharpS)) {
-            addHits(step, index, hits, foldedHolds, foldedLineHolds);
-        }
+        addHits(pattern, steps_[index], index, hits);
         if (pattern.gaveUp() && Clock::now() > end) break;
     }
     return hits;

@@ -9,7 +9,6 @@
 
 #include <cstdint>
 #include <string>
-#include <string_view>
 #include <vector>
 
 namespace quendra {
@@ -41,11 +40,8 @@ class ScriptSearch {
     void clear();
 
     /// The hits in the order of reading. Once the pattern has given up in a text, the search goes
-    /// on for moments only. `anyCase` is for a search that cares for neither case nor words: what
-    /// is looked for, in UTF-8, found also where only the folded forms are alike, as "ss" and a
-    /// sharp s.
-    [[nodiscard]] std::vector<SearchHit> find(const TextPattern& pattern,
-                                              std::string_view anyCase = {}) const;
+    /// on for moments only.
+    [[nodiscard]] std::vector<SearchHit> find(const TextPattern& pattern) const;
 
   private:
     struct FieldText {
@@ -59,16 +55,12 @@ class ScriptSearch {
         /// UTF-8.
         std::string line;
         std::vector<FieldText> fields;
-        /// Its folded form holds more than letters of another case.
-        bool hasSharpS = false;
     };
 
     [[nodiscard]] static Step stepOf(const EntryHandle& handle, const ScriptEntry& entry,
                                      const DisplayNames& names);
-    /// Adds the hits of one step; `inField` and `inLine` say whether a text holds what is wanted.
-    template <class InField, class InLine>
-    static bool addHits(const Step& step, std::size_t index, std::vector<SearchHit>& hits,
-                        const InField& inField, const InLine& inLine);
+    static void addHits(const TextPattern& pattern, const Step& step, std::size_t index,
+                        std::vector<SearchHit>& hits);
 
     std::vector<Step> steps_;
     const LuCatalogue* luFunctions_ = nullptr;

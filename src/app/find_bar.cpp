@@ -222,10 +222,7 @@ void FindBar::search() {
     readPattern();
     if (fault_) return showCount();
     search_.update(state_.script, state_.cipher, state_.displayNames());
-    const bool anyCase =
-        !matchCase_->isChecked() && !wholeWords_->isChecked() && !expression_->isChecked();
-    const std::string folded = anyCase ? edit_->text().toStdString() : std::string();
-    setHits(pattern_ ? search_.find(*pattern_, folded) : std::vector<SearchHit>());
+    setHits(pattern_ ? search_.find(*pattern_) : std::vector<SearchHit>());
 }
 
 void FindBar::setHits(std::vector<SearchHit> hits) {

@@ -22,7 +22,7 @@ int run(const std::vector<std::string>& arguments, std::ostream& out, std::ostre
         0,
         out,
         err,
-        {settings.programDir, settings.configDir, settings.installDir, systemLanguage()},
+        {settings.programDir, settings.configDir, settings.installDir, quendra::systemLanguage()},
         quendra::isTerminal(2),
         quendra::isTerminal(1)};
     try {
