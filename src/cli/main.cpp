@@ -46,6 +46,7 @@ int lostOutputStatus(const std::vector<std::string>& arguments) {
 }  // namespace
 
 int main(int argc, char** argv) {
+    quendra::forbidCoreFile();
     quendra::prepareStandardStreams();
     quendra::DescriptorBuffer outBuffer(1);
     quendra::DescriptorBuffer errBuffer(2);
