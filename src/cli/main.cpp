@@ -1,6 +1,7 @@
 // qds: show, convert and build scripts on the command line.
 
 #include "cli/qds.h"
+#include "platform/process.h"
 #include "platform/standard_streams.h"
 #include "settings/startup.h"
 

@@ -1,5 +1,6 @@
 #include "app/pane/script_gutter.h"
 
+#include "widgets/contrast.h"
 #include "widgets/problem_sign.h"
 #include "widgets/symbol_icon.h"
 
