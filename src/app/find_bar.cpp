@@ -30,7 +30,7 @@ constexpr int optionColumn = 1;
 constexpr int countColumn = 6;
 constexpr int closeColumn = 7;
 
-std::size_t stepOf(const SearchHit& hit) {
+std::size_t stepOfHit(const SearchHit& hit) {
     return hit.place.step;
 }
 
@@ -237,7 +237,7 @@ void FindBar::setHits(std::vector<SearchHit> hits) {
     }
     std::vector<std::size_t> entries;
     for (const SearchHit& hit : hits_) {
-        if (entries.empty() || entries.back() != stepOf(hit)) entries.push_back(stepOf(hit));
+        if (entries.empty() || entries.back() != stepOfHit(hit)) entries.push_back(stepOfHit(hit));
     }
     pane_.markEntries(std::move(entries));
     followSelection();
@@ -261,7 +261,7 @@ void FindBar::goToPrevious() {
 }
 
 std::size_t FindBar::hitFrom(std::size_t entry) const {
-    const auto next = std::ranges::lower_bound(hits_, entry, {}, stepOf);
+    const auto next = std::ranges::lower_bound(hits_, entry, {}, stepOfHit);
     return next == hits_.end() ? 0 : static_cast<std::size_t>(next - hits_.begin());
 }
 
@@ -272,7 +272,7 @@ std::size_t FindBar::hitBehind(const SearchHit& hit) const {
 
 void FindBar::goTo(std::size_t hit) {
     current_ = hit;
-    const std::size_t entries[] = {stepOf(hits_[hit])};
+    const std::size_t entries[] = {stepOfHit(hits_[hit])};
     goes_ = true;
     pane_.selectEntries(entries, static_cast<int>(entries[0]));
     goes_ = false;
@@ -290,9 +290,9 @@ void FindBar::followSelection() {
     const int focused = pane_.focusedEntry();
     if (focused < 0) return current_.reset();
     const auto entry = static_cast<std::size_t>(focused);
-    if (current_ && stepOf(hits_[*current_]) == entry) return;
-    const auto first = std::ranges::lower_bound(hits_, entry, {}, stepOf);
-    const bool isHit = first != hits_.end() && stepOf(*first) == entry;
+    if (current_ && stepOfHit(hits_[*current_]) == entry) return;
+    const auto first = std::ranges::lower_bound(hits_, entry, {}, stepOfHit);
+    const bool isHit = first != hits_.end() && stepOfHit(*first) == entry;
     current_ =
         isHit ? std::optional(static_cast<std::size_t>(first - hits_.begin())) : std::nullopt;
 }
@@ -314,7 +314,7 @@ void FindBar::replaceHit() {
     const SearchHit hit = hits_[*current_];
     if (hit.field != nullptr) {
         const ScriptChanges changes =
-            replaceInField(state_.script, stepOf(hit), fieldPath(hit.place.slot, *hit.field),
+            replaceInField(state_.script, stepOfHit(hit), fieldPath(hit.place.slot, *hit.field),
                            *pattern_, replacement_->text().toStdString());
         if (!changes.canAllBeMade()) {
             static_cast<void>(agreedToChanges(state_, window(), changes));
@@ -374,8 +374,8 @@ QString FindBar::countText() const {
 }
 
 QString FindBar::titleOf(const SearchHit& hit) const {
-    if (hit.field == nullptr || stepOf(hit) >= state_.script.entryCount()) return {};
-    const ScriptEntry entry = unpackSealedEntry(state_.script.entries[stepOf(hit)]);
+    if (hit.field == nullptr || stepOfHit(hit) >= state_.script.entryCount()) return {};
+    const ScriptEntry entry = unpackSealedEntry(state_.script.entries[stepOfHit(hit)]);
     return fieldTitle(state_.language, entry, hit.place.slot, *hit.field);
 }
 

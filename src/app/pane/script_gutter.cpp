@@ -2,7 +2,6 @@
 
 #include "widgets/contrast.h"
 #include "widgets/problem_sign.h"
-#include "widgets/symbol_icon.h"
 
 #include <QPainter>
 
