@@ -21,7 +21,7 @@ double luminance(const QColor& colour) {
 
 double contrast(const QColor& one, const QColor& other) {
     constexpr double glare = 0.05;
-    const auto [darker, lighter] = std::minmax(luminance(one), luminance(other));
+    const auto [darker, lighter] = std::minmax({luminance(one), luminance(other)});
     return (lighter + glare) / (darker + glare);
 }
 

@@ -87,6 +87,8 @@ TEST_P(LanguageTexts, HaveTheFormatPlacesThatTheProgramFills) {
         {textid::errorMessage, "%s%s"},
         {textid::warningMessage, "%s%s"},
         {textid::noteMessage, "%s%s"},
+        {textid::findBadExpression, "%d%s"},
+        {textid::changeRefused, "%d%s%s"},
         {textid::reviewCompareTitle, "%s%s"},
         {textid::reviewHostTypes, "%s%s"},
         {textid::reviewLeftEntry, "%d%s"},
@@ -149,7 +151,11 @@ TEST_P(LanguageTexts, HaveTheFormatPlacesThatTheProgramFills) {
                               textid::reviewResolveTitle,
                               textid::reviewSideSaved,
                               textid::reviewSideEditor,
-                              textid::reviewStrayMarks})
+                              textid::reviewStrayMarks,
+                              textid::replaceOthersQuestion,
+                              textid::replaceRefused,
+                              textid::usesTitle,
+                              textid::nothingUses})
         filled[id] = "%s";
     for (const StringId id : {textid::reviewChangePosition, textid::reviewConflictPosition,
                               textid::reviewTakesChanged, textid::reviewKeepsSide})
@@ -163,7 +169,8 @@ TEST_P(LanguageTexts, HaveTheFormatPlacesThatTheProgramFills) {
           textid::atMostCharacters, textid::hiddenTextTooLong, textid::reviewChanges,
           textid::reviewConflicts, textid::reviewMovedAway, textid::reviewMovedHere,
           textid::reviewTakesGone, textid::reviewTakesNew, textid::reviewTakesMoved,
-          textid::reviewTakesSelected})
+          textid::reviewTakesSelected, textid::replacedCount, textid::renameLabelChanges,
+          textid::renameLabelExists})
         filled[id] = "%d";
     for (const auto& [id, text] : texts)
         EXPECT_EQ(places(text), filled[id]) << id << ": " << text;
