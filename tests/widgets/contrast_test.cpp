@@ -114,8 +114,8 @@ TEST_P(Contrast, TheHandleOfAScrollBarStandsOutFromItsGroove) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Both, Contrast, testing::Values(Appearance::Light, Appearance::Dark),
-                         [](const auto& info) {
-                             return info.param == Appearance::Dark ? "Dark" : "Light";
+                         [](const testing::TestParamInfo<Appearance>& row) {
+                             return row.param == Appearance::Dark ? "Dark" : "Light";
                          });
 
 }  // namespace
