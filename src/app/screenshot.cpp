@@ -4,6 +4,7 @@
 
 #include <QApplication>
 #include <QFile>
+#include <QImageWriter>
 #include <QPixmap>
 #include <QWidget>
 
@@ -96,7 +97,11 @@ bool savePicture(QWidget& window, const PictureOptions& options) {
     // Layout, posted commands and the first painting have to be over.
     for (int i = 0; i < 3; ++i)
         QCoreApplication::processEvents();
-    return window.grab().save(options.file);
+    QImageWriter picture(options.file);
+    if (picture.write(window.grab().toImage())) return true;
+    std::fprintf(stderr, "quendra-script-editor: %s: %s\n", qPrintable(options.file),
+                 qPrintable(picture.errorString()));
+    return false;
 }
 
 }  // namespace quendra

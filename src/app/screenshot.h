@@ -38,7 +38,8 @@ void answerUnseenMessages();
 /// not say), whatever the screen and its window manager allow, and with the keyboard.
 void showForPicture(QWidget& window, const PictureOptions& options, QSize usualSize);
 
-/// Draws a window that is shown so into the file, in the format of the file's extension.
+/// Draws a window that is shown so into the file, in the format of the file's extension. False,
+/// after telling why on standard error, when the file cannot be written.
 [[nodiscard]] bool savePicture(QWidget& window, const PictureOptions& options);
 
 }  // namespace quendra

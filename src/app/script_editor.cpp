@@ -155,12 +155,12 @@ void ScriptEditor::takeStep(std::optional<EntrySelection> (UndoHistory::*step)(S
 
 void ScriptEditor::recordMove(bool goesOn) {
     const ScriptView after = currentView();
-    if (goesOn) {
-        state_.history.extend(beforeMove_, after);
-    } else {
-        state_.history.record(beforeMove_, after,
-                              countedName(textid::moveStep, after.selection.entries.size()));
-    }
+    // A move past entries that are just the same was no step that could go on.
+    moveIsStep_ =
+        goesOn && moveIsStep_
+            ? state_.history.extend(beforeMove_, after)
+            : state_.history.record(beforeMove_, after,
+                                    countedName(textid::moveStep, after.selection.entries.size()));
     beforeMove_ = {};
     window_.scriptChanged();
 }

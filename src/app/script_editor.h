@@ -71,6 +71,9 @@ class ScriptEditor : public QObject, private EditingView {
     EditParameters dialog_;
     /// Script and selection when a drag was about to move entries.
     ScriptView beforeMove_;
+    /// The last move is a step of the history, so that the next one of a held key can go on with
+    /// it.
+    bool moveIsStep_ = false;
 };
 
 }  // namespace quendra

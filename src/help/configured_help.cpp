@@ -1,6 +1,7 @@
 #include "help/configured_help.h"
 
 #include "platform/process.h"
+#include "platform/settings_file.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -20,8 +21,8 @@ bool showWebHelp(const StartupSettings& settings, const HelpLaunchers& launchers
 }
 
 bool showCompiledHelp(const StartupSettings& settings, const HelpLaunchers& launchers) {
-    std::error_code ignored;
-    if (!fs::is_regular_file(settings.helpFilePath, ignored)) return false;
+    // Its folder may be any current one, and a viewer runs what the pages hold.
+    if (!isTrusted(settings.helpFilePath)) return false;
     return std::ranges::any_of(helpViewerCommands(settings), [&](const ViewerCommand& viewer) {
         return launchers.startViewer(viewer.program, viewer.arguments);
     });

@@ -34,7 +34,8 @@ struct ViewerCommand {
 
 /// Opens the help that the settings name, and gives false when there is none, so that the manual
 /// can take its place: web help without an address of the installation's own (the built-in one is
-/// reserved for examples, nobody serves it), no compiled help file, or nothing that would start.
+/// reserved for examples, nobody serves it), no compiled help file, one that somebody else may have
+/// written, or nothing that would start.
 [[nodiscard]] bool showConfiguredHelp(const StartupSettings& settings,
                                       const HelpLaunchers& launchers);
 

@@ -13,8 +13,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr const char* accessListName = "system.posix_acl_access";
-
 // What systems answer to a change that they, the file system or a container does not know or leave
 // to another user.
 bool isUnknownHere(int error) {

@@ -8,6 +8,9 @@
 
 namespace quendra {
 
+/// The attribute in which the system keeps a file's access control list.
+inline constexpr const char* accessListName = "system.posix_acl_access";
+
 /// What a new file could take over.
 enum class Rights : std::uint8_t { All, AllButOwner, Failed };
 

@@ -120,8 +120,9 @@ std::function<std::string()> userIdentitySource(const Environment& environment) 
         if (!stamp || stamp == seen) return {};
         Registry registry;
         addProfile(registry.currentUser, *file);
-        if (!registry.currentUser.empty()) seen = stamp;
-        return userIdentity(registry);
+        std::string identity = userIdentity(registry);
+        if (identity.empty() && !registry.currentUser.empty()) seen = stamp;
+        return identity;
     };
 }
 

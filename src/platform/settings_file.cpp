@@ -1,6 +1,8 @@
 #include "platform/settings_file.h"
 
+#include "platform/access_rights.h"
 #include "platform/descriptor.h"
+#include "platform/file_bytes.h"
 
 #include <array>
 #include <cerrno>
@@ -20,7 +22,6 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr std::size_t nameBufferSize = std::size_t{16} * 1024;
-constexpr const char* accessListName = "system.posix_acl_access";
 
 // Many systems give each user a group of the same name and let it write all that the user makes.
 bool isOwnersOwnGroup(uid_t owner, gid_t group) {
@@ -68,15 +69,6 @@ bool isTrusted(const fs::path& path, int descriptor) {
            isTrustedFolder(itself.parent_path());
 }
 
-// Opening a FIFO would wait for a writer.
-Descriptor openRegular(const fs::path& path) {
-    Descriptor file(::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC));
-    struct stat status = {};
-    if (file.isOpen() && (::fstat(file.get(), &status) != 0 || !S_ISREG(status.st_mode)))
-        return Descriptor();
-    return file;
-}
-
 // One piece over the limit shows that there is more.
 bool readAll(int descriptor, std::string& text) {
     std::array<char, 8192> piece{};
@@ -99,7 +91,7 @@ void cutToWholeLines(std::string& text) {
 }  // namespace
 
 std::optional<std::string> readSettingsFile(const fs::path& path, WrittenBy writer) {
-    const Descriptor file = openRegular(path);
+    const Descriptor file(openRegular(path, O_RDONLY));
     if (!file.isOpen()) return std::nullopt;
     if (writer == WrittenBy::UserOrRoot && !isTrusted(path, file.get())) return std::nullopt;
     std::string text;
@@ -109,7 +101,7 @@ std::optional<std::string> readSettingsFile(const fs::path& path, WrittenBy writ
 }
 
 bool isTrusted(const fs::path& path) {
-    const Descriptor file = openRegular(path);
+    const Descriptor file(openRegular(path, O_RDONLY));
     return file.isOpen() && isTrusted(path, file.get());
 }
 

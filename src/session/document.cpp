@@ -94,12 +94,18 @@ std::string loadNote(ApplicationState& state, const fs::path& path, const ReadRe
     return entryCountText(state.language, read.script.entryCount()) + remarks;
 }
 
-// Where changes go that were not saved: "login (unsaved).qds", "login (unsaved 2).qds", ...
+// Where changes go that were not saved: "login (unsaved).qds", "login (unsaved 2).qds", ... A name
+// that is too long for that is cut at a whole character.
 fs::path unsavedName(const fs::path& script, int number) {
+    constexpr std::size_t longestName = 255;
     const std::string mark = number == 1 ? "" : " " + std::to_string(number);
-    fs::path name = script.parent_path() / script.stem();
-    name += " (unsaved" + mark + ").qds";
-    return name;
+    const std::string ending = " (unsaved" + mark + ").qds";
+    std::string stem = script.stem();
+    std::size_t length = std::min(stem.size(), longestName - ending.size());
+    while (length < stem.size() && (static_cast<unsigned char>(stem[length]) & 0xC0) == 0x80)
+        --length;
+    stem.resize(length);
+    return script.parent_path() / (stem + ending);
 }
 
 // The name of the latest such copy that is newer than the script itself; empty for none.

@@ -29,11 +29,11 @@ void splice(Script& script, std::size_t at, std::size_t count,
 
 }  // namespace
 
-void UndoHistory::record(const ScriptView& before, const ScriptView& after, std::string name) {
+bool UndoHistory::record(const ScriptView& before, const ScriptView& after, std::string name) {
     const auto& old = before.script.entries;
     const auto& now = after.script.entries;
     const auto difference = std::ranges::mismatch(old, now);
-    if (difference.in1 == old.end() && difference.in2 == now.end()) return;
+    if (difference.in1 == old.end() && difference.in2 == now.end()) return false;
     const auto start = static_cast<std::size_t>(difference.in1 - old.begin());
     std::size_t oldEnd = old.size();
     std::size_t newEnd = now.size();
@@ -45,14 +45,15 @@ void UndoHistory::record(const ScriptView& before, const ScriptView& after, std:
     steps_.push_back({std::move(name), start, part(old, start, oldEnd), part(now, start, newEnd),
                       before.selection, after.selection});
     done_ = steps_.size();
+    return true;
 }
 
-void UndoHistory::extend(const ScriptView& before, const ScriptView& after) {
+bool UndoHistory::extend(const ScriptView& before, const ScriptView& after) {
     std::string name = undoName();
     ScriptView start = before;
     if (auto selection = undo(start.script)) start.selection = *std::move(selection);
     steps_.erase(steps_.begin() + static_cast<std::ptrdiff_t>(done_), steps_.end());
-    record(start, after, std::move(name));
+    return record(start, after, std::move(name));
 }
 
 std::string UndoHistory::undoName() const {

@@ -33,10 +33,11 @@ struct ScriptView {
 class UndoHistory {
   public:
     /// Records the change from `before` to `after` under a name that menus show ("Delete 3
-    /// Entries"). A change that left the script as it was is no step.
-    void record(const ScriptView& before, const ScriptView& after, std::string name);
+    /// Entries"). A change that left the script as it was is no step, and gives false.
+    bool record(const ScriptView& before, const ScriptView& after, std::string name);
     /// Makes the change from `before` to `after` part of the last step, which led to `before`.
-    void extend(const ScriptView& before, const ScriptView& after);
+    /// Gives false when both together left the script as it was, and are no step any more.
+    bool extend(const ScriptView& before, const ScriptView& after);
 
     [[nodiscard]] bool canUndo() const { return done_ > 0; }
     [[nodiscard]] bool canRedo() const { return done_ < steps_.size(); }

@@ -31,7 +31,14 @@ QString cut(const QString& text, qsizetype length) {
     return text.left(text.at(length - 1).isHighSurrogate() ? length - 1 : length);
 }
 
-// A base name from "language.ini" stays below the folder even when it begins with a separator.
+// "language.ini" may lie in a folder that anybody may write: its name must not lead to a library of
+// theirs, whose sum would be theirs too.
+bool staysBelowFolders(const std::string& baseName) {
+    const fs::path name = fs::path(baseName).relative_path().lexically_normal();
+    return !name.empty() && *name.begin() != "..";
+}
+
+// A base name that begins with a separator stays below the folder too.
 fs::path libraryPath(const fs::path& folder, const std::string& baseName) {
     return folder / fs::path(baseName + extension).relative_path();
 }
@@ -74,12 +81,15 @@ LanguageLibrary::~LanguageLibrary() = default;
 
 std::optional<LanguageNotice> LanguageLibrary::load(const LanguageFolders& folders) {
     const auto baseName = languageBaseName(folders.configDir);
+    const fs::path last = libraryPath(folders.installDir, baseName);
+    const LanguageNotice missing = {last.string(), "Unable to load language library"};
+    unload();
+    if (!staysBelowFolders(baseName)) return missing;
     for (const auto& folder : {folders.programDir, folders.programDir / dataFolder}) {
         if (loadFile(libraryPath(folder, baseName))) return std::nullopt;
     }
-    const fs::path last = libraryPath(folders.installDir, baseName);
     if (isTrusted(last) && loadFile(last)) return std::nullopt;
-    return LanguageNotice{last.string(), "Unable to load language library"};
+    return missing;
 }
 
 // Read here and not by the toolkit, which goes on with shorter names ("qdstring" for a missing

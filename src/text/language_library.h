@@ -57,8 +57,9 @@ class LanguageLibrary {
     // loaded; otherwise the notice to show: all texts are then empty, and the program goes on.
     //
     // A library is passed over like a missing one when it is not what was built, as "NAME.qm.sum"
-    // beside it says: the toolkit crashes on a damaged one. That of an `installDir` elsewhere also
-    // when anybody but the user and root may have written it, for that may be any current folder.
+    // beside it says: the toolkit crashes on a damaged one. So is one whose name leads out of these
+    // folders, and that of an `installDir` elsewhere also when anybody but the user and root may
+    // have written it, for that may be any current folder.
     [[nodiscard]] std::optional<LanguageNotice> load(const LanguageFolders& folders);
 
     // Drops the texts; loadText then gives empty ones.

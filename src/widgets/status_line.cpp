@@ -1,5 +1,7 @@
 #include "widgets/status_line.h"
 
+#include "widgets/tool_tip.h"
+
 #include <QPainter>
 #include <QStyle>
 
@@ -12,7 +14,7 @@ StatusLine::StatusLine(QWidget* parent) : QLabel(parent) {
 
 void StatusLine::setLine(const QString& line) {
     setText(line);
-    setToolTip(fontMetrics().horizontalAdvance(line) > width() ? line : QString());
+    setToolTip(fontMetrics().horizontalAdvance(line) > width() ? wrappingToolTip(line) : QString());
 }
 
 void StatusLine::paintEvent(QPaintEvent*) {

@@ -14,7 +14,9 @@ namespace quendra {
 std::string interfaceLanguage(const std::filesystem::path& configDir) {
     const std::string library = languageBaseName(configDir);
     const std::size_t at = library.find('_');
-    return at == std::string::npos ? std::string() : library.substr(at + 1);
+    // It becomes a part of names of files, and must not lead to other folders.
+    const bool isName = at != std::string::npos && library.find('/', at) == std::string::npos;
+    return isName ? library.substr(at + 1) : std::string();
 }
 
 void useToolkitLanguage(const std::filesystem::path& configDir) {

@@ -129,8 +129,12 @@ TEST_F(DocumentTest, FilesThatAreNotWholeAreToldOfAndKeptByTheFirstSaveOnly) {
 TEST_F(DocumentTest, ChangesAtTheEndOfTheSessionAreKeptBesideTheScriptAndToldOf) {
     const Bytes other = bytesOf("other");
     file("b (unsaved).qds", other);
-    const std::tuple<const char*, HostType, std::uint32_t, const char*> rows[] = {
+    // Of 255 bytes, an "ä" across the cut.
+    const std::string longest = std::string(240, 'n') + "\u00e4" + std::string(9, 'n') + ".qds";
+    const std::string cut = std::string(240, 'n') + " (unsaved).qds";
+    const std::tuple<std::string, HostType, std::uint32_t, std::string> rows[] = {
         {"a.qds", HostType::Mainframe, 213, "a (unsaved).qds"},
+        {longest, HostType::Mainframe, 201, cut},
         {"b.qds", HostType::UTS, 201, "b (unsaved 2).qds"},
         {"what VT cannot store", HostType::VT, 213, "what VT cannot store (unsaved).qds"},
         {"gone/c.qds", HostType::UTS, 201, "c (unsaved).qds"},
@@ -138,7 +142,7 @@ TEST_F(DocumentTest, ChangesAtTheEndOfTheSessionAreKeptBesideTheScriptAndToldOf)
     for (const auto& [name, hostType, menuCommand, kept] : rows) {
         SCOPED_TRACE(name);
         openedFile("source", scriptFile("QDMDSCR=", {menuRecord(menuCommand)}));
-        state.document.fileName = *name ? editor.folder / name : fs::path();
+        state.document.fileName = name.empty() ? fs::path() : editor.folder / name;
         state.currentHostType = hostType;
         EXPECT_EQ(keepUnsavedScript(state), std::nullopt) << "nothing has changed";
         state.document.modified = true;

@@ -175,6 +175,13 @@ TEST_F(EditingWindowTest, AKeyHeldDownMovesInOneStep) {
     expectScript("2|1|3|4|5", {1}, 1);
     run(Undo);
     expectScript("1|2|3|4|5", {0}, 0);
+    // Past an entry that is just the same, there is no step yet that could go on.
+    open("b.qds",
+         scriptFile("QDTDSCR=", {commentRecord("a"), commentRecord("a"), commentRecord("b")}));
+    press(script(), Qt::Key_Down, Qt::ControlModifier);
+    holdDown(1);
+    EXPECT_EQ(menuText(Undo), "&Undo Move 1 Entry");
+    expectScript("a|b|a", {2}, 2);
 }
 
 TEST_F(EditingWindowTest, InsertScriptTakesAnotherFileInOneStepAndLeavesItAlone) {

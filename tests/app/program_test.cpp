@@ -47,7 +47,9 @@ class ProgramTest : public testing::Test {
     int run(const char* arguments) {
         QProcess program;
         start(program, QString::fromLatin1(arguments).split(QLatin1Char(' ')));
-        return exitCodeOf(program);
+        const int code = exitCodeOf(program);
+        said = program.readAllStandardError().toStdString();
+        return code;
     }
 
     std::ptrdiff_t sockets() {
@@ -60,6 +62,8 @@ class ProgramTest : public testing::Test {
     const QString editor =
         QCoreApplication::applicationDirPath() + QStringLiteral("/quendra-script-editor");
     const TemporaryFolder folder;
+    /// On standard error, by the last run.
+    std::string said;
 };
 
 TEST_F(ProgramTest, EndsInOrderWhenTheSystemAsksItTo) {
@@ -88,6 +92,7 @@ TEST_F(ProgramTest, DrawsItsWindowAsAskedAndRefusesWhatItCannotDo) {
     EXPECT_EQ(run("--screenshot picture.png --scale 3"), 0);
     EXPECT_EQ(QImage(at("picture.png")).size(), QSize(1878, 1230)) << "not cut to the screen";
     EXPECT_EQ(run("--screenshot missing/picture.png"), 1);
+    EXPECT_NE(said.find("missing/picture.png"), std::string::npos) << said;
     writeBytes(folder / "letter.qds", bytesOf("dear all"));
     EXPECT_EQ(run("letter.qds --screenshot refused.png"), 0) << "no box waits for anybody";
     for (const char* wrong : {"--screenshot", "--screenshot p.png --size 0x5",

@@ -50,6 +50,12 @@ TEST(ConfiguredHelp, GivesWayToTheManualOnlyWhenThereIsNoneOrNothingStarts) {
         EXPECT_EQ(showConfiguredHelp(settings, launchers), shown);
         EXPECT_EQ(tried, expected);
     }
+    const TemporaryFolder anybodys;
+    std::filesystem::permissions(anybodys.path(), std::filesystem::perms(0777));
+    StartupSettings planted;
+    planted.helpFilePath = anybodys / "quendra.chm";
+    std::ofstream(planted.helpFilePath) << "x";
+    EXPECT_FALSE(showConfiguredHelp(planted, {[](auto&&...) { return true; }, {}}));
     StartupSettings relative;
     relative.helpFilePath = "-x.chm";
     EXPECT_EQ(helpViewerCommands(relative).at(1).arguments.at(0).front(), '/') << "no option";

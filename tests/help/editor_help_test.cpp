@@ -6,6 +6,7 @@
 #include "help/made_up_manual.h"
 #include "help/page_view.h"
 #include "support/editor_fixture.h"
+#include "widgets/toolkit_language.h"
 
 #include <QDialog>
 #include <QListView>
@@ -95,6 +96,9 @@ TEST_F(EditorHelpTest, HelpStartsWhatIsInstalledElseTheManualInTheLanguageOfTheI
     EXPECT_EQ(started.size(), 3U) << "all viewers were tried";
     EXPECT_TRUE(answers.messages.empty());
     EXPECT_TRUE(manual()->findChild<PageView*>()->toPlainText().contains(u"Der Editor"));
+    std::ofstream(state.settings.configDir / "language.ini")
+        << "[Language]\nLanguage=qdstring_x/../../planted\n";
+    EXPECT_EQ(interfaceLanguage(state.settings.configDir), "") << "no way to other folders";
 }
 
 TEST_F(EditorHelpTest, SelectionLeadsToItsPage) {

@@ -181,7 +181,7 @@ TEST_F(RegistryFiles, AnIdentityIsFoundOnceItIsThereAndAnUnreadableFileIsToldFro
     write("quendra/registry.ini", "[Identities]\n");
     EXPECT_EQ(identity() + identity(), "");
     write("quendra/registry.ini", "[Identities]\nDefault User ID={1}\n");
-    EXPECT_EQ(identity(), "{1}");
+    EXPECT_EQ(identity() + identity(), "{1}{1}");
     EXPECT_FALSE(unreadableUserRegistry(environment));
     fs::remove(folder / "quendra/registry.ini");
     fs::create_directory(folder / "quendra/registry.ini");

@@ -71,6 +71,9 @@ TEST_F(LanguageLibraryTest, MissingIsReportedWithTheLastPathAndNotReplacedByASho
     EXPECT_EQ(library.loadText(textid::cancelButton), "");
     configure("Language=" + (german.parent_path() / german.stem()).string());
     EXPECT_TRUE(library.load(folders)) << "an absolute name stays below the folders";
+    put(german, "elsewhere/qdstring.qm");
+    configure("Language=../../elsewhere/qdstring");
+    EXPECT_TRUE(library.load(folders)) << "so does one that leads up";
     configure("Language=");
     EXPECT_EQ(cancelAfterLoad(), "Cancel");
     configure("LANGUAGE=\"" + std::string(70, 'n') + "\"");

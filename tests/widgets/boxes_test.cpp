@@ -1,8 +1,9 @@
-// The real message boxes and file dialogs, answered by keys as a user would.
+// The real message boxes and file dialogs, answered by keys as a user would; the status line.
 #include "support/fixtures.h"
 #include "support/temporary_folder.h"
 #include "widgets/file_dialogs.h"
 #include "widgets/message_box.h"
+#include "widgets/status_line.h"
 
 #include <QApplication>
 #include <QLabel>
@@ -65,6 +66,13 @@ TEST(MessageBoxTest, IsWideEnoughForItsTitleAndForEveryPieceOfItsText) {
         });
         showMessage(nullptr, {text, title});
     }
+}
+
+TEST(StatusLineTest, TheToolTipOfWhatIsCutShowsItAsItStands) {
+    StatusLine line;
+    line.resize(20, 20);
+    line.setLine(QStringLiteral("<b>bold</b>.qds saved"));
+    EXPECT_TRUE(line.toolTip().contains(QStringLiteral("&lt;b&gt;bold")));
 }
 
 TEST(FileDialogTest, StartsInTheFolderAddsTheExtensionAndNeverAsksToOverwrite) {
