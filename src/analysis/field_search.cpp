@@ -46,6 +46,7 @@ std::vector<std::string> makeSearchableFieldNames() {
 }  // namespace
 
 bool FieldFilter::takes(Slot slot, const EntryField& field) const {
+    if (hostType_ == HostType::VT && !field.inVt) return false;
     if (names_.empty()) return true;
     return std::ranges::any_of(names_, [&](const std::string& name) {
         return name == fieldPath(Slot::Entry, field) || name == fieldPath(slot, field);
@@ -60,7 +61,9 @@ std::span<const std::string> searchableFieldNames() {
 bool isSearchableFieldName(std::string_view name) {
     for (const Slot slot : {Slot::Then, Slot::Else}) {
         const std::string prefix = std::string(slotName(slot)) + ".";
-        if (name.starts_with(prefix)) return isSearchableFieldName(name.substr(prefix.size()));
+        if (!name.starts_with(prefix)) continue;
+        name.remove_prefix(prefix.size());
+        break;
     }
     const auto names = searchableFieldNames();
     return std::ranges::find(names, name) != names.end();

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "analysis/script_outline.h"
+#include "hosts/host_type.h"
 #include "model/entry_fields.h"
 #include "text/text_pattern.h"
 
@@ -16,16 +17,19 @@
 namespace quendra {
 
 /// Which fields are meant: "text" is that of a step and of its actions, "then.text" of that action
-/// only, "transferSettings.hostFileName" a part of a field. Without names all of them.
+/// only, "transferSettings.hostFileName" a part of a field. Without names all of them. Fields that
+/// a script of the host type does not store are none.
 class FieldFilter {
   public:
     FieldFilter() = default;
-    explicit FieldFilter(std::vector<std::string> names) : names_(std::move(names)) {}
+    explicit FieldFilter(std::vector<std::string> names, HostType hostType = HostType::Mainframe)
+        : names_(std::move(names)), hostType_(hostType) {}
 
     [[nodiscard]] bool takes(Slot slot, const EntryField& field) const;
 
   private:
     std::vector<std::string> names_;
+    HostType hostType_ = HostType::Mainframe;
 };
 
 /// The names that a filter knows, apart from those that begin with a slot, in the order of the

@@ -58,6 +58,9 @@ class ChangeMaker {
 
     void change(Slot slot, const EntryField& field, std::string_view before, std::string after,
                 ChangeFault fault) {
+        if (fault == ChangeFault::None && !isText(field.kind)) {
+            if (const auto number = numberOf(after)) after = std::to_string(*number);
+        }
         if (before == after && fault == ChangeFault::None) return;
         if (fault == ChangeFault::None) fault = faultOf(field, after);
         changes_.fields.push_back(

@@ -44,7 +44,8 @@ bool isUnset(const DateTime& date) {
 
 bool isDate(const DateTime& date) {
     using namespace std::chrono;
-    return (year(date.year) / month(date.month) / day(date.day)).ok();
+    // A calendar has a year 0, a date that is set has none.
+    return date.year != 0 && (year(date.year) / month(date.month) / day(date.day)).ok();
 }
 
 // Both 0, as older versions load them: the whole screen.
@@ -83,7 +84,7 @@ void StepRules::checkSlot(const ScriptEntry& entry, Slot slot) {
         case CommandCode::Return: return;
         case CommandCode::LuFunction: return checkKey(step, slot);
         case CommandCode::MenuCommand: checkMenuCommand(step, slot); break;
-        case CommandCode::WaitUntil: checkDate(step, slot); break;
+        case CommandCode::WaitUntil: checkDate(entry, slot); break;
         case CommandCode::Type: checkTyped(step, slot); break;
         case CommandCode::WaitFor:
             if (slot == Slot::Entry) checkWaitFor(entry);
@@ -135,10 +136,13 @@ void StepRules::checkNumber(const ScriptEntry& entry, Slot slot, const EntryFiel
             std::to_string(std::get<std::uint32_t>(value)), rangeText(field)});
 }
 
-void StepRules::checkDate(const Step& step, Slot slot) {
-    const DateTime& date = step.waitUntil;
+void StepRules::checkDate(const ScriptEntry& entry, Slot slot) {
+    const DateTime& date = slotFields(entry, slot).waitUntil;
     // Outside of their ranges the numbers themselves are told.
-    if (isUnset(date) || date.month > 12 || date.day > 31 || isDate(date)) return;
+    const EntryField& yearField = fieldsOf(entry, slot).front();
+    const bool isTold =
+        !isInRange(yearField, std::uint32_t{date.year}) || date.month > 12 || date.day > 31;
+    if (isUnset(date) || isTold || isDate(date)) return;
     const auto number = [](unsigned part) { return std::to_string(part); };
     report(Rule::ValueRange, slot, textid::checkNoSuchDate,
            {number(date.year) + "-" + number(date.month) + "-" + number(date.day)});

@@ -23,7 +23,7 @@ class StepRules {
     void checkFields(const ScriptEntry& entry, Slot slot);
     void checkText(const ScriptEntry& entry, Slot slot, const EntryField& field);
     void checkNumber(const ScriptEntry& entry, Slot slot, const EntryField& field);
-    void checkDate(const Step& step, Slot slot);
+    void checkDate(const ScriptEntry& entry, Slot slot);
     void checkKey(const Step& step, Slot slot);
     void checkMenuCommand(const Step& step, Slot slot);
     void checkTransfer(const Step& step, Slot slot);

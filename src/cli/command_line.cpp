@@ -39,6 +39,20 @@ Announcement unknown(const std::string& kind, const std::string& word,
                       "s are " + listed(known));
 }
 
+// Some options of the parser take "[a,b]" for a list of two. Behind a mark that no argument can
+// hold, a file or an expression of that form is a word like any other.
+constexpr char wordMark = '\0';
+
+std::string marked(const std::string& argument) {
+    const bool looksLikeList = argument.starts_with('[') && argument.ends_with(']');
+    return looksLikeList ? wordMark + argument : argument;
+}
+
+std::string unmarked(std::string argument) {
+    std::erase(argument, wordMark);
+    return argument;
+}
+
 // The parser and what it fills. The lists of files are read from their options as they were typed,
 // since the parser's conversion drops a file called "{}".
 struct Parser {
@@ -106,6 +120,10 @@ Parser::Parser() {
     addMerge();
     texts = app.add_subcommand("texts", "Print every text of the user interface by its number")
                 ->group("Commands");
+    for (CLI::App* command : app.get_subcommands({})) {
+        for (CLI::Option* option : command->get_options())
+            option->transform(unmarked);
+    }
 }
 
 CLI::Option* Parser::addFiles(CLI::App& command, const std::string& help) {
@@ -332,12 +350,6 @@ Request mergeRequestOf(const Parser& parser) {
     return request;
 }
 
-// The parser would take a file called "[a,b]" for a list of two.
-std::string asFileName(const std::string& argument) {
-    const bool looksLikeList = argument.starts_with('[') && argument.ends_with(']');
-    return looksLikeList ? "./" + argument : argument;
-}
-
 Request requestOf(const Parser& parser) {
     if (parser.show->parsed()) {
         ShowRequest request = parser.showRequest;
@@ -428,14 +440,14 @@ Request parseArguments(const std::vector<std::string>& arguments) {
     try {
         // The parser takes its arguments from the back.
         std::vector<std::string> reversed(arguments.rbegin(), arguments.rend());
-        std::ranges::transform(reversed, reversed.begin(), asFileName);
+        std::ranges::transform(reversed, reversed.begin(), marked);
         parser.app.parse(std::move(reversed));
     } catch (const CLI::CallForHelp&) {
         return Announcement{parser.app.help()};
     } catch (const CLI::CallForVersion& version) {
         return Announcement{std::string(version.what()) + "\n"};
     } catch (const CLI::ParseError& error) {
-        return wrongUsage(error.what());
+        return wrongUsage(unmarked(error.what()));
     }
     return requestOf(parser);
 }

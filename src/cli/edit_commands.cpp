@@ -31,7 +31,8 @@ std::string shown(std::string_view windows1252) {
 class ScriptEdit {
   public:
     /// What is to be changed in a script; none when the file is refused, which was reported.
-    using Changes = std::function<std::optional<ScriptChanges>(const std::string&, const Script&)>;
+    using Changes =
+        std::function<std::optional<ScriptChanges>(const std::string&, const ReadResult&)>;
 
     ScriptEdit(Environment& environment, bool isDryRun, Changes changes)
         : environment_(environment), isDryRun_(isDryRun), changes_(std::move(changes)) {}
@@ -54,7 +55,7 @@ class ScriptEdit {
         if (!source) return false;
         ReadResult& read = source->read;
         if (!reportReading(environment_, file, read)) return false;
-        const auto changes = changes_(file, read.script);
+        const auto changes = changes_(file, read);
         if (!changes) return false;
         if (changes->fields.empty()) return true;
         const HostType hostType = read.signature.hostType;
@@ -101,13 +102,13 @@ class ScriptEdit {
 }  // namespace
 
 int replaceInScripts(const ReplaceRequest& request, Environment& environment) {
-    const FieldFilter filter(request.search.fields);
     const TextPattern& pattern = *request.search.pattern;
     const auto changes = [&](const std::string& file,
-                             const Script& script) -> std::optional<ScriptChanges> {
-        ScriptChanges made = replaceInFields(script, pattern, request.replacement, filter);
-        if (!pattern.gaveUp()) return made;
-        report(environment, file, gaveUpMessage);
+                             const ReadResult& read) -> std::optional<ScriptChanges> {
+        const FieldFilter filter(request.search.fields, read.signature.hostType);
+        ScriptChanges made = replaceInFields(read.script, pattern, request.replacement, filter);
+        if (!pattern.takeGaveUp()) return made;
+        report(environment, file, "the expression tries too many ways; the file is left as it is");
         return std::nullopt;
     };
     return ScriptEdit(environment, request.isDryRun, changes).run(request.files);
@@ -115,10 +116,10 @@ int replaceInScripts(const ReplaceRequest& request, Environment& environment) {
 
 int renameLabelInScripts(const RenameLabelRequest& request, Environment& environment) {
     const auto changes = [&](const std::string& file,
-                             const Script& script) -> std::optional<ScriptChanges> {
-        ScriptChanges made = renameLabel(script, request.before, request.after);
+                             const ReadResult& read) -> std::optional<ScriptChanges> {
+        ScriptChanges made = renameLabel(read.script, request.before, request.after);
         if (made.fields.empty()) return made;
-        const auto existing = definitionOfLabel(script, request.after);
+        const auto existing = definitionOfLabel(read.script, request.after);
         if (!existing) return made;
         const StepPlace& first = made.fields.front().place;
         report(environment, file,

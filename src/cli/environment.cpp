@@ -152,7 +152,7 @@ bool writeOutput(Environment& environment, const std::string& file,
 bool replaceSource(Environment& environment, const std::string& file,
                    std::span<const std::uint8_t> bytes, const FileContent& source) {
     if (fileStamp(file) != source.stamp) {
-        report(environment, file, "the file changed while it was converted");
+        report(environment, file, "the file was changed by another program meanwhile");
         return false;
     }
     return writeOutput(environment, file, bytes, source);

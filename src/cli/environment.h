@@ -95,10 +95,6 @@ bool reportReading(Environment& environment, const std::string& file, const Read
 [[nodiscard]] bool writeMerged(Environment& environment, const std::string& file,
                                std::span<const std::uint8_t> bytes, const FileContent& ours);
 
-/// For an expression whose search was given up in some text.
-inline constexpr const char* gaveUpMessage =
-    "qds: the expression tries too many ways; texts in which that was so are left out";
-
 /// The cipher of the user who runs the program. Reports each step of it that fails.
 struct UserCipher {
     explicit UserCipher(Environment& environment);

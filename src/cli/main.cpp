@@ -4,10 +4,13 @@
 #include "platform/standard_streams.h"
 #include "settings/startup.h"
 
+#include <algorithm>
+#include <array>
 #include <cerrno>
 #include <exception>
 #include <ostream>
 #include <span>
+#include <string_view>
 
 namespace {
 
@@ -30,6 +33,15 @@ int run(const std::vector<std::string>& arguments, std::ostream& out, std::ostre
     }
 }
 
+// What a command ends with that could not write what it found: of some, 1 says that they found
+// something, or nothing.
+int lostOutputStatus(const std::vector<std::string>& arguments) {
+    constexpr std::array<std::string_view, 4> commands = {"check", "grep", "diff", "merge"};
+    const bool hasTrouble =
+        !arguments.empty() && std::ranges::find(commands, arguments.front()) != commands.end();
+    return hasTrouble ? statusTrouble : statusRefused;
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -48,7 +60,7 @@ int main(int argc, char** argv) {
     // A reader that has seen enough goes away; that is no fault.
     if (const auto& failure = outBuffer.failure(); failure && failure->code != EPIPE) {
         err << "qds: standard output: " << failure->message << std::endl;
-        if (status == statusWell) status = statusRefused;
+        status = std::max(status, lostOutputStatus(arguments));
     }
     err.flush();
     return status;

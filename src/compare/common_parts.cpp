@@ -119,4 +119,16 @@ std::vector<CommonPlace> longestCommonPart(std::span<const std::uint32_t> left,
     return places;
 }
 
+std::size_t countAlike(std::string_view left, std::string_view right) {
+    const std::size_t shorter = std::min(left.size(), right.size());
+    std::size_t start = 0;
+    while (start < shorter && left[start] == right[start])
+        ++start;
+    std::size_t end = 0;
+    while (end < shorter - start && left[left.size() - 1 - end] == right[right.size() - 1 - end]) {
+        ++end;
+    }
+    return start + end;
+}
+
 }  // namespace quendra

@@ -1,9 +1,10 @@
-// What two lists have in common, in order.
+// What two lists, or two texts, have in common in the same order.
 #pragma once
 
 #include <cstddef>
 #include <cstdint>
 #include <span>
+#include <string_view>
 #include <vector>
 
 namespace quendra {
@@ -21,5 +22,8 @@ struct CommonPlace {
 /// of all pairs would, and as many bits of memory as there are pairs: for scripts two megabytes.
 [[nodiscard]] std::vector<CommonPlace> longestCommonPart(std::span<const std::uint32_t> left,
                                                          std::span<const std::uint32_t> right);
+
+/// How many characters both texts begin and end with.
+[[nodiscard]] std::size_t countAlike(std::string_view left, std::string_view right);
 
 }  // namespace quendra

@@ -3,6 +3,7 @@
 #include "compare/common_parts.h"
 #include "model/command_names.h"
 #include "model/entry_fields.h"
+#include "model/menu_commands.h"
 #include "scriptfile/entry_codec.h"
 
 #include <algorithm>
@@ -95,19 +96,6 @@ struct Rest {
     std::vector<std::string> texts;
 };
 
-// How many characters both texts begin and end with.
-std::size_t countAlike(std::string_view left, std::string_view right) {
-    const std::size_t shorter = std::min(left.size(), right.size());
-    std::size_t start = 0;
-    while (start < shorter && left[start] == right[start])
-        ++start;
-    std::size_t end = 0;
-    while (end < shorter - start && left[left.size() - 1 - end] == right[right.size() - 1 - end]) {
-        ++end;
-    }
-    return start + end;
-}
-
 class DiffMaker {
     using Worth = std::uint64_t;
 
@@ -181,7 +169,7 @@ class DiffMaker {
         for (const std::size_t step : rest.steps) {
             const ScriptEntry& entry = unpacker_.unpack(script.entries[step]);
             rest.hashes.push_back(fieldHashes(entry));
-            rest.texts.emplace_back(textOf(entry));
+            rest.texts.emplace_back(tellingText(entry));
         }
         return rest;
     }
@@ -359,6 +347,13 @@ std::vector<FieldDifference> fieldDifferences(const ScriptEntry& left, const Scr
         addSlotDifferences(slot, SlotSide(left, slot), SlotSide(right, slot), differences);
     }
     return differences;
+}
+
+std::string_view tellingText(const ScriptEntry& entry) {
+    if (entry.code == CommandCode::MenuCommand && isFileTransfer(entry.commandId)) {
+        return transferText(entry.transferSettings, transfer::hostFileName);
+    }
+    return textOf(entry);
 }
 
 }  // namespace quendra

@@ -7,6 +7,7 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace quendra {
@@ -66,5 +67,9 @@ struct FieldDifference {
 /// command of an action is a field of its own, "then.command".
 [[nodiscard]] std::vector<FieldDifference> fieldDifferences(const ScriptEntry& left,
                                                             const ScriptEntry& right);
+
+/// The text by which a reader knows an entry from others of its command: its own, or the host file
+/// of a transfer; empty where there is none or it is hidden.
+[[nodiscard]] std::string_view tellingText(const ScriptEntry& entry);
 
 }  // namespace quendra

@@ -1,6 +1,7 @@
 #include "compare/script_merge.h"
 
 #include "compare/common_parts.h"
+#include "compare/edited_neighbours.h"
 #include "compare/entry_merge.h"
 #include "compare/script_diff.h"
 #include "scriptfile/entry_codec.h"
@@ -24,25 +25,25 @@ struct Arrival {
 };
 
 // What a side made of the base.
-struct SideChanges {
-    const Script& script;
-    ScriptDiff diff;
+struct SideChanges : ComparedSide {
     /// What came behind each of the base's steps that stayed; first what came before all of them.
     std::vector<std::vector<Arrival>> arrivals;
 
     SideChanges(const Script& base, const Script& side)
-        : script(side), diff(diffScripts(base, side)), arrivals(base.entryCount() + 1) {
+        : ComparedSide{side, diffScripts(base, side)}, arrivals(base.entryCount() + 1) {}
+
+    void collectArrivals() {
         std::size_t place = 0;
-        for (std::size_t step = 0; step < side.entryCount(); ++step) {
+        for (std::size_t step = 0; step < script.entryCount(); ++step) {
             const StepFate& fate = diff.right[step];
             switch (fate.change) {
                 case StepChange::Same:
                 case StepChange::Changed: place = fate.other + 1; break;
                 case StepChange::Moved:
-                    arrivals[place].push_back({side.entries[step], fate.other});
+                    arrivals[place].push_back({script.entries[step], fate.other});
                     break;
                 case StepChange::Single:
-                    arrivals[place].push_back({side.entries[step], std::nullopt});
+                    arrivals[place].push_back({script.entries[step], std::nullopt});
                     break;
             }
         }
@@ -80,6 +81,9 @@ class Merger {
                  commentOf(">>>>>>>", theirs.name)} {}
 
     MergeResult merge() {
+        readNeighboursForMerge(base_, ours_, theirs_);
+        ours_.collectArrivals();
+        theirs_.collectArrivals();
         addArrivals(0);
         for (std::size_t step = 0; step < base_.entryCount(); ++step) {
             const bool isMoved = ours_.fateOf(step) == StepChange::Moved ||

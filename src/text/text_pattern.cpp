@@ -116,7 +116,10 @@ std::vector<TextMatch> TextPattern::matches(std::string_view bytes) const {
             found.push_back({static_cast<std::size_t>(match.capturedStart()),
                              static_cast<std::size_t>(match.capturedLength())});
         }
-        if (!each.isValid()) matcher_->gaveUp = true;
+        // Behind a match of nothing at the end it is no more valid than after a failure.
+        const TextMatch atEnd = {bytes.size(), 0};
+        const bool isDone = !found.empty() && found.back() == atEnd;
+        if (!each.isValid() && !isDone) matcher_->gaveUp = true;
         return found;
     }
     for (auto match = matcher_->next(0); match;
@@ -128,6 +131,10 @@ std::vector<TextMatch> TextPattern::matches(std::string_view bytes) const {
 
 bool TextPattern::gaveUp() const {
     return matcher_->gaveUp;
+}
+
+bool TextPattern::takeGaveUp() const {
+    return std::exchange(matcher_->gaveUp, false);
 }
 
 std::variant<TextPattern, PatternFault> TextPattern::of(std::string_view pattern,

@@ -52,6 +52,8 @@ class TextPattern {
 
     /// Whether any text so far was left undecided.
     [[nodiscard]] bool gaveUp() const;
+    /// The same, and forgets it, for who asks about one script after the other.
+    [[nodiscard]] bool takeGaveUp() const;
 
     /// The pattern of a text in UTF-8, which is not empty.
     [[nodiscard]] static std::variant<TextPattern, PatternFault> of(std::string_view pattern,

@@ -6,6 +6,7 @@
 #include <iterator>
 #include <nlohmann/json.hpp>
 #include <set>
+#include <sys/stat.h>
 
 namespace quendra::test {
 namespace {
@@ -85,8 +86,11 @@ std::vector<Row> stepRows() {
             {"command": "Wait_Until", "waitUntil": {"year": 2023, "month": 2, "day": 29}},
             {"command": "Wait_Until", "waitUntil": {"hour": 23}},
             {"command": "Wait_Until", "waitUntil": {"year": 2023, "month": 0, "day": 5}},
-            {"command": "Wait_Until", "waitUntil": {"year": 2023, "month": 13, "day": 5}})",
-         {"2 entry value-range", "4 entry value-range", "5 entry value-range"}},
+            {"command": "Wait_Until", "waitUntil": {"year": 2023, "month": 13, "day": 5}},
+            {"command": "Wait_Until", "waitUntil": {"month": 4, "day": 30}},
+            {"command": "Wait_Until", "waitUntil": {"year": 1500, "month": 2, "day": 29}})",
+         {"2 entry value-range", "4 entry value-range", "5 entry value-range",
+          "6 entry value-range", "7 entry value-range"}},
         {"keys and menu commands",
          R"({"command": "LU_Function", "group": 200, "number": 1},
             {"command": "Menu_Command", "commandId": 200},
@@ -236,6 +240,7 @@ TEST_F(CheckCommand, GoesOverFoldersAndTellsTroubleFromFindings) {
     file("a/z.qds", clean);
     file("a/b/y.qds", clean);
     file("a/b/not-a-script.txt", faulty);
+    ASSERT_EQ(mkfifo(file("a/b/pipe.qds").c_str(), 0600), 0) << "nobody writes into it";
     EXPECT_EQ(runQds({"check", file("a")}).err, "qds: 2 scripts: 0 errors, 0 warnings\n");
     file("a/b/x.qds", faulty);
     const QdsRun found = runQds({"check", file("a")});

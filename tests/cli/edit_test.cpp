@@ -38,6 +38,7 @@ TEST_F(EditCommands, GrepNamesEveryFieldAndNeverAHiddenText) {
                              script + ":4:else.text: Retry12\n" + script + ":5:row: 12\n";
     EXPECT_EQ(grep({"12"}).out, hits);
     EXPECT_EQ(grep({"-E", "^[A-Z].*1.$|^12$"}).out, hits);
+    EXPECT_EQ(grep({"-E", "[12]"}).out, hits) << "no list of two patterns";
     EXPECT_EQ(grep({"--field", "text", "-i", "RETRY"}).out,
               script + ":1:text: Retry12\n" + script + ":4:else.text: Retry12\n");
     EXPECT_EQ(grep({"--field", "else.text", "2"}).out, script + ":4:else.text: Retry12\n");
@@ -46,7 +47,10 @@ TEST_F(EditCommands, GrepNamesEveryFieldAndNeverAHiddenText) {
     EXPECT_EQ(grep({"-E", "Secret$"}).status, 1) << "both hidden ones";
     EXPECT_EQ(grep({"retry"}).status, 1);
     EXPECT_EQ(grep({"-E", "("}).status, 2);
+    const auto vt = file("vt.qds", scriptFile("QDVTSCR=", {menuRecord(234)}));
+    EXPECT_EQ(runQds({"grep", "0", vt}).out, vt + ":1:commandData: 0\n") << "no settings in VT";
     EXPECT_EQ(grep({"--field", "hidden", "1"}).status, 2);
+    EXPECT_EQ(grep({"--field", "then.then.text", "1"}).status, 2);
     EXPECT_EQ(grep({"12", file("missing.qds")}).status, 2);
     EXPECT_EQ(grep({"12", file("missing.qds")}).out, hits);
 }
@@ -64,8 +68,12 @@ TEST_F(EditCommands, ReplaceChangesWhatItFindsAndNotOneByteMore) {
     EXPECT_EQ(readBytes(script + ".bak"), sample("Retry12", "12 12", 12));
     EXPECT_EQ(names(), (std::vector<std::string>{"a.qds", "a.qds.bak", "b.qds"}));
 
-    EXPECT_EQ(runQds({"replace", "-E", "--field", "text", "\\d", "\\0", script}).status, 0);
-    EXPECT_EQ(readBytes(script), sample("Retry\\0", "\\0 \\0", 7)) << "NEW is literal";
+    EXPECT_EQ(runQds({"replace", "-E", "--field", "text", "\\d", "[\\0]", script}).status, 0);
+    EXPECT_EQ(readBytes(script), sample("Retry[\\0]", "[\\0] [\\0]", 7)) << "NEW is literal";
+    EXPECT_EQ(runQds({"replace", "--dry-run", "--field", "row", "1", "001", other}).out, "")
+        << "no other number";
+    EXPECT_EQ(runQds({"replace", "--dry-run", "--field", "row", "-E", "x*|1", "2", other}).err,
+              "qds: 1 field in 1 file would be changed\n");
 }
 
 TEST_F(EditCommands, ReplaceRefusesTheWholeFileAndGoesOnWithTheNext) {
@@ -84,6 +92,12 @@ TEST_F(EditCommands, ReplaceRefusesTheWholeFileAndGoesOnWithTheNext) {
         EXPECT_EQ(run.status, 1);
         EXPECT_EQ(readBytes(bad), bytes);
     }
+    const auto endless = file("a.qds", sample(longText + "!", "b"));
+    const QdsRun run = runQds({"replace", "-E", "(a+)+$", "c", endless, good});
+    EXPECT_EQ(run.err, "qds: " + endless +
+                           ": the expression tries too many ways; the file is left " +
+                           "as it is\nqds: 2 fields in 1 file changed\n");
+    EXPECT_EQ(run.status, 1);
     EXPECT_EQ(runQds({"replace", "a", "b", "-"}).status, 2);
     EXPECT_EQ(runQds({"replace", "", "b", good}).status, 2);
 }

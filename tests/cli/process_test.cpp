@@ -68,9 +68,11 @@ TEST_F(Process, showsLinesInTheLanguageOfTheEditorAndMakesNoFolders) {
 
 TEST_F(Process, reportsAFullDiskAndAReaderThatGoesAway) {
     file("in.qds", script);
-    for (const char* line :
-         {"show in.qds", "show --json in.qds", "convert --output - in.qds", "texts"}) {
-        EXPECT_EQ(run(line + std::string(" >/dev/full 2>err")), 1) << line;
+    const std::pair<std::string, int> full[] = {
+        {"show in.qds", 1}, {"show --json in.qds", 1},        {"convert --output - in.qds", 1},
+        {"texts", 1},       {"diff --json in.qds in.qds", 2}, {"check --json in.qds", 2}};
+    for (const auto& [line, status] : full) {
+        EXPECT_EQ(run(line + " >/dev/full 2>err"), status) << line;
         EXPECT_EQ(readBytes(file("err")),
                   bytesOf("qds: standard output: No space left on device\n"));
     }

@@ -119,6 +119,17 @@ TEST(Diff, TellsChangedMovedGoneAndNewSteps) {
     }
 }
 
+TEST(Diff, KnowsATransferByItsHostFile) {
+    const auto transfer = [](std::string_view hostFile, std::uint32_t data) {
+        FileTransferSettings settings = defaultTransferSettings();
+        setTransferText(settings, transfer::hostFileName, hostFile);
+        return storeRecord(transferRecord(settings, 236, data, 0));
+    };
+    const ScriptDiff diff =
+        diffScripts({{transfer("a", 0)}}, {{transfer("b", 0), transfer("a", 1)}});
+    EXPECT_EQ(diff.left[0].other, 1U) << "each has one field that differs";
+}
+
 TEST(Diff, NamesEachFieldThatAloneWasChangedAndNoOther) {
     for (std::uint32_t code = 1; code <= 23; ++code) {
         if (!isCommandCode(code)) continue;
@@ -163,6 +174,14 @@ TEST(Merge, KeepsWhatEitherSideDid) {
         {"a12 b12", "a52 b12", "a72 b12", "<<<<<<<_O a52 ======= a72 >>>>>>>_T b12"},
         {"a12 b", "a52 b", "b", "<<<<<<<_O a52 ======= >>>>>>>_T b"},
         {"a12 b c", "b c", "b c a12", "b c <<<<<<<_O ======= a12 >>>>>>>_T"},
+        // Ours moved a behind b, and edited b: it is not gone, and not new.
+        {"a b12 c d", "b52 a c d", "a b15 c d", "b55 a c d"},
+        {"a b12 c d", "a c b52 d", "a b15 c d", "a c b55 d"},
+        {"a b12 c d", "b52 a c d", "a c d b12", "a c d b52"},
+        {"a b12 c12 d", "b52 c52 a d", "a b15 c15 d", "b55 c55 a d"},
+        {"a b12 c d", "b52 a c d", "b15 a c d", "b55 a c d"},
+        {"a b c d", "a c d", "a c b d", "a c d"},
+        {"a b12 c d", "x99 a c d", "a b15 c d", "x99 a <<<<<<<_O ======= b15 >>>>>>>_T c d"},
     };
     for (const auto& [base, ours, theirs, expected] : rows) {
         std::string wanted = expected;

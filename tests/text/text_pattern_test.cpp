@@ -33,7 +33,9 @@ TEST(TextPattern, FindsByCaseWordAndExpression) {
         {"a|ab", wordExpression, "ab a", {{0, 2}, {3, 1}}},
     };
     for (const auto& [text, options, bytes, matches] : rows) {
-        EXPECT_EQ(patternOf(text, options).matches(bytes), matches) << text;
+        const TextPattern pattern = patternOf(text, options);
+        EXPECT_EQ(pattern.matches(bytes), matches) << text;
+        EXPECT_FALSE(pattern.takeGaveUp()) << text;
         EXPECT_EQ(patternOf(text, options).isInWindows1252(bytes), !matches.empty()) << text;
     }
     EXPECT_TRUE(patternOf("\u0141", anyCase).isInUtf8("\u0142\u00f3d\u017a")) << "beyond the bytes";
@@ -46,6 +48,9 @@ TEST(TextPattern, RefusesBadExpressionsAndGivesUpEndlessOnes) {
     const TextPattern endless = patternOf("(a+)+$", {.isExpression = true});
     EXPECT_FALSE(endless.gaveUp());
     EXPECT_FALSE(endless.isInWindows1252(std::string(200, 'a') + "!"));
+    EXPECT_TRUE(endless.takeGaveUp());
+    EXPECT_FALSE(endless.gaveUp()) << "told once";
+    EXPECT_TRUE(endless.matches(std::string(200, 'a') + "!").empty());
     EXPECT_TRUE(endless.gaveUp());
 }
 
