@@ -1,6 +1,7 @@
 // qds: show, convert and build scripts on the command line.
 
 #include "cli/qds.h"
+#include "platform/process.h"
 #include "platform/standard_streams.h"
 #include "settings/startup.h"
 
@@ -45,6 +46,7 @@ int lostOutputStatus(const std::vector<std::string>& arguments) {
 }  // namespace
 
 int main(int argc, char** argv) {
+    quendra::forbidCoreFile();
     quendra::prepareStandardStreams();
     quendra::DescriptorBuffer outBuffer(1);
     quendra::DescriptorBuffer errBuffer(2);

@@ -145,8 +145,27 @@ class LineKnowledge {
             case CommandCode::Input:
                 return isAction ? isActionWord(text)
                                 : !hasEscapes(text) && text.find(" As ") == std::string_view::npos;
-            default: return isQuotable(text);
+            case CommandCode::None:
+            case CommandCode::LuFunction:
+            case CommandCode::MenuCommand:
+            case CommandCode::Beep:
+            case CommandCode::ClearWatch:
+            case CommandCode::IfInputIs:
+            case CommandCode::Message:
+            case CommandCode::Return:
+            case CommandCode::Run:
+            case CommandCode::SetCursor:
+            case CommandCode::Type:
+            case CommandCode::Wait:
+            case CommandCode::WaitFor:
+            case CommandCode::WaitReady:
+            case CommandCode::WaitUntil:
+            case CommandCode::WatchFor:
+            case CommandCode::ExpressLogon:
+            case CommandCode::Copy:
+            case CommandCode::Paste: break;
         }
+        return isQuotable(text);
     }
 
     [[nodiscard]] bool isPlain(std::string_view text) const {

@@ -31,12 +31,17 @@ std::filesystem::path programFile() {
     return std::filesystem::read_symlink("/proc/self/exe", error);
 }
 
+void forbidCoreFile() {
+    // Not by prctl(PR_SET_DUMPABLE): that would also close /dev/stdin to everybody but root.
+    const rlimit noCore = {0, 0};
+    ::setrlimit(RLIMIT_CORE, &noCore);
+}
+
 bool runApart(const std::function<void()>& work) {
     const pid_t process = ::fork();
     if (process < 0) return false;
     if (process == 0) {
-        const rlimit noCore = {0, 0};
-        ::setrlimit(RLIMIT_CORE, &noCore);
+        forbidCoreFile();
         work();
         ::_exit(0);
     }

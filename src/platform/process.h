@@ -12,6 +12,10 @@ namespace quendra {
 /// The file of the program that runs, links followed; empty when the system does not tell.
 [[nodiscard]] std::filesystem::path programFile();
 
+/// From now on the system makes no core file of this process, in which everything would lie that it
+/// has read.
+void forbidCoreFile();
+
 /// Does `work` in a process of its own, a copy of this one, and waits for it. True when it came
 /// back; a failure that ends it ends nothing else, and leaves no core file. For a process of one
 /// thread.
