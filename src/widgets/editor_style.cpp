@@ -99,18 +99,28 @@ QIcon extensionIcon() {
     }));
 }
 
-// Fusion derives its edges from the window's colour and from the selection's, too near to the
-// grounds to be seen by everybody. A copy of the option with others makes it draw edges that show;
-// nothing else of these parts has those colours.
+// Fusion derives its edges from the window's colour, too near to it to be seen by everybody. A copy
+// of the option with another makes it draw edges that show; nothing else of these parts has that
+// colour.
 template <class Option>
 Option withVisibleEdge(const Option& option) {
     constexpr int darkening = 140;
-    constexpr int focusDarkening = 125;
     Option visible = option;
-    const QPalette& palette = option.palette;
-    visible.palette.setColor(QPalette::Window, edgeColor(palette).lighter(darkening));
-    visible.palette.setColor(QPalette::Highlight, focusColor(palette).lighter(focusDarkening));
+    visible.palette.setColor(QPalette::Window, edgeColor(option.palette).lighter(darkening));
     return visible;
+}
+
+// Over Fusion's own, whose colour it makes lighter by itself.
+void drawFocusedField(const QStyleOption& option, const QRect& field, QPainter& painter) {
+    if (!option.state.testFlag(QStyle::State_HasFocus)) return;
+    constexpr qreal half = 0.5;
+    constexpr qreal radius = 2;
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(focusColor(option.palette));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRoundedRect(QRectF(field).adjusted(half, half, -half, -half), radius, radius);
+    painter.restore();
 }
 
 void drawEdge(const QStyleOption& option, QPainter& painter, bool focused) {
@@ -161,6 +171,7 @@ void EditorStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* op
     } else if (frame && element == PE_FrameLineEdit) {
         const auto visible = withVisibleEdge(*frame);
         QProxyStyle::drawPrimitive(element, &visible, painter, widget);
+        drawFocusedField(*frame, frame->rect, *painter);
     } else if (element == PE_FrameFocusRect) {
         drawEdge(*option, *painter, true);
     } else {
@@ -178,6 +189,7 @@ void EditorStyle::drawComplexControl(ComplexControl control, const QStyleOptionC
     } else if (spin && control == CC_SpinBox) {
         const auto visible = withVisibleEdge(*spin);
         QProxyStyle::drawComplexControl(control, &visible, painter, widget);
+        drawFocusedField(*spin, spin->rect.adjusted(0, 1, 0, -1), *painter);
     } else if (combo && control == CC_ComboBox) {
         const auto visible = withVisibleEdge(*combo);
         QProxyStyle::drawComplexControl(control, &visible, painter, widget);
