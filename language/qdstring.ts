@@ -4260,9 +4260,9 @@ Replace in all other fields?</translation>
         <extra-name>replaceRefused</extra-name>
     </message>
     <message id="17281">
-        <source>Entry %d, %s: %s</source>
+        <source>Step %d, %s: %s</source>
         <extracomment>Number of an entry, field, why it cannot be changed</extracomment>
-        <translation>Entry %d, %s: %s</translation>
+        <translation>Step %d, %s: %s</translation>
         <extra-name>changeRefused</extra-name>
     </message>
     <message id="17282">
@@ -4350,15 +4350,15 @@ Replace in all other fields?</translation>
         <extra-name>renameLabelField</extra-name>
     </message>
     <message id="17296">
-        <source>Entries that change: %d</source>
+        <source>Steps that change: %d</source>
         <extracomment>Rename Label</extracomment>
-        <translation>Entries that change: %d</translation>
+        <translation>Steps that change: %d</translation>
         <extra-name>renameLabelChanges</extra-name>
     </message>
     <message id="17297">
-        <source>There is a label of that name already, in entry %d.</source>
+        <source>There is a label of that name already, in step %d.</source>
         <extracomment>Rename Label</extracomment>
-        <translation>There is a label of that name already, in entry %d.</translation>
+        <translation>There is a label of that name already, in step %d.</translation>
         <extra-name>renameLabelExists</extra-name>
     </message>
     <message id="17298">

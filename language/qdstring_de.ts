@@ -3555,9 +3555,9 @@ In allen anderen Feldern ersetzen?</translation>
 %s</translation>
     </message>
     <message id="17281">
-        <source>Entry %d, %s: %s</source>
+        <source>Step %d, %s: %s</source>
         <extracomment>Number of an entry, field, why it cannot be changed</extracomment>
-        <translation>Eintrag %d, %s: %s</translation>
+        <translation>Schritt %d, %s: %s</translation>
     </message>
     <message id="17282">
         <source>nothing would be left</source>
@@ -3630,14 +3630,14 @@ In allen anderen Feldern ersetzen?</translation>
         <translation>&amp;Neuer Name:</translation>
     </message>
     <message id="17296">
-        <source>Entries that change: %d</source>
+        <source>Steps that change: %d</source>
         <extracomment>Rename Label</extracomment>
-        <translation>Einträge, die sich ändern: %d</translation>
+        <translation>Schritte, die sich ändern: %d</translation>
     </message>
     <message id="17297">
-        <source>There is a label of that name already, in entry %d.</source>
+        <source>There is a label of that name already, in step %d.</source>
         <extracomment>Rename Label</extracomment>
-        <translation>Es gibt schon eine Sprungmarke dieses Namens, in Eintrag %d.</translation>
+        <translation>Es gibt schon eine Sprungmarke dieses Namens, in Schritt %d.</translation>
     </message>
     <message id="17298">
         <source>Uses of %s</source>

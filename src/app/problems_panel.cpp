@@ -131,7 +131,12 @@ void ProblemsPanel::setCurrent(std::optional<std::size_t> finding) {
 }
 
 void ProblemsPanel::takeFocus() {
+    // A list that gets the focus makes its first row the current one, which nobody has chosen.
+    const bool hadCurrent = list_->currentIndex().isValid();
+    const bool wasSetting = std::exchange(isSetting_, true);
     list_->setFocus();
+    if (!hadCurrent) list_->selectionModel()->clear();
+    isSetting_ = wasSetting;
 }
 
 void ProblemsPanel::choose(const QModelIndex& index, bool leaves) {

@@ -45,6 +45,7 @@ ScriptProblems::ScriptProblems(ApplicationState& state, EditorPane& pane, QActio
     connect(soon_, &QTimer::timeout, this, &ScriptProblems::checkNow);
     connect(&pane, &EditorPane::selectionChanged, this, &ScriptProblems::followEntry);
     pane.showFindings(check_);
+    panel_->reload(std::nullopt);
     showCount();
 }
 

@@ -2,11 +2,14 @@
 
 #include "app/main_window.h"
 #include "app/script_editor.h"
+#include "app/window_activation.h"
 #include "session/document.h"
 #include "text/path_text.h"
 #include "text/text_ids.h"
 #include "widgets/file_dialogs.h"
 #include "widgets/message_box.h"
+
+#include <QApplication>
 
 #include <utility>
 
@@ -15,8 +18,10 @@ namespace quendra {
 ReviewSide sideOfFile(const std::filesystem::path& path, OtherScript script) {
     std::error_code ignored;
     const bool isFile = std::filesystem::is_regular_file(path, ignored);
-    return {std::move(script.script), script.hostType, pathText(isFile ? path.filename() : path),
-            isFile ? pathText(path.parent_path()) : std::string(), std::move(script.note)};
+    return {
+        std::move(script.script), script.hostType, pathText(isFile ? path.filename() : path),
+        isFile ? pathText(std::filesystem::absolute(path, ignored).parent_path()) : std::string(),
+        std::move(script.note)};
 }
 
 ScriptReview::ScriptReview(ApplicationState& state, MainWindow& window, ScriptEditor& editor)
@@ -89,6 +94,10 @@ ReviewSide ScriptReview::sideOfDocument(const Script& script, StringId name) con
 
 ReviewWindow::Editor ScriptReview::editor() {
     return [this](ReviewedScript reviewed) {
+        // A dialog of the editor works on a step by its number, and leaves this window usable.
+        if (QWidget* dialog = QApplication::activeModalWidget()) {
+            return bringToFront(*dialog, {});
+        }
         editor_.replaceScript(std::move(reviewed.script), reviewed.entry, reviewed.stepName);
     };
 }
