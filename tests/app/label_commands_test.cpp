@@ -68,9 +68,9 @@ TEST_F(LabelCommandsTest, F2RenamesALabelEverywhereInOneStep) {
     steps.in("renameLabelDialog", [&](const OpenDialog& d) {
         EXPECT_EQ(d.shown("name"), "End");
         EXPECT_EQ(d.focused(), "name");
-        EXPECT_EQ(d.shown("changes"), "Entries that change: 0") << "it still has its name";
+        EXPECT_EQ(d.shown("changes"), "Steps that change: 0") << "it still has its name";
         d.type("Start");
-        EXPECT_EQ(d.shown("note"), "There is a label of that name already, in entry 4.");
+        EXPECT_EQ(d.shown("note"), "There is a label of that name already, in step 4.");
         d.click("ok");
         EXPECT_EQ(answers.messages.back().text, d.shown("note"));
         d.retype("name", "\u0416");
@@ -79,7 +79,7 @@ TEST_F(LabelCommandsTest, F2RenamesALabelEverywhereInOneStep) {
         d.click("ok");
         EXPECT_EQ(answers.messages.back().text, "A value is required in this field.");
         d.type("Ende");
-        EXPECT_EQ(d.shown("changes"), "Entries that change: 3");
+        EXPECT_EQ(d.shown("changes"), "Steps that change: 3");
         d.press(Qt::Key_Return);
     });
     press(4, Qt::Key_F2);
@@ -99,7 +99,7 @@ TEST_F(LabelCommandsTest, F2AsksWhichOfSeveralAndLeavesAloneWhatKeepsItsName) {
         d.choose("label", 1);
         EXPECT_EQ(d.shown("name"), "End");
         d.retype("name", "Out");
-        EXPECT_EQ(d.shown("changes"), "Entries that change: 3");
+        EXPECT_EQ(d.shown("changes"), "Steps that change: 3");
         d.click("ok");
     });
     press(2, Qt::Key_F2);
