@@ -212,7 +212,7 @@ TEST_F(FindBarTest, ReplaceAllIsOneStepAndAsksWhereAFieldCannotChange) {
         answers.toMessages = {answer};
         click("replaceAll");
     }
-    EXPECT_NE(answers.messages[0].text.find("\n\nEntry 1, Timeout in Seconds: no number that"),
+    EXPECT_NE(answers.messages[0].text.find("\n\nStep 1, Timeout in Seconds: no number that"),
               std::string::npos)
         << answers.messages[0].text;
     EXPECT_EQ(lines(),
