@@ -1,7 +1,6 @@
 #include "app/command_facts.h"
 
 #include "analysis/script_outline.h"
-#include "compare/merge_conflicts.h"
 #include "scriptfile/entry_codec.h"
 
 #include <algorithm>
@@ -39,7 +38,6 @@ CommandFacts commandFacts(const ApplicationState& state, const EditorPane& pane)
     if (state.history.canUndo()) facts.undoStep = state.history.undoName();
     if (state.history.canRedo()) facts.redoStep = state.history.redoName();
     facts.hasSavedForm = !state.document.fileName.empty() || state.document.modified;
-    facts.hasConflicts = hasConflictMarks(state.script);
     std::ranges::transform(allPalettes, facts.selectedRows.begin(),
                            [&pane](Palette palette) { return selectedText(pane, palette); });
     return facts;

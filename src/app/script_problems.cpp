@@ -16,6 +16,9 @@ namespace quendra {
 
 namespace {
 
+/// After a change: longer than a window takes to be painted, shorter than anybody waits for a mark.
+constexpr int checkDelayMs = 20;
+
 constexpr StateKey listKey = {"View", "Problems"};
 
 }  // namespace
@@ -50,7 +53,13 @@ ScriptProblems::ScriptProblems(ApplicationState& state, EditorPane& pane, QActio
 }
 
 void ScriptProblems::checkSoon() {
-    soon_->start(0);
+    if (check_.follow()) {
+        pane_.showFindings(check_);
+        current_.reset();
+        followEntry();
+        panel_->reload(current_);
+    }
+    soon_->start(checkDelayMs);
 }
 
 void ScriptProblems::checkNow() {
@@ -163,6 +172,7 @@ void ScriptProblems::addFacts(CommandFacts& facts) const {
     } else {
         facts.whyNoQuickFix = libraryText(state_.language, offered.whyNot);
     }
+    facts.hasConflicts = check_.hasConflicts();
     facts.problemsAreShown = !panel_->isHidden();
 }
 

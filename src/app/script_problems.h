@@ -30,7 +30,8 @@ class ScriptProblems : public QObject {
 
     /// The script has become another one: looks at it before it is painted.
     void checkNow();
-    /// The script has been changed: looks at it when that has been painted.
+    /// The script has been changed: looks at it when that has been painted. Until then what was
+    /// found stays with its steps.
     void checkSoon();
 
     /// Goes to the next finding or the one before; gives what to say of it.

@@ -52,6 +52,18 @@ JumpLanes::JumpLanes(const ScriptOutline& outline) : lines_(outline.labels.size(
     draw(outline);
 }
 
+void JumpLanes::follow(const StepShift& shift) {
+    const auto first = steps_.begin() + static_cast<std::ptrdiff_t>(shift.first);
+    const auto behind = steps_.erase(first, first + static_cast<std::ptrdiff_t>(shift.gone));
+    StepJumps passed;
+    if (behind != steps_.end()) passed.above = passed.below = behind->above;
+    steps_.insert(behind, shift.come, passed);
+    for (Line& line : lines_) {
+        for (std::size_t* end : {&line.first, &line.last, &line.target})
+            *end = shift.moved(*end).value_or(shift.first);
+    }
+}
+
 void JumpLanes::assignLanes(std::vector<std::size_t> order) {
     std::ranges::stable_sort(
         order, {}, [this](std::size_t label) { return lines_[label].last - lines_[label].first; });

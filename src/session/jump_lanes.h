@@ -3,6 +3,7 @@
 #pragma once
 
 #include "analysis/script_outline.h"
+#include "session/step_shift.h"
 
 #include <cstdint>
 #include <vector>
@@ -44,6 +45,9 @@ class JumpLanes {
     /// The same with nothing but the jumps that a step makes and those that lead to it.
     [[nodiscard]] StepJumps ofStep(const ScriptOutline& outline, std::size_t step,
                                    std::size_t at) const;
+
+    /// Stays with the steps that are still there; new ones have the lines that go past them.
+    void follow(const StepShift& shift);
 
     bool operator==(const JumpLanes&) const = default;
 

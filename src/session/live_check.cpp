@@ -1,8 +1,11 @@
 #include "session/live_check.h"
 
+#include "compare/merge_conflicts.h"
+#include "session/step_shift.h"
 #include "text/text_ids.h"
 
 #include <algorithm>
+#include <functional>
 #include <utility>
 
 namespace quendra {
@@ -34,10 +37,41 @@ StringId toldText(Severity severity) {
     return textid::noteMessage;
 }
 
+// `stepOf` gives the step of an element to be read and written.
+template <typename Element, typename StepOf>
+void movePlaces(std::vector<Element>& elements, const StepShift& shift, StepOf stepOf) {
+    std::erase_if(elements, [&](Element& element) {
+        const auto moved = shift.moved(stepOf(element));
+        if (moved) stepOf(element) = *moved;
+        return !moved;
+    });
+}
+
+void moveOutline(ScriptOutline& outline, const StepShift& shift) {
+    const auto first = outline.steps.begin() + static_cast<std::ptrdiff_t>(shift.first);
+    const auto behind = outline.steps.erase(first, first + static_cast<std::ptrdiff_t>(shift.gone));
+    outline.steps.insert(behind, shift.come, StepOutline());
+    const auto move = [&shift](std::vector<StepPlace>& places) {
+        movePlaces(
+            places, shift, [](StepPlace & place) -> auto& { return place.step; });
+    };
+    for (LabelOutline& label : outline.labels) {
+        move(label.definitions);
+        move(label.uses);
+    }
+    for (VariableOutline& variable : outline.variables) {
+        move(variable.stores);
+        move(variable.reads);
+    }
+}
+
 }  // namespace
 
 LiveCheck::Change LiveCheck::update() {
-    if (hostType_ == state_.currentHostType && script_ == state_.script) return Change::None;
+    if (!isDue_ && hostType_ == state_.currentHostType && script_ == state_.script) {
+        return Change::None;
+    }
+    isDue_ = false;
     script_ = state_.script;
     hostType_ = state_.currentHostType;
     CheckOptions options;
@@ -48,7 +82,27 @@ LiveCheck::Change LiveCheck::update() {
     const bool isSame = haveSameMarks(result.findings, result_.findings) && lanes == lanes_;
     result_ = std::move(result);
     lanes_ = std::move(lanes);
+    hasConflicts_ = hasConflictMarks(script_);
     return isSame ? Change::Texts : Change::Marks;
+}
+
+bool LiveCheck::follow() {
+    const std::vector<EntryHandle>& before = script_.entries;
+    const std::vector<EntryHandle>& after = state_.script.entries;
+    if (before == after) return false;
+    isDue_ = true;
+    const bool moves = before.size() != after.size();
+    if (moves) {
+        const StepShift shift = shiftBetween(before, after);
+        movePlaces(
+            result_.findings, shift, [](Finding & f) -> auto& { return f.place.step; });
+        for (Finding& finding : result_.findings)
+            movePlaces(finding.related, shift, std::identity());
+        moveOutline(result_.outline, shift);
+        lanes_.follow(shift);
+    }
+    script_ = state_.script;
+    return moves;
 }
 
 std::span<const Finding> LiveCheck::findingsOf(std::size_t step) const {

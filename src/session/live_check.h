@@ -15,6 +15,9 @@ namespace quendra {
 /// The last result; it lags behind the script between a change and the next update(), and whoever
 /// asks for a step that was not there then is told of nothing. Notes are left out: what is only
 /// worth knowing must not call for attention all day.
+///
+/// A look at the whole script takes longer than an edit has before it is painted. follow() is for
+/// that time: what has been found stays with its steps.
 class LiveCheck {
   public:
     /// `state` outlives it.
@@ -29,11 +32,16 @@ class LiveCheck {
     };
     /// Looks at the script if it is another than last time.
     Change update();
+    /// Moves what was found to where its steps are now, and forgets what was found at steps that
+    /// have been replaced by more or fewer; update() is still due. Tells whether anything moved.
+    bool follow();
 
     /// By step, slot and rule.
     [[nodiscard]] const std::vector<Finding>& findings() const { return result_.findings; }
     [[nodiscard]] const ScriptOutline& outline() const { return result_.outline; }
     [[nodiscard]] const JumpLanes& lanes() const { return lanes_; }
+    /// The script has conflicts of a merge in it, or what is left of one.
+    [[nodiscard]] bool hasConflicts() const { return hasConflicts_; }
     [[nodiscard]] std::span<const Finding> findingsOf(std::size_t step) const;
     /// How bad the worst finding of a step is.
     [[nodiscard]] std::optional<Severity> worstOf(std::size_t step) const;
@@ -54,9 +62,11 @@ class LiveCheck {
     ApplicationState& state_;
     CheckResult result_;
     JumpLanes lanes_;
-    /// What was looked at.
+    bool hasConflicts_ = false;
+    /// What was looked at or, since then, followed.
     Script script_;
     HostType hostType_ = HostType::Mainframe;
+    bool isDue_ = false;
 };
 
 /// Which finding comes next. `current` is the one that was reached last; it counts while `step`,

@@ -130,6 +130,42 @@ TEST_F(LiveCheckTest, JumpsToOneLabelShareALineAndLinesCrossNoOther) {
     EXPECT_EQ(check.lanes().at(9).leaves, 1U);
 }
 
+TEST_F(LiveCheckTest, UntilTheNextLookWhatWasFoundStaysWithItsSteps) {
+    struct Row {
+        Lines before, after;
+        /// The steps of the findings, and lane 0.
+        std::vector<std::size_t> findings;
+        const char* lane;
+    };
+    const Row rows[] = {
+        {{"Goto a", "Label a", "Goto x"}, {"Beep", "Goto a", "Label a", "Goto x"}, {3}, " ><x"},
+        {{"Goto a", "Label a", "Goto x"}, {"Goto a", "Beep", "Label a", "Goto x"}, {3}, ">|<x"},
+        {{"Goto a", "Label a", "Goto x"}, {"Goto a", "Goto x"}, {1}, ">x"},
+        {{"Goto x", "Beep", "Goto y"}, {"Beep"}, {}, " "},
+        {{"Goto x", "Goto y"}, {}, {}, ""},
+        {{}, {"Goto x"}, {}, " "},
+        {{"Goto x", "Beep", "Goto y"}, {"Goto x", "Beep", "Beep"}, {0, 1, 2}, "x x"},
+    };
+    for (const Row& row : rows) {
+        have(row.before);
+        state.script = scriptOfLines(row.after, state.cipher);
+        EXPECT_EQ(check.follow(), row.before.size() != row.after.size());
+        EXPECT_FALSE(check.follow()) << "nothing more has changed";
+        std::vector<std::size_t> steps;
+        for (const Finding& finding : check.findings()) {
+            steps.push_back(finding.place.step);
+            static_cast<void>(quickFixFor(finding, check.outline(), state.script));
+        }
+        EXPECT_EQ(steps, row.findings) << row.lane;
+        const auto all = [&](std::size_t step) { return check.lanes().at(step); };
+        EXPECT_EQ(drawnLane(all, row.after.size()), row.lane);
+        EXPECT_NE(check.update(), LiveCheck::Change::None) << "the look is still due";
+        LiveCheck whole(state);
+        whole.update();
+        EXPECT_EQ(check.findings(), whole.findings());
+    }
+}
+
 TEST_F(LiveCheckTest, QuickFixesDoTheOneSensibleThingAndOthersSayWhyNot) {
     using enum QuickFix::Kind;
     struct Row {

@@ -44,7 +44,15 @@ void ScriptGutter::refit() {
     const int rows = list_.model()->rowCount();
     // At least two digits, so that a script that grows does not move its lines too often.
     const auto digits = std::max<qsizetype>(QString::number(rows).size(), 2);
-    digitWidth_ = list_.fontMetrics().horizontalAdvance(QLatin1Char('0'));
+    const QFontMetrics metrics = list_.fontMetrics();
+    digitWidth_ = metrics.horizontalAdvance(QLatin1Char('0'));
+    digitHeight_ = metrics.height();
+    for (std::size_t digit = 0; digit < digits_.size(); ++digit) {
+        digits_[digit] = QStaticText(QString::number(digit));
+        digits_[digit].setTextFormat(Qt::PlainText);
+        digits_[digit].setPerformanceHint(QStaticText::AggressiveCaching);
+        digits_[digit].prepare({}, list_.font());
+    }
     numberWidth_ = static_cast<int>(digits) * digitWidth_;
     const int lanes = check_ ? check_->lanes().laneCount() : 0;
     width_ = gutterMargin + numberWidth_ + gutterMargin + lanes * laneWidth + headWidth;
@@ -74,13 +82,12 @@ void ScriptGutter::paintNumber(QPainter& painter, const QRect& area, int row) co
     const QPalette& palette = list_.palette();
     const bool isCurrent = row == list_.focusedRow();
     painter.setPen(isCurrent ? palette.color(QPalette::Text) : quietText(palette));
-    // By its base line: a box to be laid out in would cost twice as much.
-    const QFontMetrics metrics = list_.fontMetrics();
-    const QString number = QString::number(row + 1);
-    const int width = static_cast<int>(number.size()) * digitWidth_;
-    const int x = area.left() + gutterMargin + numberWidth_ - width;
-    const int y = area.top() + (area.height() - metrics.height()) / 2 + metrics.ascent();
-    painter.drawText(x, y, number);
+    int x = area.left() + gutterMargin + numberWidth_;
+    const int y = area.top() + (area.height() - digitHeight_) / 2;
+    for (int rest = row + 1; rest > 0; rest /= 10) {
+        x -= digitWidth_;
+        painter.drawStaticText(x, y, digits_[static_cast<std::size_t>(rest % 10)]);
+    }
 }
 
 void ScriptGutter::paintJumps(QPainter& painter, const QRect& area, const StepJumps& jumps,

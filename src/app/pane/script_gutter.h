@@ -4,6 +4,10 @@
 #include "session/live_check.h"
 #include "widgets/pane_list.h"
 
+#include <QStaticText>
+
+#include <array>
+
 namespace quendra {
 
 class ScriptGutter : public RowGutter {
@@ -29,6 +33,9 @@ class ScriptGutter : public RowGutter {
     int width_ = 0;
     int numberWidth_ = 0;
     int digitWidth_ = 0;
+    int digitHeight_ = 0;
+    /// Laid out once: that takes longer than painting, and every row has some.
+    std::array<QStaticText, 10> digits_;
 };
 
 /// Text that keeps in the background: still easy to read on the palette's base, and on the mark of
