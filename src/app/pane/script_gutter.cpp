@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <bit>
+#include <memory>
 
 namespace quendra {
 
@@ -47,12 +48,7 @@ void ScriptGutter::refit() {
     const QFontMetrics metrics = list_.fontMetrics();
     digitWidth_ = metrics.horizontalAdvance(QLatin1Char('0'));
     digitHeight_ = metrics.height();
-    for (std::size_t digit = 0; digit < digits_.size(); ++digit) {
-        digits_[digit] = QStaticText(QString::number(digit));
-        digits_[digit].setTextFormat(Qt::PlainText);
-        digits_[digit].setPerformanceHint(QStaticText::AggressiveCaching);
-        digits_[digit].prepare({}, list_.font());
-    }
+    numbers_.clear();
     numberWidth_ = static_cast<int>(digits) * digitWidth_;
     const int lanes = check_ ? check_->lanes().laneCount() : 0;
     width_ = gutterMargin + numberWidth_ + gutterMargin + lanes * laneWidth + headWidth;
@@ -78,16 +74,25 @@ void ScriptGutter::paint(QPainter& painter, const QRect& area, int row) const {
     paintFaults(painter, area, jumps);
 }
 
+const QStaticText& ScriptGutter::laidOut(int number) const {
+    if (const QStaticText* kept = numbers_.object(number)) return *kept;
+    auto text = std::make_unique<QStaticText>(QString::number(number));
+    text->setTextFormat(Qt::PlainText);
+    text->setPerformanceHint(QStaticText::AggressiveCaching);
+    text->prepare({}, list_.font());
+    const QStaticText& made = *text;
+    numbers_.insert(number, text.release());
+    return made;
+}
+
 void ScriptGutter::paintNumber(QPainter& painter, const QRect& area, int row) const {
     const QPalette& palette = list_.palette();
     const bool isCurrent = row == list_.focusedRow();
     painter.setPen(isCurrent ? palette.color(QPalette::Text) : quietText(palette));
-    int x = area.left() + gutterMargin + numberWidth_;
-    const int y = area.top() + (area.height() - digitHeight_) / 2;
-    for (int rest = row + 1; rest > 0; rest /= 10) {
-        x -= digitWidth_;
-        painter.drawStaticText(x, y, digits_[static_cast<std::size_t>(rest % 10)]);
-    }
+    const QStaticText& number = laidOut(row + 1);
+    const int width = static_cast<int>(number.text().size()) * digitWidth_;
+    painter.drawStaticText(area.left() + gutterMargin + numberWidth_ - width,
+                           area.top() + (area.height() - digitHeight_) / 2, number);
 }
 
 void ScriptGutter::paintJumps(QPainter& painter, const QRect& area, const StepJumps& jumps,

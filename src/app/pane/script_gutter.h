@@ -4,9 +4,8 @@
 #include "session/live_check.h"
 #include "widgets/pane_list.h"
 
+#include <QCache>
 #include <QStaticText>
-
-#include <array>
 
 namespace quendra {
 
@@ -22,6 +21,7 @@ class ScriptGutter : public RowGutter {
     void paint(QPainter& painter, const QRect& area, int row) const override;
 
   private:
+    [[nodiscard]] const QStaticText& laidOut(int number) const;
     void paintNumber(QPainter& painter, const QRect& area, int row) const;
     void paintJumps(QPainter& painter, const QRect& area, const StepJumps& jumps,
                     const QColor& colour) const;
@@ -34,8 +34,8 @@ class ScriptGutter : public RowGutter {
     int numberWidth_ = 0;
     int digitWidth_ = 0;
     int digitHeight_ = 0;
-    /// Laid out once: that takes longer than painting, and every row has some.
-    std::array<QStaticText, 10> digits_;
+    /// Laid out, which takes longer than painting: more than a screen has rows.
+    mutable QCache<int, QStaticText> numbers_{200};
 };
 
 /// Text that keeps in the background: still easy to read on the palette's base, and on the mark of
