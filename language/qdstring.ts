@@ -4685,5 +4685,125 @@ Replace in all other fields?</translation>
         <translation>Find in this page</translation>
         <extra-name>helpFindInPage</extra-name>
     </message>
+    <message id="17450">
+        <source>This script has no steps yet. Double-click a script event on the right, or drag it here.</source>
+        <extracomment>In the empty script list</extracomment>
+        <translation>This script has no steps yet. Double-click a script event on the right, or drag it here.</translation>
+        <extra-name>emptyScriptHint</extra-name>
+    </message>
+    <message id="17451">
+        <source>D&amp;uplicate</source>
+        <extracomment>Menu item</extracomment>
+        <translation>D&amp;uplicate</translation>
+        <extra-name>duplicateMenuText</extra-name>
+    </message>
+    <message id="17452">
+        <source>Duplicate</source>
+        <extracomment>Tool tip</extracomment>
+        <translation>Duplicate</translation>
+        <extra-name>duplicateToolTip</extra-name>
+    </message>
+    <message id="17453">
+        <source>Inserts a copy of the selected entries behind them.</source>
+        <extracomment>Status bar</extracomment>
+        <translation>Inserts a copy of the selected entries behind them.</translation>
+        <extra-name>duplicateStatusText</extra-name>
+    </message>
+    <message id="17454">
+        <source>Duplicate %s</source>
+        <extracomment>Name of a step for Undo; %s is a number of entries</extracomment>
+        <translation>Duplicate %s</translation>
+        <extra-name>duplicateStep</extra-name>
+    </message>
+    <message id="17455">
+        <source>Move U&amp;p</source>
+        <extracomment>Menu item</extracomment>
+        <translation>Move U&amp;p</translation>
+        <extra-name>moveUpMenuText</extra-name>
+    </message>
+    <message id="17456">
+        <source>Move Up</source>
+        <extracomment>Tool tip</extracomment>
+        <translation>Move Up</translation>
+        <extra-name>moveUpToolTip</extra-name>
+    </message>
+    <message id="17457">
+        <source>Moves the selected entries up by one.</source>
+        <extracomment>Status bar</extracomment>
+        <translation>Moves the selected entries up by one.</translation>
+        <extra-name>moveUpStatusText</extra-name>
+    </message>
+    <message id="17458">
+        <source>Move Do&amp;wn</source>
+        <extracomment>Menu item</extracomment>
+        <translation>Move Do&amp;wn</translation>
+        <extra-name>moveDownMenuText</extra-name>
+    </message>
+    <message id="17459">
+        <source>Move Down</source>
+        <extracomment>Tool tip</extracomment>
+        <translation>Move Down</translation>
+        <extra-name>moveDownToolTip</extra-name>
+    </message>
+    <message id="17460">
+        <source>Moves the selected entries down by one.</source>
+        <extracomment>Status bar</extracomment>
+        <translation>Moves the selected entries down by one.</translation>
+        <extra-name>moveDownStatusText</extra-name>
+    </message>
+    <message id="17461">
+        <source>Open &amp;Recent</source>
+        <extracomment>Menu title</extracomment>
+        <translation>Open &amp;Recent</translation>
+        <extra-name>recentMenu</extra-name>
+    </message>
+    <message id="17462">
+        <source>%s (not there)</source>
+        <extracomment>Menu item; %s is the name of a script</extracomment>
+        <translation>%s (not there)</translation>
+        <extra-name>recentGone</extra-name>
+    </message>
+    <message id="17463">
+        <source>&amp;Clear List</source>
+        <extracomment>Menu item</extracomment>
+        <translation>&amp;Clear List</translation>
+        <extra-name>recentClear</extra-name>
+    </message>
+    <message id="17464">
+        <source>Re&amp;load</source>
+        <extracomment>Menu item</extracomment>
+        <translation>Re&amp;load</translation>
+        <extra-name>reloadMenuText</extra-name>
+    </message>
+    <message id="17465">
+        <source>Reload</source>
+        <extracomment>Tool tip</extracomment>
+        <translation>Reload</translation>
+        <extra-name>reloadToolTip</extra-name>
+    </message>
+    <message id="17466">
+        <source>Reads the script from its file again.</source>
+        <extracomment>Status bar</extracomment>
+        <translation>Reads the script from its file again.</translation>
+        <extra-name>reloadStatusText</extra-name>
+    </message>
+    <message id="17467">
+        <source>Read %s again? The changes that are not saved will be lost.</source>
+        <extracomment>Question; %s is the path of the script</extracomment>
+        <translation>Read %s again? The changes that are not saved will be lost.</translation>
+        <extra-name>reloadDiscards</extra-name>
+    </message>
+    <message id="17468">
+        <source>&amp;Example Scripts</source>
+        <extracomment>Menu title</extracomment>
+        <translation>&amp;Example Scripts</translation>
+        <extra-name>examplesMenu</extra-name>
+    </message>
+    <message id="17469">
+        <source>A copy of the example %s; save it under a name of your own</source>
+        <extracomment>Status bar; %s is a file name</extracomment>
+        <translation>A copy of the example %s; save it under a name of your own</translation>
+        <extra-name>exampleOpened</extra-name>
+    </message>
 </context>
 </TS>

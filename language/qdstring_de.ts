@@ -3909,5 +3909,105 @@ In allen anderen Feldern ersetzen?</translation>
         <extracomment>Help window: field that searches the page</extracomment>
         <translation>Auf dieser Seite suchen</translation>
     </message>
+    <message id="17450">
+        <source>This script has no steps yet. Double-click a script event on the right, or drag it here.</source>
+        <extracomment>In the empty script list</extracomment>
+        <translation>Dieses Skript hat noch keine Schritte. Doppelklicken Sie rechts auf ein Skriptereignis oder ziehen Sie es hierher.</translation>
+    </message>
+    <message id="17451">
+        <source>D&amp;uplicate</source>
+        <extracomment>Menu item</extracomment>
+        <translation>Dupli&amp;zieren</translation>
+    </message>
+    <message id="17452">
+        <source>Duplicate</source>
+        <extracomment>Tool tip</extracomment>
+        <translation>Duplizieren</translation>
+    </message>
+    <message id="17453">
+        <source>Inserts a copy of the selected entries behind them.</source>
+        <extracomment>Status bar</extracomment>
+        <translation>Fügt eine Kopie der ausgewählten Einträge hinter ihnen ein.</translation>
+    </message>
+    <message id="17454">
+        <source>Duplicate %s</source>
+        <extracomment>Name of a step for Undo; %s is a number of entries</extracomment>
+        <translation>%s duplizieren</translation>
+    </message>
+    <message id="17455">
+        <source>Move U&amp;p</source>
+        <extracomment>Menu item</extracomment>
+        <translation>Nach &amp;oben verschieben</translation>
+    </message>
+    <message id="17456">
+        <source>Move Up</source>
+        <extracomment>Tool tip</extracomment>
+        <translation>Nach oben verschieben</translation>
+    </message>
+    <message id="17457">
+        <source>Moves the selected entries up by one.</source>
+        <extracomment>Status bar</extracomment>
+        <translation>Verschiebt die ausgewählten Einträge um einen nach oben.</translation>
+    </message>
+    <message id="17458">
+        <source>Move Do&amp;wn</source>
+        <extracomment>Menu item</extracomment>
+        <translation>Nach &amp;unten verschieben</translation>
+    </message>
+    <message id="17459">
+        <source>Move Down</source>
+        <extracomment>Tool tip</extracomment>
+        <translation>Nach unten verschieben</translation>
+    </message>
+    <message id="17460">
+        <source>Moves the selected entries down by one.</source>
+        <extracomment>Status bar</extracomment>
+        <translation>Verschiebt die ausgewählten Einträge um einen nach unten.</translation>
+    </message>
+    <message id="17461">
+        <source>Open &amp;Recent</source>
+        <extracomment>Menu title</extracomment>
+        <translation>&amp;Zuletzt geöffnet</translation>
+    </message>
+    <message id="17462">
+        <source>%s (not there)</source>
+        <extracomment>Menu item; %s is the name of a script</extracomment>
+        <translation>%s (nicht vorhanden)</translation>
+    </message>
+    <message id="17463">
+        <source>&amp;Clear List</source>
+        <extracomment>Menu item</extracomment>
+        <translation>Liste &amp;leeren</translation>
+    </message>
+    <message id="17464">
+        <source>Re&amp;load</source>
+        <extracomment>Menu item</extracomment>
+        <translation>&amp;Neu laden</translation>
+    </message>
+    <message id="17465">
+        <source>Reload</source>
+        <extracomment>Tool tip</extracomment>
+        <translation>Neu laden</translation>
+    </message>
+    <message id="17466">
+        <source>Reads the script from its file again.</source>
+        <extracomment>Status bar</extracomment>
+        <translation>Liest das Skript noch einmal aus seiner Datei.</translation>
+    </message>
+    <message id="17467">
+        <source>Read %s again? The changes that are not saved will be lost.</source>
+        <extracomment>Question; %s is the path of the script</extracomment>
+        <translation>%s noch einmal lesen? Die nicht gespeicherten Änderungen gehen verloren.</translation>
+    </message>
+    <message id="17468">
+        <source>&amp;Example Scripts</source>
+        <extracomment>Menu title</extracomment>
+        <translation>&amp;Beispielskripte</translation>
+    </message>
+    <message id="17469">
+        <source>A copy of the example %s; save it under a name of your own</source>
+        <extracomment>Status bar; %s is a file name</extracomment>
+        <translation>Eine Kopie des Beispiels %s; speichern Sie sie unter einem eigenen Namen</translation>
+    </message>
 </context>
 </TS>

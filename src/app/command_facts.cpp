@@ -37,6 +37,7 @@ CommandFacts commandFacts(const ApplicationState& state, const EditorPane& pane)
     facts.canGoBack = state.jumps.canGoBack();
     if (state.history.canUndo()) facts.undoStep = state.history.undoName();
     if (state.history.canRedo()) facts.redoStep = state.history.redoName();
+    facts.hasFile = !state.document.fileName.empty();
     facts.hasSavedForm = !state.document.fileName.empty() || state.document.modified;
     std::ranges::transform(allPalettes, facts.selectedRows.begin(),
                            [&pane](Palette palette) { return selectedText(pane, palette); });

@@ -40,6 +40,7 @@ void CommandHandlers::run(EditorCommand command) {
         case EditorCommand::CompareWithFile: return review_.compareWithFile();
         case EditorCommand::CompareWithSaved: return review_.compareWithSaved();
         case EditorCommand::ResolveConflicts: return review_.resolveConflicts();
+        case EditorCommand::Reload: return window_.reload();
         case EditorCommand::Exit: return window_.closeSoon();
         case EditorCommand::Undo: return editor_.undo();
         case EditorCommand::Redo: return editor_.redo();
@@ -65,6 +66,9 @@ void CommandHandlers::run(EditorCommand command) {
         case EditorCommand::InsertScript: return editor_.insertOtherScript();
         case EditorCommand::EditEntry: return editor_.editEntry();
         case EditorCommand::DeleteEntries: return editor_.deleteSelected();
+        case EditorCommand::Duplicate: return editor_.duplicate();
+        case EditorCommand::MoveUp: return window_.pane().moveSelected(true);
+        case EditorCommand::MoveDown: return window_.pane().moveSelected(false);
         case EditorCommand::RenameLabel: return labels_.rename();
         case EditorCommand::GoToLabel: return labels_.goToLabel();
         case EditorCommand::GoBack: return labels_.goBack();

@@ -3,11 +3,14 @@
 #include "app/command_facts.h"
 #include "app/command_menu.h"
 #include "app/find_bar.h"
+#include "app/script_menus.h"
 #include "app/script_problems.h"
 #include "app/step_bar.h"
 #include "app/window_activation.h"
+#include "session/command_line.h"
 #include "session/command_rules.h"
 #include "session/commands.h"
+#include "session/recent_scripts.h"
 #include "text/text_ids.h"
 #include "widgets/file_dialogs.h"
 #include "widgets/message_box.h"
@@ -21,11 +24,13 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QMenuBar>
+#include <QMimeData>
 #include <QScreen>
 #include <QSessionManager>
 #include <QStatusBar>
 #include <QTimer>
 #include <QToolBar>
+#include <QUrl>
 
 #include <algorithm>
 #include <utility>
@@ -35,6 +40,11 @@ namespace quendra {
 namespace {
 
 constexpr StateKey gutterKey = {"View", "StepNumbersAndJumps"};
+constexpr StateKey widthKey = {"Window", "Width"};
+constexpr StateKey heightKey = {"Window", "Height"};
+constexpr StateKey maximisedKey = {"Window", "Maximised"};
+/// No screen is larger.
+constexpr int longestSide = 16384;
 
 // Qt replaces "[*]" in a title by its own mark.
 QString asWindowTitle(const std::string& title) {
@@ -47,6 +57,13 @@ QString asToolTip(const std::string& text) {
     const QString plain = qtText(text);
     if (plain.size() <= longLine && !Qt::mightBeRichText(plain)) return plain;
     return QStringLiteral("<qt>") + plain.toHtmlEscaped() + QStringLiteral("</qt>");
+}
+
+// None for anything but one local file.
+std::optional<std::filesystem::path> droppedScript(const QMimeData& dropped) {
+    const QList<QUrl> urls = dropped.urls();
+    if (urls.size() != 1 || !urls.front().isLocalFile()) return std::nullopt;
+    return pathFromQt(urls.front().toLocalFile());
 }
 
 // Qt's own buttons for what a narrow window has no room for.
@@ -64,6 +81,7 @@ MainWindow::MainWindow(ApplicationState& state, const std::function<void()>& bef
     : state_(state) {
     setObjectName(QStringLiteral("mainWindow"));
     setContextMenuPolicy(Qt::NoContextMenu);
+    setAcceptDrops(true);
     buildActions();
     buildToolBar();
     beforeText();
@@ -87,6 +105,10 @@ MainWindow::MainWindow(ApplicationState& state, const std::function<void()>& bef
     nameExtensionButtons(*this, qtText(libraryText(state_.language, textid::moreCommands)));
     connect(pane_, &EditorPane::commandRequested, this, &MainWindow::runCommand);
     connect(pane_, &EditorPane::selectionChanged, this, &MainWindow::updateCommandStates);
+    connect(pane_, &EditorPane::menuRequested, this,
+            [this](std::optional<Palette> palette, QPoint at) {
+                showPaneMenu(palette ? paletteItems(*palette) : scriptListItems(), at);
+            });
     watchSession();
     pane_->refillLuPalette();
     showDocument();
@@ -123,6 +145,9 @@ void MainWindow::buildActions() {
         setMenuText(*action, commandMenuText(info, state_.language));
         action->setObjectName(QStringLiteral("command%1").arg(number));
         action->setShortcuts(QKeySequence::listFromString(QLatin1String(info.shortcut)));
+        action->setShortcutVisibleInContextMenu(true);
+        // No widget has the focus that these keys would work for: menus only show them.
+        if (info.isKeyOfList) action->setShortcutContext(Qt::WidgetShortcut);
         action->setIconText(qtText(libraryText(state_.language, info.texts.toolTip)));
         action->setStatusTip(qtText(libraryText(state_.language, info.texts.status)));
         action->setMenuRole(QAction::NoRole);
@@ -136,9 +161,11 @@ void MainWindow::buildActions() {
 
 void MainWindow::buildMenus() {
     menuBar()->setObjectName(QStringLiteral("menuBar"));
+    std::map<EditorMenu, QMenu*> built;
     for (const MenuInfo& info : menus()) {
         auto* menu = new CommandMenu(qtText(libraryText(state_.language, info.titleId)), menuBar());
         menuBar()->addMenu(menu);
+        built[info.menu] = menu;
         menu->setObjectName(QLatin1String(info.objectName));
         for (const auto& id : menuItems(info.menu)) {
             if (id) {
@@ -148,6 +175,27 @@ void MainWindow::buildMenus() {
             }
         }
     }
+    const auto* scripts =
+        new ScriptMenus(state_, *built.at(EditorMenu::File), *actions_.at(EditorCommand::Save),
+                        *built.at(EditorMenu::Help));
+    connect(scripts, &ScriptMenus::scriptChosen, this, &MainWindow::openFile);
+    connect(scripts, &ScriptMenus::exampleChosen, this, [this](const std::filesystem::path& file) {
+        openFrom([&] { return openExample(state_, file); });
+    });
+}
+
+void MainWindow::showPaneMenu(const CommandItems& items, QPoint at) {
+    auto* menu = new CommandMenu({}, this);
+    menu->setObjectName(QStringLiteral("paneMenu"));
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    for (const auto& id : items) {
+        if (!id) {
+            menu->addSeparator();
+        } else if (QAction* action = actions_.at(*id); action->isEnabled()) {
+            menu->addAction(action);
+        }
+    }
+    menu->popup(at);
 }
 
 void MainWindow::buildToolBar() {
@@ -191,8 +239,21 @@ void MainWindow::buildStatusBar() {
 
 void MainWindow::placeOnScreen() {
     setMinimumSize(firstSize * 3 / 4);
-    resize(firstSize.boundedTo(screen()->availableSize()));
+    const UserState& before = state_.userState;
+    const QSize size(before.number(widthKey, 1, longestSide).value_or(firstSize.width()),
+                     before.number(heightKey, 1, longestSide).value_or(firstSize.height()));
+    resize(size.boundedTo(screen()->availableSize()));
     centreOnScreen(*this);
+    if (before.flag(maximisedKey, false)) setWindowState(windowState() | Qt::WindowMaximized);
+}
+
+void MainWindow::rememberPlace() {
+    const QSize size = isMaximized() ? normalGeometry().size() : this->size();
+    UserState& now = state_.userState;
+    if (isMaximized() != now.flag(maximisedKey, false)) now.setFlag(maximisedKey, isMaximized());
+    if (size.isEmpty()) return;
+    now.setNumber(widthKey, size.width());
+    now.setNumber(heightKey, size.height());
 }
 
 void MainWindow::runCommand(EditorCommand command) {
@@ -244,17 +305,63 @@ void MainWindow::newScript() {
 }
 
 void MainWindow::openScript() {
+    openFrom([this]() -> OpenOutcome {
+        const auto path =
+            chooseFile(this, {FileDialogMode::Open,
+                              libraryText(state_.language, textid::openScriptDialogTitle),
+                              "Quendra Script Files(*.qds)", "qds", state_.settings.scriptsDir});
+        return path ? openDocument(state_, *path) : OpenOutcome();
+    });
+}
+
+void MainWindow::openFrom(const std::function<OpenOutcome()>& open) {
     if (!mayDiscardChanges(DiscardingCommand::NewOrOpen)) return;
-    const auto path = chooseFile(
-        this, {FileDialogMode::Open, libraryText(state_.language, textid::openScriptDialogTitle),
-               "Quendra Script Files(*.qds)", "qds", state_.settings.scriptsDir});
-    if (!path) return;
-    const OpenOutcome outcome = openDocument(state_, *path);
+    showIfOpened(open());
+}
+
+void MainWindow::showIfOpened(const OpenOutcome& outcome) {
     if (outcome.refusal) showMessage(this, *outcome.refusal);
     if (!outcome.opened) return;
     setNote(outcome.note);
     pane_->refillLuPalette();
     showDocument();
+    rememberFile();
+}
+
+void MainWindow::openFile(const std::filesystem::path& path) {
+    openFrom([&] { return openDocument(state_, tidyPath(path)); });
+}
+
+void MainWindow::reload() {
+    if (state_.document.modified &&
+        askMessage(this, reloadQuestion(state_)) != MessageAnswer::Yes) {
+        return;
+    }
+    const std::size_t focused = static_cast<std::size_t>(std::max(pane_->focusedEntry(), 0));
+    // Where it is refused, the script stays as it is.
+    showIfOpened(openDocument(state_, state_.document.fileName));
+    const std::size_t entries[] = {focused};
+    if (focused < state_.script.entryCount()) {
+        pane_->selectEntries(entries, static_cast<int>(focused));
+    }
+}
+
+void MainWindow::rememberFile() {
+    const std::filesystem::path& file = state_.document.fileName;
+    if (file.is_absolute() && !state_.document.refused) rememberScript(state_.userState, file);
+}
+
+// One script, as the file manager drags it; what a drag within the pane carries is none.
+void MainWindow::dragEnterEvent(QDragEnterEvent* event) {
+    if (droppedScript(*event->mimeData())) event->acceptProposedAction();
+}
+
+void MainWindow::dropEvent(QDropEvent* event) {
+    const auto script = droppedScript(*event->mimeData());
+    if (!script) return;
+    event->acceptProposedAction();
+    // Whoever drags waits for the drop to end, and not for the questions before the script opens.
+    QTimer::singleShot(0, this, [this, script] { openFile(*script); });
 }
 
 void MainWindow::showOpened(const OpenOutcome& outcome) {
@@ -262,6 +369,7 @@ void MainWindow::showOpened(const OpenOutcome& outcome) {
     pane_->refillLuPalette();
     showDocument();
     if (outcome.refusal) showMessage(this, *outcome.refusal);
+    if (outcome.opened) rememberFile();
 }
 
 bool MainWindow::save() {
@@ -286,6 +394,7 @@ bool MainWindow::saveTo(const std::filesystem::path& path) {
         pane_->showScript(selection);
         problems_->checkSoon();
     }
+    rememberFile();
     setNote(outcome.note);
     updateTitle();
     updateStatus();
@@ -426,6 +535,7 @@ void MainWindow::closeEvent(QCloseEvent* event) {
     // A user who closes the window is there to be asked: the end of the session was called off.
     if (sessionEnds_ && !event->spontaneous()) state_.document.modified = false;
     event->setAccepted(mayDiscardChanges(DiscardingCommand::Exit));
+    if (event->isAccepted()) rememberPlace();
 }
 
 }  // namespace quendra

@@ -48,6 +48,8 @@ class MainWindow : public QMainWindow {
     /// The commands that the window runs itself.
     void newScript();
     void openScript();
+    /// Reads the script's file again; asks before changes are given up.
+    void reload();
     /// Gives false when something was not saved that the user wanted saved.
     bool save();
     bool saveAs();
@@ -102,6 +104,8 @@ class MainWindow : public QMainWindow {
   protected:
     void paintEvent(QPaintEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
 
   private:
     void buildActions();
@@ -110,6 +114,8 @@ class MainWindow : public QMainWindow {
     void drawAhead(const QIcon& icon, bool enabled) const;
     void buildStatusBar();
     void placeOnScreen();
+    void rememberPlace();
+    void showPaneMenu(const CommandItems& items, QPoint at);
     /// Follows the end of the desktop's session and has its next one open the script again.
     void watchSession();
 
@@ -119,6 +125,12 @@ class MainWindow : public QMainWindow {
     [[nodiscard]] bool agreedToAll(const std::vector<Message>& questions);
 
     void showDocument();
+    /// Opens what `open` gives, unless the user keeps the changes of the present script.
+    void openFrom(const std::function<OpenOutcome()>& open);
+    void showIfOpened(const OpenOutcome& outcome);
+    void openFile(const std::filesystem::path& path);
+    /// The document's file is one to be found again.
+    void rememberFile();
     void setNote(const std::string& note);
     /// A note that stands until another entry is focused.
     void showNoteOnEntry(const std::string& note);

@@ -116,6 +116,15 @@ void ScriptEditor::paste() {
     if (const auto note = cutNote(pasted(), state_.entryClipboard.size())) window_.showNote(*note);
 }
 
+void ScriptEditor::duplicate() {
+    const std::size_t offered = selectedEntries().size();
+    const std::size_t before = state_.script.entryCount();
+    const auto inserted = [&] { return state_.script.entryCount() - before; };
+    change([this] { return duplicateEntries(state_, *this); },
+           [&] { return countedName(textid::duplicateStep, inserted()); });
+    if (const auto note = cutNote(inserted(), offered)) window_.showNote(*note);
+}
+
 void ScriptEditor::copyAsText() {
     std::string text;
     EntryUnpacker unpacker(state_.cipher);

@@ -40,6 +40,7 @@ class ScriptEditor : public QObject, private EditingView {
     void copy();
     void copyAsText();
     void paste();
+    void duplicate();
     void insertFrom(Palette palette);
     void insertOtherScript();
     void editEntry();

@@ -81,6 +81,9 @@ bool hasSavedForm(const CommandFacts& facts) {
     return facts.hasSavedForm;
 }
 
+bool hasFile(const CommandFacts& facts) {
+    return facts.hasFile;
+}
 bool hasConflicts(const CommandFacts& facts) {
     return facts.hasConflicts;
 }

@@ -36,6 +36,7 @@ struct CommandFacts {
     bool gutterIsShown = false;
     /// The script has a file, or has changed since it was begun.
     bool hasSavedForm = false;
+    bool hasFile = false;
     /// Among the entries are marks of merge conflicts.
     bool hasConflicts = false;
 
@@ -59,6 +60,7 @@ struct CommandFacts {
 [[nodiscard]] bool showsGutter(const CommandFacts& facts);
 /// There is something that the script may differ from.
 [[nodiscard]] bool hasSavedForm(const CommandFacts& facts);
+[[nodiscard]] bool hasFile(const CommandFacts& facts);
 [[nodiscard]] bool hasConflicts(const CommandFacts& facts);
 
 /// Texts that name what a command would act on; none while there is nothing.

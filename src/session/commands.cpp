@@ -36,6 +36,11 @@ constexpr CommandInfo rows[] = {
      .shortcut = "Ctrl+Shift+S",
      .menu = EditorMenu::File,
      .isEnabled = hasEntries},
+    {.id = Reload,
+     .texts = {textid::reloadMenuText, textid::reloadToolTip, textid::reloadStatusText},
+     .shortcut = "F5",
+     .menu = EditorMenu::File,
+     .isEnabled = hasFile},
     {.id = CompareWithFile,
      .texts = {textid::compareFileMenuText, textid::compareFileToolTip,
                textid::compareFileStatusText},
@@ -214,6 +219,27 @@ constexpr CommandInfo rows[] = {
      .toolbarGroup = 6,
      .isEnabled = hasSelection,
      .toolTip = deleteTip},
+    {.id = Duplicate,
+     .texts = {textid::duplicateMenuText, textid::duplicateToolTip, textid::duplicateStatusText},
+     .shortcut = "Ctrl+D",
+     .menu = EditorMenu::Entry,
+     .menuGroup = 3,
+     .isEnabled = hasSelection,
+     .addsEntries = true},
+    {.id = MoveUp,
+     .texts = {textid::moveUpMenuText, textid::moveUpToolTip, textid::moveUpStatusText},
+     .shortcut = "Ctrl+Up",
+     .isKeyOfList = true,
+     .menu = EditorMenu::Entry,
+     .menuGroup = 3,
+     .isEnabled = hasSelection},
+    {.id = MoveDown,
+     .texts = {textid::moveDownMenuText, textid::moveDownToolTip, textid::moveDownStatusText},
+     .shortcut = "Ctrl+Down",
+     .isKeyOfList = true,
+     .menu = EditorMenu::Entry,
+     .menuGroup = 3,
+     .isEnabled = hasSelection},
     {.id = RenameLabel,
      .texts = {textid::renameLabelMenuText, textid::renameLabelToolTip,
                textid::renameLabelStatusText},
@@ -361,6 +387,17 @@ CommandItems toolbarItems() {
                          [](const CommandInfo& info) { return info.toolbarGroup > 0; });
     std::ranges::stable_sort(found, std::ranges::less(), &CommandInfo::toolbarGroup);
     return itemsOf(found, &CommandInfo::toolbarGroup);
+}
+
+CommandItems scriptListItems() {
+    return {EditEntry, std::nullopt, Cut,           Copy,         CopyAsText,
+            Paste,     Duplicate,    DeleteEntries, std::nullopt, MoveUp,
+            MoveDown,  std::nullopt, GoToLabel,     GoBack,       RenameLabel,
+            FindUses,  std::nullopt, ApplyQuickFix, std::nullopt, HelpOnSelection};
+}
+
+CommandItems paletteItems(Palette palette) {
+    return {insertCommand(palette), std::nullopt, HelpOnSelection};
 }
 
 }  // namespace quendra

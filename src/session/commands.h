@@ -41,6 +41,9 @@ enum class EditorCommand : int {
     CopyAsText = 324,
     InsertScript = 325,
     HelpOnSelection = 326,
+    Duplicate = 327,
+    MoveUp = 328,
+    MoveDown = 329,
     ShowProblems = 330,
     NextProblem = 331,
     PreviousProblem = 332,
@@ -57,6 +60,7 @@ enum class EditorCommand : int {
     CompareWithFile = 350,
     CompareWithSaved = 351,
     ResolveConflicts = 352,
+    Reload = 370,
 };
 
 /// In the order of the menu bar.
@@ -75,6 +79,8 @@ struct CommandInfo {
     CommandTexts texts;
     /// In Qt's portable notation, several with "; " between them; empty for none.
     const char* shortcut = "";
+    /// Keys that the script list takes itself, while it has the focus: menus only tell them.
+    bool isKeyOfList = false;
     /// A menu has its commands in the order of the table, with a separator between two groups.
     EditorMenu menu = {};
     int menuGroup = 1;
@@ -144,5 +150,8 @@ struct MenuInfo {
 using CommandItems = std::vector<std::optional<EditorCommand>>;
 [[nodiscard]] CommandItems menuItems(EditorMenu menu);
 [[nodiscard]] CommandItems toolbarItems();
+/// What a right click offers in the script list, and in a palette.
+[[nodiscard]] CommandItems scriptListItems();
+[[nodiscard]] CommandItems paletteItems(Palette palette);
 
 }  // namespace quendra

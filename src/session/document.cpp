@@ -270,6 +270,23 @@ OtherScript readOtherScript(ApplicationState& state, const fs::path& path) {
             std::move(note)};
 }
 
+OpenOutcome openExample(ApplicationState& state, const fs::path& path) {
+    OtherScript example = readOtherScript(state, path);
+    if (example.refusal) return {false, std::move(example.refusal), {}};
+    newDocument(state);
+    state.currentHostType = example.hostType;
+    state.script = state.document.saved = std::move(example.script);
+    return {true, std::nullopt,
+            libraryText(state.language, textid::exampleOpened, {pathText(path.filename())})};
+}
+
+Message reloadQuestion(ApplicationState& state) {
+    return {
+        libraryText(state.language, textid::reloadDiscards, {pathText(state.document.fileName)}),
+        state.language.loadText(textid::openScriptDialogTitle), MessageIcon::Question,
+        MessageButtons::YesNo, true};
+}
+
 ComparedScripts readComparedScripts(ApplicationState& state, const fs::path& left,
                                     const fs::path& right) {
     const bool isLeftNothing = holdsNothing(left);

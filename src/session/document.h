@@ -47,6 +47,13 @@ struct OpenOutcome {
 [[nodiscard]] OpenOutcome openDocumentAtStart(ApplicationState& state,
                                               const std::filesystem::path& path);
 
+/// Begins an untitled script with what an example holds, unmodified, since nothing of it is the
+/// user's.
+[[nodiscard]] OpenOutcome openExample(ApplicationState& state, const std::filesystem::path& path);
+
+/// The question whether to give the changes up and read the file again.
+[[nodiscard]] Message reloadQuestion(ApplicationState& state);
+
 /// The entries of a script file that is not opened for it.
 struct OtherScript {
     Script script;

@@ -327,6 +327,15 @@ bool pasteEntries(EditingState& state, EditingView& view) {
     return at && insertCopies(state, view, *at, state.entryClipboard) > 0;
 }
 
+bool duplicateEntries(EditingState& state, EditingView& view) {
+    const std::vector<std::size_t> selected = view.selectedEntries();
+    if (selected.empty()) return false;
+    std::vector<EntryHandle> copies;
+    std::ranges::transform(selected, std::back_inserter(copies),
+                           [&](std::size_t entry) { return state.script.entries[entry]; });
+    return insertCopies(state, view, selected.back() + 1, copies) > 0;
+}
+
 std::size_t insertScript(EditingState& state, EditingView& view,
                          std::span<const EntryHandle> entries) {
     return insertCopies(state, view, insertionPoint(state, view), entries);

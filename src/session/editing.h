@@ -124,6 +124,10 @@ void copyEntries(EditingState& state, const EditingView& view);
 /// script with neither stays as it is, selection included.
 bool pasteEntries(EditingState& state, EditingView& view);
 
+/// Inserts copies of the selected entries behind the last of them, and selects these; the clipboard
+/// stays as it was.
+bool duplicateEntries(EditingState& state, EditingView& view);
+
 /// Inserts the entries of another script where a palette insert would place its entry, and selects
 /// them; gives how many the limit left room for.
 std::size_t insertScript(EditingState& state, EditingView& view,

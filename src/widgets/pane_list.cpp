@@ -183,10 +183,27 @@ void PaneList::mousePressEvent(QMouseEvent* event) {
     setAutoScroll(true);
 }
 
+void PaneList::setHint(const QString& hint) {
+    hint_ = hint;
+    setAccessibleDescription(hint);
+    viewport()->update();
+}
+
 void PaneList::paintEvent(QPaintEvent* event) {
     QListView::paintEvent(event);
-    if (landingLines_.empty()) return;
     QPainter painter(viewport());
+    if (model()->rowCount() == 0) paintHint(painter);
+    if (!landingLines_.empty()) paintLandingLines(painter);
+}
+
+void PaneList::paintHint(QPainter& painter) const {
+    const int margin = 2 * fontMetrics().height();
+    painter.setPen(palette().color(QPalette::PlaceholderText));
+    painter.drawText(viewport()->rect().adjusted(margin, margin, -margin, -margin),
+                     Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap, hint_);
+}
+
+void PaneList::paintLandingLines(QPainter& painter) const {
     const int rows = model()->rowCount();
     const int rowHeight = rows > 0 ? rowRect(0).height() : 0;
     const int firstTop = rows > 0 ? rowRect(0).top() : 0;

@@ -52,6 +52,9 @@ class PaneList : public QListView {
     [[nodiscard]] int gutterWidth() const { return gutter_ ? gutter_->width() : 0; }
     [[nodiscard]] const RowGutter* gutter() const { return gutter_; }
 
+    /// What stands in the list while it has no rows.
+    void setHint(const QString& hint);
+
     /// Lines across the list above these rows (the row count stands for the end of the list); a
     /// line out of sight shows at the edge nearest to it.
     void setLandingLines(std::vector<int> rows);
@@ -64,8 +67,12 @@ class PaneList : public QListView {
     void changeEvent(QEvent* event) override;
 
   private:
+    void paintHint(QPainter& painter) const;
+    void paintLandingLines(QPainter& painter) const;
+
     std::vector<int> landingLines_;
     const RowGutter* gutter_ = nullptr;
+    QString hint_;
 };
 
 }  // namespace quendra

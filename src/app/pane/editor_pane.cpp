@@ -10,6 +10,7 @@
 #include "text/text_ids.h"
 #include "widgets/palette_model.h"
 #include "widgets/pane_list.h"
+#include "widgets/ui_text.h"
 
 #include <QEvent>
 #include <QItemSelectionModel>
@@ -54,6 +55,16 @@ EditorPane::Private::Private(EditorPane& pane, ApplicationState& state)
     connect(&gestures_, &PaneGestures::commandRequested, &pane, &EditorPane::commandRequested);
     connect(&gestures_, &PaneGestures::entriesAboutToMove, &pane, &EditorPane::entriesAboutToMove);
     connect(&gestures_, &PaneGestures::entriesMoved, &pane, &EditorPane::entriesMoved);
+    for (PaneList* list : lists_.all()) {
+        list->setContextMenuPolicy(Qt::CustomContextMenu);
+        connect(list, &QWidget::customContextMenuRequested, &pane, [this, &pane, list](QPoint at) {
+            const std::size_t number = lists_.numberOf(list);
+            std::optional<Palette> palette;
+            if (number > 0) palette = allPalettes[number - 1];
+            Q_EMIT pane.menuRequested(palette, list->viewport()->mapToGlobal(at));
+        });
+    }
+    lists_.script().setHint(qtText(libraryText(state.language, textid::emptyScriptHint)));
 }
 
 EditorPane::EditorPane(ApplicationState& state, QWidget* parent)
@@ -110,6 +121,10 @@ void EditorPane::showGutter(bool shown) {
     d_->gutter_.emplace(list, d_->check_);
     d_->gutter_->refit();
     list.setGutter(&*d_->gutter_);
+}
+
+void EditorPane::moveSelected(bool up) {
+    d_->gestures_.moveByOne(up, false);
 }
 
 int EditorPane::selectedRow(Palette palette) const {

@@ -48,6 +48,9 @@ class EditorPane : public QWidget {
     void showFindings(const LiveCheck& check);
     /// Shows numbers and jumps of the steps at the left of the script list, or takes them away.
     void showGutter(bool shown);
+    /// Moves the selected entries up or down by one.
+    void moveSelected(bool up);
+
     /// The selected row of a palette, -1 for none.
     [[nodiscard]] int selectedRow(Palette palette) const;
     /// The palette that has the focus or had it last; none while that is the script list.
@@ -75,6 +78,10 @@ class EditorPane : public QWidget {
     /// It has moved them; script, selection and currentIndex are as they end. `goesOn`: a key that
     /// is held down has moved them once more.
     void entriesMoved(bool goesOn);
+
+    /// A menu is asked for in a list, by the mouse or a key, at a place of the screen. None: in the
+    /// script list.
+    void menuRequested(std::optional<quendra::Palette> palette, QPoint at);
 
   protected:
     void resizeEvent(QResizeEvent* event) override;

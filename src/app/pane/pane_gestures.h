@@ -33,6 +33,10 @@ class PaneGestures : public QObject {
     /// True when a press is Ctrl+click on a Goto, which goes to its label, and nothing else.
     bool goesToLabel(PaneList& list, const QMouseEvent& event);
 
+    /// Moves the selected entries by one; `goesOn` with the same key, held down. True when it moved
+    /// something.
+    bool moveByOne(bool up, bool goesOn);
+
   Q_SIGNALS:
     /// Emitted after the gesture's own event has been handled, never from inside it.
     void commandRequested(quendra::EditorCommand command);
@@ -48,8 +52,6 @@ class PaneGestures : public QObject {
     bool pressMouse(PaneList& list, const QMouseEvent& event);
     bool doubleClick(PaneList& list, const QMouseEvent& event);
     void activate(std::size_t list);
-    /// True when it moved something.
-    bool moveByOne(bool up, bool goesOn);
     void applyMove(const MovePlan& plan, std::span<const EntryMove> moves, bool goesOn);
     [[nodiscard]] int entryCount() const { return static_cast<int>(state_.script.entryCount()); }
 
