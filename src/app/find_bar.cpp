@@ -200,7 +200,19 @@ bool FindBar::eventFilter(QObject* watched, QEvent* event) {
 
 void FindBar::typed() {
     search();
-    if (!fault_ && !hits_.empty()) goTo(hitFrom(origin_));
+    if (fault_) return;
+    if (hits_.empty()) return goBack();
+    goTo(hitFrom(origin_));
+}
+
+// What fewer letters hit is nothing that was looked for.
+void FindBar::goBack() {
+    if (pane_.focusedEntry() < 0 || currentEntry() == origin_) return;
+    if (origin_ >= state_.script.entryCount()) return;
+    const std::size_t entries[] = {origin_};
+    goes_ = true;
+    pane_.selectEntries(entries, static_cast<int>(origin_));
+    goes_ = false;
 }
 
 void FindBar::readPattern() {

@@ -69,6 +69,7 @@ class FindBar : public QToolBar {
     void readPattern();
     void setHits(std::vector<SearchHit> hits);
     void goTo(std::size_t hit);
+    void goBack();
     /// The first hit from an entry on, round the end.
     [[nodiscard]] std::size_t hitFrom(std::size_t entry) const;
     /// The same behind a hit, which may be gone.
