@@ -29,6 +29,9 @@ constexpr int narrowestEditCharacters = 12;
 constexpr int optionColumn = 1;
 constexpr int countColumn = 6;
 constexpr int closeColumn = 7;
+/// Below the fields, for what is too long to be said beside them.
+constexpr int longCountRow = 2;
+constexpr int countMargin = 8;
 
 std::size_t stepOfHit(const SearchHit& hit) {
     return hit.place.step;
@@ -42,14 +45,15 @@ FindBar::FindBar(ApplicationState& state, EditorPane& pane, QWidget* parent)
     setAccessibleName(text(textid::findToolTip));
     setMovable(false);
     auto* content = new QWidget(this);
-    auto* grid = new QGridLayout(content);
-    grid->setContentsMargins(4, 0, 0, 0);
-    grid->setHorizontalSpacing(2);
-    grid->setVerticalSpacing(4);
-    grid->setColumnStretch(0, 1);
-    grid->setColumnStretch(countColumn, 1);
-    buildFindRow(*grid);
-    buildReplaceRow(*grid);
+    grid_ = new QGridLayout(content);
+    grid_->setContentsMargins(4, 0, 0, 0);
+    grid_->setHorizontalSpacing(2);
+    grid_->setVerticalSpacing(4);
+    grid_->setColumnStretch(0, 1);
+    grid_->setColumnStretch(countColumn, 1);
+    buildFindRow(*grid_);
+    buildReplaceRow(*grid_);
+    content->installEventFilter(this);
     content->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     addWidget(content);
     setTabOrder(edit_, replacement_);
@@ -114,7 +118,7 @@ void FindBar::buildFindRow(QGridLayout& grid) {
     next->setArrowType(Qt::DownArrow);
     count_ = new StatusLine;
     count_->setObjectName(QStringLiteral("findCount"));
-    count_->setContentsMargins(8, 0, 8, 0);
+    count_->setContentsMargins(countMargin, 0, countMargin, 0);
     QToolButton* closing = makeButton("findClose", textid::findClose, &FindBar::close);
     closing->setText(QStringLiteral("\u00d7"));
     grid.addWidget(edit_, 0, 0);
@@ -185,6 +189,7 @@ void FindBar::close() {
 }
 
 bool FindBar::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::Resize) placeCount();
     if (event->type() != QEvent::KeyPress) return false;
     const auto& key = static_cast<const QKeyEvent&>(*event);
     if (key.key() != Qt::Key_Return && key.key() != Qt::Key_Enter) return false;
@@ -360,8 +365,21 @@ void FindBar::showCount() {
     const QString shown = countText();
     if (shown == count_->text()) return;
     count_->setLine(shown);
+    placeCount();
     QAccessibleEvent changed(count_, QAccessible::NameChanged);
     QAccessible::updateAccessibility(&changed);
+}
+
+void FindBar::placeCount() {
+    const int needed = count_->fontMetrics().horizontalAdvance(count_->text()) + 2 * countMargin;
+    const bool goesBelow = needed > grid_->cellRect(0, countColumn).width();
+    if (std::exchange(countIsBelow_, goesBelow) == goesBelow) return;
+    grid_->removeWidget(count_);
+    if (goesBelow) {
+        grid_->addWidget(count_, longCountRow, 0, 1, closeColumn + 1);
+    } else {
+        grid_->addWidget(count_, 0, countColumn);
+    }
 }
 
 QString FindBar::countText() const {

@@ -99,6 +99,25 @@ TEST_F(FindBarTest, NextAndPreviousGoRoundInBothDirections) {
     expectAt(18, "2 of 3 - Text");
 }
 
+TEST_F(FindBarTest, OpensBesideTheCurrentStepAndSaysAllInANarrowWindow) {
+    press(edit, Qt::Key_Escape);
+    const int last = script().indexAt({1, script().viewport()->height() - 5}).row();
+    select({static_cast<std::size_t>(last)}, last);
+    QTest::keyClick(&window, Qt::Key_H, Qt::ControlModifier);
+    QApplication::processEvents();
+    EXPECT_TRUE(script().viewport()->rect().contains(script().rowRect(last)));
+    window.resize(626, window.height());
+    click("findExpression");
+    retype(edit, "(Comment [0-9]+");
+    QApplication::processEvents();
+    const auto& said = widget<QLabel>("findCount");
+    EXPECT_LE(said.fontMetrics().horizontalAdvance(said.text()), said.contentsRect().width());
+    EXPECT_TRUE(said.parentWidget()->rect().contains(said.geometry()));
+    retype(edit, "1");
+    QApplication::processEvents();
+    EXPECT_EQ(said.y() / edit.height(), 0) << "beside the field again";
+}
+
 TEST_F(FindBarTest, MarksFollowTheScriptAndGoWithTheBar) {
     type("9");
     run(Cut);
