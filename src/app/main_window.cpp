@@ -23,6 +23,7 @@
 #include <QMenuBar>
 #include <QScreen>
 #include <QSessionManager>
+#include <QShortcut>
 #include <QStatusBar>
 #include <QTimer>
 #include <QToolBar>
@@ -81,6 +82,7 @@ MainWindow::MainWindow(ApplicationState& state, const std::function<void()>& bef
     problems_ =
         new ScriptProblems(state_, *pane_, *actions_.at(EditorCommand::ApplyQuickFix), *this);
     connect(problems_, &ScriptProblems::changed, this, &MainWindow::updateCommandStates);
+    answerKeyOfQuickFix();
     showsGutter_ = state_.userState.flag(gutterKey, true);
     pane_->showGutter(showsGutter_);
     connect(findBar_, &FindBar::noted, this, &MainWindow::showNote);
@@ -132,6 +134,21 @@ void MainWindow::buildActions() {
         connect(action, &QAction::triggered, this, [this, id = info.id] { runCommand(id); });
         actions_[info.id] = action;
     }
+}
+
+// The key of a command that cannot be chosen does nothing, and there is no pointer on it that would
+// be told why.
+void MainWindow::answerKeyOfQuickFix() {
+    const QAction* action = actions_.at(EditorCommand::ApplyQuickFix);
+    auto* key = new QShortcut(action->shortcut(), this);
+    const auto takeTurns = [action, key] { key->setEnabled(!action->isEnabled()); };
+    connect(action, &QAction::changed, key, takeTurns);
+    takeTurns();
+    connect(key, &QShortcut::activated, this, [this] {
+        const QuickFixOffer offer = problems_->quickFix();
+        if (offer.fix) return runCommand(EditorCommand::ApplyQuickFix);
+        showNoteOnEntry(libraryText(state_.language, offer.whyNot));
+    });
 }
 
 void MainWindow::buildMenus() {
