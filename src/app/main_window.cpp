@@ -380,6 +380,8 @@ void MainWindow::setNote(const std::string& note) {
 void MainWindow::showNote(const std::string& note) {
     setNote(note);
     updateStatus();
+    // What the pointer rests on tells about itself in front of the line, as long as it rests.
+    if (!note.empty()) statusBar()->clearMessage();
 }
 
 void MainWindow::showNoteOnEntry(const std::string& note) {
