@@ -32,6 +32,8 @@ constexpr int closeColumn = 7;
 /// Below the fields, for what is too long to be said beside them.
 constexpr int longCountRow = 2;
 constexpr int countMargin = 8;
+/// What the bar leaves less at its ends than the lists above it.
+constexpr int lineUp = 6;
 
 std::size_t stepOfHit(const SearchHit& hit) {
     return hit.place.step;
@@ -46,7 +48,7 @@ FindBar::FindBar(ApplicationState& state, EditorPane& pane, QWidget* parent)
     setMovable(false);
     auto* content = new QWidget(this);
     grid_ = new QGridLayout(content);
-    grid_->setContentsMargins(4, 0, 0, 0);
+    grid_->setContentsMargins(lineUp, 0, lineUp, 0);
     grid_->setHorizontalSpacing(2);
     grid_->setVerticalSpacing(4);
     grid_->setColumnStretch(0, 1);

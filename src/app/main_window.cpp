@@ -14,6 +14,7 @@
 #include "widgets/placement.h"
 #include "widgets/status_line.h"
 #include "widgets/symbol_icon.h"
+#include "widgets/tool_tip.h"
 #include "widgets/ui_text.h"
 
 #include <QAction>
@@ -47,7 +48,7 @@ QString asToolTip(const std::string& text) {
     constexpr qsizetype longLine = 80;
     const QString plain = qtText(text);
     if (plain.size() <= longLine && !Qt::mightBeRichText(plain)) return plain;
-    return QStringLiteral("<qt>") + plain.toHtmlEscaped() + QStringLiteral("</qt>");
+    return wrappingToolTip(plain);
 }
 
 // Qt's own buttons for what a narrow window has no room for.

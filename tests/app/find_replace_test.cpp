@@ -116,6 +116,13 @@ TEST_F(FindBarTest, OpensBesideTheCurrentStepAndSaysAllInANarrowWindow) {
     retype(edit, "1");
     QApplication::processEvents();
     EXPECT_EQ(said.y() / edit.height(), 0) << "beside the field again";
+    run(ShowProblems);
+    QApplication::processEvents();
+    const auto right = [this](const char* name) {
+        const auto& button = widget<QToolButton>(name);
+        return button.mapTo(&window, button.rect().center()).x();
+    };
+    EXPECT_EQ(right("findClose"), right("problemsClose"));
 }
 
 TEST_F(FindBarTest, MarksFollowTheScriptAndGoWithTheBar) {
