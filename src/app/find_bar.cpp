@@ -29,6 +29,11 @@ constexpr int narrowestEditCharacters = 12;
 constexpr int optionColumn = 1;
 constexpr int countColumn = 6;
 constexpr int closeColumn = 7;
+/// Below the fields, for what is too long to be said beside them.
+constexpr int longCountRow = 2;
+constexpr int countMargin = 8;
+/// What the bar leaves less at its ends than the lists above it.
+constexpr int lineUp = 6;
 
 std::size_t stepOfHit(const SearchHit& hit) {
     return hit.place.step;
@@ -42,14 +47,15 @@ FindBar::FindBar(ApplicationState& state, EditorPane& pane, QWidget* parent)
     setAccessibleName(text(textid::findToolTip));
     setMovable(false);
     auto* content = new QWidget(this);
-    auto* grid = new QGridLayout(content);
-    grid->setContentsMargins(4, 0, 0, 0);
-    grid->setHorizontalSpacing(2);
-    grid->setVerticalSpacing(4);
-    grid->setColumnStretch(0, 1);
-    grid->setColumnStretch(countColumn, 1);
-    buildFindRow(*grid);
-    buildReplaceRow(*grid);
+    grid_ = new QGridLayout(content);
+    grid_->setContentsMargins(lineUp, 0, lineUp, 0);
+    grid_->setHorizontalSpacing(2);
+    grid_->setVerticalSpacing(4);
+    grid_->setColumnStretch(0, 1);
+    grid_->setColumnStretch(countColumn, 1);
+    buildFindRow(*grid_);
+    buildReplaceRow(*grid_);
+    content->installEventFilter(this);
     content->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     addWidget(content);
     setTabOrder(edit_, replacement_);
@@ -114,7 +120,7 @@ void FindBar::buildFindRow(QGridLayout& grid) {
     next->setArrowType(Qt::DownArrow);
     count_ = new StatusLine;
     count_->setObjectName(QStringLiteral("findCount"));
-    count_->setContentsMargins(8, 0, 8, 0);
+    count_->setContentsMargins(countMargin, 0, countMargin, 0);
     QToolButton* closing = makeButton("findClose", textid::findClose, &FindBar::close);
     closing->setText(QStringLiteral("\u00d7"));
     grid.addWidget(edit_, 0, 0);
@@ -185,6 +191,7 @@ void FindBar::close() {
 }
 
 bool FindBar::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::Resize) placeCount();
     if (event->type() != QEvent::KeyPress) return false;
     const auto& key = static_cast<const QKeyEvent&>(*event);
     if (key.key() != Qt::Key_Return && key.key() != Qt::Key_Enter) return false;
@@ -200,7 +207,19 @@ bool FindBar::eventFilter(QObject* watched, QEvent* event) {
 
 void FindBar::typed() {
     search();
-    if (!fault_ && !hits_.empty()) goTo(hitFrom(origin_));
+    if (fault_) return;
+    if (hits_.empty()) return goBack();
+    goTo(hitFrom(origin_));
+}
+
+// What fewer letters hit is nothing that was looked for.
+void FindBar::goBack() {
+    if (pane_.focusedEntry() < 0 || currentEntry() == origin_) return;
+    if (origin_ >= state_.script.entryCount()) return;
+    const std::size_t entries[] = {origin_};
+    goes_ = true;
+    pane_.selectEntries(entries, static_cast<int>(origin_));
+    goes_ = false;
 }
 
 void FindBar::readPattern() {
@@ -348,8 +367,21 @@ void FindBar::showCount() {
     const QString shown = countText();
     if (shown == count_->text()) return;
     count_->setLine(shown);
+    placeCount();
     QAccessibleEvent changed(count_, QAccessible::NameChanged);
     QAccessible::updateAccessibility(&changed);
+}
+
+void FindBar::placeCount() {
+    const int needed = count_->fontMetrics().horizontalAdvance(count_->text()) + 2 * countMargin;
+    const bool goesBelow = needed > grid_->cellRect(0, countColumn).width();
+    if (std::exchange(countIsBelow_, goesBelow) == goesBelow) return;
+    grid_->removeWidget(count_);
+    if (goesBelow) {
+        grid_->addWidget(count_, longCountRow, 0, 1, closeColumn + 1);
+    } else {
+        grid_->addWidget(count_, 0, countColumn);
+    }
 }
 
 QString FindBar::countText() const {

@@ -69,6 +69,7 @@ class FindBar : public QToolBar {
     void readPattern();
     void setHits(std::vector<SearchHit> hits);
     void goTo(std::size_t hit);
+    void goBack();
     /// The first hit from an entry on, round the end.
     [[nodiscard]] std::size_t hitFrom(std::size_t entry) const;
     /// The same behind a hit, which may be gone.
@@ -83,17 +84,21 @@ class FindBar : public QToolBar {
     [[nodiscard]] bool canReplace();
 
     void showCount();
+    /// Beside the field, or on a line of its own where that is too narrow.
+    void placeCount();
     [[nodiscard]] QString countText() const;
     [[nodiscard]] QString titleOf(const SearchHit& hit) const;
     [[nodiscard]] QString text(StringId id) const;
 
     ApplicationState& state_;
     EditorPane& pane_;
+    QGridLayout* grid_ = nullptr;
     QLineEdit* edit_ = nullptr;
     QToolButton* matchCase_ = nullptr;
     QToolButton* wholeWords_ = nullptr;
     QToolButton* expression_ = nullptr;
     StatusLine* count_ = nullptr;
+    bool countIsBelow_ = false;
     QLineEdit* replacement_ = nullptr;
     std::vector<QWidget*> replaceRow_;
     QShortcut* escape_;

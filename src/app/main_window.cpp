@@ -17,6 +17,7 @@
 #include "widgets/placement.h"
 #include "widgets/status_line.h"
 #include "widgets/symbol_icon.h"
+#include "widgets/tool_tip.h"
 #include "widgets/ui_text.h"
 
 #include <QAction>
@@ -27,6 +28,7 @@
 #include <QMimeData>
 #include <QScreen>
 #include <QSessionManager>
+#include <QShortcut>
 #include <QStatusBar>
 #include <QTimer>
 #include <QToolBar>
@@ -56,7 +58,7 @@ QString asToolTip(const std::string& text) {
     constexpr qsizetype longLine = 80;
     const QString plain = qtText(text);
     if (plain.size() <= longLine && !Qt::mightBeRichText(plain)) return plain;
-    return QStringLiteral("<qt>") + plain.toHtmlEscaped() + QStringLiteral("</qt>");
+    return wrappingToolTip(plain);
 }
 
 // None for anything but one local file.
@@ -99,6 +101,7 @@ MainWindow::MainWindow(ApplicationState& state, const std::function<void()>& bef
     problems_ =
         new ScriptProblems(state_, *pane_, *actions_.at(EditorCommand::ApplyQuickFix), *this);
     connect(problems_, &ScriptProblems::changed, this, &MainWindow::updateCommandStates);
+    answerKeyOfQuickFix();
     showsGutter_ = state_.userState.flag(gutterKey, true);
     pane_->showGutter(showsGutter_);
     connect(findBar_, &FindBar::noted, this, &MainWindow::showNote);
@@ -157,6 +160,21 @@ void MainWindow::buildActions() {
         connect(action, &QAction::triggered, this, [this, id = info.id] { runCommand(id); });
         actions_[info.id] = action;
     }
+}
+
+// The key of a command that cannot be chosen does nothing, and there is no pointer on it that would
+// be told why.
+void MainWindow::answerKeyOfQuickFix() {
+    const QAction* action = actions_.at(EditorCommand::ApplyQuickFix);
+    auto* key = new QShortcut(action->shortcut(), this);
+    const auto takeTurns = [action, key] { key->setEnabled(!action->isEnabled()); };
+    connect(action, &QAction::changed, key, takeTurns);
+    takeTurns();
+    connect(key, &QShortcut::activated, this, [this] {
+        const QuickFixOffer offer = problems_->quickFix();
+        if (offer.fix) return runCommand(EditorCommand::ApplyQuickFix);
+        showNoteOnEntry(libraryText(state_.language, offer.whyNot));
+    });
 }
 
 void MainWindow::buildMenus() {
@@ -472,6 +490,8 @@ void MainWindow::setNote(const std::string& note) {
 void MainWindow::showNote(const std::string& note) {
     setNote(note);
     updateStatus();
+    // What the pointer rests on tells about itself in front of the line, as long as it rests.
+    if (!note.empty()) statusBar()->clearMessage();
 }
 
 void MainWindow::showNoteOnEntry(const std::string& note) {

@@ -110,6 +110,7 @@ class MainWindow : public QMainWindow {
   private:
     void buildActions();
     void buildMenus();
+    void answerKeyOfQuickFix();
     void buildToolBar();
     void drawAhead(const QIcon& icon, bool enabled) const;
     void buildStatusBar();

@@ -91,11 +91,12 @@ void ScriptProblems::followEntry() {
     const int entry = pane_.focusedEntry();
     const auto here =
         entry < 0 ? std::span<const Finding>() : check_.findingsOf(static_cast<std::size_t>(entry));
-    const auto first = static_cast<std::size_t>(here.data() - check_.findings().data());
     if (here.empty()) {
         current_.reset();
-    } else if (!current_ || *current_ < first || *current_ >= first + here.size()) {
-        current_ = first;
+    } else {
+        const auto first = static_cast<std::size_t>(here.data() - check_.findings().data());
+        const bool isHere = current_ && *current_ >= first && *current_ < first + here.size();
+        if (!isHere) current_ = first;
     }
     panel_->setCurrent(current_);
 }

@@ -9,10 +9,12 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMainWindow>
+#include <QRegularExpression>
 #include <QStatusBar>
 
 #include <algorithm>
 #include <optional>
+#include <string>
 
 namespace quendra {
 
@@ -20,25 +22,18 @@ namespace {
 
 constexpr int longestNumber = 12;
 
-// "1,234" and "1 234" are numbers too, whoever writes them so.
+// "1,234" and "1 234" are numbers too, whoever writes them so; "1.5" is none.
 std::optional<std::size_t> numberIn(const QString& text) {
-    QString digits;
-    for (const QChar c : text) {
-        if (!c.isSpace() && c != u',' && c != u'.' && c != u'\'' && c != u'\u2019') digits += c;
+    static const QRegularExpression number(
+        QStringLiteral("^(?:\\d+|\\d{1,3}(?:[\\s,.'\u2019]\\d{3})+)$"),
+        QRegularExpression::UseUnicodePropertiesOption);
+    const QString trimmed = text.trimmed();
+    if (!number.match(trimmed).hasMatch()) return std::nullopt;
+    std::size_t value = 0;
+    for (const QChar c : trimmed) {
+        if (c.isDigit()) value = value * 10 + static_cast<std::size_t>(c.digitValue());
     }
-    bool isNumber = false;
-    const qulonglong number = digits.toULongLong(&isNumber);
-    if (!isNumber) return std::nullopt;
-    return static_cast<std::size_t>(number);
-}
-
-// The user's own way where it is one of the window's language; a machine that has none would write
-// numbers without groups.
-QLocale localeOf(const ApplicationState& state) {
-    const std::string language = state.language.language();
-    const QLocale wanted(language.empty() ? QStringLiteral("en") : qtText(language));
-    const QLocale own;
-    return own.language() == wanted.language() ? own : wanted;
+    return value;
 }
 
 }  // namespace
@@ -50,8 +45,7 @@ StepBar::StepBar(ApplicationState& state, EditorPane& pane, QMainWindow& window)
       prompt_(new QLabel(this)),
       edit_(new QLineEdit(this)),
       refusal_(new StatusLine(this)),
-      position_(new QLabel(&window)),
-      locale_(localeOf(state)) {
+      position_(new QLabel(&window)) {
     build();
     hide();
     position_->setObjectName(QStringLiteral("stepPosition"));
@@ -85,24 +79,20 @@ void StepBar::build() {
     connect(edit_, &QLineEdit::textEdited, refusal_, [this] { refusal_->setLine({}); });
 }
 
-std::string StepBar::grouped(std::size_t number) const {
-    return locale_.toString(qulonglong{number}).toStdString();
-}
-
 void StepBar::showPosition() {
     const int focused = pane_.focusedEntry();
     position_->setVisible(focused >= 0);
     if (focused < 0) return;
-    position_->setText(qtText(libraryText(
-        state_.language, textid::stepPosition,
-        {grouped(static_cast<std::size_t>(focused) + 1), grouped(state_.script.entryCount())})));
+    position_->setText(qtText(
+        libraryText(state_.language, textid::stepPosition,
+                    {std::to_string(focused + 1), std::to_string(state_.script.entryCount())})));
 }
 
 void StepBar::open() {
     const std::size_t count = state_.script.entryCount();
     if (count == 0) return;
     prompt_->setText(
-        qtText(libraryText(state_.language, textid::goToStepPrompt, {grouped(count)})));
+        qtText(libraryText(state_.language, textid::goToStepPrompt, {std::to_string(count)})));
     refusal_->setLine({});
     edit_->setText(QString::number(std::max(pane_.focusedEntry(), 0) + 1));
     show();
@@ -119,8 +109,9 @@ void StepBar::go() {
     const std::size_t count = state_.script.entryCount();
     const auto number = numberIn(edit_->text());
     if (!number || *number < 1 || *number > count) {
-        refusal_->setLine(qtText(libraryText(state_.language, textid::goToStepRefused,
-                                             {edit_->text().toStdString(), grouped(count)})));
+        refusal_->setLine(
+            qtText(libraryText(state_.language, textid::goToStepRefused,
+                               {edit_->text().toStdString(), std::to_string(count)})));
         edit_->selectAll();
         return;
     }

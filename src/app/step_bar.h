@@ -5,7 +5,6 @@
 #include "app/pane/editor_pane.h"
 #include "session/application_state.h"
 
-#include <QLocale>
 #include <QToolBar>
 
 class QLabel;
@@ -36,8 +35,6 @@ class StepBar : public QToolBar {
     void close();
     void go();
     void showPosition();
-    /// As users of this language write it: "1,234".
-    [[nodiscard]] std::string grouped(std::size_t number) const;
 
     ApplicationState& state_;
     EditorPane& pane_;
@@ -45,7 +42,6 @@ class StepBar : public QToolBar {
     QLineEdit* edit_;
     StatusLine* refusal_;
     QLabel* position_;
-    QLocale locale_;
 };
 
 }  // namespace quendra

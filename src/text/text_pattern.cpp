@@ -17,6 +17,11 @@ namespace {
 // comes near, and a senseless one gives up after milliseconds instead of minutes.
 constexpr char16_t stepLimit[] = u"(*LIMIT_MATCH=200000)";
 
+// Settings of the matcher, which are such at the very start of an expression only.
+constexpr char16_t leadingSettings[] =
+    u"^(?:\\(\\*(?:UTF|UCP|NOTEMPTY(?:_ATSTART)?|NO_[A-Z_]+|LIMIT_[A-Z]+=\\d+|CR|LF|CRLF|ANY|"
+    u"ANYCRLF|NUL|BSR_[A-Z]+)\\))*";
+
 bool isWordPart(QChar character) {
     return character.isLetterOrNumber() || character == u'_';
 }
@@ -34,6 +39,24 @@ const std::array<char16_t, 256>& unitsOfBytes() {
         return made;
     }();
     return units;
+}
+
+PatternFault faultOf(const QRegularExpression& expression) {
+    const auto offset = std::max(expression.patternErrorOffset(), qsizetype{0});
+    return {expression.errorString().toStdString(), static_cast<std::size_t>(offset)};
+}
+
+// The expression where no word goes on beside its match. A quotation that is not ended must not
+// take our own end in, nor must a comment, whose end is that of the line.
+QRegularExpression ofWholeWords(const QString& text, QRegularExpression::PatternOptions kind) {
+    const qsizetype split =
+        QRegularExpression(QString::fromUtf16(leadingSettings)).match(text).capturedLength();
+    const QString head =
+        QString::fromUtf16(stepLimit) + text.left(split) + QStringLiteral("(?<!\\w)(?:");
+    const QString body = text.mid(split);
+    QRegularExpression made(head + body + QStringLiteral("\\E)(?!\\w)"), kind);
+    if (!made.isValid()) made.setPattern(head + body + QStringLiteral("\r\n)(?!\\w)"));
+    return made;
 }
 
 }  // namespace
@@ -152,15 +175,12 @@ std::variant<TextPattern, PatternFault> TextPattern::of(std::string_view pattern
     if (options.ignoreCase) kind |= QRegularExpression::CaseInsensitiveOption;
     // Looked at by itself first, for a parenthesis too many would otherwise close ours.
     const QRegularExpression bare(matcher->text, kind);
-    if (!bare.isValid()) {
-        const auto position =
-            static_cast<std::size_t>(std::max(bare.patternErrorOffset(), qsizetype{0}));
-        return PatternFault{bare.errorString().toStdString(), position};
-    }
-    const QString wanted = options.wholeWords
-                               ? QStringLiteral("(?<!\\w)(?:%1)(?!\\w)").arg(matcher->text)
-                               : matcher->text;
-    matcher->expression = QRegularExpression(QString::fromUtf16(stepLimit) + wanted, kind);
+    if (!bare.isValid()) return faultOf(bare);
+    matcher->expression =
+        options.wholeWords
+            ? ofWholeWords(matcher->text, kind)
+            : QRegularExpression(QString::fromUtf16(stepLimit) + matcher->text, kind);
+    if (!matcher->expression.isValid()) return faultOf(matcher->expression);
     matcher->expression.optimize();
     return TextPattern(std::move(matcher));
 }

@@ -7,6 +7,7 @@
 #include <QHelpEvent>
 #include <QItemSelectionModel>
 #include <QPainter>
+#include <QResizeEvent>
 #include <QStyledItemDelegate>
 #include <QToolTip>
 
@@ -226,6 +227,15 @@ void PaneList::focusInEvent(QFocusEvent* event) {
     // NOLINTNEXTLINE(bugprone-parent-virtual-call)
     QAbstractScrollArea::focusInEvent(event);
     viewport()->update();
+}
+
+// A bar that opens takes room from below, and must not hide the row that is worked on.
+void PaneList::resizeEvent(QResizeEvent* event) {
+    const QModelIndex current = currentIndex();
+    const bool wasInSight =
+        current.isValid() && QRect({}, event->oldSize()).intersects(visualRect(current));
+    QListView::resizeEvent(event);
+    if (wasInSight) scrollTo(current);
 }
 
 void PaneList::changeEvent(QEvent* event) {

@@ -17,6 +17,11 @@ void StatusLine::setLine(const QString& line) {
     setToolTip(fontMetrics().horizontalAdvance(line) > width() ? wrappingToolTip(line) : QString());
 }
 
+void StatusLine::resizeEvent(QResizeEvent* event) {
+    QLabel::resizeEvent(event);
+    setLine(text());
+}
+
 void StatusLine::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     style()->drawItemText(

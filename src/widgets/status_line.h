@@ -12,6 +12,7 @@ class StatusLine : public QLabel {
     void setLine(const QString& line);
 
   protected:
+    void resizeEvent(QResizeEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 };
 

@@ -76,7 +76,7 @@ TEST_F(FindBarTest, GoesToTheNextMatchWithEveryLetterAndBackWhenOneIsTaken) {
     press(edit, Qt::Key_Backspace);
     expectAt(9, "2 of 12 - Text");
     type("x");
-    expectAt(9, "Not found");
+    expectAt(3, "Not found");
     select({18}, 18);
     press(edit, Qt::Key_Backspace);
     expectAt(18, "11 of 12 - Text");
@@ -97,6 +97,32 @@ TEST_F(FindBarTest, NextAndPreviousGoRoundInBothDirections) {
     press(edit, Qt::Key_Return, Qt::ShiftModifier);
     click("findPrevious");
     expectAt(18, "2 of 3 - Text");
+}
+
+TEST_F(FindBarTest, OpensBesideTheCurrentStepAndSaysAllInANarrowWindow) {
+    press(edit, Qt::Key_Escape);
+    const int last = script().indexAt({1, script().viewport()->height() - 5}).row();
+    select({static_cast<std::size_t>(last)}, last);
+    QTest::keyClick(&window, Qt::Key_H, Qt::ControlModifier);
+    QApplication::processEvents();
+    EXPECT_TRUE(script().viewport()->rect().contains(script().rowRect(last)));
+    window.resize(626, window.height());
+    click("findExpression");
+    retype(edit, "(Comment [0-9]+");
+    QApplication::processEvents();
+    const auto& said = widget<QLabel>("findCount");
+    EXPECT_LE(said.fontMetrics().horizontalAdvance(said.text()), said.contentsRect().width());
+    EXPECT_TRUE(said.parentWidget()->rect().contains(said.geometry()));
+    retype(edit, "1");
+    QApplication::processEvents();
+    EXPECT_EQ(said.y() / edit.height(), 0) << "beside the field again";
+    run(ShowProblems);
+    QApplication::processEvents();
+    const auto right = [this](const char* name) {
+        const auto& button = widget<QToolButton>(name);
+        return button.mapTo(&window, button.rect().center()).x();
+    };
+    EXPECT_EQ(right("findClose"), right("problemsClose"));
 }
 
 TEST_F(FindBarTest, MarksFollowTheScriptAndGoWithTheBar) {

@@ -31,6 +31,9 @@ TEST(TextPattern, FindsByCaseWordAndExpression) {
         {"a|bc", expression, "abc", {{0, 1}, {1, 2}}},
         {"x*", expression, "ax", {{0, 0}, {1, 1}, {2, 0}}},
         {"a|ab", wordExpression, "ab a", {{0, 2}, {3, 1}}},
+        {"\\Qa+", wordExpression, "ba+ a+", {{4, 2}}},
+        {"(?x) a b # one", wordExpression, "abc ab", {{4, 2}}},
+        {"(*UCP)(*ANYCRLF)ab", wordExpression, "abc ab", {{4, 2}}},
     };
     for (const auto& [text, options, bytes, matches] : rows) {
         const TextPattern pattern = patternOf(text, options);

@@ -4,6 +4,7 @@
 #include "widgets/file_dialogs.h"
 #include "widgets/message_box.h"
 #include "widgets/status_line.h"
+#include "widgets/tool_tip.h"
 
 #include <QApplication>
 #include <QLabel>
@@ -12,6 +13,7 @@
 #include <QPointer>
 #include <QTest>
 #include <QTimer>
+#include <QToolTip>
 
 #include <gtest/gtest.h>
 
@@ -73,6 +75,14 @@ TEST(StatusLineTest, TheToolTipOfWhatIsCutShowsItAsItStands) {
     line.resize(20, 20);
     line.setLine(QStringLiteral("<b>bold</b>.qds saved"));
     EXPECT_TRUE(line.toolTip().contains(QStringLiteral("&lt;b&gt;bold")));
+    QToolTip::showText({}, wrappingToolTip(QStringLiteral("So wide ").repeated(12)));
+    ASSERT_TRUE(QToolTip::isVisible());
+    int width = 0;
+    for (const QWidget* window : QApplication::topLevelWidgets()) {
+        if (window->inherits("QTipLabel")) width = window->width();
+    }
+    EXPECT_GT(width, 400) << "no column of a few words";
+    QToolTip::hideText();
 }
 
 TEST(FileDialogTest, StartsInTheFolderAddsTheExtensionAndNeverAsksToOverwrite) {
