@@ -75,7 +75,9 @@ void ScriptReview::follow() {
 }
 
 ReviewSide ScriptReview::savedSide() const {
-    return sideOfDocument(state_.document.saved, textid::reviewSideSaved);
+    ReviewSide side = sideOfDocument(state_.document.saved, textid::reviewSideSaved);
+    side.hostType = state_.document.savedHostType.value_or(state_.currentHostType);
+    return side;
 }
 
 ReviewSide ScriptReview::ownSide() const {
