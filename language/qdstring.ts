@@ -4685,5 +4685,17 @@ Replace in all other fields?</translation>
         <translation>Find in this page</translation>
         <extra-name>helpFindInPage</extra-name>
     </message>
+    <message id="17352">
+        <source>No conflict that can be resolved here</source>
+        <extracomment>Window of conflicts: there are only marks that make up none</extracomment>
+        <translation>No conflict that can be resolved here</translation>
+        <extra-name>reviewOnlyStrayMarks</extra-name>
+    </message>
+    <message id="17353">
+        <source>The script would then have more than %s entries. Nothing was changed.</source>
+        <extracomment>Message when changes are taken over; %s is the most that a script can have</extracomment>
+        <translation>The script would then have more than %s entries. Nothing was changed.</translation>
+        <extra-name>reviewTooManyEntries</extra-name>
+    </message>
 </context>
 </TS>

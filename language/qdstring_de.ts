@@ -3909,5 +3909,15 @@ In allen anderen Feldern ersetzen?</translation>
         <extracomment>Help window: field that searches the page</extracomment>
         <translation>Auf dieser Seite suchen</translation>
     </message>
+    <message id="17352">
+        <source>No conflict that can be resolved here</source>
+        <extracomment>Window of conflicts: there are only marks that make up none</extracomment>
+        <translation>Kein Konflikt, der sich hier lösen lässt</translation>
+    </message>
+    <message id="17353">
+        <source>The script would then have more than %s entries. Nothing was changed.</source>
+        <extracomment>Message when changes are taken over; %s is the most that a script can have</extracomment>
+        <translation>Das Skript hätte dann mehr als %s Einträge. Es wurde nichts geändert.</translation>
+    </message>
 </context>
 </TS>
