@@ -4692,9 +4692,9 @@ Replace in all other fields?</translation>
         <extra-name>reviewOnlyStrayMarks</extra-name>
     </message>
     <message id="17353">
-        <source>The script would then have more than %s entries. Nothing was changed.</source>
-        <extracomment>Message when changes are taken over; %s is the most that a script can have</extracomment>
-        <translation>The script would then have more than %s entries. Nothing was changed.</translation>
+        <source>The script would then have more than %d entries. Nothing was changed.</source>
+        <extracomment>Message when changes are taken over; %d is the most that a script can have</extracomment>
+        <translation>The script would then have more than %d entries. Nothing was changed.</translation>
         <extra-name>reviewTooManyEntries</extra-name>
     </message>
 </context>

@@ -3915,9 +3915,9 @@ In allen anderen Feldern ersetzen?</translation>
         <translation>Kein Konflikt, der sich hier lösen lässt</translation>
     </message>
     <message id="17353">
-        <source>The script would then have more than %s entries. Nothing was changed.</source>
-        <extracomment>Message when changes are taken over; %s is the most that a script can have</extracomment>
-        <translation>Das Skript hätte dann mehr als %s Einträge. Es wurde nichts geändert.</translation>
+        <source>The script would then have more than %d entries. Nothing was changed.</source>
+        <extracomment>Message when changes are taken over; %d is the most that a script can have</extracomment>
+        <translation>Das Skript hätte dann mehr als %d Einträge. Es wurde nichts geändert.</translation>
     </message>
 </context>
 </TS>
