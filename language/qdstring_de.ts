@@ -4008,6 +4008,15 @@ In allen anderen Feldern ersetzen?</translation>
         <source>A copy of the example %s; save it under a name of your own</source>
         <extracomment>Status bar; %s is a file name</extracomment>
         <translation>Eine Kopie des Beispiels %s; speichern Sie sie unter einem eigenen Namen</translation>
+    <message id="17352">
+        <source>No conflict that can be resolved here</source>
+        <extracomment>Window of conflicts: there are only marks that make up none</extracomment>
+        <translation>Kein Konflikt, der sich hier lösen lässt</translation>
+    </message>
+    <message id="17353">
+        <source>The script would then have more than %d entries. Nothing was changed.</source>
+        <extracomment>Message when changes are taken over; %d is the most that a script can have</extracomment>
+        <translation>Das Skript hätte dann mehr als %d Einträge. Es wurde nichts geändert.</translation>
     </message>
 </context>
 </TS>

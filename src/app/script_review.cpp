@@ -61,6 +61,12 @@ ReviewWindow& ScriptReview::openWindow(Shown shown) {
         review_ = std::make_unique<ReviewWindow>(state_);
         // The program ends with its main window.
         review_->setAttribute(Qt::WA_QuitOnClose, false);
+        connect(review_.get(), &ReviewWindow::undoAsked, this, [this] {
+            if (!isDialogOpen()) editor_.undo();
+        });
+        connect(review_.get(), &ReviewWindow::redoAsked, this, [this] {
+            if (!isDialogOpen()) editor_.redo();
+        });
     }
     return *review_;
 }
@@ -75,7 +81,9 @@ void ScriptReview::follow() {
 }
 
 ReviewSide ScriptReview::savedSide() const {
-    return sideOfDocument(state_.document.saved, textid::reviewSideSaved);
+    ReviewSide side = sideOfDocument(state_.document.saved, textid::reviewSideSaved);
+    side.hostType = state_.document.savedHostType.value_or(state_.currentHostType);
+    return side;
 }
 
 ReviewSide ScriptReview::ownSide() const {
@@ -94,12 +102,17 @@ ReviewSide ScriptReview::sideOfDocument(const Script& script, StringId name) con
 
 ReviewWindow::Editor ScriptReview::editor() {
     return [this](ReviewedScript reviewed) {
-        // A dialog of the editor works on a step by its number, and leaves this window usable.
-        if (QWidget* dialog = QApplication::activeModalWidget()) {
-            return bringToFront(*dialog, {});
-        }
+        if (isDialogOpen()) return false;
         editor_.replaceScript(std::move(reviewed.script), reviewed.entry, reviewed.stepName);
+        return true;
     };
+}
+
+bool ScriptReview::isDialogOpen() {
+    QWidget* dialog = QApplication::activeModalWidget();
+    if (dialog == nullptr) return false;
+    bringToFront(*dialog, {});
+    return true;
 }
 
 }  // namespace quendra

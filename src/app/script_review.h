@@ -41,6 +41,9 @@ class ScriptReview : public QObject {
     [[nodiscard]] ReviewSide ownSide() const;
     [[nodiscard]] ReviewSide sideOfDocument(const Script& script, StringId name) const;
     [[nodiscard]] ReviewWindow::Editor editor();
+    /// A dialog of the editor works on a step by its number, and leaves the window of the
+    /// comparison usable: where one is open, it comes to the front and nothing may be changed.
+    [[nodiscard]] static bool isDialogOpen();
 
     ApplicationState& state_;
     MainWindow& window_;

@@ -65,15 +65,20 @@ class DiffPrinter {
         const ScriptEntry leftEntry = unpackSealedEntry(left_.script.entries[left]);
         const ScriptEntry rightEntry = unpackSealedEntry(right_.script.entries[right]);
         for (const FieldDifference& field : fieldDifferences(leftEntry, rightEntry)) {
-            environment_.out << "      " << field.name << ' ' << shown(field.left, field.isNumber)
-                             << " -> " << shown(field.right, field.isNumber) << '\n';
+            environment_.out << "      " << field.name << ' ' << shown(field.left) << " -> "
+                             << shown(field.right) << '\n';
         }
     }
 
-    static std::string shown(const std::optional<std::string>& value, bool isNumber) {
-        if (!value) return "(none)";
-        if (isNumber || *value == "sealed") return *value;
-        return '"' + escapeControlCharacters(utf8FromWindows1252(*value)) + '"';
+    static std::string shown(const ComparedValue& value) {
+        switch (value.kind) {
+            case ComparedValue::Kind::None: break;
+            case ComparedValue::Kind::Number: return value.text;
+            case ComparedValue::Kind::Sealed: return "sealed";
+            case ComparedValue::Kind::Text:
+                return '"' + escapeControlCharacters(utf8FromWindows1252(value.text)) + '"';
+        }
+        return "(none)";
     }
 
     [[nodiscard]] std::string lineOf(const ReadResult& side, std::size_t step) {

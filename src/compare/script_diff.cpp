@@ -257,17 +257,20 @@ class SlotSide {
         });
         return found == all.end() ? nullptr : &*found;
     }
-    [[nodiscard]] std::optional<std::string> value(const EntryField& wanted) const {
+    [[nodiscard]] ComparedValue value(const EntryField& wanted) const {
+        using enum ComparedValue::Kind;
         const EntryField* field = find(wanted);
-        if (field == nullptr) return std::nullopt;
-        if (isSecret(entry_, slot_, *field)) return "sealed";
+        if (field == nullptr) return {};
+        if (isSecret(entry_, slot_, *field)) return {Sealed};
         const FieldValue value = fieldValue(entry_, slot_, *field);
-        if (const auto* number = std::get_if<std::uint32_t>(&value)) return std::to_string(*number);
-        return std::string(std::get<std::string_view>(value));
+        if (const auto* number = std::get_if<std::uint32_t>(&value)) {
+            return {Number, std::to_string(*number)};
+        }
+        return {Text, std::string(std::get<std::string_view>(value))};
     }
-    [[nodiscard]] std::optional<std::string> command() const {
-        if (!isUsed_) return std::nullopt;
-        return std::string(commandName(step().code));
+    [[nodiscard]] ComparedValue command() const {
+        if (!isUsed_) return {};
+        return {ComparedValue::Kind::Text, std::string(commandName(step().code))};
     }
     [[nodiscard]] const ScriptEntry& entry() const { return entry_; }
 
@@ -280,12 +283,11 @@ class SlotSide {
 void addSlotDifferences(Slot slot, const SlotSide& left, const SlotSide& right,
                         std::vector<FieldDifference>& differences) {
     const auto add = [&](const EntryField& field) {
-        differences.push_back(
-            {fieldPath(slot, field), left.value(field), right.value(field), !isText(field.kind)});
+        differences.push_back({fieldPath(slot, field), left.value(field), right.value(field)});
     };
     if (slot != Slot::Entry && left.command() != right.command()) {
         differences.push_back(
-            {std::string(slotName(slot)) + ".command", left.command(), right.command(), false});
+            {std::string(slotName(slot)) + ".command", left.command(), right.command()});
     }
     for (const EntryField& field : left.fields()) {
         const EntryField* other = right.find(field);
@@ -300,7 +302,8 @@ void addSlotDifferences(Slot slot, const SlotSide& left, const SlotSide& right,
     const bool areCarried = left.isUsed() && right.isUsed() && left.command() == right.command() &&
                             left.step().code != CommandCode::Type;
     if (areCarried && left.step().kept != right.step().kept) {
-        differences.push_back({std::string(slotName(slot)) + ".record", "sealed", "sealed", false});
+        const ComparedValue sealed = {ComparedValue::Kind::Sealed};
+        differences.push_back({std::string(slotName(slot)) + ".record", sealed, sealed});
     }
 }
 

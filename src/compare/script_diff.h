@@ -54,14 +54,28 @@ struct DiffLine {
 /// All differences in the order of the right side, with what is gone before what came in its place.
 [[nodiscard]] std::vector<DiffLine> diffLines(const ScriptDiff& diff);
 
-/// A field that differs: its value in windows-1252 on both sides, none where that side has no such
-/// field; a hidden text or a password is "sealed".
+/// What one side has in a field.
+struct ComparedValue {
+    enum class Kind : std::uint8_t {
+        /// That side has no such field.
+        None,
+        Number,
+        Text,
+        /// A hidden text or a password, which is not told.
+        Sealed,
+    };
+    Kind kind = Kind::None;
+    /// A number in decimal, a text in windows-1252; empty for the others.
+    std::string text = {};
+
+    bool operator==(const ComparedValue&) const = default;
+};
+
+/// A field that differs.
 struct FieldDifference {
     std::string name;
-    std::optional<std::string> left;
-    std::optional<std::string> right;
-    /// The values are numbers.
-    bool isNumber = false;
+    ComparedValue left;
+    ComparedValue right;
 };
 /// The fields in which two entries of the same command differ, both unpacked without a key; the
 /// command of an action is a field of its own, "then.command".

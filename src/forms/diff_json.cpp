@@ -6,6 +6,7 @@
 
 #include <nlohmann/json.hpp>
 #include <ostream>
+#include <utility>
 
 namespace quendra {
 
@@ -27,10 +28,14 @@ Json numberFromOne(const std::optional<std::size_t>& step) {
     return step ? Json(*step + 1) : Json(nullptr);
 }
 
-Json valueOf(const std::optional<std::string>& value, bool isNumber) {
-    if (!value) return nullptr;
-    if (isNumber) return std::stoul(*value);
-    return utf8FromWindows1252(*value);
+// A text may say "sealed" too: the member beside it tells a hidden one from that.
+void addValue(Json& field, const std::string& side, const ComparedValue& value) {
+    switch (value.kind) {
+        case ComparedValue::Kind::None: field[side] = nullptr; return;
+        case ComparedValue::Kind::Number: field[side] = std::stoul(value.text); return;
+        case ComparedValue::Kind::Text: field[side] = utf8FromWindows1252(value.text); return;
+        case ComparedValue::Kind::Sealed: field[side] = "sealed"; field[side + "Hidden"] = true;
+    }
 }
 
 Json fieldsOf(const EntryHandle& left, const EntryHandle& right) {
@@ -38,9 +43,10 @@ Json fieldsOf(const EntryHandle& left, const EntryHandle& right) {
     const ScriptEntry rightEntry = unpackSealedEntry(right);
     Json fields = Json::array();
     for (const FieldDifference& field : fieldDifferences(leftEntry, rightEntry)) {
-        fields.push_back({{"name", field.name},
-                          {"a", valueOf(field.left, field.isNumber)},
-                          {"b", valueOf(field.right, field.isNumber)}});
+        Json told = {{"name", field.name}};
+        addValue(told, "a", field.left);
+        addValue(told, "b", field.right);
+        fields.push_back(std::move(told));
     }
     return fields;
 }

@@ -9,7 +9,7 @@
 namespace quendra {
 
 /// Prints {"changes": [...]} with the entries counted from 1; where the host types differ, these
-/// first.
+/// first. A hidden text is "sealed", and "aHidden" or "bHidden" is true beside it.
 void printDiff(std::ostream& out, const Script& left, HostType leftType, const Script& right,
                HostType rightType);
 

@@ -58,10 +58,15 @@ void HelpWindow::build() {
     });
     connect(finder_, &PageFinder::hitChosen, this,
             [this](const QString& page, const QStringList& words) {
+                // The marks are those of the words from now on.
+                search_->hide();
                 goTo({page, {}, 0});
                 view_->markWords(words);
             });
-    connect(finder_, &PageFinder::searchEnded, this, [this] { view_->markWords({}); });
+    connect(finder_, &PageFinder::searchEnded, this, [this] {
+        view_->markWords({});
+        search_->pageChanged();
+    });
     auto* split = new QSplitter;
     split->setObjectName(QStringLiteral("helpSplitter"));
     split->setChildrenCollapsible(false);
@@ -286,7 +291,11 @@ void HelpWindow::moveFocus(int step) {
 
 void HelpWindow::keyPressEvent(QKeyEvent* event) {
     if (event->key() != Qt::Key_Escape) return QWidget::keyPressEvent(event);
-    close();
+    if (search_->isHidden()) {
+        close();
+    } else {
+        search_->close();
+    }
 }
 
 }  // namespace quendra

@@ -48,10 +48,11 @@ void PageSearch::addButton(const char* name, StringId toolTip, Qt::ArrowType arr
 }
 
 void PageSearch::open() {
+    const bool wasHidden = isHidden();
     show();
     edit_->setFocus();
     edit_->selectAll();
-    typed();
+    if (wasHidden) typed();
 }
 
 void PageSearch::close() {
@@ -61,7 +62,7 @@ void PageSearch::close() {
 }
 
 void PageSearch::go(int step) {
-    if (!isVisible()) return open();
+    if (isHidden()) return open();
     const int count = view_.markCount();
     if (count == 0) return;
     current_ = (current_ + step + count) % count;
@@ -70,7 +71,7 @@ void PageSearch::go(int step) {
 }
 
 void PageSearch::pageChanged() {
-    if (isVisible()) typed();
+    if (!isHidden()) typed();
 }
 
 void PageSearch::typed() {

@@ -26,7 +26,7 @@ class PageSearch : public QWidget {
     /// Goes to the next place, or to the one before for a step of -1, round from the last to the
     /// first; opens the bar where it is closed.
     void go(int step);
-    /// Another page is shown: marks the text there.
+    /// Another page is shown, or the marks of another search have gone: marks the text there.
     void pageChanged();
 
   protected:

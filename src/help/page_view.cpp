@@ -37,6 +37,7 @@ void PageView::showPage(const QString& html, const QString& folder) {
     html_ = html;
     folder_ = folder;
     words_.clear();
+    currentMark_ = -1;
     render();
     verticalScrollBar()->setValue(0);
 }
@@ -87,17 +88,23 @@ QTextCursor PageView::markAll(const QStringList& words) {
     return first;
 }
 
-void PageView::goToMark(int index) {
+void PageView::drawCurrentMark() {
     QList<ExtraSelection> marks = extraSelections();
+    if (currentMark_ < 0 || currentMark_ >= marks.size()) return;
     for (ExtraSelection& mark : marks) {
         mark.format.setBackground(QColor::fromRgb(markColour));
         mark.format.setFontUnderline(false);
     }
-    ExtraSelection& current = marks[index];
+    ExtraSelection& current = marks[currentMark_];
     current.format.setBackground(QColor::fromRgb(currentMarkColour));
     current.format.setFontUnderline(true);
     setExtraSelections(marks);
-    const QRect place = cursorRect(current.cursor);
+}
+
+void PageView::goToMark(int index) {
+    currentMark_ = index;
+    drawCurrentMark();
+    const QRect place = cursorRect(extraSelections().at(index).cursor);
     if (viewport()->rect().contains(place)) return;
     const int above = viewport()->height() / 4;
     verticalScrollBar()->setValue(verticalScrollBar()->value() + place.top() - above);
@@ -105,6 +112,7 @@ void PageView::goToMark(int index) {
 
 void PageView::markWords(const QStringList& words) {
     words_ = words;
+    currentMark_ = -1;
     const QTextCursor first = markAll(words);
     if (first.isNull()) return;
     // A few lines before it stay in sight.
@@ -168,6 +176,7 @@ void PageView::changeLook() {
     const double place = bar.maximum() > 0 ? double(bar.value()) / bar.maximum() : 0;
     render();
     markAll(words_);
+    drawCurrentMark();
     bar.setValue(static_cast<int>(place * bar.maximum()));
 }
 

@@ -41,12 +41,15 @@ class PageView : public QTextBrowser {
     void changeLook();
     /// Gives the first occurrence behind the title; null when there is none.
     QTextCursor markAll(const QStringList& words);
+    void drawCurrentMark();
     [[nodiscard]] QFont pageFont() const;
     [[nodiscard]] int columnWidth() const;
 
     QString html_;
     QString folder_;
     QStringList words_;
+    /// The mark that stands out; -1 for none.
+    int currentMark_ = -1;
     int zoom_ = 100;
 };
 

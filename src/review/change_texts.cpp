@@ -10,22 +10,25 @@ namespace quendra {
 
 namespace {
 
-std::string shownValue(const std::optional<std::string>& value, bool isNumber,
-                       LanguageLibrary& language) {
-    if (!value) return libraryText(language, textid::reviewNoValue);
-    if (isNumber) return *value;
-    if (*value == "sealed") return libraryText(language, textid::reviewHidden);
-    return '"' + escapeControlCharacters(utf8FromWindows1252(*value)) + '"';
+std::string shownValue(const ComparedValue& value, LanguageLibrary& language) {
+    switch (value.kind) {
+        case ComparedValue::Kind::None: break;
+        case ComparedValue::Kind::Number: return value.text;
+        case ComparedValue::Kind::Sealed: return libraryText(language, textid::reviewHidden);
+        case ComparedValue::Kind::Text:
+            return '"' + escapeControlCharacters(utf8FromWindows1252(value.text)) + '"';
+    }
+    return libraryText(language, textid::reviewNoValue);
 }
 
 QString fieldLine(const FieldDifference& field, LanguageLibrary& language) {
     std::string line = field.name + ' ';
-    if (!field.isNumber && field.left == "sealed" && field.right == "sealed") {
+    using enum ComparedValue::Kind;
+    if (field.left.kind == Sealed && field.right.kind == Sealed) {
         line += libraryText(language, textid::reviewHidden) + ", " +
                 libraryText(language, textid::reviewChanged);
     } else {
-        line += shownValue(field.left, field.isNumber, language) + " \u2192 " +
-                shownValue(field.right, field.isNumber, language);
+        line += shownValue(field.left, language) + " \u2192 " + shownValue(field.right, language);
     }
     return qtText(line);
 }

@@ -27,8 +27,12 @@ ReviewHeading::ReviewHeading(const QString& name, QWidget* parent)
     all->addStretch();
 }
 
+void ReviewHeading::setName(const std::string& name) {
+    name_->setLine(qtText(name));
+}
+
 void ReviewHeading::show(const ReviewSide& side, const std::string& count) {
-    name_->setLine(qtText(side.name));
+    setName(side.name);
     const std::string kind = count + ", " + std::string(hostTypeInfo(side.hostType).name);
     place_->setLine(qtText(side.place.empty() ? kind : kind + ", " + side.place));
     note_->setText(qtText(side.note));

@@ -18,6 +18,8 @@ class ReviewHeading : public QWidget {
 
     /// What is wrong with a script wraps, for it has to be read whole.
     void show(const ReviewSide& side, const std::string& count);
+    /// In UTF-8, in place of the side's own.
+    void setName(const std::string& name);
 
   private:
     StatusLine* name_;

@@ -118,11 +118,18 @@ QWidget* ReviewWindow::buildHeadings() {
 QWidget* ReviewWindow::buildBar() {
     auto* bar = new QWidget;
     bar->setObjectName(QStringLiteral("reviewBar"));
-    auto* all = new QHBoxLayout(bar);
-    all->setContentsMargins(0, 0, 0, 0);
+    bar->installEventFilter(this);
+    bar_ = new QHBoxLayout(bar);
+    bar_->setContentsMargins(0, 0, 0, 0);
     summary_ = new StatusLine;
     summary_->setObjectName(QStringLiteral("reviewSummary"));
-    all->addWidget(summary_, 1);
+    buttons_ = new QWidget;
+    buttons_->setObjectName(QStringLiteral("reviewButtons"));
+    bar_->addWidget(summary_, 1);
+    bar_->addWidget(buttons_);
+    auto* all = new QHBoxLayout(buttons_);
+    all->setContentsMargins(0, 0, 0, 0);
+    all->addStretch(1);
     previous_ = addArrow("reviewPrevious", textid::reviewPrevious, Qt::UpArrow,
                          Qt::SHIFT | Qt::Key_F7, &ReviewWindow::goToPrevious);
     next_ = addArrow("reviewNext", textid::reviewNext, Qt::DownArrow, Qt::Key_F7,
@@ -140,15 +147,33 @@ QWidget* ReviewWindow::buildBar() {
     all->addWidget(takeOver_);
     for (QPushButton* button : keep_)
         all->addWidget(button);
+    addKeys({Qt::CTRL | Qt::Key_Z}, &ReviewWindow::undoAsked);
+    addKeys({Qt::CTRL | Qt::SHIFT | Qt::Key_Z, Qt::CTRL | Qt::Key_Y}, &ReviewWindow::redoAsked);
     return bar;
+}
+
+// The summary has a line of its own where it would be cut beside the buttons.
+bool ReviewWindow::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::Resize || event->type() == QEvent::LayoutRequest) {
+        constexpr int summaryCharacters = 40;
+        const int room = summaryCharacters * fontMetrics().averageCharWidth();
+        const int width = static_cast<const QWidget&>(*bar_->parentWidget()).width();
+        const bool isNarrow = width < buttons_->sizeHint().width() + room;
+        bar_->setDirection(isNarrow ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
+void ReviewWindow::addKeys(const QList<QKeySequence>& keys, void (ReviewWindow::*act)()) {
+    auto* action = new QAction(this);
+    action->setShortcuts(keys);
+    addAction(action);
+    connect(action, &QAction::triggered, this, act);
 }
 
 QToolButton* ReviewWindow::addArrow(const char* name, StringId toolTip, Qt::ArrowType arrow,
                                     const QKeySequence& key, void (ReviewWindow::*act)()) {
-    auto* action = new QAction(this);
-    action->setShortcut(key);
-    addAction(action);
-    connect(action, &QAction::triggered, this, act);
+    addKeys({key}, act);
     auto* button = new QToolButton;
     button->setObjectName(QLatin1String(name));
     button->setAccessibleName(text(toolTip));
@@ -195,7 +220,7 @@ void ReviewWindow::follow(ReviewSide left, ReviewSide right) {
 }
 
 void ReviewWindow::follow(ReviewSide script) {
-    if (script.script == model_->side(Side::Left).script) return;
+    if (script == resolved_) return;
     keepPlace([&] { showConflicts(std::move(script)); });
 }
 
@@ -221,25 +246,31 @@ void ReviewWindow::keepPlace(const std::function<void()>& show) {
 }
 
 void ReviewWindow::showConflicts(ReviewSide script) {
-    ConflictSearch found = findConflicts(script.script);
+    resolved_ = std::move(script);
+    ConflictSearch found = findConflicts(resolved_.script);
     conflicts_ = std::move(found.conflicts);
-    AlignedScripts aligned = alignConflicts(script.script, conflicts_);
-    const std::string title = script.name;
-    ReviewSide theirs = script;
-    if (!conflicts_.empty()) {
-        // A merge gives all its conflicts the same names.
-        const MergeConflict& first = conflicts_.front();
-        script.name = conflictSideName(script.script, first.start);
-        theirs.name = conflictSideName(theirs.script, first.end);
-    }
+    hasStrayMarks_ = !found.strayMarks.empty();
     note_->setText(text(textid::reviewStrayMarks, {listed(found.strayMarks)}));
-    note_->setVisible(!found.strayMarks.empty());
-    setWindowTitle(text(textid::reviewResolveTitle, {title}));
-    fill(std::move(script), std::move(theirs), std::move(aligned));
+    note_->setVisible(hasStrayMarks_);
+    setWindowTitle(text(textid::reviewResolveTitle, {resolved_.name}));
+    fill(resolved_, resolved_, alignConflicts(resolved_.script, conflicts_));
+}
+
+// Of the current conflict, or the last one before the focused row, for each has names of its own.
+void ReviewWindow::showConflictNames() {
+    const auto& changes = model_->aligned().changes;
+    if (!isConflicts_ || changes.empty()) return;
+    const auto row = static_cast<std::size_t>(std::max(list_->focusedRow(), 0));
+    const auto behind = std::ranges::upper_bound(changes, row) - changes.begin();
+    const MergeConflict& conflict =
+        conflicts_[static_cast<std::size_t>(std::max(behind, decltype(behind){1}) - 1)];
+    left_->setName(conflictSideName(resolved_.script, conflict.start));
+    right_->setName(conflictSideName(resolved_.script, conflict.end));
 }
 
 void ReviewWindow::showSides(ReviewSide left, ReviewSide right) {
     note_->hide();
+    resolved_ = {};
     setWindowTitle(text(textid::reviewCompareTitle, {left.name, right.name}));
     AlignedScripts aligned = alignScripts(left.script, right.script);
     fill(std::move(left), std::move(right), std::move(aligned));
@@ -265,6 +296,7 @@ void ReviewWindow::showCurrent() {
     const int row = list_->focusedRow();
     details_->setPlainText(row < 0 ? QString() : changeText(*model_, row, state_.language));
     consequence_->setLine(consequence());
+    showConflictNames();
     showSummary({});
 }
 
@@ -288,7 +320,9 @@ QString ReviewWindow::summary() const {
     }
     const bool isOne = count == "1";
     if (isConflicts_) {
-        if (conflicts_.empty()) return text(textid::reviewNoConflicts);
+        if (conflicts_.empty()) {
+            return text(hasStrayMarks_ ? textid::reviewOnlyStrayMarks : textid::reviewNoConflicts);
+        }
         return isOne ? text(textid::reviewOneConflict) : text(textid::reviewConflicts, {count});
     }
     if (count != "0") {
@@ -366,6 +400,14 @@ void ReviewWindow::goToChange(std::size_t change, StringId remark) {
     if (remark != 0) showSummary(text(remark));
 }
 
+void ReviewWindow::goToChangeFromHere() {
+    const auto& changes = model_->aligned().changes;
+    const auto row = static_cast<std::size_t>(std::max(list_->focusedRow(), 0));
+    const auto here = std::ranges::lower_bound(changes, row);
+    if (here == changes.end()) return goToNext();
+    goToChange(static_cast<std::size_t>(here - changes.begin()), 0);
+}
+
 void ReviewWindow::takeOver() {
     const std::vector<std::size_t> changes = selectedChanges();
     TakenOver taken = takeOverChanges(model_->aligned(), model_->side(Side::Left).script,
@@ -373,21 +415,23 @@ void ReviewWindow::takeOver() {
     if (taken.script.entryCount() > maxEntries) {
         const std::string most = std::to_string(maxEntries);
         return showMessage(
-            this, {formatText("Max limit of %d script entries reached.", {most}),
+            this, {libraryText(state_.language, textid::reviewTooManyEntries, {most}),
                    "Quendra Script Editor", MessageIcon::Information, MessageButtons::Ok, false});
     }
-    editor_({std::move(taken.script), taken.at, textid::reviewTakeOverStep});
+    if (!editor_({std::move(taken.script), taken.at, textid::reviewTakeOverStep})) return;
     list_->setFocus();
+    goToChangeFromHere();
 }
 
 void ReviewWindow::keep(ConflictChoice choice) {
     const auto change = currentChange();
     if (!change) return;
     const MergeConflict conflict = conflicts_[*change];
-    Script script = model_->side(Side::Left).script;
+    Script script = resolved_.script;
     resolveConflict(script, conflict, choice);
-    editor_({std::move(script), conflict.start, textid::resolveConflictsToolTip});
+    if (!editor_({std::move(script), conflict.start, textid::resolveConflictsToolTip})) return;
     list_->setFocus();
+    goToChangeFromHere();
 }
 
 void ReviewWindow::present() {
@@ -401,6 +445,7 @@ void ReviewWindow::present() {
 void ReviewWindow::closeEvent(QCloseEvent* event) {
     QWidget::closeEvent(event);
     conflicts_.clear();
+    resolved_ = {};
     fill({}, {}, {});
 }
 

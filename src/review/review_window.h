@@ -10,6 +10,7 @@
 #include <vector>
 
 class QAction;
+class QBoxLayout;
 class QLabel;
 class QPlainTextEdit;
 class QPushButton;
@@ -34,7 +35,8 @@ class ReviewWindow : public QWidget {
     Q_OBJECT
 
   public:
-    using Editor = std::function<void(ReviewedScript)>;
+    /// Gives false when the script could not be changed, and is as it was.
+    using Editor = std::function<bool(ReviewedScript)>;
 
     /// `state` outlives the window; its script is not looked at.
     explicit ReviewWindow(ApplicationState& state);
@@ -54,7 +56,13 @@ class ReviewWindow : public QWidget {
     /// Shows the window, and brings it to the front.
     void present();
 
+  Q_SIGNALS:
+    /// The keys of Undo and Redo were pressed here.
+    void undoAsked();
+    void redoAsked();
+
   protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
 
@@ -72,10 +80,14 @@ class ReviewWindow : public QWidget {
     void showSides(ReviewSide left, ReviewSide right);
     void showConflicts(ReviewSide script);
     void showCurrent();
+    void showConflictNames();
     void showSummary(const QString& remark);
     void goToNext();
     void goToPrevious();
     void goToChange(std::size_t change, StringId remark);
+    /// The change in the focused row or the first one behind it.
+    void goToChangeFromHere();
+    void addKeys(const QList<QKeySequence>& keys, void (ReviewWindow::*act)());
     void takeOver();
     void keep(ConflictChoice choice);
     /// The changes of the selected rows, ascending.
@@ -89,7 +101,10 @@ class ReviewWindow : public QWidget {
     ReviewModel* model_;
     Editor editor_;
     bool isConflicts_ = false;
+    /// The script of the conflicts.
+    ReviewSide resolved_;
     std::vector<MergeConflict> conflicts_;
+    bool hasStrayMarks_ = false;
 
     ReviewHeading* left_ = nullptr;
     ReviewHeading* right_ = nullptr;
@@ -98,6 +113,8 @@ class ReviewWindow : public QWidget {
     QPlainTextEdit* details_ = nullptr;
     StatusLine* consequence_ = nullptr;
     StatusLine* summary_ = nullptr;
+    QBoxLayout* bar_ = nullptr;
+    QWidget* buttons_ = nullptr;
     QToolButton* previous_ = nullptr;
     QToolButton* next_ = nullptr;
     QPushButton* takeOver_ = nullptr;

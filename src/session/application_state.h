@@ -31,6 +31,9 @@ struct ScriptDocument {
     bool refused = false;
     /// The script as it was loaded or saved last, empty for a new one.
     Script saved = {};
+    /// The host type that its file has, which is not always the current one; none when there is no
+    /// such file.
+    std::optional<HostType> savedHostType = {};
 };
 
 struct ApplicationState : EditingState {

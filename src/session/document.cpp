@@ -130,6 +130,7 @@ void takeOver(ApplicationState& state, const fs::path& path, LoadedScript loaded
     document.stamp = upgraded ? upgrade->stamp : loaded.stamp;
     document.keepOldOnSave = !loaded.read.isWhole() || (loaded.read.isOlderVersion() && !upgraded);
     document.saved = loaded.read.script;
+    document.savedHostType = loaded.read.signature.hostType;
     state.document = std::move(document);
     state.history.clear();
     state.jumps.clear();
@@ -328,7 +329,7 @@ SaveOutcome saveDocument(ApplicationState& state, const fs::path& path,
     }
     state.script = std::move(script);
     SaveOutcome outcome = {true, std::nullopt, {}, takeWhatWasStored(state, selection)};
-    state.document = {path, false, result.stamp, false, false, state.script};
+    state.document = {path, false, result.stamp, false, false, state.script, state.currentHostType};
     backupSavedScript(state.settings, path);
     outcome.note = savedNote(state.language, path, result);
     return outcome;

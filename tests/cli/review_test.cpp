@@ -142,6 +142,16 @@ TEST_F(Review, DiffTellsFieldsAndItsStatus) {
     EXPECT_EQ(runQds({"diff", a, "-"}, readBytes(b)).out, run.out);
 }
 
+TEST_F(Review, DiffTellsAHiddenTextFromOneThatSaysSo) {
+    setIdentity("");
+    const auto a = file("a.qds", script({hiddenTypeRecord("Canary", "")}));
+    const auto b = file("b.qds", script({joined({{15}, counted("sealed"), {0}})}));
+    EXPECT_NE(runQds({"diff", a, b}).out.find("text sealed -> \"sealed\"\n"), std::string::npos);
+    const auto form = nlohmann::json::parse(runQds({"diff", "--json", a, b}).out);
+    EXPECT_EQ(form["changes"][0]["fields"][0].dump(),
+              R"({"a":"sealed","aHidden":true,"b":"sealed","name":"text"})");
+}
+
 TEST_F(Review, MergeWritesAWholeScriptOrNothing) {
     const Bytes baseBytes = script({waitFor("R", 30), {4}});
     const Bytes longer = script({waitFor("R", 60), {4}});

@@ -107,6 +107,36 @@ TEST_F(HelpWindowTest, FindsInThePageAndGoesRound) {
     EXPECT_EQ(window.windowTitle(), u"Quendra Script Editor Help");
 }
 
+TEST_F(HelpWindowTest, FindsInThePageBesideASearchOfTheManual) {
+    const auto currentMark = [this] {
+        const auto marks = view().extraSelections();
+        const auto current = std::ranges::find_if(
+            marks, [](const auto& mark) { return mark.format.fontUnderline(); });
+        return current - marks.begin();
+    };
+    open("wait-for.html");
+    press(Qt::Key_F, Qt::ControlModifier);
+    QTest::keyClicks(window.focusWidget(), QStringLiteral("wait"));
+    press(Qt::Key_F3);
+    press(Qt::Key_Plus, Qt::ControlModifier);
+    EXPECT_EQ(currentMark(), 1) << "another size";
+    press(Qt::Key_F, Qt::ControlModifier);
+    EXPECT_EQ(currentMark(), 1) << "the key again";
+    const auto marks = view().extraSelections().size();
+    search("zebra");
+    press(Qt::Key_Escape);
+    EXPECT_EQ(view().extraSelections().size(), marks) << "the bar still shows";
+    view().setFocus();
+    press(Qt::Key_Escape);
+    EXPECT_TRUE(window.isVisible()) << "the bar goes first";
+    EXPECT_FALSE(widget<QWidget>("helpPageSearch").isVisible());
+    press(Qt::Key_F, Qt::ControlModifier);
+    search("beep");
+    press(Qt::Key_Return);
+    EXPECT_FALSE(widget<QWidget>("helpPageSearch").isVisible()) << "the marks are another's";
+    EXPECT_FALSE(view().extraSelections().isEmpty());
+}
+
 TEST_F(HelpWindowTest, LinksLeadToPagesHeadingsAndOutOfTheManual) {
     open("beep.html");
     clickLink("the site");

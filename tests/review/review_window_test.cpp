@@ -2,6 +2,7 @@
 #include "review/review_window.h"
 
 #include "review/review_list.h"
+#include "scriptfile/script_reader.h"
 #include "support/editor_fixture.h"
 #include "widgets/appearance.h"
 
@@ -97,6 +98,10 @@ TEST_F(ReviewTest, KeysGoFromChangeToChangeAndRoundAndSaySo) {
     EXPECT_EQ(shown("reviewSummary"), "2 changes");
     QTest::mouseClick(&part<QToolButton>("reviewNext"), Qt::LeftButton);
     EXPECT_EQ(list().focusedRow(), 1);
+    press(Qt::Key_Right, Qt::AltModifier);
+    EXPECT_EQ(shown("reviewSummary"), "Change 1 of 1") << "on to what is left";
+    EXPECT_EQ(list().focusedRow(), 6);
+    run(Undo);
     EXPECT_EQ(rows().substr(0, 75),
               "the same; left, entry 1: a; right, entry 1: a|only on the left; left, entry");
     press(Qt::Key_Escape);
@@ -130,6 +135,10 @@ TEST_F(ReviewTest, TakesEachKindOfChangeOverInOneStepThatUndoTakesBack) {
         press(Qt::Key_Right, Qt::AltModifier);
         EXPECT_EQ(action(Undo).toolTip(), QStringLiteral("Undo Take Over"));
         run(Undo);
+        press(Qt::Key_Y, Qt::ControlModifier);
+        EXPECT_EQ(lines(), row.after) << "its own keys";
+        part<QPlainTextEdit>("reviewDetails").setFocus();
+        press(Qt::Key_Z, Qt::ControlModifier);
         EXPECT_EQ(lines(), before);
         EXPECT_FALSE(isEnabled(Undo)) << "one step";
         EXPECT_NE(shown("reviewSummary"), "The scripts are the same");
@@ -157,7 +166,8 @@ TEST_F(ReviewTest, RefusesWhatWouldNotFitAScript) {
     compareWith(other);
     press(Qt::Key_Right, Qt::AltModifier);
     ASSERT_EQ(answers.messages.size(), 1U);
-    EXPECT_EQ(answers.messages[0].text, "Max limit of 4096 script entries reached.");
+    EXPECT_EQ(answers.messages[0].text,
+              "The script would then have more than 4096 entries. Nothing was changed.");
     EXPECT_FALSE(isMarked());
 }
 
@@ -169,6 +179,8 @@ TEST_F(ReviewTest, TellsFieldsOfAChangeAndNeverAHiddenText) {
                       R"(right, entry 1: Type "**********" (H))");
     press(Qt::Key_Right, Qt::AltModifier);
     EXPECT_EQ(shown("reviewSummary"), "The scripts are the same");
+    compareWith(scriptFile("QDMDSCR=", {joined({{15}, counted("sealed"), {0}})}));
+    EXPECT_EQ(details().substr(0, 24), "text \"sealed\" \u2192 hidden");
     compareWith(fileOf("a"));
     EXPECT_EQ(details(), "only on the left: a");
 }
@@ -190,6 +202,11 @@ TEST_F(ReviewTest, ComparesWithTheSavedScriptWhateverBecomesOfTheFile) {
     run(Undo);
     run(Save);
     EXPECT_EQ(shown("reviewSummary"), "The scripts are the same") << "the saved one has changed";
+    run(modeCommand(HostType::VT));
+    EXPECT_TRUE(shown("reviewLeftPlace").starts_with("1 entry, Mainframe")) << "as it was saved";
+    EXPECT_TRUE(shown("reviewRightPlace").starts_with("1 entry, VT"));
+    run(Save);
+    EXPECT_TRUE(shown("reviewLeftPlace").starts_with("1 entry, VT"));
 }
 
 TEST_F(ReviewTest, RefusesWhatIsNoScriptAndTellsOfOneThatIsNotWhole) {
@@ -228,7 +245,9 @@ TEST_F(ReviewTest, ResolvesOneConflictAStepAndLeavesStrayMarksAlone) {
                   "What you keep replaces the entries 2 to 6 of the script");
         press(row.key, Qt::AltModifier);
         EXPECT_EQ(lines(), row.after);
+        EXPECT_EQ(shown("reviewSummary"), "Conflict 1 of 1") << "on to what is left";
         run(Undo);
+        press(Qt::Key_F7, Qt::ShiftModifier);
         QTest::mouseClick(&part<QPushButton>(row.button), Qt::LeftButton);
         EXPECT_EQ(lines(), row.after);
         press(Qt::Key_F7);
@@ -244,6 +263,41 @@ TEST_F(ReviewTest, ResolvesOneConflictAStepAndLeavesStrayMarksAlone) {
               "counterparts: the conflict marks in the entries 1");
     EXPECT_TRUE(part<QLabel>("reviewNote").isVisible());
     EXPECT_EQ(shown("reviewSummary"), "Conflict 1 of 1");
+    openWords("a <<<<<<< b");
+    run(ResolveConflicts);
+    EXPECT_EQ(shown("reviewSummary"), "No conflict that can be resolved here");
+}
+
+TEST_F(ReviewTest, HeadsConflictsAsTheirMarksNameThemAndFollowsTheDocument) {
+    const Bytes middle = commentRecord("=======");
+    open("mine.qds", scriptFile("QDMDSCR=", {commentRecord("<<<<<<< ours"), commentRecord("a"),
+                                             middle, commentRecord(">>>>>>> topic"),
+                                             commentRecord("b"), commentRecord("<<<<<<< main"),
+                                             middle, commentRecord(">>>>>>> fix")}));
+    run(ResolveConflicts);
+    activate();
+    EXPECT_EQ(shown("reviewRightName"), "topic");
+    press(Qt::Key_F7);
+    EXPECT_EQ(shown("reviewLeftName"), "main");
+    EXPECT_EQ(shown("reviewRightName"), "fix");
+    run(modeCommand(HostType::VT));
+    EXPECT_TRUE(shown("reviewLeftPlace").starts_with("8 entries, VT"));
+}
+
+TEST(ReviewWindow, KeepsItsSummaryWhereItIsNarrow) {
+    EditorState german("qdstring_de");
+    ReviewWindow window(german.state);
+    const Bytes marks[] = {commentRecord("<<<<<<<"), commentRecord("======="),
+                           commentRecord(">>>>>>>")};
+    const Bytes file = scriptFile("QDMDSCR=", {marks[0], marks[1], marks[2]});
+    window.resolve({readScript(file).script, HostType::Mainframe, "a.qds", {}, {}},
+                   [](const ReviewedScript&) { return true; });
+    window.resize(window.minimumSize());
+    window.show();
+    QCoreApplication::processEvents();
+    const auto& summary = *window.findChild<QLabel*>(QStringLiteral("reviewSummary"));
+    EXPECT_EQ(summary.text(), QStringLiteral("Konflikt 1 von 1"));
+    EXPECT_GE(summary.width(), summary.fontMetrics().horizontalAdvance(summary.text()));
 }
 
 double luminance(const QColor& colour) {

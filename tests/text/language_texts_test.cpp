@@ -170,7 +170,7 @@ TEST_P(LanguageTexts, HaveTheFormatPlacesThatTheProgramFills) {
           textid::reviewConflicts, textid::reviewMovedAway, textid::reviewMovedHere,
           textid::reviewTakesGone, textid::reviewTakesNew, textid::reviewTakesMoved,
           textid::reviewTakesSelected, textid::replacedCount, textid::renameLabelChanges,
-          textid::renameLabelExists})
+          textid::renameLabelExists, textid::reviewTooManyEntries})
         filled[id] = "%d";
     for (const auto& [id, text] : texts)
         EXPECT_EQ(places(text), filled[id]) << id << ": " << text;
