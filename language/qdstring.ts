@@ -4685,6 +4685,12 @@ Replace in all other fields?</translation>
         <translation>Find in this page</translation>
         <extra-name>helpFindInPage</extra-name>
     </message>
+    <message id="17352">
+        <source>No conflict that can be resolved here</source>
+        <extracomment>Window of conflicts: there are only marks that make up none</extracomment>
+        <translation>No conflict that can be resolved here</translation>
+        <extra-name>reviewOnlyStrayMarks</extra-name>
+    </message>
     <message id="17353">
         <source>The script would then have more than %d entries. Nothing was changed.</source>
         <extracomment>Message when changes are taken over; %d is the most that a script can have</extracomment>
@@ -4810,11 +4816,6 @@ Replace in all other fields?</translation>
         <extracomment>Status bar; %s is a file name</extracomment>
         <translation>A copy of the example %s; save it under a name of your own</translation>
         <extra-name>exampleOpened</extra-name>
-    <message id="17352">
-        <source>No conflict that can be resolved here</source>
-        <extracomment>Window of conflicts: there are only marks that make up none</extracomment>
-        <translation>No conflict that can be resolved here</translation>
-        <extra-name>reviewOnlyStrayMarks</extra-name>
     </message>
 </context>
 </TS>

@@ -3909,6 +3909,16 @@ In allen anderen Feldern ersetzen?</translation>
         <extracomment>Help window: field that searches the page</extracomment>
         <translation>Auf dieser Seite suchen</translation>
     </message>
+    <message id="17352">
+        <source>No conflict that can be resolved here</source>
+        <extracomment>Window of conflicts: there are only marks that make up none</extracomment>
+        <translation>Kein Konflikt, der sich hier lösen lässt</translation>
+    </message>
+    <message id="17353">
+        <source>The script would then have more than %d entries. Nothing was changed.</source>
+        <extracomment>Message when changes are taken over; %d is the most that a script can have</extracomment>
+        <translation>Das Skript hätte dann mehr als %d Einträge. Es wurde nichts geändert.</translation>
+    </message>
     <message id="17450">
         <source>This script has no steps yet. Double-click a script event on the right, or drag it here.</source>
         <extracomment>In the empty script list</extracomment>
@@ -4008,15 +4018,6 @@ In allen anderen Feldern ersetzen?</translation>
         <source>A copy of the example %s; save it under a name of your own</source>
         <extracomment>Status bar; %s is a file name</extracomment>
         <translation>Eine Kopie des Beispiels %s; speichern Sie sie unter einem eigenen Namen</translation>
-    <message id="17352">
-        <source>No conflict that can be resolved here</source>
-        <extracomment>Window of conflicts: there are only marks that make up none</extracomment>
-        <translation>Kein Konflikt, der sich hier lösen lässt</translation>
-    </message>
-    <message id="17353">
-        <source>The script would then have more than %d entries. Nothing was changed.</source>
-        <extracomment>Message when changes are taken over; %d is the most that a script can have</extracomment>
-        <translation>Das Skript hätte dann mehr als %d Einträge. Es wurde nichts geändert.</translation>
     </message>
 </context>
 </TS>
