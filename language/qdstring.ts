@@ -4698,9 +4698,9 @@ Replace in all other fields?</translation>
         <extra-name>reviewTooManyEntries</extra-name>
     </message>
     <message id="17450">
-        <source>This script has no steps yet. Double-click a script event on the right, or drag it here.</source>
+        <source>This script has no steps yet. Double-click a script event on the right, or select it and press Return, to make the first one.</source>
         <extracomment>In the empty script list</extracomment>
-        <translation>This script has no steps yet. Double-click a script event on the right, or drag it here.</translation>
+        <translation>This script has no steps yet. Double-click a script event on the right, or select it and press Return, to make the first one.</translation>
         <extra-name>emptyScriptHint</extra-name>
     </message>
     <message id="17451">

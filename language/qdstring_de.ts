@@ -3920,9 +3920,9 @@ In allen anderen Feldern ersetzen?</translation>
         <translation>Das Skript hätte dann mehr als %d Einträge. Es wurde nichts geändert.</translation>
     </message>
     <message id="17450">
-        <source>This script has no steps yet. Double-click a script event on the right, or drag it here.</source>
+        <source>This script has no steps yet. Double-click a script event on the right, or select it and press Return, to make the first one.</source>
         <extracomment>In the empty script list</extracomment>
-        <translation>Dieses Skript hat noch keine Schritte. Doppelklicken Sie rechts auf ein Skriptereignis oder ziehen Sie es hierher.</translation>
+        <translation>Dieses Skript hat noch keine Schritte. Den ersten macht ein Doppelklick auf ein Skriptereignis rechts oder die Eingabetaste darauf.</translation>
     </message>
     <message id="17451">
         <source>D&amp;uplicate</source>

@@ -110,12 +110,16 @@ std::optional<OpenOutcome> applyCommandLine(ApplicationState& state, const Comma
 
 // The run from the first window to the last.
 int runWindow(ApplicationState& state, ShownWindow& shown, const CommandLine& line,
-              const PictureOptions& picture, const FontSettings& fontSettings) {
+              const PictureOptions& picture, const FontSettings& fontSettings,
+              const EditorListener* listener) {
     const std::optional<OpenOutcome> opening = applyCommandLine(state, line);
     MainWindow window(state, [&fontSettings] { fontSettings.wait(); });
     ScriptEditor editor(state, window, editParameters);
     EditorHelp help(state);
     const CommandHandlers handlers(state, window, editor, &help);
+    if (listener) {
+        window.setRaiser([listener](const auto& script) { return listener->raiseOther(script); });
+    }
     shown = {&state, &window};
     bool ended = false;
     const EndSignals endSignals([&] {
@@ -200,7 +204,7 @@ int runEditor(int& argc, char** argv, const CommandLine& line, const PictureOpti
         fontSettings.wait();
         status = runComparison(state, *line.compared, picture);
     } else {
-        status = runWindow(state, shown, line, picture, fontSettings);
+        status = runWindow(state, shown, line, picture, fontSettings, admission.listener.get());
     }
     wipeApplication(state);
     return status;

@@ -7,6 +7,7 @@
 #include "app/script_problems.h"
 #include "app/step_bar.h"
 #include "app/window_activation.h"
+#include "platform/editor_windows.h"
 #include "session/command_line.h"
 #include "session/command_rules.h"
 #include "session/commands.h"
@@ -138,6 +139,10 @@ void MainWindow::watchSession() {
 
 void MainWindow::setCommandRunner(std::function<void(EditorCommand)> runner) {
     runner_ = std::move(runner);
+}
+
+void MainWindow::setRaiser(std::function<bool(const std::filesystem::path&)> raiser) {
+    raiser_ = std::move(raiser);
 }
 
 void MainWindow::buildActions() {
@@ -328,7 +333,7 @@ void MainWindow::openScript() {
             chooseFile(this, {FileDialogMode::Open,
                               libraryText(state_.language, textid::openScriptDialogTitle),
                               "Quendra Script Files(*.qds)", "qds", state_.settings.scriptsDir});
-        return path ? openDocument(state_, *path) : OpenOutcome();
+        return path && !isRaisedElsewhere(*path) ? openDocument(state_, *path) : OpenOutcome();
     });
 }
 
@@ -347,7 +352,13 @@ void MainWindow::showIfOpened(const OpenOutcome& outcome) {
 }
 
 void MainWindow::openFile(const std::filesystem::path& path) {
+    if (isRaisedElsewhere(path)) return;
     openFrom([&] { return openDocument(state_, tidyPath(path)); });
+}
+
+// Two windows with one script would overwrite each other's changes. This one's own is read again.
+bool MainWindow::isRaisedElsewhere(const std::filesystem::path& path) const {
+    return raiser_ && !sameScript(path, state_.document.fileName) && raiser_(path);
 }
 
 void MainWindow::reload() {

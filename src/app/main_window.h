@@ -42,6 +42,9 @@ class MainWindow : public QMainWindow {
     /// command states right through scriptChanged(). While it is empty, commands do nothing.
     void setCommandRunner(std::function<void(EditorCommand)> runner);
 
+    /// Brings the window of another editor to the front that shows a script; false when none does.
+    void setRaiser(std::function<bool(const std::filesystem::path&)> raiser);
+
     /// Runs a command as its menu item does, whether it is enabled or not.
     void runCommand(EditorCommand command);
 
@@ -130,6 +133,7 @@ class MainWindow : public QMainWindow {
     void openFrom(const std::function<OpenOutcome()>& open);
     void showIfOpened(const OpenOutcome& outcome);
     void openFile(const std::filesystem::path& path);
+    [[nodiscard]] bool isRaisedElsewhere(const std::filesystem::path& path) const;
     /// The document's file is one to be found again.
     void rememberFile();
     void setNote(const std::string& note);
@@ -141,6 +145,7 @@ class MainWindow : public QMainWindow {
 
     ApplicationState& state_;
     std::function<void(EditorCommand)> runner_;
+    std::function<bool(const std::filesystem::path&)> raiser_;
     std::map<EditorCommand, QAction*> actions_;
     QToolBar* toolBar_ = nullptr;
     EditorPane* pane_ = nullptr;

@@ -33,6 +33,10 @@ EditorListener::~EditorListener() {
     if (!address_.empty()) ::unlink(address_.c_str());
 }
 
+bool EditorListener::raiseOther(const fs::path& script) const {
+    return raiseEditorShowing(address_.parent_path(), script, window_.className, {}, address_);
+}
+
 // A socket that does not listen yet refuses connections and would be taken for a dead one, so it
 // gets the name under which others look for it only afterwards. The time in the name keeps it apart
 // from one that a killed process of the same number left behind.

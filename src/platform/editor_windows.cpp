@@ -68,9 +68,10 @@ std::vector<fs::path> socketsIn(const fs::path& folder) {
 // Connections on which an answer is due.
 using Peers = std::vector<Descriptor>;
 
-Peers askEveryone(const fs::path& folder, std::string_view packet) {
+Peers askEveryone(const fs::path& folder, std::string_view packet, const fs::path& except) {
     Peers peers;
     for (const fs::path& path : socketsIn(folder)) {
+        if (path == except) continue;
         Descriptor peer = connectTo(path);
         if (peer.isOpen() && sendPacket(peer.get(), packet)) peers.push_back(std::move(peer));
     }
@@ -146,14 +147,14 @@ std::optional<fs::path> editorSocketFolder(const Environment& environment,
 }
 
 bool raiseEditorShowing(const fs::path& folder, const fs::path& script, std::string_view className,
-                        std::string_view activationToken) {
+                        std::string_view activationToken, const fs::path& self) {
     const std::string path = canonicalScript(script).native();
     const std::string shows = packetOf({EditorVerb::Shows, className, path});
     if (shows.size() > maxEditorQuestion) return false;
     std::string raise = packetOf({EditorVerb::Raise, className, path, activationToken});
     if (raise.size() > maxEditorQuestion) raise = packetOf({EditorVerb::Raise, className, path});
     const auto deadline = Clock::now() + answerTime;
-    Peers peers = askEveryone(folder, shows);
+    Peers peers = askEveryone(folder, shows, self);
     while (auto peer = nextYes(peers, deadline)) {
         // From the first yes on, one more span of time for the window to come up.
         if (confirmsRaise(std::move(*peer), raise, deadline + answerTime)) return true;

@@ -44,11 +44,13 @@ struct EditorWindow {
 /// Has one editor whose class contains `className` and whose window shows `script` bring that
 /// window to the front. False when none does. Sockets that killed editors left behind are removed.
 /// Takes at most two seconds whatever the others do, and no time to speak of when all are well.
-/// `activationToken` is handed to that editor.
+/// `activationToken` is handed to that editor. The one that listens at `self` is not asked: whoever
+/// asks cannot answer at the same time.
 [[nodiscard]] bool raiseEditorShowing(const std::filesystem::path& folder,
                                       const std::filesystem::path& script,
                                       std::string_view className,
-                                      std::string_view activationToken = {});
+                                      std::string_view activationToken = {},
+                                      const std::filesystem::path& self = {});
 
 /// What the desktop gave this process for the window that it is to bring to the front, as
 /// XDG_ACTIVATION_TOKEN or DESKTOP_STARTUP_ID; empty when it gave nothing.
@@ -67,6 +69,8 @@ class EditorListener {
     [[nodiscard]] const std::optional<FileFailure>& failure() const { return failure_; }
     /// Readable whenever serve() has something to do; -1 after a failure. Stays the listener's.
     [[nodiscard]] int descriptor() const { return events_.get(); }
+    /// raiseEditorShowing for an editor that listens itself.
+    [[nodiscard]] bool raiseOther(const std::filesystem::path& script) const;
     /// Does what can be done without waiting, and a bounded amount of it.
     void serve();
 

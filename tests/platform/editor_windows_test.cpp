@@ -108,7 +108,10 @@ TEST_F(EditorWindowsTest, TheOneThatShowsTheScriptAndHasTheClassIsRaised) {
     for (const fs::path& name : {script, scratch / "link.qds", scratch / "sockets/../login.qds",
                                  fs::relative(script), scratch / "./new.qds"})
         EXPECT_TRUE(raise(name)) << name;
-    EXPECT_EQ(shows.raises, 4);
+    const EditorListener self(folder, {className, [this] { return script; }, {}});
+    EXPECT_TRUE(self.raiseOther(script));
+    EXPECT_FALSE(self.raiseOther(scratch / "third.qds"));
+    EXPECT_EQ(shows.raises, 5);
     EXPECT_EQ(shows.token, "");
     const Environment launched = {{"DESKTOP_STARTUP_ID", "host_TIME42"}};
     EXPECT_TRUE(
