@@ -57,6 +57,9 @@ enum class EditorCommand : int {
     CompareWithFile = 350,
     CompareWithSaved = 351,
     ResolveConflicts = 352,
+    InsertByName = 360,
+    NextList = 361,
+    PreviousList = 362,
 };
 
 /// In the order of the menu bar.

@@ -48,6 +48,8 @@ class PaneGestures : public QObject {
     bool pressMouse(PaneList& list, const QMouseEvent& event);
     bool doubleClick(PaneList& list, const QMouseEvent& event);
     void activate(std::size_t list);
+    /// Has the command asked for as soon as the present event has been handled.
+    void askFor(EditorCommand command);
     /// True when it moved something.
     bool moveByOne(bool up, bool goesOn);
     void applyMove(const MovePlan& plan, std::span<const EntryMove> moves, bool goesOn);
