@@ -4697,6 +4697,84 @@ Replace in all other fields?</translation>
         <translation>The script would then have more than %d entries. Nothing was changed.</translation>
         <extra-name>reviewTooManyEntries</extra-name>
     </message>
+    <message id="17400">
+        <source>&amp;Insert by Name...</source>
+        <extracomment>Menu Edit: opens a search over everything that can be inserted</extracomment>
+        <translation>&amp;Insert by Name...</translation>
+        <extra-name>insertByNameMenuText</extra-name>
+    </message>
+    <message id="17401">
+        <source>Insert by Name</source>
+        <extracomment>Tooltip: Insert by Name; also its panel</extracomment>
+        <translation>Insert by Name</translation>
+        <extra-name>insertByNameToolTip</extra-name>
+    </message>
+    <message id="17402">
+        <source>Finds a script event, an LU function or a menu command by its name and inserts it.</source>
+        <extracomment>Status bar: Insert by Name</extracomment>
+        <translation>Finds a script event, an LU function or a menu command by its name and inserts it.</translation>
+        <extra-name>insertByNameStatusText</extra-name>
+    </message>
+    <message id="17403">
+        <source>Next &amp;List</source>
+        <extracomment>Menu View: moves the keyboard focus</extracomment>
+        <translation>Next &amp;List</translation>
+        <extra-name>nextListMenuText</extra-name>
+    </message>
+    <message id="17404">
+        <source>Next List</source>
+        <extracomment>Tooltip: Next List</extracomment>
+        <translation>Next List</translation>
+        <extra-name>nextListToolTip</extra-name>
+    </message>
+    <message id="17405">
+        <source>Goes on from the script to the palettes, from one to the next, and back to the script.</source>
+        <extracomment>Status bar: Next List</extracomment>
+        <translation>Goes on from the script to the palettes, from one to the next, and back to the script.</translation>
+        <extra-name>nextListStatusText</extra-name>
+    </message>
+    <message id="17406">
+        <source>P&amp;revious List</source>
+        <extracomment>Menu View: moves the keyboard focus</extracomment>
+        <translation>P&amp;revious List</translation>
+        <extra-name>previousListMenuText</extra-name>
+    </message>
+    <message id="17407">
+        <source>Previous List</source>
+        <extracomment>Tooltip: Previous List</extracomment>
+        <translation>Previous List</translation>
+        <extra-name>previousListToolTip</extra-name>
+    </message>
+    <message id="17408">
+        <source>Goes round script and palettes the other way.</source>
+        <extracomment>Status bar: Previous List</extracomment>
+        <translation>Goes round script and palettes the other way.</translation>
+        <extra-name>previousListStatusText</extra-name>
+    </message>
+    <message id="17409">
+        <source>Name or initials</source>
+        <extracomment>Insert by Name: in the empty field</extracomment>
+        <translation>Name or initials</translation>
+        <extra-name>insertByNameField</extra-name>
+    </message>
+    <message id="17410">
+        <source>What can be inserted</source>
+        <extracomment>Insert by Name: accessible name of the list</extracomment>
+        <translation>What can be inserted</translation>
+        <extra-name>insertByNameList</extra-name>
+    </message>
+    <message id="17411">
+        <source>Nothing is called “%s”</source>
+        <extracomment>Insert by Name: in place of the list, %s is what was typed</extracomment>
+        <translation>Nothing is called “%s”</translation>
+        <extra-name>insertByNameNothing</extra-name>
+    </message>
+    <message id="17412">
+        <source>%s, %s</source>
+        <extracomment>Insert by Name: a row as a screen reader tells it; a name, and the title of its palette</extracomment>
+        <translation>%s, %s</translation>
+        <extra-name>insertByNameRow</extra-name>
+    </message>
     <message id="17450">
         <source>This script has no steps yet. Double-click a script event on the right, or select it and press Return, to make the first one.</source>
         <extracomment>In the empty script list</extracomment>

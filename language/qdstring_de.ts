@@ -3919,6 +3919,71 @@ In allen anderen Feldern ersetzen?</translation>
         <extracomment>Message when changes are taken over; %d is the most that a script can have</extracomment>
         <translation>Das Skript hätte dann mehr als %d Einträge. Es wurde nichts geändert.</translation>
     </message>
+    <message id="17400">
+        <source>&amp;Insert by Name...</source>
+        <extracomment>Menu Edit: opens a search over everything that can be inserted</extracomment>
+        <translation>Nach Na&amp;men einfügen...</translation>
+    </message>
+    <message id="17401">
+        <source>Insert by Name</source>
+        <extracomment>Tooltip: Insert by Name; also its panel</extracomment>
+        <translation>Nach Namen einfügen</translation>
+    </message>
+    <message id="17402">
+        <source>Finds a script event, an LU function or a menu command by its name and inserts it.</source>
+        <extracomment>Status bar: Insert by Name</extracomment>
+        <translation>Findet ein Skriptereignis, eine LU-Funktion oder einen Menübefehl am Namen und fügt es ein.</translation>
+    </message>
+    <message id="17403">
+        <source>Next &amp;List</source>
+        <extracomment>Menu View: moves the keyboard focus</extracomment>
+        <translation>Nächste &amp;Liste</translation>
+    </message>
+    <message id="17404">
+        <source>Next List</source>
+        <extracomment>Tooltip: Next List</extracomment>
+        <translation>Nächste Liste</translation>
+    </message>
+    <message id="17405">
+        <source>Goes on from the script to the palettes, from one to the next, and back to the script.</source>
+        <extracomment>Status bar: Next List</extracomment>
+        <translation>Geht vom Skript weiter zu den Paletten, von einer zur nächsten und zurück zum Skript.</translation>
+    </message>
+    <message id="17406">
+        <source>P&amp;revious List</source>
+        <extracomment>Menu View: moves the keyboard focus</extracomment>
+        <translation>Vo&amp;rige Liste</translation>
+    </message>
+    <message id="17407">
+        <source>Previous List</source>
+        <extracomment>Tooltip: Previous List</extracomment>
+        <translation>Vorige Liste</translation>
+    </message>
+    <message id="17408">
+        <source>Goes round script and palettes the other way.</source>
+        <extracomment>Status bar: Previous List</extracomment>
+        <translation>Geht andersherum durch Skript und Paletten.</translation>
+    </message>
+    <message id="17409">
+        <source>Name or initials</source>
+        <extracomment>Insert by Name: in the empty field</extracomment>
+        <translation>Name oder Anfangsbuchstaben</translation>
+    </message>
+    <message id="17410">
+        <source>What can be inserted</source>
+        <extracomment>Insert by Name: accessible name of the list</extracomment>
+        <translation>Was eingefügt werden kann</translation>
+    </message>
+    <message id="17411">
+        <source>Nothing is called “%s”</source>
+        <extracomment>Insert by Name: in place of the list, %s is what was typed</extracomment>
+        <translation>Nichts heißt „%s“</translation>
+    </message>
+    <message id="17412">
+        <source>%s, %s</source>
+        <extracomment>Insert by Name: a row as a screen reader tells it; a name, and the title of its palette</extracomment>
+        <translation>%s, %s</translation>
+    </message>
     <message id="17450">
         <source>This script has no steps yet. Double-click a script event on the right, or select it and press Return, to make the first one.</source>
         <extracomment>In the empty script list</extracomment>

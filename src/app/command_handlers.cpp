@@ -53,11 +53,14 @@ void CommandHandlers::run(EditorCommand command) {
         case EditorCommand::FindPrevious: return window_.findBar().goToPrevious();
         case EditorCommand::Replace: return window_.findBar().openReplace();
         case EditorCommand::GoToStep: return window_.openStepBar();
+        case EditorCommand::InsertByName: return window_.openInsertPanel();
         case EditorCommand::ApplyQuickFix:
             if (const auto fix = window_.problems().quickFix().fix) editor_.applyFix(*fix);
             return;
         case EditorCommand::ShowProblems: return window_.problems().toggleList();
         case EditorCommand::ShowGutter: return window_.toggleGutter();
+        case EditorCommand::NextList: return window_.pane().focusNextList(ListStep::Forward);
+        case EditorCommand::PreviousList: return window_.pane().focusNextList(ListStep::Back);
         case EditorCommand::NextProblem: return window_.goToNextProblem();
         case EditorCommand::PreviousProblem: return window_.goToPreviousProblem();
         case EditorCommand::InsertScriptEvent:

@@ -3,6 +3,7 @@
 #include "app/command_facts.h"
 #include "app/command_menu.h"
 #include "app/find_bar.h"
+#include "app/insert_panel.h"
 #include "app/script_menus.h"
 #include "app/script_problems.h"
 #include "app/step_bar.h"
@@ -99,6 +100,11 @@ MainWindow::MainWindow(ApplicationState& state, const std::function<void()>& bef
     stepBar_ = new StepBar(state_, *pane_, *this);
     addToolBar(Qt::BottomToolBarArea, stepBar_);
     stepBar_->hide();
+    insertPanel_ = new InsertPanel(state_, *pane_);
+    connect(insertPanel_, &InsertPanel::chosen, this, [this](const PaletteChoice& choice) {
+        pane_->selectRow(choice);
+        runCommand(insertCommand(choice.palette));
+    });
     problems_ =
         new ScriptProblems(state_, *pane_, *actions_.at(EditorCommand::ApplyQuickFix), *this);
     connect(problems_, &ScriptProblems::changed, this, &MainWindow::updateCommandStates);
@@ -298,6 +304,10 @@ bool MainWindow::refusedAtLimit(const CommandInfo& command) {
 
 void MainWindow::openStepBar() {
     stepBar_->open();
+}
+
+void MainWindow::openInsertPanel() {
+    insertPanel_->open();
 }
 
 void MainWindow::goToNextProblem() {

@@ -21,6 +21,7 @@ class QToolBar;
 namespace quendra {
 
 class FindBar;
+class InsertPanel;
 class ScriptProblems;
 class StatusLine;
 class StepBar;
@@ -57,6 +58,7 @@ class MainWindow : public QMainWindow {
     bool save();
     bool saveAs();
     void openStepBar();
+    void openInsertPanel();
     void goToNextProblem();
     void goToPreviousProblem();
     void toggleGutter();
@@ -99,6 +101,7 @@ class MainWindow : public QMainWindow {
     [[nodiscard]] EditorPane& pane() { return *pane_; }
     [[nodiscard]] ScriptProblems& problems() { return *problems_; }
     [[nodiscard]] FindBar& findBar() { return *findBar_; }
+    [[nodiscard]] InsertPanel& insertPanel() { return *insertPanel_; }
 
   Q_SIGNALS:
     /// Script, host type or document may be others than before, and are shown.
@@ -151,6 +154,7 @@ class MainWindow : public QMainWindow {
     EditorPane* pane_ = nullptr;
     FindBar* findBar_ = nullptr;
     StepBar* stepBar_ = nullptr;
+    InsertPanel* insertPanel_ = nullptr;
     ScriptProblems* problems_ = nullptr;
     bool showsGutter_ = true;
     StatusLine* statusLine_ = nullptr;

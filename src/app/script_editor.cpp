@@ -1,6 +1,7 @@
 #include "app/script_editor.h"
 
 #include "analysis/script_changes.h"
+#include "app/insert_panel.h"
 #include "app/main_window.h"
 #include "scriptfile/entry_codec.h"
 #include "session/command_rules.h"
@@ -94,12 +95,15 @@ void ScriptEditor::change(const std::function<bool()>& operation,
 
 void ScriptEditor::insertFrom(Palette palette) {
     const auto operation = insertOperations[static_cast<std::size_t>(palette)];
+    const std::size_t before = state_.script.entryCount();
     change([&] { return operation(state_, *this); },
            [&] {
                const int row = selectedRow(palette);
                return libraryText(state_.language, paletteInfo(palette).insertTextId,
                                   {window_.pane().paletteText(palette, row).toStdString()});
            });
+    if (state_.script.entryCount() > before)
+        window_.insertPanel().noteInserted({palette, selectedRow(palette)});
 }
 
 void ScriptEditor::copy() {

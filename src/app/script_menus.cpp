@@ -61,7 +61,9 @@ void ScriptMenus::fillRecent() {
         std::error_code error;
         const bool isThere = fs::exists(scripts[i], error);
         QString name = menuName(names[i]);
-        if (!isThere) name = qtText(libraryText(state_.language, textid::recentGone, {names[i]}));
+        if (!isThere) {
+            name = qtText(libraryText(state_.language, textid::recentGone, {name.toStdString()}));
+        }
         // The last one has the digit 0.
         QAction* item = recent_->addAction(
             QStringLiteral("&%1  %2").arg((i + 1) % mostRecentScripts).arg(name));

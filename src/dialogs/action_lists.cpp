@@ -45,6 +45,7 @@ ActionLists::ActionLists(ApplicationState& state, QWidget* parent) : QWidget(par
 
 PaneList* ActionLists::addList(Palette palette, const QString& title, QAbstractItemModel* model) {
     auto* list = new PaneList(this);
+    list->setFindsAnywhere();
     list->setObjectName(paletteObjectName(palette, "List"));
     list->setAccessibleName(title);
     list->setModel(model);

@@ -60,6 +60,9 @@ enum class EditorCommand : int {
     CompareWithFile = 350,
     CompareWithSaved = 351,
     ResolveConflicts = 352,
+    InsertByName = 360,
+    NextList = 361,
+    PreviousList = 362,
     Reload = 370,
 };
 

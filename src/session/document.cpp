@@ -277,6 +277,8 @@ OpenOutcome openExample(ApplicationState& state, const fs::path& path) {
     newDocument(state);
     state.currentHostType = example.hostType;
     state.script = state.document.saved = std::move(example.script);
+    state.document.savedHostType = example.hostType;
+    state.currentIndex = state.script.entryCount() == 0 ? -1 : 0;
     return {true, std::nullopt,
             libraryText(state.language, textid::exampleOpened, {pathText(path.filename())})};
 }

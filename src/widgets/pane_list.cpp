@@ -1,8 +1,10 @@
 #include "widgets/pane_list.h"
 
+#include "text/name_match.h"
 #include "widgets/contrast.h"
 #include "widgets/problem_sign.h"
 
+#include <QApplication>
 #include <QFocusEvent>
 #include <QHelpEvent>
 #include <QItemSelectionModel>
@@ -12,6 +14,8 @@
 #include <QToolTip>
 
 #include <algorithm>
+#include <tuple>
+#include <utility>
 
 namespace quendra {
 namespace {
@@ -163,6 +167,29 @@ void PaneList::paintSelectedRow(QPainter& painter, int row) const {
     option.state |= QStyle::State_Selected | QStyle::State_Active;
     option.state &= ~QStyle::State_HasFocus;
     delegate.paintText(painter, option, index);
+}
+
+// As the base class: letters typed without a rest belong together, one letter again and again goes
+// from row to row.
+void PaneList::keyboardSearch(const QString& search) {
+    if (!findsAnywhere_) return QListView::keyboardSearch(search);
+    const bool goesOn =
+        sinceTyped_.isValid() && !sinceTyped_.hasExpired(QApplication::keyboardInputInterval());
+    sinceTyped_.start();
+    typed_ = goesOn ? typed_ + search : search;
+    const bool isOneLetter = typed_.count(typed_.left(1)) == typed_.size();
+    const QString wanted = foldedName(isOneLetter ? typed_.left(1) : typed_);
+    const int rows = model()->rowCount();
+    if (wanted.isEmpty() || rows == 0) return;
+    const int first = std::max(focusedRow(), 0) + (isOneLetter && focusedRow() >= 0 ? 1 : 0);
+    int best = -1;
+    NameFit bestFit = NameFit::No;
+    for (int i = 0; i < rows; ++i) {
+        const int row = (first + i) % rows;
+        const NameFit fit = NameMatcher(model()->index(row, 0).data().toString()).fit(wanted);
+        if (fit < bestFit) std::tie(best, bestFit) = std::pair(row, fit);
+    }
+    if (best >= 0) setCurrentIndex(model()->index(best, 0));
 }
 
 void PaneList::setGutter(const RowGutter* gutter) {

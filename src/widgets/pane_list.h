@@ -2,6 +2,7 @@
 // depends on the visible rows only.
 #pragma once
 
+#include <QElapsedTimer>
 #include <QListView>
 
 #include <vector>
@@ -46,6 +47,11 @@ class PaneList : public QListView {
     /// text; without its gutter, whose place stays free.
     void paintSelectedRow(QPainter& painter, int row) const;
 
+    /// Has what is typed found anywhere in the rows, in the best place first. Otherwise rows begin
+    /// with it, which takes no more than their texts: that is for lists of thousands.
+    void setFindsAnywhere() { findsAnywhere_ = true; }
+    void keyboardSearch(const QString& search) override;
+
     /// `gutter` outlives the list or is taken away again with null.
     void setGutter(const RowGutter* gutter);
     /// None: 0.
@@ -74,6 +80,10 @@ class PaneList : public QListView {
     std::vector<int> landingLines_;
     const RowGutter* gutter_ = nullptr;
     QString hint_;
+    bool findsAnywhere_ = false;
+    /// What has been typed without a rest, and when the last of it was.
+    QString typed_;
+    QElapsedTimer sinceTyped_;
 };
 
 }  // namespace quendra

@@ -106,7 +106,7 @@ TEST_F(FirstHour, ReloadReadsTheFileAgainAndAsksBeforeChangesAreLost) {
     expectScript("1|2", {0}, 0);
     EXPECT_FALSE(isMarked());
     writeBytes(path, bytesOf("dear all"));
-    run(Reload, Ok);
+    run(Reload);
     expectScript("1|2", {0}, 0);
 }
 

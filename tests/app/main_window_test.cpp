@@ -227,7 +227,7 @@ TEST(CommandStates, ConditionalCommandsFollowScriptAndSelections) {
     };
     const std::pair<CommandFacts, std::set<EditorCommand>> rows[] = {
         {{}, {}},
-        {{.selectedCount = 2}, {Cut, Copy, DeleteEntries, CopyAsText}},
+        {{.selectedCount = 2}, {Cut, Copy, DeleteEntries, CopyAsText, Duplicate, MoveUp, MoveDown}},
         {{.clipboardCount = 1}, {Paste}},
         {focusedOn(dialog), filled({EditEntry})},
         {focusedOn(events), filled({})},
@@ -243,11 +243,22 @@ TEST(CommandStates, ConditionalCommandsFollowScriptAndSelections) {
         {{.redoStep = "Cut 1 Entry"}, {Redo}},
         {{.quickFix = "Remove Label a"}, {ApplyQuickFix}},
         {{.hasSavedForm = true}, {CompareWithSaved}},
+        {{.hasFile = true}, {Reload}},
         {{.hasConflicts = true}, {ResolveConflicts}},
     };
-    const std::set<EditorCommand> always = {
-        NewScript,       Open,           Exit, Help, About, InsertScript, ShowProblems, ShowGutter,
-        HelpOnSelection, CompareWithFile};
+    const std::set<EditorCommand> always = {NewScript,
+                                            Open,
+                                            Exit,
+                                            Help,
+                                            About,
+                                            InsertScript,
+                                            ShowProblems,
+                                            ShowGutter,
+                                            HelpOnSelection,
+                                            CompareWithFile,
+                                            InsertByName,
+                                            NextList,
+                                            PreviousList};
     for (const auto& [facts, enabled] : rows)
         for (const CommandInfo& info : commands())
             EXPECT_EQ(isCommandEnabled(info, facts),
@@ -265,10 +276,10 @@ std::string shown(const CommandItems& items) {
 
 TEST(CommandTable, ANewCommandLeavesTheOthersOfItsMenuAndTheToolbarWhereTheyAre) {
     const std::pair<EditorMenu, std::string> rows[] = {
-        {EditorMenu::File, "300 301 302 303 | 350 351 352 | 304"},
-        {EditorMenu::Edit, "321 322 | 305 306 324 307 | 323 340 341 342 335 | 333"},
-        {EditorMenu::View, "330 334 | 331 332"},
-        {EditorMenu::Entry, "308 309 310 325 | 311 | 312 | 343 344 345 346"},
+        {EditorMenu::File, "300 301 302 303 370 | 350 351 352 | 304"},
+        {EditorMenu::Edit, "321 322 | 305 306 324 307 | 323 340 341 342 335 | 360 | 333"},
+        {EditorMenu::View, "330 334 | 331 332 | 361 362"},
+        {EditorMenu::Entry, "308 309 310 325 | 311 | 312 327 328 329 | 343 344 345 346"},
         {EditorMenu::Mode, "313 314 315 316 317 318"},
         {EditorMenu::Help, "319 326 | 320"},
     };

@@ -21,7 +21,7 @@ using enum EditorCommand;
 class ProblemsTest : public EditorTest {
   protected:
     // Lets what follows a change happen.
-    static void settle() { QCoreApplication::processEvents(); }
+    static void settle() { QTest::qWait(40); }
     // Shown as it would be after New and typing it all.
     void have(std::initializer_list<std::string_view> lines) {
         state.script = scriptOfLines(lines, state.cipher);

@@ -253,7 +253,7 @@ TEST_F(ReviewTest, ResolvesOneConflictAStepAndLeavesStrayMarksAlone) {
         press(Qt::Key_F7);
         press(Qt::Key_2, Qt::AltModifier);
         EXPECT_EQ(shown("reviewSummary"), "No conflicts");
-        EXPECT_FALSE(isEnabled(ResolveConflicts));
+        EXPECT_TRUE(QTest::qWaitFor([this] { return !isEnabled(ResolveConflicts); }));
         EXPECT_FALSE(part<QLabel>("reviewNote").isVisible());
     }
     openWords("<<<<<<< a <<<<<<< b ======= c >>>>>>>");

@@ -151,6 +151,27 @@ void EditorPane::takeFocus() {
     d_->selection_.lastFocused().setFocus();
 }
 
+void EditorPane::focusScript() {
+    d_->lists_.script().setFocus(Qt::ShortcutFocusReason);
+}
+
+void EditorPane::focusNextList(ListStep step) {
+    const auto& lists = d_->lists_.all();
+    PaneList& last = d_->selection_.lastFocused();
+    if (!last.hasFocus()) return last.setFocus(Qt::ShortcutFocusReason);
+    const std::size_t way = step == ListStep::Forward ? 1 : lists.size() - 1;
+    lists[(d_->lists_.numberOf(&last) + way) % lists.size()]->setFocus(Qt::ShortcutFocusReason);
+}
+
+void EditorPane::selectRow(const PaletteChoice& choice) {
+    PaneList& list = d_->lists_.of(choice.palette);
+    list.setCurrentIndex(list.model()->index(choice.row, 0));
+}
+
+QRect EditorPane::scriptArea() const {
+    return d_->lists_.script().geometry();
+}
+
 QSize EditorPane::sizeHint() const {
     return {626, 326};
 }

@@ -7,6 +7,7 @@
 
 #include <QWidget>
 
+#include <cstdint>
 #include <memory>
 #include <optional>
 #include <span>
@@ -15,6 +16,9 @@
 namespace quendra {
 
 class LiveCheck;
+
+/// Which way round the lists of the pane.
+enum class ListStep : std::uint8_t { Forward, Back };
 
 class EditorPane : public QWidget {
     Q_OBJECT
@@ -60,6 +64,15 @@ class EditorPane : public QWidget {
     /// Gives the keyboard focus back to the list of the pane that had it last (the script list at
     /// first).
     void takeFocus();
+    /// Gives it to the script list.
+    void focusScript();
+    /// Gives it to the next list, after the last palette to the script list; from elsewhere in the
+    /// window, to the list that had it last.
+    void focusNextList(ListStep step);
+    /// Selects a row of a palette, as a click does.
+    void selectRow(const PaletteChoice& choice);
+    /// Where the script list stands in the pane.
+    [[nodiscard]] QRect scriptArea() const;
 
     [[nodiscard]] QSize sizeHint() const override;
     /// Room for a few rows in each list, with the text as large as it is.

@@ -64,6 +64,11 @@ bool PaneGestures::pressKey(PaneList& list, QKeyEvent& event) {
         keyMoves_ = moveByOne(event.key() == Qt::Key_Up, keptMoving);
         return true;
     }
+    const bool isPlain = !(held & ~Qt::KeyboardModifiers(Qt::ShiftModifier));
+    if (isPlain && event.text() == QLatin1String("/") && &list == &lists_.script()) {
+        if (!event.isAutoRepeat()) askFor(EditorCommand::InsertByName);
+        return true;
+    }
     if (event.matches(QKeySequence::SelectAll) && &list != &lists_.script()) {
         // After an insert from a palette that is still meant for the script.
         lists_.script().setFocus();
@@ -97,8 +102,7 @@ bool PaneGestures::goesToLabel(PaneList& list, const QMouseEvent& event) {
     if (state_.script.entries[row].code() != CommandCode::Goto) return false;
     list.setCurrentIndex(index);
     list.selectionModel()->select(index, QItemSelectionModel::ClearAndSelect);
-    QMetaObject::invokeMethod(
-        this, [this] { Q_EMIT commandRequested(EditorCommand::GoToLabel); }, Qt::QueuedConnection);
+    askFor(EditorCommand::GoToLabel);
     return true;
 }
 
@@ -114,8 +118,12 @@ bool PaneGestures::doubleClick(PaneList& list, const QMouseEvent& event) {
 }
 
 void PaneGestures::activate(std::size_t list) {
+    askFor(commandOfList(list));
+}
+
+void PaneGestures::askFor(EditorCommand command) {
     QMetaObject::invokeMethod(
-        this, [this, list] { Q_EMIT commandRequested(commandOfList(list)); }, Qt::QueuedConnection);
+        this, [this, command] { Q_EMIT commandRequested(command); }, Qt::QueuedConnection);
 }
 
 void PaneGestures::drop(int source, int target, bool up) {

@@ -52,6 +52,8 @@ class PaneGestures : public QObject {
     bool pressMouse(PaneList& list, const QMouseEvent& event);
     bool doubleClick(PaneList& list, const QMouseEvent& event);
     void activate(std::size_t list);
+    /// Has the command asked for as soon as the present event has been handled.
+    void askFor(EditorCommand command);
     void applyMove(const MovePlan& plan, std::span<const EntryMove> moves, bool goesOn);
     [[nodiscard]] int entryCount() const { return static_cast<int>(state_.script.entryCount()); }
 

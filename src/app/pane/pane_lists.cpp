@@ -55,6 +55,7 @@ void PaneLists::addPalette(Palette palette, PaletteModel* model) {
     label->setObjectName(paletteObjectName(palette, "Label"));
     label->setTextFormat(Qt::PlainText);
     label->setBuddy(list);
+    list->setFindsAnywhere();
     labels_[number] = label;
     lists_[1 + number] = list;
 }
