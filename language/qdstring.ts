@@ -4782,9 +4782,9 @@ Replace in all other fields?</translation>
         <extra-name>emptyScriptHint</extra-name>
     </message>
     <message id="17451">
-        <source>D&amp;uplicate</source>
+        <source>Dupl&amp;icate</source>
         <extracomment>Menu item</extracomment>
-        <translation>D&amp;uplicate</translation>
+        <translation>Dupl&amp;icate</translation>
         <extra-name>duplicateMenuText</extra-name>
     </message>
     <message id="17452">
@@ -4842,9 +4842,9 @@ Replace in all other fields?</translation>
         <extra-name>moveDownStatusText</extra-name>
     </message>
     <message id="17461">
-        <source>Open &amp;Recent</source>
+        <source>Open Recen&amp;t</source>
         <extracomment>Menu title</extracomment>
-        <translation>Open &amp;Recent</translation>
+        <translation>Open Recen&amp;t</translation>
         <extra-name>recentMenu</extra-name>
     </message>
     <message id="17462">

@@ -3990,9 +3990,9 @@ In allen anderen Feldern ersetzen?</translation>
         <translation>Dieses Skript hat noch keine Schritte. Den ersten macht ein Doppelklick auf ein Skriptereignis rechts oder die Eingabetaste darauf.</translation>
     </message>
     <message id="17451">
-        <source>D&amp;uplicate</source>
+        <source>Dupl&amp;icate</source>
         <extracomment>Menu item</extracomment>
-        <translation>Dupli&amp;zieren</translation>
+        <translation>&amp;Duplizieren</translation>
     </message>
     <message id="17452">
         <source>Duplicate</source>
@@ -4027,7 +4027,7 @@ In allen anderen Feldern ersetzen?</translation>
     <message id="17458">
         <source>Move Do&amp;wn</source>
         <extracomment>Menu item</extracomment>
-        <translation>Nach &amp;unten verschieben</translation>
+        <translation>Nach u&amp;nten verschieben</translation>
     </message>
     <message id="17459">
         <source>Move Down</source>
@@ -4040,7 +4040,7 @@ In allen anderen Feldern ersetzen?</translation>
         <translation>Verschiebt die ausgewählten Einträge um einen nach unten.</translation>
     </message>
     <message id="17461">
-        <source>Open &amp;Recent</source>
+        <source>Open Recen&amp;t</source>
         <extracomment>Menu title</extracomment>
         <translation>&amp;Zuletzt geöffnet</translation>
     </message>
@@ -4057,7 +4057,7 @@ In allen anderen Feldern ersetzen?</translation>
     <message id="17464">
         <source>Re&amp;load</source>
         <extracomment>Menu item</extracomment>
-        <translation>&amp;Neu laden</translation>
+        <translation>Neu &amp;laden</translation>
     </message>
     <message id="17465">
         <source>Reload</source>
