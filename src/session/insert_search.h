@@ -60,7 +60,7 @@ class InsertSearch {
     struct Row {
         Offer offer;
         NameMatcher matcher;
-        std::size_t place;
+        std::size_t place = 0;
     };
     std::vector<Row> rows_;
 };
