@@ -28,7 +28,7 @@ inline EntryHandle entryOfLine(std::string_view line, const HiddenTextCipher& ci
     takeLine(entry, line.substr(0, action));
     entry = newCommand(entry.code);
     takeLine(entry, line.substr(0, action));
-    if (action != line.npos) {
+    if (action != std::string_view::npos) {
         takeLine(entry.thenAction, line.substr(action + 1));
         // A Wait_For has actions only with a time-out.
         entry.hasTimeout = entry.timeoutSeconds = 1;
