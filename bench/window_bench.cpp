@@ -15,12 +15,14 @@
 #include "widgets/ui_text.h"
 
 #include <QApplication>
+#include <QEventLoop>
 #include <QItemSelectionModel>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListView>
 #include <QMouseEvent>
+#include <QTimer>
 
 #include <benchmark/benchmark.h>
 #include <functional>
@@ -67,6 +69,12 @@ class Editor {
     void putOnClipboard(std::size_t entries);
     /// Returns when what the last change made necessary is painted.
     void waitUntilPainted();
+    /// Returns when the last change has been checked, which is not part of the next one.
+    static void settle() {
+        QEventLoop loop;
+        QTimer::singleShot(40, &loop, &QEventLoop::quit);
+        loop.exec();
+    }
     /// Opens the find bar without a text, on the whole script.
     void beginFinding();
     /// Types into the find bar.
@@ -280,6 +288,7 @@ void prepare(const Action& action, Editor& editor) {
     editor.reset();
     action.prepare(editor);
     editor.waitUntilPainted();
+    editor.settle();
     editor.markPrepared();
 }
 

@@ -4082,7 +4082,7 @@ In allen anderen Feldern ersetzen?</translation>
     <message id="17469">
         <source>A copy of the example %s; save it under a name of your own</source>
         <extracomment>Status bar; %s is a file name</extracomment>
-        <translation>Eine Kopie des Beispiels %s; speichern Sie sie unter einem eigenen Namen</translation>
+        <translation>Kopie des Beispiels %s; „Speichern unter“ gibt ihr einen Namen</translation>
     </message>
 </context>
 </TS>

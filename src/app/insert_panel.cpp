@@ -5,6 +5,7 @@
 #include "widgets/contrast.h"
 #include "widgets/ui_text.h"
 
+#include <QApplication>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
@@ -78,8 +79,13 @@ void InsertPanel::build() {
                           static_cast<QWidget*>(nothing_)})
         column->addWidget(part);
     connect(edit_, &QLineEdit::textChanged, this, &InsertPanel::search);
-    connect(list_, &QListView::clicked, this,
-            [this](const QModelIndex& index) { choose(index.row()); });
+    connect(list_, &QListView::clicked, this, [this](const QModelIndex& index) {
+        // Whoever double-clicks, as in a palette, must not hit the step beneath with the rest.
+        QApplication::instance()->installEventFilter(this);
+        QTimer::singleShot(QApplication::doubleClickInterval(), this,
+                           [this] { QApplication::instance()->removeEventFilter(this); });
+        choose(index.row());
+    });
 }
 
 void InsertPanel::open() {
@@ -194,6 +200,8 @@ void InsertPanel::paintEvent(QPaintEvent* event) {
 }
 
 bool InsertPanel::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::MouseButtonDblClick && !isVisible()) return true;
+    if (watched != edit_ && watched != &pane_) return false;
     if (watched == &pane_) {
         if (event->type() == QEvent::Resize && isVisible()) place();
         return false;
@@ -213,7 +221,12 @@ bool InsertPanel::eventFilter(QObject* watched, QEvent* event) {
             if (static_cast<const QKeyEvent&>(*event).key() != Qt::Key_Escape) return false;
             event->accept();
             return true;
-        case QEvent::KeyPress: return pressKey(static_cast<const QKeyEvent&>(*event).key());
+        case QEvent::KeyPress: {
+            const auto& key = static_cast<const QKeyEvent&>(*event);
+            // Held down, it would answer the dialog that opens too.
+            const bool isReturn = key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter;
+            return (isReturn && key.isAutoRepeat()) || pressKey(key.key());
+        }
         default: return false;
     }
 }

@@ -63,11 +63,15 @@ QString asToolTip(const std::string& text) {
     return wrappingToolTip(plain);
 }
 
-// None for anything but one local file.
+// None for anything but one local file. Its bytes, for a name need not be UTF-8.
 std::optional<std::filesystem::path> droppedScript(const QMimeData& dropped) {
     const QList<QUrl> urls = dropped.urls();
     if (urls.size() != 1 || !urls.front().isLocalFile()) return std::nullopt;
-    return pathFromQt(urls.front().toLocalFile());
+    const QString host = urls.front().host();
+    if (!host.isEmpty() && host != QLatin1String("localhost")) return std::nullopt;
+    return std::filesystem::path(
+        QByteArray::fromPercentEncoding(urls.front().path(QUrl::FullyEncoded).toUtf8())
+            .toStdString());
 }
 
 // Qt's own buttons for what a narrow window has no room for.
@@ -267,11 +271,12 @@ void MainWindow::buildStatusBar() {
 }
 
 void MainWindow::placeOnScreen() {
-    setMinimumSize(firstSize * 3 / 4);
+    const QSize largest = largestWindow(*this);
+    setMinimumSize((firstSize * 3 / 4).boundedTo(largest));
     const UserState& before = state_.userState;
     const QSize size(before.number(widthKey, 1, longestSide).value_or(firstSize.width()),
                      before.number(heightKey, 1, longestSide).value_or(firstSize.height()));
-    resize(size.boundedTo(screen()->availableSize()));
+    resize(size.boundedTo(largest));
     centreOnScreen(*this);
     if (before.flag(maximisedKey, false)) setWindowState(windowState() | Qt::WindowMaximized);
 }
@@ -376,13 +381,22 @@ void MainWindow::reload() {
         askMessage(this, reloadQuestion(state_)) != MessageAnswer::Yes) {
         return;
     }
-    const std::size_t focused = static_cast<std::size_t>(std::max(pane_->focusedEntry(), 0));
-    // Where it is refused, the script stays as it is.
-    showIfOpened(openDocument(state_, state_.document.fileName));
-    const std::size_t entries[] = {focused};
-    if (focused < state_.script.entryCount()) {
-        pane_->selectEntries(entries, static_cast<int>(focused));
+    const ScriptView before{state_.script, {pane_->selectedEntries(), pane_->focusedEntry()}};
+    // What the file has lost meanwhile can be taken back.
+    UndoHistory history = std::exchange(state_.history, {});
+    const OpenOutcome outcome = openDocument(state_, state_.document.fileName);
+    const auto last = static_cast<int>(state_.script.entryCount()) - 1;
+    EntrySelection selection{{}, std::min(before.selection.focused, last)};
+    if (selection.focused >= 0)
+        selection.entries.push_back(static_cast<std::size_t>(selection.focused));
+    if (outcome.opened) {
+        history.record(before, {state_.script, selection},
+                       libraryText(state_.language, textid::reloadToolTip));
     }
+    state_.history = std::move(history);
+    // Where it is refused, the script stays as it is.
+    showIfOpened(outcome);
+    if (outcome.opened) pane_->selectEntries(selection.entries, selection.focused);
 }
 
 void MainWindow::rememberFile() {
@@ -562,6 +576,7 @@ void MainWindow::comeToFront(const std::string& activationToken) {
 void MainWindow::endSession() {
     // Asked twice on the way out, it keeps one copy.
     if (!sessionEnds_) static_cast<void>(keepUnsavedScript(state_));
+    rememberPlace();
     sessionEnds_ = true;
 }
 

@@ -131,12 +131,7 @@ void ProblemsPanel::setCurrent(std::optional<std::size_t> finding) {
 }
 
 void ProblemsPanel::takeFocus() {
-    // A list that gets the focus makes its first row the current one, which nobody has chosen.
-    const bool hadCurrent = list_->currentIndex().isValid();
-    const bool wasSetting = std::exchange(isSetting_, true);
     list_->setFocus();
-    if (!hadCurrent) list_->selectionModel()->clear();
-    isSetting_ = wasSetting;
 }
 
 void ProblemsPanel::choose(const QModelIndex& index, bool leaves) {
@@ -166,7 +161,16 @@ void ProblemsPanel::showHelp() {
     QApplication::sendEvent(list_, &key);
 }
 
-bool ProblemsPanel::eventFilter(QObject*, QEvent* event) {
+bool ProblemsPanel::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::FocusIn && !list_->currentIndex().isValid()) {
+        // A list that gets the focus, whether by Tab or because a bar closes, makes its first row
+        // the current one, which nobody has chosen.
+        const bool wasSetting = std::exchange(isSetting_, true);
+        watched->event(event);
+        list_->selectionModel()->clear();
+        isSetting_ = wasSetting;
+        return true;
+    }
     if (event->type() != QEvent::ShortcutOverride && event->type() != QEvent::KeyPress)
         return false;
     const auto& key = static_cast<const QKeyEvent&>(*event);

@@ -4,6 +4,7 @@
 #include "text/path_text.h"
 #include "text/text_encoding.h"
 #include "text/text_ids.h"
+#include "widgets/tool_tip.h"
 #include "widgets/ui_text.h"
 
 #include <QMenu>
@@ -22,16 +23,23 @@ constexpr const char* exampleFolder = "../share/quendra-script-editor/examples";
 
 std::vector<fs::path> examplesIn(const fs::path& folder) {
     std::vector<fs::path> examples;
-    std::error_code none;
-    for (const auto& entry : fs::directory_iterator(folder, none)) {
-        if (entry.path().extension() == ".qds") examples.push_back(entry.path());
+    std::error_code error;
+    for (fs::directory_iterator entry(folder, error), end; !error && entry != end;
+         entry.increment(error)) {
+        if (entry->path().extension() == ".qds") examples.push_back(entry->path());
     }
     std::ranges::sort(examples);
     return examples;
 }
 
+// The end tells one name from the next as well as the beginning does.
 QString menuName(const std::string& name) {
-    return qtText(escapeControlCharacters(name)).replace(u'&', QLatin1String("&&"));
+    constexpr qsizetype longest = 60;
+    QString shown = qtText(escapeControlCharacters(name));
+    if (shown.size() > longest) {
+        shown = shown.left(longest / 2) + u'\u2026' + shown.right(longest / 2);
+    }
+    return shown.replace(u'&', QLatin1String("&&"));
 }
 
 }  // namespace
@@ -59,7 +67,7 @@ void ScriptMenus::fillRecent() {
     const std::vector<std::string> names = distinctNames(scripts);
     for (std::size_t i = 0; i < scripts.size(); ++i) {
         std::error_code error;
-        const bool isThere = fs::exists(scripts[i], error);
+        const bool isThere = fs::is_regular_file(scripts[i], error);
         QString name = menuName(names[i]);
         if (!isThere) {
             name = qtText(libraryText(state_.language, textid::recentGone, {name.toStdString()}));
@@ -67,7 +75,7 @@ void ScriptMenus::fillRecent() {
         // The last one has the digit 0.
         QAction* item = recent_->addAction(
             QStringLiteral("&%1  %2").arg((i + 1) % mostRecentScripts).arg(name));
-        item->setToolTip(qtText(escapeControlCharacters(pathText(scripts[i]))));
+        item->setToolTip(wrappingToolTip(qtText(escapeControlCharacters(pathText(scripts[i])))));
         item->setEnabled(isThere);
         connect(item, &QAction::triggered, this,
                 [this, script = scripts[i]] { Q_EMIT scriptChosen(script); });

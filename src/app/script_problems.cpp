@@ -59,7 +59,8 @@ void ScriptProblems::checkSoon() {
         followEntry();
         panel_->reload(current_);
     }
-    soon_->start(checkDelayMs);
+    // Not put off by the next change: a held key would put it off for good.
+    if (!soon_->isActive()) soon_->start(checkDelayMs);
 }
 
 void ScriptProblems::checkNow() {
@@ -148,7 +149,7 @@ void ScriptProblems::toggleList() {
 
 QuickFixOffer ScriptProblems::offer() const {
     const int entry = pane_.focusedEntry();
-    QuickFixOffer offer{std::nullopt, textid::fixNothingHere};
+    QuickFixOffer offer{std::nullopt, entry < 0 ? textid::noProblems : textid::fixNothingHere};
     if (!current_ || entry < 0 || *current_ >= check_.findings().size()) return offer;
     const auto fixOf = [this](const Finding& finding) {
         return quickFixFor(finding, check_.outline(), state_.script);

@@ -8,6 +8,7 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
+#include <QLocale>
 #include <QMainWindow>
 #include <QRegularExpression>
 #include <QStatusBar>
@@ -34,6 +35,15 @@ std::optional<std::size_t> numberIn(const QString& text) {
         if (c.isDigit()) value = value * 10 + static_cast<std::size_t>(c.digitValue());
     }
     return value;
+}
+
+// The user's own way where it is one of the window's language; a machine that has none would write
+// numbers without groups.
+QLocale localeOf(const ApplicationState& state) {
+    const std::string language = state.language.language();
+    const QLocale wanted(language.empty() ? QStringLiteral("en") : qtText(language));
+    const QLocale own;
+    return own.language() == wanted.language() ? own : wanted;
 }
 
 }  // namespace
@@ -83,9 +93,13 @@ void StepBar::showPosition() {
     const int focused = pane_.focusedEntry();
     position_->setVisible(focused >= 0);
     if (focused < 0) return;
-    position_->setText(qtText(
-        libraryText(state_.language, textid::stepPosition,
-                    {std::to_string(focused + 1), std::to_string(state_.script.entryCount())})));
+    const QLocale locale = localeOf(state_);
+    const auto grouped = [&locale](std::size_t number) {
+        return locale.toString(qulonglong{number}).toStdString();
+    };
+    position_->setText(qtText(libraryText(
+        state_.language, textid::stepPosition,
+        {grouped(static_cast<std::size_t>(focused) + 1), grouped(state_.script.entryCount())})));
 }
 
 void StepBar::open() {

@@ -411,10 +411,11 @@ CommandItems toolbarItems() {
 }
 
 CommandItems scriptListItems() {
-    return {EditEntry, std::nullopt, Cut,           Copy,         CopyAsText,
-            Paste,     Duplicate,    DeleteEntries, std::nullopt, MoveUp,
-            MoveDown,  std::nullopt, GoToLabel,     GoBack,       RenameLabel,
-            FindUses,  std::nullopt, ApplyQuickFix, std::nullopt, HelpOnSelection};
+    return {EditEntry,      std::nullopt, Cut,           Copy,         CopyAsText,
+            Paste,          Duplicate,    DeleteEntries, std::nullopt, MoveUp,
+            MoveDown,       std::nullopt, GoToLabel,     GoBack,       RenameLabel,
+            FindUses,       std::nullopt, ApplyQuickFix, std::nullopt, InsertByName,
+            HelpOnSelection};
 }
 
 CommandItems paletteItems(Palette palette) {

@@ -286,7 +286,7 @@ OpenOutcome openExample(ApplicationState& state, const fs::path& path) {
 Message reloadQuestion(ApplicationState& state) {
     return {
         libraryText(state.language, textid::reloadDiscards, {pathText(state.document.fileName)}),
-        state.language.loadText(textid::openScriptDialogTitle), MessageIcon::Question,
+        state.language.loadText(textid::reloadToolTip), MessageIcon::Question,
         MessageButtons::YesNo, true};
 }
 

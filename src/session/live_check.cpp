@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <functional>
+#include <unordered_map>
 #include <utility>
 
 namespace quendra {
@@ -37,23 +38,43 @@ StringId toldText(Severity severity) {
     return textid::noteMessage;
 }
 
-// `stepOf` gives the step of an element to be read and written.
-template <typename Element, typename StepOf>
-void movePlaces(std::vector<Element>& elements, const StepShift& shift, StepOf stepOf) {
-    std::erase_if(elements, [&](Element& element) {
-        const auto moved = shift.moved(stepOf(element));
-        if (moved) stepOf(element) = *moved;
-        return !moved;
-    });
+// Where a step of before is now; none when it is gone.
+using MovedStep = std::function<std::optional<std::size_t>(std::size_t)>;
+
+// Between scripts of one length steps have changed their places or their contents; a step that was
+// moved still has its record.
+MovedStep movedWithin(const StepShift& shift, std::span<const EntryHandle> before,
+                      std::span<const EntryHandle> after) {
+    std::unordered_map<const std::uint8_t*, std::size_t> places;
+    for (std::size_t step = shift.first; step < shift.first + shift.come; ++step)
+        places[after[step].record().data()] = step;
+    return [places = std::move(places), shift, before](std::size_t step) {
+        if (step < shift.first || step >= shift.first + shift.gone) return step;
+        const auto place = places.find(before[step].record().data());
+        return place == places.end() ? step : place->second;
+    };
 }
 
-void moveOutline(ScriptOutline& outline, const StepShift& shift) {
-    const auto first = outline.steps.begin() + static_cast<std::ptrdiff_t>(shift.first);
-    const auto behind = outline.steps.erase(first, first + static_cast<std::ptrdiff_t>(shift.gone));
-    outline.steps.insert(behind, shift.come, StepOutline());
-    const auto move = [&shift](std::vector<StepPlace>& places) {
-        movePlaces(
-            places, shift, [](StepPlace & place) -> auto& { return place.step; });
+// `stepOf` gives the step of an element to be read and written.
+template <typename Element, typename StepOf>
+void movePlaces(std::vector<Element>& elements, const MovedStep& moved, StepOf stepOf) {
+    std::erase_if(elements, [&](Element& element) {
+        const auto step = moved(stepOf(element));
+        if (step) stepOf(element) = *step;
+        return !step;
+    });
+    std::ranges::stable_sort(elements, {}, stepOf);
+}
+
+void moveOutline(ScriptOutline& outline, std::size_t stepCount, const MovedStep& moved) {
+    std::vector<StepOutline> steps(stepCount);
+    for (std::size_t step = 0; step < outline.steps.size(); ++step) {
+        const auto place = moved(step);
+        if (place && *place < stepCount) steps[*place] = outline.steps[step];
+    }
+    outline.steps = std::move(steps);
+    const auto move = [&moved](std::vector<StepPlace>& places) {
+        movePlaces(places, moved, [](auto& place) -> decltype(auto) { return (place.step); });
     };
     for (LabelOutline& label : outline.labels) {
         move(label.definitions);
@@ -91,15 +112,18 @@ bool LiveCheck::follow() {
     const std::vector<EntryHandle>& after = state_.script.entries;
     if (before == after) return false;
     isDue_ = true;
-    const bool moves = before.size() != after.size();
+    const StepShift shift = shiftBetween(before, after);
+    const bool isAsLong = before.size() == after.size();
+    const bool moves = !isAsLong || shift.gone > 1;
     if (moves) {
-        const StepShift shift = shiftBetween(before, after);
-        movePlaces(
-            result_.findings, shift, [](Finding & f) -> auto& { return f.place.step; });
+        MovedStep moved = [&shift](std::size_t step) { return shift.moved(step); };
+        if (isAsLong) moved = movedWithin(shift, before, after);
+        movePlaces(result_.findings, moved,
+                   [](auto& f) -> decltype(auto) { return (f.place.step); });
         for (Finding& finding : result_.findings)
-            movePlaces(finding.related, shift, std::identity());
-        moveOutline(result_.outline, shift);
-        lanes_.follow(shift);
+            movePlaces(finding.related, moved, std::identity());
+        moveOutline(result_.outline, after.size(), moved);
+        if (!isAsLong) lanes_.follow(shift);
     }
     script_ = state_.script;
     return moves;

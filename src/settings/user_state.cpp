@@ -166,9 +166,14 @@ void UserState::setText(const StateKey& key, std::string_view value) {
 }
 
 void UserState::setTexts(const StateKey& key, const std::vector<std::string>& values) {
+    // Another window may have made the list longer, and what is taken out must not come back.
+    const Profile there = file_.empty() ? Profile() : readProfileFile(file_).value_or(Profile());
     std::vector<Change> changes;
     for (std::size_t i = 0; i < mostTexts; ++i) {
         const std::string name = listName(key, i + 1);
+        if (const auto other = lookup(there, key.section, name);
+            other && !stored({key.section, name}))
+            setValue(values_, std::string(key.section), name, other);
         std::optional<std::string> value;
         if (i < values.size()) value = escapedForState(values[i]);
         if (value || stored({key.section, name})) {

@@ -121,6 +121,14 @@ TEST_F(ProblemsTest, TheListGoesToItsStepsAndLeavesThePaneAsItWas) {
     key(Qt::Key_Down);
     EXPECT_EQ(problems().currentIndex().row(), 1) << "it follows the script list";
     EXPECT_TRUE(state.userState.flag({"View", "Problems"}, false));
+    select({0}, 0);
+    run(Duplicate);
+    settle();
+    problems().setFocus(Qt::TabFocusReason);
+    EXPECT_EQ(window.pane().focusedEntry(), 1) << "nobody has chosen a problem";
+    script().setFocus();
+    run(Undo);
+    settle();
     key(Qt::Key_M, Qt::ControlModifier | Qt::ShiftModifier);
     EXPECT_FALSE(problems().isVisible());
     EXPECT_FALSE(state.userState.flag({"View", "Problems"}, true));
@@ -160,7 +168,7 @@ TEST_F(ProblemsTest, AQuickFixIsOneStepUnderItsNameAndIsRefusedWithAReason) {
 
 TEST_F(ProblemsTest, AStepIsReachedByItsNumberAndNothingElseIsTaken) {
     open("many.qds", commentFile(4094));
-    EXPECT_EQ(position(), "Step 1 of 4094");
+    EXPECT_EQ(position(), "Step 1 of 4,094");
     const std::pair<const char*, int> rows[] = {{"1234", 1233}, {"4,094", 4093}, {"4095", -1},
                                                 {"0", -1},      {"x", -1},       {"", -1},
                                                 {"-3", -1},     {"1.5", -1},     {"1", 0}};
@@ -182,7 +190,7 @@ TEST_F(ProblemsTest, AStepIsReachedByItsNumberAndNothingElseIsTaken) {
         EXPECT_TRUE(script().hasFocus());
     }
     select({1233}, 1233);
-    EXPECT_EQ(position(), "Step 1234 of 4094");
+    EXPECT_EQ(position(), "Step 1,234 of 4,094");
 }
 
 TEST_F(ProblemsTest, TheGutterShowsJumpsAndCanBeSwitchedOffForGood) {

@@ -166,6 +166,21 @@ TEST_F(LiveCheckTest, UntilTheNextLookWhatWasFoundStaysWithItsSteps) {
     }
 }
 
+TEST_F(LiveCheckTest, UntilTheNextLookWhatWasFoundMovesWithItsStep) {
+    have({"Goto x", "Comment c", "Beep", "Label b"});
+    ASSERT_EQ(check.findings().size(), 3U) << "no such label, never reached, never used";
+    auto& entries = state.script.entries;
+    std::rotate(entries.begin(), entries.begin() + 1, entries.begin() + 3);
+    EXPECT_TRUE(check.follow());
+    EXPECT_EQ(check.worstOf(2), Severity::Error);
+    EXPECT_EQ(check.worstOf(1), Severity::Warning) << "the Beep";
+    EXPECT_EQ(check.outline().labels[0].uses, (std::vector<StepPlace>{{2, Slot::Entry}}));
+    EXPECT_TRUE(quickFixFor(check.findings()[1], check.outline(), state.script).fix);
+    entries[2] = entryOfLine("Goto b", state.cipher);
+    EXPECT_FALSE(check.follow()) << "edited in its place";
+    EXPECT_NE(check.update(), LiveCheck::Change::None);
+}
+
 TEST_F(LiveCheckTest, QuickFixesDoTheOneSensibleThingAndOthersSayWhyNot) {
     using enum QuickFix::Kind;
     struct Row {

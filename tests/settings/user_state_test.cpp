@@ -78,6 +78,9 @@ TEST_F(UserStateTest, LeavesWhatAnotherWindowHasWrittenMeanwhile) {
     EXPECT_FALSE(next.flag(shown, true));
     EXPECT_EQ(next.text({"later", "key"}), "of a later version");
     EXPECT_EQ(here.number(height, 0, 9), std::nullopt) << "read once";
+    there.setTexts(recent, {"a", "b", "c"});
+    here.setTexts(recent, {});
+    EXPECT_EQ(UserState(file).texts(recent), std::vector<std::string>()) << "cleared for good";
 }
 
 TEST_F(UserStateTest, WritesNothingWhereNothingChangesOrNothingMayBeWritten) {
