@@ -288,7 +288,7 @@ void prepare(const Action& action, Editor& editor) {
     editor.reset();
     action.prepare(editor);
     editor.waitUntilPainted();
-    editor.settle();
+    Editor::settle();
     editor.markPrepared();
 }
 

@@ -50,7 +50,8 @@ std::optional<std::string> unescaped(std::string_view value) {
         if (at + 2 >= value.size()) return std::nullopt;
         const auto high = hexDigits.find(value[at + 1]);
         const auto low = hexDigits.find(value[at + 2]);
-        if (high == hexDigits.npos || low == hexDigits.npos || high + low == 0) return std::nullopt;
+        if (high == std::string_view::npos || low == std::string_view::npos || high + low == 0)
+            return std::nullopt;
         text += static_cast<char>(high << 4 | low);
         at += 2;
     }
