@@ -90,6 +90,16 @@ TEST_F(InsertPanelTest, OffersFirstWhatWasInsertedMostInWhateverWay) {
     EXPECT_EQ(state.script.entryCount(), 7U);
     EXPECT_EQ(window.pane().entryText(window.pane().focusedEntry()), QStringLiteral("Beep"));
     EXPECT_TRUE(script().hasFocus());
+    const int inserted = window.pane().focusedEntry();
+    ASSERT_GT(inserted, 0);
+    const QPointF beneath = script().rowRect(0).center();
+    QMouseEvent second(QEvent::MouseButtonDblClick, beneath,
+                       script().viewport()->mapToGlobal(beneath), Qt::LeftButton, Qt::LeftButton,
+                       Qt::NoModifier);
+    QCoreApplication::sendEvent(script().viewport(), &second);
+    QApplication::processEvents();
+    EXPECT_EQ(window.pane().focusedEntry(), inserted)
+        << "whoever double-clicks hits nothing beneath";
     const UserState& remembered = state.userState;
     EXPECT_TRUE(QTest::qWaitFor([&] { return remembered.texts({"Insert", "Used"}).size() == 3; }));
 }
